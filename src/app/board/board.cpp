@@ -1,0 +1,93 @@
+#include "app/board/board.h"
+
+#include "app/board/numbers.h"
+
+namespace numorra {
+
+void Board::SetupBoard() {
+  MarkedRow = -1;
+  MarkedCol = -1;
+  BoardBusy = true;
+  const int last = GridSize + 1;
+  grid.Reshape(GridSize + 2, GridSize + 2);  // which leaves every cell in the window's background
+  ForEachCell(GridSize, [this](int row, int column) {
+    grid.SetColours(row, column, ColorTable[kCellBackground], ColorTable[kCellText]);
+  });
+  grid.SetCurrent(last, last);
+  BoardBusy = false;
+}
+
+void Board::FillBoard(double value) {
+  double next = 0;
+  ForEachCell(GridSize, [&](int row, int column) {
+    BoardValues(row, column) = SolveMode == ModeNormal ? ++next : value;
+    CellFlags(row, column) = 0;
+  });
+}
+
+void Board::ComputeTotals() {
+  numorra::ComputeTotals(BoardValues, GridSize);
+}
+
+void Board::ShowBoard() {
+  ComputeTotals();
+  const int last = GridSize + 1;
+  const auto show = [this](int row, int column) {
+    grid.SetText(row, column, Decimal(BoardValues(row, column)));
+  };
+  ForEachCell(GridSize, show);
+  for (int line = 1; line <= GridSize; ++line) {
+    show(line, 0);
+    show(0, line);
+  }
+  show(0, last);
+  show(last, 0);
+  show(0, 0);
+}
+
+void Board::MarkAllTotalsWrong() {
+  for (int line = 1; line <= GridSize + 1; ++line) {
+    grid.SetColours(line, 0, ColorTable[kWrongTotal], ColorTable[kTotalText]);
+    grid.SetColours(0, line, ColorTable[kWrongTotal], ColorTable[kTotalText]);
+  }
+}
+
+void Board::ResizeBoard() {
+  grid.Reshape(1, 1);
+  grid.Reshape(GridSize + 2, GridSize + 2);
+  for (int column = 0; column <= GridSize + 1; ++column) {
+    grid.SetColours(GridSize + 1, column, kWindowBackground, ColorTable[kCellText]);
+  }
+}
+
+void Board::SetCurrentInBlock(int row, int column) {
+  const auto inside = [this](int line) { return line >= 1 && line <= GridSize; };
+  if (inside(row) && inside(column)) {
+    grid.SetCurrent(row, column);
+  } else {
+    grid.SetCurrent(1, 1);
+  }
+}
+
+void ComputeTotals(CellTable& cells, int order) {
+  const int last = order + 1;
+  double main = 0;
+  double other = 0;
+  for (int i = 1; i <= order; ++i) {
+    double row = 0;
+    double column = 0;
+    for (int j = 1; j <= order; ++j) {
+      row += cells(i, j);
+      column += cells(j, i);
+    }
+    cells(i, 0) = row;
+    cells(0, i) = column;
+    main += cells(i, i);
+    other += cells(i, last - i);
+  }
+  cells(0, 0) = main;
+  cells(0, last) = other;
+  cells(last, 0) = other;
+}
+
+}  // namespace numorra

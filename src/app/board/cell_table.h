@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "app/board/runtime_error.h"
+
+namespace numorra {
+
+/// The largest order a player can ask for.
+inline constexpr int kMaxOrder = 50;
+
+/// One number for each cell of the grid, addressed like the grid: the value block is rows and
+/// columns 1..n, its totals stand in row 0, column 0 and the corners. Both indices run from 0 to
+/// 52: the largest order, its two frame lines and one to spare; others throw SubscriptOutOfRange.
+class CellTable {
+ public:
+  static constexpr int kSide = kMaxOrder + 3;
+
+  double& operator()(int row, int column) { return cells_[Index(row, column)]; }
+  double operator()(int row, int column) const { return cells_[Index(row, column)]; }
+
+ private:
+  static std::size_t Index(int row, int column) {
+    if (row < 0 || row >= kSide || column < 0 || column >= kSide) {
+      throw RuntimeError(Fault::SubscriptOutOfRange);
+    }
+    return static_cast<std::size_t>(row) * kSide + static_cast<std::size_t>(column);
+  }
+
+  std::array<double, static_cast<std::size_t>(kSide) * kSide> cells_{};
+};
+
+}  // namespace numorra

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/board/colour.h"
+
+namespace numorra {
+
+/// The table on the screen as plain data: what each cell shows, which cell is current, whether the
+/// table is visible. A widget paints it and feeds it; the board's logic fills it.
+///
+/// Rows and columns count from 0; row 0 and column 0 are fixed, they stay in sight when the rest
+/// scrolls. Every cell is a square of `kCellTwips` and shows its text centred. Cells outside the
+/// table throw SubscriptOutOfRange.
+class Grid {
+ public:
+  static constexpr int kCellTwips = 400;  // 1/1440 inch
+  static constexpr int kFixedLines = 1;
+
+  Grid();
+
+  /// Raised before the current cell changes, and after it has, whoever changes it.
+  std::function<void()> OnLeaveCell;
+  std::function<void()> OnCellChanged;
+
+  /// Raised when something visible has changed, once until TakeRepaint; never under the lock.
+  std::function<void()> OnRepaint;
+
+  /// Gives the table a new shape and empties every cell. The current cell becomes (0, 0) without
+  /// a hook being raised.
+  void Reshape(int rows, int columns);
+
+  int Rows() const { return rows_; }
+  int Columns() const { return columns_; }
+
+  const std::string& Text(int row, int column) const { return At(row, column).Text; }
+  void SetText(int row, int column, std::string text);
+
+  Colour Background(int row, int column) const { return At(row, column).Background; }
+  Colour Foreground(int row, int column) const { return At(row, column).Foreground; }
+  void SetColours(int row, int column, Colour background, Colour foreground);
+
+  int CurrentRow() const { return currentRow_; }
+  int CurrentColumn() const { return currentColumn_; }
+  void SetCurrent(int row, int column);
+
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+
+  /// Holds back repainting while on. It does not count: one call with false lifts it however often
+  /// it was taken.
+  void LockRedraw(bool on);
+  bool RedrawLocked() const { return locked_; }
+
+  /// For the painter: what has changed so far is about to be shown.
+  void TakeRepaint() { repaintWanted_ = false; }
+
+ private:
+  struct Cell {
+    std::string Text;
+    Colour Background = kWindowBackground;
+    Colour Foreground = ColorTable[kCellText];
+  };
+
+  const Cell& At(int row, int column) const;
+  Cell& At(int row, int column);
+  void WantRepaint();
+
+  std::vector<Cell> cells_;
+  int rows_ = 0;
+  int columns_ = 0;
+  int currentRow_ = 0;
+  int currentColumn_ = 0;
+  bool visible_ = false;
+  bool locked_ = false;
+  bool repaintWanted_ = false;
+};
+
+/// Switches the lock on the table's redrawing.
+inline void LockGridRedraw(Grid& grid, bool on) {
+  grid.LockRedraw(on);
+}
+
+/// Holds the redraw lock for a scope, so that every way out gives it back.
+class RedrawLock {
+ public:
+  explicit RedrawLock(Grid& grid) : grid_(grid) { LockGridRedraw(grid_, true); }
+  ~RedrawLock() { LockGridRedraw(grid_, false); }
+  RedrawLock(const RedrawLock&) = delete;
+  RedrawLock& operator=(const RedrawLock&) = delete;
+
+ private:
+  Grid& grid_;
+};
+
+}  // namespace numorra

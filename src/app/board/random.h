@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+
+namespace numorra {
+
+/// The time of day that seeds random numbers.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual std::uint64_t NanosecondsSinceMidnight() = 0;
+};
+
+/// The machine's local time.
+class SystemClock : public Clock {
+ public:
+  std::uint64_t NanosecondsSinceMidnight() override;
+};
+
+/// A clock that goes on by one tick at every look, from a start of one's choice, so that a run can
+/// be repeated.
+class TickingClock : public Clock {
+ public:
+  explicit TickingClock(std::uint64_t start) : now_(start) {}
+  std::uint64_t NanosecondsSinceMidnight() override { return now_++; }
+
+ private:
+  std::uint64_t now_;
+};
+
+/// Random numbers for the whole program. Tests put in their own.
+class Random {
+ public:
+  virtual ~Random() = default;
+
+  /// Starts afresh from the clock. Commands do so right before they draw.
+  virtual void Reseed() = 0;
+
+  /// The next number, uniform in [0, 1), a multiple of 2^-24 (a single-precision number).
+  virtual double Next() = 0;
+
+  /// A whole number, uniform in low..high.
+  int Between(int low, int high) { return low + static_cast<int>(Next() * (high - low + 1)); }
+};
+
+/// The splitmix64 generator (Steele, Lea and Flood 2014), seeded by the clock. The clock's reading
+/// passes through the same mixing before it seeds, as first draws from neighbouring seeds would
+/// otherwise be nearly equal. When the clock stands still between two reseeds the second is nudged
+/// on, so that loops which draw until something differs come to an end on any clock.
+class ClockSeededRandom final : public Random {
+ public:
+  explicit ClockSeededRandom(Clock& clock);
+  void Reseed() override;
+  double Next() override;
+
+ private:
+  Clock& clock_;
+  std::uint64_t state_ = 0;
+  std::uint64_t lastReading_ = 0;
+  std::uint64_t repeats_ = 0;
+};
+
+}  // namespace numorra

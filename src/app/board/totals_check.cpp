@@ -1,0 +1,57 @@
+#include "app/board/totals_check.h"
+
+#include "app/board/numbers.h"
+
+namespace numorra {
+
+Verdict Recount(Board& board) {
+  Grid& grid = board.grid;
+  const int last = board.GridSize + 1;
+  const double target = board.TargetTotal;
+  board.TotalsChecked = false;
+  const RedrawLock lock(grid);
+
+  bool changed = false;
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    const double value = Val(grid.Text(row, column));
+    board.BoardValues(row, column) = value;
+    if (value != board.BaseValue) changed = true;
+  });
+  board.ComputeTotals();
+
+  bool offTarget = false;
+  const auto judge = [&](int row, int column) {
+    const double total = board.BoardValues(row, column);
+    const bool right = total == target;
+    if (!right) offTarget = true;
+    grid.SetText(row, column, Decimal(total));
+    grid.SetColours(row, column, ColorTable[right ? kRightTotal : kWrongTotal],
+                    ColorTable[kTotalText]);
+  };
+  for (int line = 1; line <= board.GridSize; ++line) {
+    judge(line, 0);
+    judge(0, line);
+  }
+  judge(0, last);
+  judge(last, 0);
+  judge(0, 0);
+  grid.SetCurrent(0, 0);
+
+  board.TotalsChecked = true;
+  board.UntouchedBase = !changed;
+  if (!changed) {
+    board.MarkAllTotalsWrong();
+    return Verdict::UntouchedBase;
+  }
+  return offTarget ? Verdict::Wrong : Verdict::Right;
+}
+
+void RefreshTotals(Board& board) {
+  if (!board.TotalsChecked) return;
+  const int row = board.grid.CurrentRow();
+  const int column = board.grid.CurrentColumn();
+  Recount(board);
+  board.grid.SetCurrent(row, column);
+}
+
+}  // namespace numorra

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+
+#include <QElapsedTimer>
+
+#include "app/ports/dialogs.h"
+
+namespace numorra {
+
+/// The one way in which commands run, and the one place where their errors end.
+///
+/// A run-time error unwinds the command and is shown in a box; the program goes on. While a command
+/// yields, the player may start another: it waits, the running one is superseded at its yield and
+/// unwinds, then the newer one runs. So commands never nest, and the newest wins.
+class CommandRunner {
+ public:
+  using Command = std::function<void()>;
+
+  explicit CommandRunner(Dialogs& dialogs) : dialogs_(dialogs) {}
+
+  /// Runs the command, or lets it take the place of the one that is running.
+  void Run(Command command);
+
+  /// For the running command: lets pending window events run, at most once in 16 ms. Throws
+  /// Superseded when it is to make way.
+  void Yield();
+
+  /// The window is closing: the running command is superseded and nothing runs after it.
+  void Stop();
+
+  bool Running() const { return running_; }
+
+ private:
+  void RunGuarded(const Command& command);
+
+  Dialogs& dialogs_;
+  Command newest_;
+  bool running_ = false;
+  bool superseded_ = false;
+  QElapsedTimer sinceYield_;
+};
+
+}  // namespace numorra

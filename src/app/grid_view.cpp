@@ -1,0 +1,209 @@
+#include "app/grid_view.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+namespace numorra {
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+QColor ToQColor(Colour colour) {
+  return {colour.Red, colour.Green, colour.Blue};
+}
+
+}  // namespace
+
+GridView::GridView(Grid& grid, QWidget* parent) : QAbstractScrollArea(parent), grid_(grid) {
+  setObjectName("grid");
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  viewport()->setBackgroundRole(QPalette::Window);
+  grid_.OnRepaint = [this] { viewport()->update(); };
+}
+
+std::optional<QPoint> GridView::CellAt(QPoint point) const {
+  if (!grid_.Visible()) return std::nullopt;
+  const int row = LineAt(point.y(), verticalScrollBar()->value(), grid_.Rows());
+  const int column = LineAt(point.x(), horizontalScrollBar()->value(), grid_.Columns());
+  if (row < 0 || column < 0) return std::nullopt;
+  return QPoint(column, row);
+}
+
+QRect GridView::CellRect(int row, int column) const {
+  const int top = Scrolled(row, verticalScrollBar()->value());
+  const int left = Scrolled(column, horizontalScrollBar()->value());
+  return {left, top, Edge(column + 1) - Edge(column), Edge(row + 1) - Edge(row)};
+}
+
+void GridView::BringIntoView(int row, int column) {
+  UpdateScrollBars();
+  const auto bring = [this](QScrollBar* bar, int line, int length) {
+    const int fixed = Edge(Grid::kFixedLines);
+    if (line < Grid::kFixedLines) return;
+    bar->setValue(std::clamp(bar->value(), Edge(line + 1) - length, Edge(line) - fixed));
+  };
+  bring(verticalScrollBar(), row, viewport()->height());
+  bring(horizontalScrollBar(), column, viewport()->width());
+}
+
+QSize GridView::sizeHint() const {
+  return {Edge(16), Edge(16)};
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const auto cell = CellAt(help->pos());
+    if (cell && !Texts().Fits(grid_.Text(cell->y(), cell->x()))) {
+      QToolTip::showText(help->globalPos(),
+                         QString::fromStdString(grid_.Text(cell->y(), cell->x())), viewport());
+    } else {
+      QToolTip::hideText();
+    }
+    return true;
+  }
+  return QAbstractScrollArea::viewportEvent(event);
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  grid_.TakeRepaint();
+  UpdateScrollBars();
+  if (!grid_.Visible()) return;
+  QPainter painter(viewport());
+  const int fixed = Edge(Grid::kFixedLines);
+  const int rows = grid_.Rows();
+  const int columns = grid_.Columns();
+  const int width = viewport()->width();
+  const int height = viewport()->height();
+  constexpr int kFixed = Grid::kFixedLines;
+  const auto block = [&](const QRect& area, int firstRow, int rowEnd, int firstColumn,
+                         int columnEnd) {
+    const QRect dirty = area & event->rect();
+    if (!dirty.isEmpty()) {
+      PaintBlock(painter, dirty, firstRow, rowEnd, firstColumn, columnEnd);
+    }
+  };
+  block({fixed, fixed, width - fixed, height - fixed}, kFixed, rows, kFixed, columns);
+  block({fixed, 0, width - fixed, fixed}, 0, kFixed, kFixed, columns);
+  block({0, fixed, fixed, height - fixed}, kFixed, rows, 0, kFixed);
+  block({0, 0, fixed, fixed}, 0, kFixed, 0, kFixed);
+  PaintCurrentCell(painter);
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  if (const auto cell = CellAt(event->position().toPoint())) {
+    Q_EMIT CellPressed(cell->y(), cell->x(), event->button(), event->globalPosition().toPoint());
+  }
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  shape_.reset();
+  UpdateScrollBars();
+  QAbstractScrollArea::resizeEvent(event);
+}
+
+void GridView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) texts_.reset();
+  QAbstractScrollArea::changeEvent(event);
+}
+
+/// The pixel at which a line begins, unscrolled.
+int GridView::Edge(int line) const {
+  return static_cast<int>(std::lround(line * Grid::kCellTwips * logicalDpiX() / kTwipsPerInch));
+}
+
+/// The line drawn at a pixel; -1 beyond the last.
+int GridView::LineAt(int position, int scrolled, int lines) const {
+  if (position >= Edge(Grid::kFixedLines)) position += scrolled;
+  auto line = static_cast<int>(position * kTwipsPerInch / logicalDpiX() / Grid::kCellTwips);
+  while (Edge(line + 1) <= position)
+    ++line;
+  while (Edge(line) > position)
+    --line;
+  return position >= 0 && line < lines ? line : -1;
+}
+
+int GridView::Scrolled(int line, int scrolled) const {
+  return line < Grid::kFixedLines ? Edge(line) : Edge(line) - scrolled;
+}
+
+void GridView::UpdateScrollBars() {
+  const QSize shape = grid_.Visible() ? QSize(grid_.Columns(), grid_.Rows()) : QSize(0, 0);
+  if (shape_ == shape) return;
+  shape_ = shape;
+  const auto set = [this](QScrollBar* bar, int lines, int length) {
+    bar->setRange(0, std::max(0, Edge(lines) - length));
+    bar->setPageStep(std::max(1, length - Edge(Grid::kFixedLines)));
+    bar->setSingleStep(Edge(1));
+  };
+  set(horizontalScrollBar(), shape.width(), viewport()->width());
+  set(verticalScrollBar(), shape.height(), viewport()->height());
+}
+
+/// Paints the cells of one of the four blocks that scroll differently, as far as they lie in
+/// `area`.
+void GridView::PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd,
+                          int firstColumn, int columnEnd) {
+  painter.setClipRect(area);
+  const auto from = [](int line, int first) { return line < 0 ? first : std::max(line, first); };
+  const auto upTo = [](int line, int end) { return line < 0 ? end : std::min(line + 1, end); };
+  const int scrolledX = horizontalScrollBar()->value();
+  const int scrolledY = verticalScrollBar()->value();
+  const int top = from(LineAt(area.top(), scrolledY, grid_.Rows()), firstRow);
+  const int bottom = upTo(LineAt(area.bottom(), scrolledY, grid_.Rows()), rowEnd);
+  const int left = from(LineAt(area.left(), scrolledX, grid_.Columns()), firstColumn);
+  const int right = upTo(LineAt(area.right(), scrolledX, grid_.Columns()), columnEnd);
+
+  const QColor line = palette().color(QPalette::Mid);
+  const QColor windowText = palette().color(QPalette::WindowText);
+  for (int row = top; row < bottom; ++row) {
+    for (int column = left; column < right; ++column) {
+      const QRect cell = CellRect(row, column);
+      const Colour background = grid_.Background(row, column);
+      if (!background.SeeThrough) {
+        painter.fillRect(cell, line);
+        painter.fillRect(cell.adjusted(0, 0, -1, -1), ToQColor(background));
+      } else {
+        PaintBlockEdge(painter, cell, row, column);
+      }
+      const std::string& text = grid_.Text(row, column);
+      if (text.empty()) continue;
+      painter.setPen(background.SeeThrough ? windowText : ToQColor(grid_.Foreground(row, column)));
+      Texts().Draw(painter, cell, text);
+    }
+  }
+}
+
+/// The block's upper and left edge run along the cells of the fixed lines.
+void GridView::PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column) {
+  painter.setPen(palette().color(QPalette::Mid));
+  const bool above = row == 0 && column > 0 && column < grid_.Columns() - 1;
+  const bool before = column == 0 && row > 0 && row < grid_.Rows() - 1;
+  if (above) painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+  if (before) painter.drawLine(cell.topRight(), cell.bottomRight());
+}
+
+void GridView::PaintCurrentCell(QPainter& painter) {
+  const int row = grid_.CurrentRow();
+  const int column = grid_.CurrentColumn();
+  if (row < Grid::kFixedLines || column < Grid::kFixedLines) return;
+  const int fixed = Edge(Grid::kFixedLines);
+  painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
+  const QRect cell = CellRect(row, column).adjusted(0, 0, -2, -2);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(cell.adjusted(1, 1, 0, 0));
+}
+
+CellText& GridView::Texts() {
+  if (!texts_) texts_.emplace(font(), Edge(1));
+  return *texts_;
+}
+
+}  // namespace numorra

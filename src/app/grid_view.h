@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <QAbstractScrollArea>
+
+#include "app/board/grid.h"
+#include "app/cell_text.h"
+
+namespace numorra {
+
+/// Paints a Grid and reports the mouse; it decides nothing. The fixed row and column stay in sight
+/// while the rest scrolls. Cell edges lie on whole pixels, so cells may differ by one pixel.
+class GridView : public QAbstractScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit GridView(Grid& grid, QWidget* parent = nullptr);
+
+  /// The cell that is drawn at a point of the viewport, scrolled or not; none beside the table.
+  std::optional<QPoint> CellAt(QPoint point) const;
+
+  /// Where the cell (row, column) is drawn in the viewport, whether in sight or not.
+  QRect CellRect(int row, int column) const;
+
+  /// Scrolls until the cell is in sight.
+  void BringIntoView(int row, int column);
+
+  QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  void CellPressed(int row, int column, Qt::MouseButton button, QPoint globalPosition);
+
+ protected:
+  bool viewportEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  int Edge(int line) const;
+  int LineAt(int position, int scrolled, int lines) const;
+  int Scrolled(int line, int scrolled) const;
+  void UpdateScrollBars();
+  void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
+                  int columnEnd);
+  void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);
+  void PaintCurrentCell(QPainter& painter);
+  CellText& Texts();
+
+  Grid& grid_;
+  std::optional<CellText> texts_;
+  std::optional<QSize> shape_;  ///< the table's lines when the scroll bars were last set
+};
+
+}  // namespace numorra

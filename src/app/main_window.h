@@ -1,0 +1,72 @@
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "app/board/board.h"
+#include "app/board/random.h"
+#include "app/board_menu.h"
+#include "app/command_runner.h"
+#include "app/grid_view.h"
+#include "app/message_boxes.h"
+#include "app/play/command_history.h"
+#include "app/solve_frame.h"
+#include "app/square_frame.h"
+#include "app/window_stage.h"
+#include "generate/solve_command.h"
+
+namespace numorra {
+
+/// What the window needs of the world; where something is missing it brings its own.
+struct World {
+  Clock* TimeOfDay = nullptr;
+  Dialogs* Boxes = nullptr;
+};
+
+/// The main window: the controls on the left, the board on the right. It owns the board, hands what
+/// the player does to the commands and shows what they leave behind.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(const World& world = {});
+  ~MainWindow() override;
+
+  const Board& TheBoard() const { return board_; }
+  GridView& View() { return *view_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void LayOut();
+  void BuildMenus();
+  void ConnectControls();
+  void StartUp();
+
+  void SetSolveMode(Mode mode);
+  void FollowSize();
+  void PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition);
+  void EditBoard(RedoCode code);
+
+  SystemClock systemClock_;
+  MessageBoxes messageBoxes_;
+  ClockSeededRandom random_;
+  Dialogs& dialogs_;
+  CommandRunner runner_;
+  Board board_;
+  CommandHistory history_;
+
+  // The toolkit owns these through the window.
+  SolveFrame* solve_;
+  SquareFrame* square_;
+  QGroupBox* solution_;
+  GridView* view_;
+  BoardMenu* menu_;
+
+  WindowStage stage_;
+  SolveCommand solveCommand_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,26 @@
+#include "app/message_boxes.h"
+
+#include <QMessageBox>
+
+namespace numorra {
+namespace {
+
+QMessageBox::StandardButton Show(QWidget* window, QMessageBox::Icon icon, const std::string& text,
+                                 QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, kApplicationTitle, QString::fromStdString(text), buttons, window);
+  box.setTextFormat(Qt::PlainText);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
+
+void MessageBoxes::Tell(const std::string& message) {
+  Show(window_, QMessageBox::NoIcon, message, QMessageBox::Ok);
+}
+
+bool MessageBoxes::Ask(const std::string& question) {
+  return Show(window_, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) ==
+         QMessageBox::Yes;
+}
+
+}  // namespace numorra

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+#include "app/ports/dialogs.h"
+
+namespace numorra {
+
+/// The toolkit's own boxes over the window.
+class MessageBoxes : public Dialogs {
+ public:
+  explicit MessageBoxes(QWidget* window) : window_(window) {}
+
+  void Tell(const std::string& message) override;
+  bool Ask(const std::string& question) override;
+
+ private:
+  QWidget* window_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QObject>
+
+namespace numorra {
+
+/// Gives a control the name by which test drivers and assistive tools find it.
+template <class Control>
+Control* Named(const char* name, Control* control) {
+  control->setObjectName(name);
+  return control;
+}
+
+}  // namespace numorra

@@ -1,0 +1,37 @@
+#include "app/solve_frame.h"
+
+#include <QVBoxLayout>
+
+#include "app/named.h"
+
+namespace numorra {
+
+SolveFrame::SolveFrame(QWidget* parent)
+    : QGroupBox("Solve", parent),
+      Option3(Named("Option3", new QRadioButton("Normal"))),
+      Option4(Named("Option4", new QRadioButton("Variable"))),
+      SolveAuto(Named("SolveAuto", new QPushButton("Auto"))),
+      IterationCount(Named("IterationCount", new QLabel)),
+      autoPlace_(new QStackedLayout) {
+  setObjectName("Frame3");
+  Option3->setChecked(true);
+  Option3->setToolTip("Squares of the numbers 1 to size x size");
+  Option4->setToolTip("Squares of any numbers, with the sum you choose");
+  SolveAuto->setToolTip("Build a magic square of this size");
+  IterationCount->setAlignment(Qt::AlignCenter);
+
+  SolveAuto->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  IterationCount->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  autoPlace_->addWidget(SolveAuto);
+  autoPlace_->addWidget(IterationCount);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(Option3);
+  column->addWidget(Option4);
+  column->addLayout(autoPlace_);
+}
+
+void SolveFrame::ShowCounter(bool counting) {
+  autoPlace_->setCurrentWidget(counting ? static_cast<QWidget*>(IterationCount) : SolveAuto);
+}
+
+}  // namespace numorra

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "app/ports/square_boxes.h"
+
+namespace numorra {
+
+/// The "Square" frame: the size and the sum of the square that is wanted.
+class SquareFrame : public QGroupBox, public SquareBoxes {
+  Q_OBJECT
+
+ public:
+  explicit SquareFrame(QWidget* parent = nullptr);
+
+  std::string Size() const override;
+  std::string Sum() const override;
+  void SetSize(const std::string& text) override;
+  void SetSum(const std::string& text) override;
+
+  QLineEdit* const Text1;  ///< size
+  QLineEdit* const Text4;  ///< sum
+  QPushButton* const SolveRandum;
+};
+
+}  // namespace numorra

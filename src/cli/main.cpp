@@ -1,0 +1,7 @@
+#include <iostream>
+
+#include "cli/square_program.h"
+
+int main(int argc, char** argv) {
+  return numorra::RunSquareProgram({argv + 1, argv + argc}, std::cout, std::cerr);
+}

@@ -1,0 +1,113 @@
+#include "generate/normal_square.h"
+
+#include <limits>
+
+#include "app/board/numbers.h"
+#include "app/board/runtime_error.h"
+#include "generate/proposal.h"
+#include "generate/stepping.h"
+#include "transform/symmetry.h"
+
+namespace numorra {
+namespace {
+
+/// The most attempts that the odd search remembers.
+constexpr std::size_t kMaxAttempts = 501;
+
+/// The order in which Conway's letters number the 2 x 2 block of an odd square's cell: the offsets
+/// to its first number of the upper left, upper right, lower left and lower right cell.
+struct LuxBlock {
+  int UpperLeft, UpperRight, LowerLeft, LowerRight;
+};
+constexpr LuxBlock kL{3, 0, 1, 2};
+constexpr LuxBlock kU{0, 3, 1, 2};
+constexpr LuxBlock kX{0, 3, 2, 1};
+
+/// The letter at (row, column) of the odd square of order 2k + 1: k + 1 rows of L, one of U, the
+/// rest X, and the middle U changed with the L above it.
+LuxBlock LuxLetter(int row, int column, int k) {
+  const bool middle = column == k + 1;
+  if (row == k + 1) return middle ? kU : kL;
+  if (row == k + 2) return middle ? kL : kU;
+  return row <= k ? kL : kX;
+}
+
+}  // namespace
+
+CellTable NormalSquare::Build(int order) {
+  if (order < 1) throw RuntimeError(Fault::InvalidPropertyValue);
+  if (order % 2 == 1) return SearchOddSquare(order);
+  return order % 4 == 2 ? BuildLuxSquare((order - 2) / 4) : BuildDoublyEvenSquare(order / 4);
+}
+
+void NormalSquare::Count(std::int32_t steps) {
+  if (IterationCounter > std::numeric_limits<std::int32_t>::max() - steps) {
+    throw RuntimeError(Fault::Overflow);
+  }
+  IterationCounter += steps;
+  stage_.ShowCount(IterationCounter);
+}
+
+CellTable NormalSquare::SearchOddSquare(int order) {
+  stage_.ShowCount("");
+  IterationCounter = 0;
+  const auto attempts = FindMagicStarts(order, MagicConstant(order));
+  if (attempts.size() > kMaxAttempts) throw RuntimeError(Fault::SubscriptOutOfRange);
+  Count(2 * order * order);
+
+  const auto kept = static_cast<int>(attempts.size());
+  std::int16_t pick = 0;
+  do {
+    stage_.Yield();
+    random_.Reseed();
+    pick = ToInt16(Int(kept * random_.Next() + 0.5));
+    if (pick < 1) pick = 1;
+  } while (pick == LastPickOrTurns);
+  LastPickOrTurns = pick;
+
+  const SteppingAttempt& attempt = attempts[static_cast<std::size_t>(pick - 1)];
+  CellTable cells;
+  FillByStepping(cells, order, attempt.StartRow, attempt.StartColumn, kSteppings[attempt.Pattern]);
+  return cells;
+}
+
+CellTable NormalSquare::BuildLuxSquare(int k) {
+  const int oddOrder = 2 * k + 1;
+  const CellTable odd = SearchOddSquare(oddOrder);
+  IterationCounter = 0;
+  stage_.ShowCount("");
+  CellTable cells;
+  ForEachCell(oddOrder, [&](int i, int j) {
+    const double first = 4 * odd(i, j) - 3;
+    const LuxBlock letter = LuxLetter(i, j, k);
+    cells(2 * i - 1, 2 * j - 1) = first + letter.UpperLeft;
+    cells(2 * i - 1, 2 * j) = first + letter.UpperRight;
+    cells(2 * i, 2 * j - 1) = first + letter.LowerLeft;
+    cells(2 * i, 2 * j) = first + letter.LowerRight;
+  });
+  // One step for each L of the first k + 1 rows, each cell of the odd square and each block.
+  Count((k + 1) * oddOrder + 2 * oddOrder * oddOrder);
+  return cells;
+}
+
+CellTable NormalSquare::BuildDoublyEvenSquare(int m) {
+  const int order = 4 * m;
+  stage_.ShowCount("");
+  CellTable cells;
+  ForEachCell(order, [&](int i, int j) {
+    const int value = (i - 1) * order + j;
+    const int inRow = (i - 1) % 4;
+    const int inColumn = (j - 1) % 4;
+    const bool onBlockDiagonal = inRow == inColumn || inRow + inColumn == 3;
+    cells(i, j) = onBlockDiagonal ? order * order + 1 - value : value;
+  });
+  // One step for each cell and each block.
+  Count(order * order + m * m);
+
+  LastPickOrTurns = static_cast<std::int16_t>(LastPickOrTurns >= 3 ? 0 : LastPickOrTurns + 1);
+  for (int turn = 0; turn < LastPickOrTurns; ++turn)
+    RotateBoard90(cells, order);
+  return cells;
+}
+
+}  // namespace numorra

@@ -1,0 +1,44 @@
+#include "generate/proposal.h"
+
+#include <algorithm>
+
+#include "app/board/numbers.h"
+#include "app/board/runtime_error.h"
+
+namespace numorra {
+namespace {
+
+/// A whole number in low..high - 1, freshly seeded. The upper bound itself is never drawn.
+double Draw(Random& random, double low, double high) {
+  random.Reseed();
+  return std::clamp(Int(low + (high - low) * random.Next()), low, high);
+}
+
+}  // namespace
+
+double MagicConstant(double order) {
+  return order * (order * order + 1) / 2;
+}
+
+std::string MagicConstantText(const std::string& size) {
+  try {
+    return Decimal(MagicConstant(Val(size)));
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+void ProposeSquare(SquareBoxes& boxes, Mode mode, Random& random) {
+  const double shownSize = Val(boxes.Size());
+  const double shownTotal = Val(boxes.Sum());
+  double size = 0;
+  double total = 0;
+  do {
+    size = Draw(random, 3, 15);
+    total = Draw(random, size * size + 1, 2 * size * size + 1);
+  } while (size == shownSize && total == shownTotal);
+  boxes.SetSize(Decimal(size));
+  boxes.SetSum(Decimal(mode == ModeNormal ? MagicConstant(size) : total));
+}
+
+}  // namespace numorra

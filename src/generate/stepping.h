@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "app/board/cell_table.h"
+
+namespace numorra {
+
+/// The stepping construction of odd magic squares (de la Loubere 1693): put 1 somewhere, go on by a
+/// fixed step with wrap-around, and where the cell is taken make the break step from the last cell
+/// instead.
+///
+///     . 1 .        8 1 .        8 1 6
+///     3 . .   ->   3 5 .   ->   3 5 7      up and right; down when taken
+///     . . 2        4 . 2        4 9 2
+struct Stepping {
+  int Row;
+  int Column;
+  int BreakRow;
+};
+
+/// Pattern 0 goes up and right and breaks down, pattern 1 goes down and left and breaks up.
+inline constexpr Stepping kSteppings[] = {{-1, 1, 1}, {1, -1, -1}};
+
+/// Fills the block with 1..order x order from (startRow, startColumn), each 1..order. The break
+/// cell is written to whether or not it is free.
+void FillByStepping(CellTable& cells, int order, int startRow, int startColumn, Stepping step);
+
+/// A start that gives a magic square.
+struct SteppingAttempt {
+  std::int16_t StartRow;
+  std::int16_t StartColumn;
+  std::int16_t Pattern;
+
+  bool operator==(const SteppingAttempt&) const = default;
+};
+
+/// The attempts whose every total is `target`, in the order: pattern, start row, start column.
+///
+/// Not all 2n^2 squares need be filled. A start elsewhere shifts the whole fill cyclically, so rows
+/// and columns keep their totals and the two main diagonals are broken diagonals of the fill that
+/// starts at (1, 1): one fill a pattern and its 2n broken diagonals decide about every start. 2n
+/// attempts are kept, 2n/3 when 3 divides n.
+std::vector<SteppingAttempt> FindMagicStarts(int order, double target);
+
+}  // namespace numorra

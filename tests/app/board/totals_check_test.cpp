@@ -1,0 +1,88 @@
+#include "app/board/totals_check.h"
+
+#include <gtest/gtest.h>
+
+#include "support/boards.h"
+
+namespace numorra {
+namespace {
+
+constexpr const char* kLoShu = "2 7 6 / 9 5 1 / 4 3 8";
+
+TEST(Recount, TellsBoardsApart) {
+  struct Case {
+    const char* rows;
+    double target;
+    std::int16_t baseValue;
+    Verdict verdict;
+  };
+  const Case cases[] = {
+      {kLoShu, 15, 5, Verdict::Right},
+      {kLoShu, 16, 5, Verdict::Wrong},
+      {"5 5 5 / 5 5 5 / 5 5 5", 15, 5, Verdict::UntouchedBase},
+      {"6 6 6 / 6 6 6 / 6 6 6", 18, 5, Verdict::Right},
+      {"5 5 5 / 5 6 5 / 5 5 5", 15, 5, Verdict::Wrong},
+      {"2.5 2.5 2.5 / 2.5 2.5 2.5 / 2.5 2.5 2.5", 7.5, 2, Verdict::Right},
+      // Rows, columns and one diagonal right, the other diagonal wrong.
+      {"8 1 6 / 4 9 2 / 3 5 7", 15, 5, Verdict::Wrong},
+  };
+  for (const Case& c : cases) {
+    Board board;
+    ShowRows(board, c.rows, c.target, c.baseValue);
+    EXPECT_EQ(Recount(board), c.verdict) << c.rows;
+    EXPECT_TRUE(board.TotalsChecked);
+    EXPECT_EQ(board.UntouchedBase, c.verdict == Verdict::UntouchedBase);
+    EXPECT_FALSE(board.grid.RedrawLocked());
+  }
+}
+
+TEST(Recount, ColoursEachTotalByItself) {
+  Board board;
+  ShowRows(board, "2 7 6 / 9 5 1 / 4 3 9");
+  Recount(board);
+  const auto right = [&](int r, int c) {
+    return board.grid.Background(r, c) == ColorTable[kRightTotal];
+  };
+  EXPECT_TRUE(right(1, 0) && right(2, 0) && right(0, 1) && right(0, 2) && right(0, 4) &&
+              right(4, 0));
+  EXPECT_FALSE(right(3, 0) || right(0, 3) || right(0, 0));
+  EXPECT_EQ(board.grid.Foreground(3, 0), ColorTable[kTotalText]);
+  EXPECT_EQ(board.grid.Background(4, 4), kWindowBackground);
+  EXPECT_EQ(board.grid.CurrentRow(), 0);
+  EXPECT_EQ(board.grid.CurrentColumn(), 0);
+}
+
+TEST(Recount, MarksTheUntouchedBoardWrongButForItsCorner) {
+  Board board;
+  ShowRows(board, "5 5 5 / 5 5 5 / 5 5 5");
+  Recount(board);
+  EXPECT_EQ(board.grid.Background(0, 0), ColorTable[kRightTotal]);
+  for (const auto& [r, c] : {std::pair{1, 0}, {4, 0}, {0, 1}, {0, 4}}) {
+    EXPECT_EQ(board.grid.Background(r, c), ColorTable[kWrongTotal]);
+  }
+}
+
+TEST(Recount, ReadsTextsByTheirLeadingNumber) {
+  Board board;
+  ShowRows(board, kLoShu);
+  board.grid.SetText(1, 1, "12ab");
+  board.grid.SetText(1, 2, "ab");
+  board.grid.SetText(1, 3, "");
+  EXPECT_EQ(Recount(board), Verdict::Wrong);
+  EXPECT_EQ(board.grid.Text(1, 0), "12");
+  EXPECT_EQ(board.BoardValues(1, 2), 0);
+}
+
+TEST(RefreshTotals, KeepsTotalsUncolouredUntilACheckHasRun) {
+  Board board;
+  ShowRows(board, kLoShu);
+  RefreshTotals(board);
+  EXPECT_EQ(board.grid.Background(0, 1), kWindowBackground);
+  Recount(board);
+  board.grid.SetCurrent(2, 3);
+  RefreshTotals(board);
+  EXPECT_EQ(board.grid.CurrentColumn(), 3);
+}
+
+}  // namespace
+}  // namespace numorra

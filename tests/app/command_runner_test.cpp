@@ -1,0 +1,65 @@
+#include "app/command_runner.h"
+
+#include <gtest/gtest.h>
+
+#include <QThread>
+
+#include "app/board/runtime_error.h"
+#include "app/ports/build_stage.h"
+#include "support/scripted_dialogs.h"
+
+namespace numorra {
+namespace {
+
+class CommandRunnerTest : public testing::Test {
+ protected:
+  ScriptedDialogs dialogs_;
+  CommandRunner runner_{dialogs_};
+  std::string log_;
+};
+
+TEST_F(CommandRunnerTest, TellsARuntimeErrorAndGoesOn) {
+  runner_.Run([] { throw RuntimeError(Fault::Overflow); });
+  runner_.Run([] { throw RuntimeError(Fault::TypeMismatch); });
+  runner_.Run([] { throw std::bad_alloc(); });
+  EXPECT_EQ(dialogs_.Take(),
+            (std::vector<std::string>{"Overflow", "Type mismatch", "Out of memory"}));
+  runner_.Run([this] { log_ += "on"; });
+  EXPECT_EQ(log_, "on");
+}
+
+TEST_F(CommandRunnerTest, LetsTheNewestCommandWinAndNestsNone) {
+  runner_.Run([this] {
+    struct Unwound {
+      std::string& log;
+      ~Unwound() { log += "unwound "; }
+    } const unwound{log_};
+    runner_.Run([this] { log_ += "never "; });
+    runner_.Run([this] { log_ += "newest "; });
+    runner_.Yield();
+    log_ += "not reached ";
+  });
+  EXPECT_EQ(log_, "unwound newest ");
+  EXPECT_FALSE(runner_.Running());
+}
+
+TEST_F(CommandRunnerTest, RunsTheNewerCommandAfterOneThatNeverYields) {
+  runner_.Run([this] {
+    runner_.Run([this] { log_ += "second"; });
+    log_ += "first ";
+  });
+  EXPECT_EQ(log_, "first second");
+}
+
+TEST_F(CommandRunnerTest, StopsForAClosingWindow) {
+  runner_.Run([this] {
+    runner_.Run([this] { log_ += "never"; });
+    runner_.Stop();
+    runner_.Yield();
+    log_ += "not reached";
+  });
+  EXPECT_EQ(log_, "");
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,89 @@
+#include "cli/square_program.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "support/slow_checker.h"
+
+namespace numorra {
+namespace {
+
+struct Outcome {
+  int Status;
+  std::string Out;
+  std::string Err;
+};
+
+Outcome RunWith(const std::string& line) {
+  std::istringstream words(line);
+  const std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+  std::ostringstream out, err;
+  const int status = RunSquareProgram(arguments, out, err);
+  return {status, out.str(), err.str()};
+}
+
+slow::Rows ReadCsv(const std::string& text) {
+  slow::Rows rows;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream fields(line);
+    rows.emplace_back();
+    for (std::string field; std::getline(fields, field, ',');)
+      rows.back().push_back(std::stod(field));
+  }
+  return rows;
+}
+
+TEST(SquareProgram, PrintsMagicSquaresAsCsv) {
+  for (int size = 3; size <= 50; ++size) {
+    const Outcome run = RunWith("--format csv --size " + std::to_string(size));
+    ASSERT_EQ(run.Status, 0);
+    const auto rows = ReadCsv(run.Out);
+    ASSERT_EQ(rows.size(), static_cast<std::size_t>(size));
+    EXPECT_EQ(slow::WhyNotNormal(rows), "");
+  }
+}
+
+TEST(SquareProgram, WritesTheOtherFormats) {
+  EXPECT_EQ(RunWith("--size=4").Out,
+            " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
+  EXPECT_EQ(RunWith("--size 4 --format=json").Out,
+            "{\"order\": 4, \"total\": 34, \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
+            "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
+}
+
+TEST(SquareProgram, RepeatsARunFromItsSeed) {
+  EXPECT_EQ(RunWith("--size 15 --seed 7").Out, RunWith("--size 15 --seed 7").Out);
+  bool differs = false;
+  for (const char* seed : {"8", "9", "10"}) {
+    differs |=
+        RunWith(std::string("--size 15 --seed ") + seed).Out != RunWith("--size 15 --seed 7").Out;
+  }
+  EXPECT_TRUE(differs);
+}
+
+TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
+  for (const char* line : {"", "--size", "--size 2", "--size 51", "--size 8x", "--size 99999999999",
+                           "--size=", "--size 8 --format xml", "--seed -1 --size 8", "--bogus", "8",
+                           "--size 8 --help=x", "--format csv"}) {
+    const Outcome run = RunWith(line);
+    EXPECT_EQ(run.Status, 2) << line;
+    EXPECT_EQ(run.Out, "") << line;
+    EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 1) << line;
+  }
+}
+
+TEST(SquareProgram, HelpsAndNamesItsVersion) {
+  EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
+  EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
+}
+
+TEST(SquareProgram, SaysWhenTheOutputCannotBeWritten) {
+  std::ostringstream out, err;
+  out.setstate(std::ios::badbit);
+  EXPECT_EQ(RunSquareProgram({"--size", "3"}, out, err), 1);
+  EXPECT_NE(err.str(), "");
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,57 @@
+#include "generate/proposal.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "app/board/numbers.h"
+#include "support/plain_boxes.h"
+#include "support/scripted_random.h"
+
+namespace numorra {
+namespace {
+
+TEST(Proposal, StaysWithinItsBounds) {
+  TickingClock clock(5);
+  ClockSeededRandom random(clock);
+  std::set<double> sizes;
+  for (int i = 0; i < 2000; ++i) {
+    PlainBoxes boxes;
+    const Mode mode = i % 2 == 0 ? ModeNormal : ModeVariable;
+    ProposeSquare(boxes, mode, random);
+    const double size = Val(boxes.Size());
+    const double sum = Val(boxes.Sum());
+    sizes.insert(size);
+    if (mode == ModeNormal) {
+      EXPECT_EQ(sum, size * (size * size + 1) / 2);
+    } else {
+      EXPECT_GE(sum, size * size + 1);
+      EXPECT_LE(sum, 2 * size * size);
+    }
+  }
+  EXPECT_EQ(sizes.size(), 12U);
+  EXPECT_EQ(*sizes.begin(), 3);
+  EXPECT_EQ(*sizes.rbegin(), 14);
+}
+
+TEST(Proposal, IsDrawnAgainWhileItEqualsWhatIsShown) {
+  // 3 + 12 x 0.34 is 7; 50 + 49 x 0.5 is 74: twice the same pair, then another total.
+  ScriptedRandom random({0.34, 0.5, 0.34, 0.75});
+  PlainBoxes boxes{"7", "74"};
+  ProposeSquare(boxes, ModeVariable, random);
+  EXPECT_EQ(boxes.Size(), "7");
+  EXPECT_EQ(boxes.Sum(), "86");
+  EXPECT_EQ(random.Reseeds, 4);
+}
+
+TEST(MagicConstant, FollowsTheTextOfTheSizeBox) {
+  const std::pair<const char*, const char*> cases[] = {{"3", "15"},    {"4", "34"},     {"5", "65"},
+                                                       {"14", "1379"}, {"50", "62525"}, {"", "0"},
+                                                       {"x", "0"},     {"-2", "-5"}};
+  for (const auto& [size, sum] : cases)
+    EXPECT_EQ(MagicConstantText(size), sum) << size;
+  EXPECT_EQ(MagicConstantText(std::string(400, '9')), "");
+  EXPECT_EQ(MagicConstantText(std::string(150, '9')), "");
+}
+
+}  // namespace
+}  // namespace numorra

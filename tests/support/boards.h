@@ -1,0 +1,68 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+
+#include "app/board/board.h"
+#include "support/slow_checker.h"
+
+namespace numorra {
+
+/// Rows of numbers, separated by blanks, rows by a slash: "8 1 6 / 3 5 7 / 4 9 2".
+inline slow::Rows ParseRows(const std::string& text) {
+  slow::Rows rows(1);
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    if (word == "/")
+      rows.emplace_back();
+    else
+      rows.back().push_back(std::stod(word));
+  }
+  return rows;
+}
+
+inline slow::Rows RowsOf(const CellTable& cells, int order) {
+  slow::Rows rows;
+  for (int r = 1; r <= order; ++r) {
+    rows.emplace_back();
+    for (int c = 1; c <= order; ++c)
+      rows.back().push_back(cells(r, c));
+  }
+  return rows;
+}
+
+inline CellTable TableOf(const slow::Rows& rows) {
+  CellTable cells;
+  for (std::size_t r = 0; r < rows.size(); ++r) {
+    for (std::size_t c = 0; c < rows.size(); ++c) {
+      cells(static_cast<int>(r) + 1, static_cast<int>(c) + 1) = rows[r][c];
+    }
+  }
+  return cells;
+}
+
+/// What the grid shows in its value block.
+inline slow::Rows ShownRows(const Grid& grid) {
+  slow::Rows rows;
+  for (int r = 1; r < grid.Rows() - 1; ++r) {
+    rows.emplace_back();
+    for (int c = 1; c < grid.Columns() - 1; ++c)
+      rows.back().push_back(std::stod(grid.Text(r, c)));
+  }
+  return rows;
+}
+
+/// A shown board of the given numbers.
+inline void ShowRows(Board& board, const std::string& text, double target = 15,
+                     std::int16_t baseValue = 5) {
+  const slow::Rows rows = ParseRows(text);
+  board.GridSize = static_cast<std::int16_t>(rows.size());
+  board.TargetTotal = target;
+  board.BaseValue = baseValue;
+  board.SetupBoard();
+  board.BoardValues = TableOf(rows);
+  board.ShowBoard();
+}
+
+}  // namespace numorra

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "app/main_window.h"
+#include "support/boards.h"
+#include "support/scripted_dialogs.h"
+
+namespace numorra {
+
+/// A fresh window, driven through its controls as a person would; boxes are answered from a list.
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() {
+    window_.show();
+    QCoreApplication::processEvents();
+  }
+
+  template <class Control>
+  Control& Find(const char* name) {
+    auto* control = window_.findChild<Control*>(name);
+    if (!control) ADD_FAILURE() << "no control named " << name;
+    return *control;
+  }
+
+  /// Clicks where every kind of button can be hit: near its left edge.
+  void Click(const char* button) {
+    auto& control = Find<QAbstractButton>(button);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(8, control.height() / 2));
+  }
+
+  void Type(const char* box, const char* text) {
+    auto& edit = Find<QLineEdit>(box);
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    QTest::keyClicks(&edit, text);
+  }
+
+  void ClickCell(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
+    window_.View().BringIntoView(row, column);
+    QTest::mouseClick(window_.View().viewport(), button, {},
+                      window_.View().CellRect(row, column).center());
+  }
+
+  /// Chooses an item of the board's context menu, opened on a cell.
+  void Choose(const char* item, int row = 1, int column = 1) {
+    ClickCell(row, column, Qt::RightButton);
+    auto& menu = Find<QMenu>("ManualMenux");
+    EXPECT_TRUE(menu.isVisible()) << "no menu at " << row << ", " << column;
+    menu.close();
+    auto& action = Find<QAction>(item);
+    EXPECT_TRUE(action.isEnabled()) << item;
+    action.trigger();
+  }
+
+  std::string SumBox() { return Find<QLineEdit>("Text4").text().toStdString(); }
+  const Grid& TheGrid() { return window_.TheBoard().grid; }
+  slow::Rows Rows() { return ShownRows(TheGrid()); }
+
+  TickingClock clock_{99};
+  ScriptedDialogs dialogs_;
+  MainWindow window_{{.TimeOfDay = &clock_, .Boxes = &dialogs_}};
+};
+
+}  // namespace numorra

@@ -1,0 +1,27 @@
+#include <cstdio>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QStandardPaths>
+
+namespace {
+
+/// The offscreen platform says at every window what it cannot do; real warnings stay in sight.
+void LetRealWarningsThrough(QtMsgType, const QMessageLogContext&, const QString& message) {
+  if (!message.startsWith("This plugin does not support")) {
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+  }
+}
+
+}  // namespace
+
+/// The tests of the window run without a display and leave no trace in anyone's settings.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(LetRealWarningsThrough);
+  QStandardPaths::setTestModeEnabled(true);
+  testing::InitGoogleTest(&argc, argv);
+  const QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}

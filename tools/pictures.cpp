@@ -1,0 +1,57 @@
+#include <cstdio>
+
+#include <QApplication>
+#include <QDir>
+
+#include "app/main_window.h"
+
+/// Takes the documents' pictures: drives the real window, offscreen, with a clock of its own, and
+/// saves what it shows.
+namespace {
+
+using numorra::MainWindow;
+
+class Album {
+ public:
+  explicit Album(const QString& folder) : folder_(folder) {}
+
+  void Save(const QWidget& widget, const QString& name) {
+    QCoreApplication::processEvents();
+    const QString path = folder_.filePath(name + ".png");
+    if (!const_cast<QWidget&>(widget).grab().save(path)) {
+      std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+      ok_ = false;
+    }
+  }
+
+  bool Ok() const { return ok_; }
+
+ private:
+  QDir folder_;
+  bool ok_ = true;
+};
+
+void ShowNormalSquare(MainWindow& window, int size) {
+  window.findChild<QLineEdit*>("Text1")->setText(QString::number(size));
+  window.findChild<QPushButton*>("SolveAuto")->click();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  if (argc != 2) {
+    std::fputs("usage: numorra-pictures FOLDER\n", stderr);
+    return 2;
+  }
+  Album album(argv[1]);
+  numorra::TickingClock clock(1514);
+  MainWindow window({.TimeOfDay = &clock});
+  window.show();
+  for (const int size : {3, 11, 50}) {
+    ShowNormalSquare(window, size);
+    album.Save(window, QString("normal-%1").arg(size));
+  }
+  return album.Ok() ? 0 : 1;
+}
