@@ -36,6 +36,12 @@ void ShowNormalSquare(MainWindow& window, int size) {
   window.findChild<QPushButton*>("SolveAuto")->click();
 }
 
+void ShowVariableSquare(MainWindow& window, int size, int sum) {
+  window.findChild<QLineEdit*>("Text1")->setText(QString::number(size));
+  window.findChild<QLineEdit*>("Text4")->setText(QString::number(sum));
+  window.findChild<QPushButton*>("SolveAuto")->click();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -53,5 +59,8 @@ int main(int argc, char** argv) {
     ShowNormalSquare(window, size);
     album.Save(window, QString("normal-%1").arg(size));
   }
+  window.findChild<QRadioButton*>("Option4")->click();
+  ShowVariableSquare(window, 10, 505);
+  album.Save(window, "variable-10");
   return album.Ok() ? 0 : 1;
 }

@@ -9,13 +9,6 @@
 #include "app/ports/build_stage.h"
 
 namespace numorra {
-namespace {
-
-/// A screen frame: yielding more often costs time and shows nothing new.
-constexpr qint64 kYieldMilliseconds = 16;
-
-}  // namespace
-
 void CommandRunner::Run(Command command) {
   newest_ = std::move(command);
   superseded_ = true;
@@ -30,7 +23,7 @@ void CommandRunner::Run(Command command) {
 }
 
 void CommandRunner::Yield() {
-  if (sinceYield_.elapsed() >= kYieldMilliseconds) {
+  if (sinceYield_.elapsed() >= frameMilliseconds_) {
     QCoreApplication::processEvents();
     sinceYield_.start();
   }

@@ -17,12 +17,16 @@ class CommandRunner {
  public:
   using Command = std::function<void()>;
 
-  explicit CommandRunner(Dialogs& dialogs) : dialogs_(dialogs) {}
+  /// A screen frame: yielding more often costs time and shows nothing new.
+  static constexpr int kFrameMilliseconds = 16;
+
+  explicit CommandRunner(Dialogs& dialogs, int frameMilliseconds = kFrameMilliseconds)
+      : dialogs_(dialogs), frameMilliseconds_(frameMilliseconds) {}
 
   /// Runs the command, or lets it take the place of the one that is running.
   void Run(Command command);
 
-  /// For the running command: lets pending window events run, at most once in 16 ms. Throws
+  /// For the running command: lets pending window events run, at most once a frame. Throws
   /// Superseded when it is to make way.
   void Yield();
 
@@ -35,6 +39,7 @@ class CommandRunner {
   void RunGuarded(const Command& command);
 
   Dialogs& dialogs_;
+  int frameMilliseconds_;
   Command newest_;
   bool running_ = false;
   bool superseded_ = false;

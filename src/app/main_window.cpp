@@ -7,6 +7,7 @@
 
 #include "app/board/numbers.h"
 #include "app/named.h"
+#include "generate/corner_choice.h"
 #include "generate/proposal.h"
 #include "transform/symmetry.h"
 
@@ -36,14 +37,19 @@ MainWindow::MainWindow(const World& world)
     : messageBoxes_(this),
       random_(world.TimeOfDay ? *world.TimeOfDay : systemClock_),
       dialogs_(world.Boxes ? *world.Boxes : messageBoxes_),
-      runner_(dialogs_),
+      runner_(dialogs_, world.FrameMilliseconds),
       solve_(new SolveFrame),
+      limit_(new LimitFrame),
       square_(new SquareFrame),
+      corners_(new CornersFrame),
       solution_(Named("Frame1", new QGroupBox("Solution"))),
       view_(new GridView(board_.grid)),
       menu_(new BoardMenu(this)),
       stage_(*solve_, runner_),
-      solveCommand_(board_, *square_, dialogs_, stage_, random_) {
+      List2(random_),
+      List3(random_),
+      solveCommand_({board_, *square_, *this, dialogs_, stage_, random_, List2, List3}),
+      topRowCommand_(board_, *square_, dialogs_, stage_, random_) {
   setObjectName("Form1");
   setWindowTitle(kApplicationTitle);
   LayOut();
@@ -65,7 +71,7 @@ void MainWindow::LayOut() {
   columns->setSpacing(kGap);
 
   auto* frames = new QVBoxLayout;
-  for (QGroupBox* frame : {static_cast<QGroupBox*>(solve_), static_cast<QGroupBox*>(square_)}) {
+  for (QGroupBox* frame : std::initializer_list<QGroupBox*>{limit_, solve_, square_, corners_}) {
     frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     frames->addWidget(frame);
   }
@@ -94,9 +100,25 @@ void MainWindow::BuildMenus() {
 
 void MainWindow::ConnectControls() {
   const auto command = [this](auto* control, auto signal, CommandRunner::Command body) {
-    connect(control, signal, this, [this, body = std::move(body)] { runner_.Run(body); });
+    connect(control, signal, this, [this, body = std::move(body)] {
+      runner_.Run([this, body] {
+        body();
+        EnableCommands();
+      });
+    });
   };
   command(solve_->SolveAuto, &QPushButton::clicked, [this] { solveCommand_.Auto(); });
+  command(solve_->SolveAgain, &QPushButton::clicked, [this] { solveCommand_.Again(); });
+  command(corners_->Combo1, &CornerBox::Entered, [this] {
+    corners_->Combo1->clear();
+    OfferCorners(board_, *square_, List2, *corners_);
+  });
+  command(corners_->DoCor1, &QPushButton::clicked,
+          [this] { solveCommand_.SpreadCornerDiagonals(); });
+  command(corners_->DoCor2, &QPushButton::clicked, [this] { solveCommand_.SpreadCornerEdges(); });
+  command(square_->Set4x4, &QPushButton::clicked, [this] {
+    if (topRowCommand_.Run()) SetSolveMode(ModeVariable);
+  });
   command(square_->SolveRandum, &QPushButton::clicked,
           [this] { ProposeSquare(*square_, board_.SolveMode, random_); });
   for (const Mode mode : {ModeNormal, ModeVariable}) {
@@ -122,10 +144,36 @@ void MainWindow::StartUp() {
 void MainWindow::SetSolveMode(Mode mode) {
   const bool variable = mode == ModeVariable;
   board_.SolveMode = mode;
+  {
+    const QSignalBlocker quiet(solve_->Option4);
+    (variable ? solve_->Option4 : solve_->Option3)->setChecked(true);
+  }
   square_->Text4->setEnabled(variable);
+  limit_->setEnabled(variable);
+  corners_->setEnabled(variable);
   menu_->redox->setEnabled(variable);
-  solve_->SolveAuto->setEnabled(!variable);
+  EnableCommands();
   FollowSize();
+}
+
+/// Buttons can be pressed when their command has something to work on.
+void MainWindow::EnableCommands() {
+  solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
+  corners_->DoCor1->setEnabled(board_.Shown());
+  corners_->DoCor2->setEnabled(board_.Shown());
+}
+
+bool MainWindow::LimitToNine() const {
+  return limit_->Option1->isChecked();
+}
+
+void MainWindow::UncheckLimit() {
+  limit_->Option1->setChecked(false);
+}
+
+std::optional<double> MainWindow::Corner() const {
+  const std::string text = corners_->Combo1->currentText().toStdString();
+  return text == kAnyCorner ? std::nullopt : std::optional(Val(text));
 }
 
 /// In the Normal mode the sum belongs to the size.

@@ -1,20 +1,22 @@
 #pragma once
 
-#include <memory>
-
 #include <QMainWindow>
 
 #include "app/board/board.h"
 #include "app/board/random.h"
 #include "app/board_menu.h"
 #include "app/command_runner.h"
+#include "app/corners_frame.h"
 #include "app/grid_view.h"
+#include "app/limit_frame.h"
 #include "app/message_boxes.h"
 #include "app/play/command_history.h"
 #include "app/solve_frame.h"
 #include "app/square_frame.h"
 #include "app/window_stage.h"
 #include "generate/solve_command.h"
+#include "generate/top_row_command.h"
+#include "listbox/list_boy.h"
 
 namespace numorra {
 
@@ -22,11 +24,12 @@ namespace numorra {
 struct World {
   Clock* TimeOfDay = nullptr;
   Dialogs* Boxes = nullptr;
+  int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
 };
 
 /// The main window: the controls on the left, the board on the right. It owns the board, hands what
 /// the player does to the commands and shows what they leave behind.
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, private BuildOptions {
   Q_OBJECT
 
  public:
@@ -45,7 +48,12 @@ class MainWindow : public QMainWindow {
   void ConnectControls();
   void StartUp();
 
+  bool LimitToNine() const override;
+  void UncheckLimit() override;
+  std::optional<double> Corner() const override;
+
   void SetSolveMode(Mode mode);
+  void EnableCommands();
   void FollowSize();
   void PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition);
   void EditBoard(RedoCode code);
@@ -60,13 +68,18 @@ class MainWindow : public QMainWindow {
 
   // The toolkit owns these through the window.
   SolveFrame* solve_;
+  LimitFrame* limit_;
   SquareFrame* square_;
+  CornersFrame* corners_;
   QGroupBox* solution_;
   GridView* view_;
   BoardMenu* menu_;
 
   WindowStage stage_;
+  ListBoy List2;
+  ListBoy List3;
   SolveCommand solveCommand_;
+  TopRowCommand topRowCommand_;
 };
 
 }  // namespace numorra

@@ -1,5 +1,6 @@
 #include "app/message_boxes.h"
 
+#include <QInputDialog>
 #include <QMessageBox>
 
 namespace numorra {
@@ -21,6 +22,15 @@ void MessageBoxes::Tell(const std::string& message) {
 bool MessageBoxes::Ask(const std::string& question) {
   return Show(window_, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) ==
          QMessageBox::Yes;
+}
+
+std::optional<std::string> MessageBoxes::AskText(const std::string& prompt,
+                                                 const std::string& initial) {
+  bool answered = false;
+  const QString text =
+      QInputDialog::getText(window_, kApplicationTitle, QString::fromStdString(prompt),
+                            QLineEdit::Normal, QString::fromStdString(initial), &answered);
+  return answered ? std::optional(text.toStdString()) : std::nullopt;
 }
 
 }  // namespace numorra

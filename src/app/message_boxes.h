@@ -13,6 +13,8 @@ class MessageBoxes : public Dialogs {
 
   void Tell(const std::string& message) override;
   bool Ask(const std::string& question) override;
+  std::optional<std::string> AskText(const std::string& prompt,
+                                     const std::string& initial) override;
 
  private:
   QWidget* window_;

@@ -11,6 +11,7 @@ SolveFrame::SolveFrame(QWidget* parent)
       Option3(Named("Option3", new QRadioButton("Normal"))),
       Option4(Named("Option4", new QRadioButton("Variable"))),
       SolveAuto(Named("SolveAuto", new QPushButton("Auto"))),
+      SolveAgain(Named("SolveAgain", new QPushButton("Solve Again"))),
       IterationCount(Named("IterationCount", new QLabel)),
       autoPlace_(new QStackedLayout) {
   setObjectName("Frame3");
@@ -18,6 +19,7 @@ SolveFrame::SolveFrame(QWidget* parent)
   Option3->setToolTip("Squares of the numbers 1 to size x size");
   Option4->setToolTip("Squares of any numbers, with the sum you choose");
   SolveAuto->setToolTip("Build a magic square of this size");
+  SolveAgain->setToolTip("Build another square like the last one");
   IterationCount->setAlignment(Qt::AlignCenter);
 
   SolveAuto->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -28,6 +30,7 @@ SolveFrame::SolveFrame(QWidget* parent)
   column->addWidget(Option3);
   column->addWidget(Option4);
   column->addLayout(autoPlace_);
+  column->addWidget(SolveAgain);
 }
 
 void SolveFrame::ShowCounter(bool counting) {

@@ -21,6 +21,7 @@ class SolveFrame : public QGroupBox {
   QRadioButton* const Option3;  ///< "Normal"
   QRadioButton* const Option4;  ///< "Variable"
   QPushButton* const SolveAuto;
+  QPushButton* const SolveAgain;
   QLabel* const IterationCount;
 
  private:

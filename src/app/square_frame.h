@@ -22,6 +22,7 @@ class SquareFrame : public QGroupBox, public SquareBoxes {
 
   QLineEdit* const Text1;  ///< size
   QLineEdit* const Text4;  ///< sum
+  QPushButton* const Set4x4;
   QPushButton* const SolveRandum;
 };
 

@@ -9,10 +9,16 @@ namespace numorra {
 
 const char* const kUsage =
     R"(usage: numorra-square --size N [options]
+       numorra-square --top-row A,B,C,D [options]
 
-Prints a magic square of the numbers 1 to N x N and the total of its lines.
+Prints a magic square and the total of its lines: of the numbers 1 to N x N, of
+any total, or 4 x 4 with a top row of your choice.
 
   --size N                 how many cells a side has, 3 to 50
+  --sum T                  the total wanted instead of that of 1 to N x N
+  --limit-to-9             no number above 9; the total is then at most 5 x N
+  --corner V               the number wanted at the top left
+  --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
   --format text|csv|json   aligned columns and the total (the default), rows of
                            comma-separated numbers, or an object with both
   --seed N                 start random numbers from N, so that a run can be
@@ -49,13 +55,23 @@ class Reader {
       if (attached_) Fail("'" + option_ + "' takes no value");
       if (error_.empty() && special_) return *special_;
     }
-    if (error_.empty() && request_.Size == 0) Fail("the size is missing");
+    CheckTogether();
     if (!error_.empty()) return BadArguments{error_ + "; try --help"};
     return request_;
   }
 
  private:
   using Member = void (Reader::*)();
+
+  void CheckTogether() {
+    const bool variable = request_.Sum || request_.LimitToNine || request_.Corner;
+    if (request_.Top) {
+      if (request_.Size != 0 || variable) Fail("a top row goes with no other wish");
+    } else if (request_.Size == 0) {
+      Fail("the size is missing");
+    }
+    if (request_.Corner && request_.LimitToNine) Fail("the limit does not go with a corner");
+  }
 
   void TakeOption() {
     const std::string& word = words_[next_++];
@@ -67,8 +83,15 @@ class Reader {
 
   Member Handler() const {
     static constexpr std::pair<const char*, Member> kHandlers[] = {
-        {"--size", &Reader::Size}, {"--format", &Reader::Format},   {"--seed", &Reader::Seed},
-        {"--help", &Reader::Help}, {"--version", &Reader::Version},
+        {"--size", &Reader::Size},
+        {"--sum", &Reader::Sum},
+        {"--limit-to-9", &Reader::LimitToNine},
+        {"--corner", &Reader::Corner},
+        {"--top-row", &Reader::TopRowOption},
+        {"--format", &Reader::Format},
+        {"--seed", &Reader::Seed},
+        {"--help", &Reader::Help},
+        {"--version", &Reader::Version},
     };
     for (const auto& [name, handler] : kHandlers) {
       if (option_ == name) return handler;
@@ -90,6 +113,23 @@ class Reader {
     } else {
       request_.Size = *size;
     }
+  }
+
+  void Sum() {
+    request_.Sum = Whole<std::int16_t>(Value());
+    if (!request_.Sum || *request_.Sum < 1) Fail("the sum is a whole number from 1 to 32767");
+  }
+
+  void LimitToNine() { request_.LimitToNine = true; }
+
+  void Corner() {
+    request_.Corner = Whole<std::int16_t>(Value());
+    if (!request_.Corner || *request_.Corner < 1) Fail("the corner is a whole number from 1 on");
+  }
+
+  void TopRowOption() {
+    request_.Top = ParseTopRow(Value());
+    if (!request_.Top) Fail("the top row is four whole numbers from 0 to 9999");
   }
 
   void Format() {

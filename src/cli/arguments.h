@@ -6,13 +6,20 @@
 #include <variant>
 #include <vector>
 
+#include "generate/top_row_square.h"
+
 namespace numorra {
 
 enum class SquareFormat { Text, Csv, Json };
 
-/// The square that a command line asks for.
+/// The square that a command line asks for: a normal one, one of any total when a sum, the limit or
+/// a corner is given, or a 4 x 4 one with a top row.
 struct SquareRequest {
   int Size = 0;
+  std::optional<int> Sum;
+  bool LimitToNine = false;
+  std::optional<int> Corner;
+  std::optional<TopRow> Top;
   SquareFormat Format = SquareFormat::Text;
   std::optional<std::uint64_t> Seed;
 };

@@ -2,24 +2,75 @@
 
 #include <ostream>
 
+#include "app/board/numbers.h"
 #include "app/board/random.h"
 #include "app/board/runtime_error.h"
 #include "cli/arguments.h"
 #include "cli/square_format.h"
 #include "generate/normal_square.h"
 #include "generate/proposal.h"
+#include "generate/top_row_square.h"
+#include "generate/variable_square.h"
 
 namespace numorra {
 namespace {
 
-void PrintSquare(const SquareRequest& request, std::ostream& out) {
+/// A square and what is to be said about it.
+struct Result {
+  CellTable Square;
+  int Order = 0;
+  double Total = 0;
+  std::string Remark;
+};
+
+/// A request that no square can meet.
+struct Unsolvable {
+  std::string Why;
+};
+
+Result BuildTopRow(const TopRow& top, Random& random) {
+  const auto found = FindTopRowSquare(top, random, [] {});
+  if (!found) throw Unsolvable{"no 4x4 square has this top row"};
+  const char* const remarks[] = {"", "some numbers are repeated", "some numbers are 0"};
+  return {found->Square, 4, found->Total, remarks[static_cast<int>(found->Quality)]};
+}
+
+Result BuildNormal(int order, Random& random) {
+  SilentStage stage;
+  return {NormalSquare(random, stage).Build(order), order, MagicConstant(order), ""};
+}
+
+Result BuildVariable(const SquareRequest& request, Random& random) {
+  constexpr int kTries = 10;
+  SilentStage stage;
+  ListBoy order(random);
+  VariableSquare generator(random, stage, order);
+  const double sum = request.Sum.value_or(static_cast<int>(MagicConstant(request.Size)));
+  const VariablePlan plan =
+      PlanVariableSquare(request.Size, sum, request.LimitToNine, request.Corner.has_value());
+  for (int tries = 1; tries <= kTries; ++tries) {
+    const VariableBuild build = generator.Build(plan, request.Corner, tries);
+    if (build.Status == SolveStatus::TryAgain) continue;
+    if (build.Status == SolveStatus::CellValueTooSmall) throw Unsolvable{"Cell value too small"};
+    std::string remark;
+    if (request.Corner && build.Square(1, 1) != *request.Corner) {
+      remark = "the corner is out of reach with this sum";
+    } else if (request.Sum && build.Total != sum) {
+      remark = "the nearest total within reach is " + Decimal(build.Total);
+    }
+    return {build.Square, request.Size, build.Total, remark};
+  }
+  throw Unsolvable{"Could not solve in 10 tries"};
+}
+
+Result BuildSquare(const SquareRequest& request) {
   SystemClock timeOfDay;
   TickingClock seeded(request.Seed.value_or(0));
   Clock& clock = request.Seed ? static_cast<Clock&>(seeded) : timeOfDay;
   ClockSeededRandom random(clock);
-  SilentStage stage;
-  const CellTable square = NormalSquare(random, stage).Build(request.Size);
-  WriteSquare(out, square, request.Size, MagicConstant(request.Size), request.Format);
+  if (request.Top) return BuildTopRow(*request.Top, random);
+  const bool normal = !request.Sum && !request.LimitToNine && !request.Corner;
+  return normal ? BuildNormal(request.Size, random) : BuildVariable(request, random);
 }
 
 }  // namespace
@@ -31,12 +82,19 @@ int RunSquareProgram(const std::vector<std::string>& words, std::ostream& out, s
     return 2;
   }
   try {
-    if (std::holds_alternative<HelpRequest>(arguments))
+    if (std::holds_alternative<HelpRequest>(arguments)) {
       out << kUsage;
-    else if (std::holds_alternative<VersionRequest>(arguments))
+    } else if (std::holds_alternative<VersionRequest>(arguments)) {
       out << "numorra-square " NUMORRA_VERSION "\n";
-    else
-      PrintSquare(std::get<SquareRequest>(arguments), out);
+    } else {
+      const auto& request = std::get<SquareRequest>(arguments);
+      const Result result = BuildSquare(request);
+      if (!result.Remark.empty()) err << "numorra-square: " << result.Remark << "\n";
+      WriteSquare(out, result.Square, result.Order, result.Total, request.Format);
+    }
+  } catch (const Unsolvable& unsolvable) {
+    err << "numorra-square: " << unsolvable.Why << "\n";
+    return 1;
   } catch (const RuntimeError& error) {
     err << "numorra-square: " << error.what() << "\n";
     return 1;

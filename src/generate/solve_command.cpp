@@ -1,38 +1,168 @@
 #include "generate/solve_command.h"
 
+#include <string>
+
 #include "app/board/numbers.h"
-#include "app/board/runtime_error.h"
-#include "generate/proposal.h"
+#include "app/board/totals_check.h"
 
 namespace numorra {
+namespace {
 
-SolveCommand::SolveCommand(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage,
-                           Random& random)
-    : board_(board), boxes_(boxes), dialogs_(dialogs), stage_(stage), normal_(random, stage) {}
+constexpr int kTries = 10;
+constexpr int kLargestQuickSize = 20;
+constexpr int kLowestGoodBase = 4;
+constexpr const char* kTooSmall = "grid size should be 3x3 or bigger";
+constexpr const char* kTooLarge = "grid size should be 50x50 or smaller";
+
+}  // namespace
+
+SolveCommand::SolveCommand(const SolvePorts& ports)
+    : ports_(ports),
+      normal_(ports.Dice, ports.Stage),
+      variable_(ports.Dice, ports.Stage, ports.List3) {}
 
 void SolveCommand::Auto() {
-  if (Val(boxes_.Size()) >= kMaxOrder + 1) {
-    dialogs_.Tell("grid size should be 50x50 or smaller");
+  if (ports_.TheBoard.SolveMode == ModeNormal) {
+    if (Val(ports_.Boxes.Size()) >= kMaxOrder + 1) {
+      ports_.Speech.Tell(kTooLarge);
+    } else {
+      BuildNormalSquare();
+    }
     return;
   }
-  BuildNormalSquare();
+  while (!TenTries()) {
+  }
 }
 
 void SolveCommand::BuildNormalSquare() {
-  const BusyPointer busy(stage_);
-  const CounterShown counter(stage_);
-  const std::int16_t order = ToInt16(Val(boxes_.Size()));
+  const BusyPointer busy(ports_.Stage);
+  const CounterShown counter(ports_.Stage);
+  const std::int16_t order = ToInt16(Val(ports_.Boxes.Size()));
   const CellTable square = normal_.Build(order);
+  const double total = order * (ToInt16(order * order + 1) / 2.0);
+  ports_.Boxes.SetSum(Decimal(total));
+  ports_.TheBoard.ShowSquare(order, total, square);
+}
 
-  const RedrawLock lock(board_.grid);
-  board_.GridSize = order;
-  board_.TargetTotal = order * (ToInt16(order * order + 1) / 2.0);
-  boxes_.SetSum(Decimal(board_.TargetTotal));
-  board_.SetupBoard();
-  board_.BoardValues = square;
-  board_.ShowBoard();
-  board_.grid.SetVisible(true);
-  board_.SetCurrentInBlock(1, 1);
+/// True when the command is over: a square was built, the plan was refused, or the player has had
+/// enough.
+bool SolveCommand::TenTries() {
+  if (!ReadPlan()) return true;
+  const CounterShown counter(ports_.Stage);
+  int tries = 1;
+  for (; tries <= kTries; ++tries) {
+    if (tries > 1 && !ReadPlan()) return true;
+    const SolveStatus status = BuildVariableSquare(tries, false);
+    if (status == SolveStatus::Built) return true;
+    if (status == SolveStatus::CellValueTooSmall) {
+      ++tries;
+      break;
+    }
+  }
+  // The board of before is out of sight while its future is open, and back when it has none.
+  Grid& grid = ports_.TheBoard.grid;
+  const bool visible = grid.Visible();
+  grid.SetVisible(false);
+  const bool enough = !ports_.Speech.Ask("Could not solve in" + std::to_string(tries - 1) +
+                                         " tries\ngive another 10 tries?");
+  grid.SetVisible(visible);
+  return enough;
+}
+
+/// Takes the plan from the boxes; false when it is refused.
+bool SolveCommand::ReadPlan() {
+  ports_.List2.Clear();
+  ports_.List3.Clear();
+  ports_.Stage.ShowCount("");
+  const double size = Val(ports_.Boxes.Size());
+  const double sum = Val(ports_.Boxes.Sum());
+  if (ToInt16(size) < 1) {
+    ports_.Speech.Tell(kTooSmall);
+    return false;
+  }
+  const VariablePlan plan = PlanVariableSquare(size, sum, ports_.Options.LimitToNine(),
+                                               ports_.Options.Corner().has_value());
+  if (plan.Sum != sum) ports_.Boxes.SetSum(Decimal(plan.Sum));
+  if (plan.GridSize < 3) {
+    ports_.Speech.Tell(kTooSmall);
+    return false;
+  }
+  if (plan.GridSize > kMaxOrder) {
+    ports_.Speech.Tell(kTooLarge);
+    return false;
+  }
+  if (plan.GridSize > kLargestQuickSize &&
+      !ports_.Speech.Ask("solution may take some time - continue?")) {
+    return false;
+  }
+  lastPlan_ = plan;
+  return true;
+}
+
+void SolveCommand::Again() {
+  if (!lastPlan_) return;
+  const CounterShown counter(ports_.Stage);
+  BuildVariableSquare(1, true);
+}
+
+/// Builds after the last plan, shows the square and says what is to be said about it. A try that
+/// failed is shown only when asked for.
+SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
+  const auto corner = ports_.Options.Corner();
+  VariableBuild build;
+  {
+    const BusyPointer busy(ports_.Stage);
+    build = variable_.Build(*lastPlan_, corner, tries);
+  }
+  const bool size3 = lastPlan_->GridSize == 3;
+  if (corner && !size3) ports_.Options.UncheckLimit();
+  if (build.Status == SolveStatus::CellValueTooSmall) {
+    ports_.Speech.Tell("Cell value too small");
+    return build.Status;
+  }
+  if (build.LeftFlat) ports_.Speech.Tell("cannot create matrix");
+  const bool built = build.Status == SolveStatus::Built;
+  if (built || showFailed) Show(build);
+  if (built && lastPlan_->BaseValue < kLowestGoodBase) {
+    ports_.Speech.Tell("result may not look good\ntotal sum for this grid is too small");
+  }
+  if (size3 && Val(ports_.Boxes.Sum()) != build.Total) {
+    ports_.Speech.Tell("Size 3 grid can be solved only for sums divisible by 3");
+  }
+  return build.Status;
+}
+
+void SolveCommand::Show(const VariableBuild& build) {
+  Board& board = ports_.TheBoard;
+  board.BaseValue = lastPlan_->BaseValue;
+  board.TotalsChecked = false;
+  board.ShowSquare(lastPlan_->GridSize, build.Total, build.Square);
+  ForEachCell(board.GridSize, [&](int r, int c) { board.CellFlags(r, c) = 0; });
+  for (const FlaggedCell& cell : build.LastFlags) {
+    board.CellFlags(cell.Row, cell.Column) = cell.Weight;
+  }
+}
+
+void SolveCommand::SpreadCornerDiagonals() {
+  Spread(&Spreading::SpreadCornerDiagonals);
+}
+
+void SolveCommand::SpreadCornerEdges() {
+  Spread(&Spreading::SpreadCornerEdges);
+}
+
+void SolveCommand::Spread(void (Spreading::*pass)()) {
+  Board& board = ports_.TheBoard;
+  if (!board.Shown()) return;
+  const BusyPointer busy(ports_.Stage);
+  ports_.Dice.Reseed();
+  Spreading spreading(TurningSquare(board.BoardValues, board.GridSize),
+                      lastPlan_ && lastPlan_->LimitToNine, variable_.PassCount, ports_.Dice,
+                      ports_.Stage);
+  (spreading.*pass)();
+  board.BoardValues = spreading.BoardValues.Settled();
+  board.ShowBoard();
+  RefreshTotals(board);
 }
 
 }  // namespace numorra

@@ -1,31 +1,63 @@
 #pragma once
 
+#include <optional>
+
 #include "app/board/board.h"
+#include "app/ports/build_options.h"
 #include "app/ports/build_stage.h"
 #include "app/ports/dialogs.h"
 #include "app/ports/square_boxes.h"
 #include "generate/normal_square.h"
+#include "generate/variable_square.h"
 
 namespace numorra {
 
-/// The command behind the "Auto" button: reads the boxes, builds a magic square and shows it with
-/// its totals, which stay uncoloured until a check. Whatever ends it early (a message, a run-time
-/// error, a newer command) leaves the board and its state as they were.
+/// What the solve commands work on and speak with.
+struct SolvePorts {
+  Board& TheBoard;
+  SquareBoxes& Boxes;
+  BuildOptions& Options;
+  Dialogs& Speech;
+  BuildStage& Stage;
+  Random& Dice;
+  ListBoy& List2;  ///< candidate corner values
+  ListBoy& List3;  ///< the order in which lines are varied
+};
+
+/// The commands that build magic squares: "Auto", "Solve Again" and the two corner passes. New
+/// boards are shown with their totals uncoloured until a check.
+///
+/// Builds work on squares of their own. Whatever ends a command early (a refusal, a run-time error,
+/// a newer command) leaves the board as it was; a sum box that was corrected stays corrected.
 class SolveCommand {
  public:
-  SolveCommand(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage,
-               Random& random);
+  explicit SolveCommand(const SolvePorts& ports);
 
+  /// Builds what the mode and the boxes ask for. In the Variable mode up to ten builds are tried,
+  /// then the player is asked about ten more.
   void Auto();
+
+  /// One more square after the plan of the last "Auto" in the Variable mode, whatever the boxes say
+  /// now; does nothing before there is one.
+  void Again();
+  bool CanSolveAgain() const { return lastPlan_.has_value(); }
+
+  /// Varies the board on the screen by one of the two corner passes.
+  void SpreadCornerDiagonals();
+  void SpreadCornerEdges();
 
  private:
   void BuildNormalSquare();
+  bool TenTries();
+  bool ReadPlan();
+  SolveStatus BuildVariableSquare(int tries, bool showFailed);
+  void Show(const VariableBuild& build);
+  void Spread(void (Spreading::*pass)());
 
-  Board& board_;
-  SquareBoxes& boxes_;
-  Dialogs& dialogs_;
-  BuildStage& stage_;
+  SolvePorts ports_;
   NormalSquare normal_;
+  VariableSquare variable_;
+  std::optional<VariablePlan> lastPlan_;
 };
 
 }  // namespace numorra

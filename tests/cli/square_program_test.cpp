@@ -52,6 +52,31 @@ TEST(SquareProgram, WritesTheOtherFormats) {
             "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
 }
 
+TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
+  struct Case {
+    const char* line;
+    double total;
+    const char* remark;
+  };
+  const Case cases[] = {{"--size 6 --sum 100", 100, ""},
+                        {"--size 50 --sum 32767", 32767, ""},
+                        {"--size 8 --sum 77 --limit-to-9", 40,
+                         "numorra-square: the nearest total within reach is 40\n"},
+                        {"--size 7 --corner 3", 175, ""},
+                        {"--size 5 --sum 50 --corner 900", 50,
+                         "numorra-square: the corner is out of reach with this sum\n"},
+                        {"--top-row 30,9,19,95", 153, ""},
+                        {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};
+  for (const Case& c : cases) {
+    const Outcome run = RunWith(std::string("--format csv ") + c.line);
+    EXPECT_EQ(run.Status, 0) << c.line;
+    EXPECT_EQ(run.Err, c.remark) << c.line;
+    EXPECT_EQ(slow::WhyNotMagic(ReadCsv(run.Out), c.total), "") << c.line;
+  }
+  EXPECT_EQ(RunWith("--size 10 --sum 25").Status, 1);
+  EXPECT_EQ(RunWith("--size 4 --sum 10").Status, 1);
+}
+
 TEST(SquareProgram, RepeatsARunFromItsSeed) {
   EXPECT_EQ(RunWith("--size 15 --seed 7").Out, RunWith("--size 15 --seed 7").Out);
   bool differs = false;

@@ -25,11 +25,21 @@ class ScriptedDialogs : public Dialogs {
     return answer;
   }
 
+  std::optional<std::string> AskText(const std::string& prompt,
+                                     const std::string& initial) override {
+    Said.push_back(prompt + " [" + initial + "]");
+    if (Texts.empty()) return std::nullopt;
+    const std::string text = Texts.front();
+    Texts.pop_front();
+    return text;
+  }
+
   /// What has been said since the last look.
   std::vector<std::string> Take() { return std::exchange(Said, {}); }
 
   std::vector<std::string> Said;
   std::deque<bool> Answers;
+  std::deque<std::string> Texts;
 };
 
 }  // namespace numorra

@@ -13,7 +13,8 @@ namespace numorra {
 /// A fresh window, driven through its controls as a person would; boxes are answered from a list.
 class WindowTest : public testing::Test {
  protected:
-  WindowTest() {
+  explicit WindowTest(int frameMilliseconds = CommandRunner::kFrameMilliseconds)
+      : window_({&clock_, &dialogs_, frameMilliseconds}) {
     window_.show();
     QCoreApplication::processEvents();
   }
@@ -61,7 +62,7 @@ class WindowTest : public testing::Test {
 
   TickingClock clock_{99};
   ScriptedDialogs dialogs_;
-  MainWindow window_{{.TimeOfDay = &clock_, .Boxes = &dialogs_}};
+  MainWindow window_;
 };
 
 }  // namespace numorra

@@ -45,6 +45,17 @@ void Board::ShowBoard() {
   show(0, 0);
 }
 
+void Board::ShowSquare(std::int16_t order, double target, const CellTable& square) {
+  const RedrawLock lock(grid);
+  GridSize = order;
+  TargetTotal = target;
+  SetupBoard();
+  BoardValues = square;
+  ShowBoard();
+  grid.SetVisible(true);
+  SetCurrentInBlock(1, 1);
+}
+
 void Board::MarkAllTotalsWrong() {
   for (int line = 1; line <= GridSize + 1; ++line) {
     grid.SetColours(line, 0, ColorTable[kWrongTotal], ColorTable[kTotalText]);

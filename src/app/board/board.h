@@ -56,6 +56,10 @@ struct Board {
   /// Computes the totals and writes values and totals into the grid; changes no colours.
   void ShowBoard();
 
+  /// Puts a new board of order `order` with the values of `square` in the grid and in sight, its
+  /// totals uncoloured, its first value cell current.
+  void ShowSquare(std::int16_t order, double target, const CellTable& square);
+
   /// Colours every total but (0, 0) as wrong.
   void MarkAllTotalsWrong();
 

@@ -18,6 +18,10 @@ class Dialogs {
 
   /// A question; true for Yes, false for No and for a box closed without an answer.
   virtual bool Ask(const std::string& question) = 0;
+
+  /// A line of text that starts with `initial`; nothing when the box is left without an answer.
+  virtual std::optional<std::string> AskText(const std::string& prompt,
+                                             const std::string& initial) = 0;
 };
 
 }  // namespace numorra

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+namespace numorra {
+
+/// What the player has chosen for squares of any total.
+class BuildOptions {
+ public:
+  virtual ~BuildOptions() = default;
+
+  /// No cell above 9.
+  virtual bool LimitToNine() const = 0;
+  virtual void UncheckLimit() = 0;
+
+  /// The value wanted at the top left; nothing for any.
+  virtual std::optional<double> Corner() const = 0;
+};
+
+}  // namespace numorra

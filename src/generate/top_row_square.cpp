@@ -1,0 +1,164 @@
+#include "generate/top_row_square.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+
+#include "app/board/board.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kHighest = 9999;
+constexpr int kSteps = 4096;  // of the search between two yields
+
+/// The search for one quality. Cells are placed in an order in which each is decided as early as
+/// can be; `cells_` holds those placed so far.
+class Search {
+ public:
+  Search(const TopRow& top, TopRowQuality quality, Random& random,
+         const std::function<void()>& yield)
+      : lowest_(quality == TopRowQuality::WithZeros ? 0 : 1),
+        different_(quality == TopRowQuality::AllDifferent),
+        random_(random),
+        yield_(yield) {
+    for (int i = 0; i < 4; ++i)
+      Cell(1, i + 1) = top[static_cast<std::size_t>(i)];
+    sum_ = top[0] + top[1] + top[2] + top[3];
+  }
+
+  std::optional<CellTable> Run() {
+    for (int column = 1; column <= 4; ++column) {
+      if (!Place(1, column, Cell(1, column))) return std::nullopt;
+    }
+    if (!PlaceBottomRow()) return std::nullopt;
+    CellTable square;
+    ForEachCell(4, [&](int r, int c) { square(r, c) = Cell(r, c); });
+    return square;
+  }
+
+ private:
+  bool PlaceBottomRow() {
+    const int a = Cell(1, 1), b = Cell(1, 2), c = Cell(1, 3), d = Cell(1, 4);
+    return TryAll(b + c, [&](int m) {
+      return With(4, 1, m, [&] {
+        return With(4, 4, b + c - m, [&] {
+          return TryAll(a + d, [&](int n) {
+            return With(4, 2, n,
+                        [&] { return With(4, 3, a + d - n, [&] { return PlaceCentre(); }); });
+          });
+        });
+      });
+    });
+  }
+
+  bool PlaceCentre() {
+    return TryAll(sum_ - Cell(1, 2) - Cell(4, 2), [&](int f) {
+      return With(2, 2, f, [&] {
+        return With(3, 2, sum_ - Cell(1, 2) - Cell(4, 2) - f, [&] {
+          return With(3, 3, sum_ - Cell(1, 1) - Cell(4, 4) - f, [&] {
+            return With(2, 3, sum_ - Cell(1, 3) - Cell(4, 3) - Cell(3, 3),
+                        [&] { return PlaceSides(); });
+          });
+        });
+      });
+    });
+  }
+
+  bool PlaceSides() {
+    return TryAll(sum_ - Cell(1, 1) - Cell(4, 1), [&](int e) {
+      return With(2, 1, e, [&] {
+        return With(3, 1, sum_ - Cell(1, 1) - Cell(4, 1) - e, [&] {
+          return With(2, 4, sum_ - e - Cell(2, 2) - Cell(2, 3), [&] {
+            return With(3, 4, sum_ - Cell(3, 1) - Cell(3, 2) - Cell(3, 3), [] { return true; });
+          });
+        });
+      });
+    });
+  }
+
+  /// Tries a number and what is left of `pair` for its partner, both lowest_ or more.
+  template <class Try>
+  bool TryAll(int pair, Try attempt) {
+    const int count = pair - 2 * lowest_ + 1;
+    if (count <= 0) return false;
+    const int start = random_.Between(0, count - 1);
+    for (int step = 0; step < count; ++step) {
+      if (++steps_ % kSteps == 0) yield_();
+      if (attempt(lowest_ + (start + step) % count)) return true;
+    }
+    return false;
+  }
+
+  template <class Next>
+  bool With(int row, int column, int value, Next next) {
+    const std::size_t before = placed_;
+    if (Place(row, column, value) && next()) return true;
+    placed_ = before;
+    return false;
+  }
+
+  bool Place(int row, int column, int value) {
+    if (value < lowest_) return false;
+    const auto end = values_.begin() + static_cast<std::ptrdiff_t>(placed_);
+    if (different_ && std::find(values_.begin(), end, value) != end) return false;
+    values_[placed_++] = value;
+    Cell(row, column) = value;
+    return true;
+  }
+
+  int& Cell(int row, int column) { return cells_[static_cast<std::size_t>(4 * row + column - 5)]; }
+
+  int lowest_;
+  bool different_;
+  Random& random_;
+  const std::function<void()>& yield_;
+  int sum_ = 0;
+  std::array<int, 16> cells_{};
+  std::array<int, 16> values_{};
+  std::size_t placed_ = 0;
+  std::uint32_t steps_ = 0;
+};
+
+}  // namespace
+
+std::optional<TopRow> ParseTopRow(const std::string& text) {
+  TopRow top{};
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  const auto skipBlanks = [&] {
+    const char* const begin = at;
+    while (at != end && (*at == ' ' || *at == '\t'))
+      ++at;
+    return at != begin;
+  };
+  for (std::size_t i = 0; i < top.size(); ++i) {
+    bool separated = skipBlanks();
+    if (i > 0 && at != end && *at == ',') {
+      ++at;
+      separated = true;
+      skipBlanks();
+    }
+    if (i > 0 && !separated) return std::nullopt;
+    const auto result = std::from_chars(at, end, top[i]);
+    if (result.ec != std::errc() || top[i] < 0 || top[i] > kHighest) return std::nullopt;
+    at = result.ptr;
+  }
+  skipBlanks();
+  return at == end ? std::optional(top) : std::nullopt;
+}
+
+std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,
+                                             const std::function<void()>& yield) {
+  const double total = top[0] + top[1] + top[2] + top[3];
+  for (const auto quality :
+       {TopRowQuality::AllDifferent, TopRowQuality::Repeated, TopRowQuality::WithZeros}) {
+    random.Reseed();
+    if (auto square = Search(top, quality, random, yield).Run()) {
+      return TopRowSquare{*square, total, quality};
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace numorra

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "app/board/random.h"
+#include "app/ports/build_stage.h"
+#include "generate/spreading.h"
+#include "generate/variable_plan.h"
+#include "listbox/list_boy.h"
+
+namespace numorra {
+
+/// How one build ended.
+enum class SolveStatus {
+  Built,
+  TryAgain,           ///< the remainder could not be spread; the square is magic without it
+  CellValueTooSmall,  ///< the remainder is larger than the cells; there is no square
+};
+
+struct VariableBuild {
+  SolveStatus Status = SolveStatus::Built;
+  CellTable Square;
+  double Total = 0;       ///< what every line of the square adds up to
+  bool LeftFlat = false;  ///< a 3 x 3 square of a base too small to be varied
+  Pattern LastFlags;      ///< the pattern added last
+};
+
+/// Magic squares of any total: a flat board is varied by zero-sum patterns (Spreading, exchanges),
+/// then what is left of the wanted total is added to every line. With a corner value wanted, the
+/// remainder is left out and the square has that value at the top left. Every cell is a whole
+/// number of 1 or more.
+class VariableSquare {
+ public:
+  VariableSquare(Random& random, BuildStage& stage, ListBoy& order)
+      : random_(random), stage_(stage), order_(order) {}
+
+  /// `corner`: the value wanted at the top left, where there is one; the limit then does not apply.
+  /// `tries`: 1 for the first of several builds of a plan, which is varied more than later ones.
+  VariableBuild Build(const VariablePlan& plan, std::optional<double> corner, int tries);
+
+  /// Pattern applications in the current build, or since it.
+  std::int32_t PassCount = 0;
+
+ private:
+  void SpreadAll(Spreading& spreading, int tries);
+  bool SpreadRemainder(TurningSquare& square, const VariablePlan& plan);
+  void BringCorner(Spreading& spreading, double base, double corner);
+
+  Random& random_;
+  BuildStage& stage_;
+  ListBoy& order_;
+};
+
+inline bool IsEvenSize(int order) {
+  return order % 2 == 0;
+}
+
+}  // namespace numorra

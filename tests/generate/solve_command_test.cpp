@@ -1,0 +1,280 @@
+#include "generate/solve_command.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "generate/corner_choice.h"
+#include "generate/top_row_command.h"
+#include "support/boards.h"
+#include "support/solve_harness.h"
+
+namespace numorra {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+constexpr const char* kNotGood = "result may not look good\ntotal sum for this grid is too small";
+
+class SolveCommandTest : public testing::Test, protected SolveHarness {
+ protected:
+  std::string WhyNotMagicNow(double total) {
+    return slow::WhyNotMagic(ShownRows(TheBoard.grid), total);
+  }
+
+  void ExpectSettled() {
+    EXPECT_FALSE(Stage.Busy);
+    EXPECT_FALSE(Stage.Counting);
+    EXPECT_FALSE(TheBoard.grid.RedrawLocked());
+  }
+};
+
+TEST_F(SolveCommandTest, BuildsCorrectsAndTells) {
+  struct Case {
+    const char *size, *sum;
+    bool limit;
+    double total;
+    const char* sumAfter;
+    Messages said;
+  };
+  const Case cases[] = {
+      {"6", "100", false, 100, "100", {}},
+      {"3", "15", false, 15, "15", {}},
+      {"3", "16", false, 15, "16", {"Size 3 grid can be solved only for sums divisible by 3"}},
+      {"3", "6", false, 6, "6", {"cannot create matrix", kNotGood}},
+      {"5", "7", false, 10, "10", {kNotGood}},
+      {"10", "100", true, 50, "50", {}},
+      {"10", "44", true, 40, "44", {}},
+      {"7", "100.9", false, 101, "100.9", {}},
+      {" 8x", "80", false, 80, "80", {}}};
+  for (const Case& c : cases) {
+    Options.Limit = c.limit;
+    Auto(c.size, c.sum);
+    EXPECT_EQ(Speech.Take(), c.said) << c.size << "/" << c.sum;
+    EXPECT_EQ(WhyNotMagicNow(c.total), "") << c.size << "/" << c.sum;
+    EXPECT_EQ(TheBoard.TargetTotal, c.total);
+    EXPECT_EQ(Boxes.SumText, c.sumAfter);
+    EXPECT_FALSE(TheBoard.TotalsChecked);
+    EXPECT_EQ(TheBoard.grid.Background(0, 0), kWindowBackground);
+    ExpectSettled();
+  }
+}
+
+TEST_F(SolveCommandTest, RefusesAndKeepsTheBoard) {
+  Auto("4", "40");
+  const auto before = ShownRows(TheBoard.grid);
+  struct Case {
+    const char *size, *sum, *said;
+  };
+  const Case cases[] = {{"2", "30", "grid size should be 3x3 or bigger"},
+                        {"", "30", "grid size should be 3x3 or bigger"},
+                        {"0", "30", "grid size should be 3x3 or bigger"},
+                        {"-5", "30", "grid size should be 3x3 or bigger"},
+                        {"abc", "30", "grid size should be 3x3 or bigger"},
+                        {"51", "3000", "grid size should be 50x50 or smaller"},
+                        {"21", "3000", "solution may take some time - continue?"}};
+  for (const Case& c : cases) {
+    Auto(c.size, c.sum);
+    EXPECT_EQ(Speech.Take(), Messages{c.said}) << c.size;
+    EXPECT_EQ(ShownRows(TheBoard.grid), before);
+    EXPECT_EQ(TheBoard.GridSize, 4);
+    EXPECT_EQ(TheBoard.BaseValue, 10);
+    EXPECT_EQ(TheBoard.TargetTotal, 40);
+    ExpectSettled();
+  }
+  Boxes.SizeText = "3";
+  Boxes.SumText = "1000000";
+  EXPECT_THROW(Commands.Auto(), RuntimeError);
+  EXPECT_EQ(ShownRows(TheBoard.grid), before);
+  Speech.Answers = {true};
+  Auto("21", "3000");
+  Speech.Take();
+  EXPECT_EQ(WhyNotMagicNow(3000), "");
+}
+
+TEST_F(SolveCommandTest, AsksAfterTenTriesAndGoesOnWhenTold) {
+  Auto("4", "40");
+  const auto before = ShownRows(TheBoard.grid);
+  const std::string question = "Could not solve in10 tries\ngive another 10 tries?";
+  Speech.Answers = {true, true, false};
+  Auto("4", "10");
+  EXPECT_EQ(Speech.Take(), (Messages{question, question, question}));
+  EXPECT_EQ(ShownRows(TheBoard.grid), before) << "the board of before is back";
+  EXPECT_TRUE(TheBoard.grid.Visible());
+  ExpectSettled();
+}
+
+TEST_F(SolveCommandTest, StopsAtOnceWhereTheRemainderIsLargerThanTheCells) {
+  Auto("10", "25");
+  EXPECT_EQ(Speech.Take(), (Messages{"Cell value too small",
+                                     "Could not solve in1 tries\ngive another 10 tries?"}));
+  EXPECT_FALSE(TheBoard.Shown());
+  ExpectSettled();
+}
+
+TEST_F(SolveCommandTest, SolveAgainFollowsTheLastPlanWhateverTheBoxesSay) {
+  Commands.Again();
+  EXPECT_FALSE(TheBoard.Shown());
+  Auto("6", "100");
+  const auto first = ShownRows(TheBoard.grid);
+  Boxes.SizeText = "9";
+  Commands.Again();
+  EXPECT_NE(ShownRows(TheBoard.grid), first);
+  EXPECT_EQ(WhyNotMagicNow(100), "");
+  Commands.Again();
+  EXPECT_EQ(WhyNotMagicNow(100), "") << "the total is not spread twice";
+  Auto("4", "10");
+  Speech.Take();
+  Commands.Again();
+  EXPECT_EQ(WhyNotMagicNow(8), "") << "a failed try stands as it is, without a question";
+  EXPECT_EQ(TheBoard.TargetTotal, 8);
+}
+
+TEST_F(SolveCommandTest, ACornerUnchecksTheLimit) {
+  Options.Limit = true;
+  Options.WantedCorner = 7;
+  Auto("10", "104");
+  EXPECT_FALSE(Options.Limit);
+  EXPECT_EQ(TheBoard.BoardValues(1, 1), 7);
+  EXPECT_EQ(WhyNotMagicNow(100), "");
+}
+
+TEST_F(SolveCommandTest, ASupersededBuildLeavesNoTrace) {
+  Auto("8", "400");
+  const auto before = ShownRows(TheBoard.grid);
+  for (const int yields : {0, 1, 50, 300}) {
+    Stage.YieldsLeft = yields;
+    EXPECT_THROW(Auto("12", "900"), Superseded);
+    EXPECT_EQ(ShownRows(TheBoard.grid), before);
+    EXPECT_EQ(TheBoard.GridSize, 8);
+    ExpectSettled();
+  }
+  TheBoard.SolveMode = ModeNormal;
+  Stage.YieldsLeft = 0;
+  EXPECT_THROW(Auto("9", ""), Superseded);
+  EXPECT_EQ(ShownRows(TheBoard.grid), before);
+}
+
+TEST_F(SolveCommandTest, CornerPassesVaryTheBoardOnTheScreen) {
+  Commands.SpreadCornerEdges();
+  EXPECT_FALSE(TheBoard.Shown());
+  Auto("9", "450");
+  const auto before = ShownRows(TheBoard.grid);
+  const std::string count = Stage.Count;
+  Commands.SpreadCornerDiagonals();
+  const auto once = ShownRows(TheBoard.grid);
+  EXPECT_NE(once, before);
+  EXPECT_EQ(std::stoi(Stage.Count), std::stoi(count) + 2 * 3) << "the count goes on";
+  Commands.SpreadCornerEdges();
+  EXPECT_NE(ShownRows(TheBoard.grid), once);
+  EXPECT_EQ(WhyNotMagicNow(450), "");
+}
+
+struct ChoiceList : ListBox {
+  void AddItem(const std::string& text) override { Entries.push_back(text); }
+  int ListCount() const override { return 0; }
+  std::string List(int) const override { return {}; }
+  std::vector<std::string> Entries;
+};
+
+TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
+  struct Case {
+    const char *size, *sum;
+    std::size_t entries;
+    const char *second, *last, *sumAfter;
+  };
+  const Case cases[] = {{"5", "25", 10, "1", "9", "25"},
+                        {"4", "40", 1, "any", "any", "40"},
+                        {"5", "3", 4, "1", "3", "10"},
+                        {"", "50", 1, "any", "any", "50"},
+                        {"5", "50000", 102, "1", "19801", "50000"}};
+  for (const Case& c : cases) {
+    ChoiceList choice;
+    Boxes.SizeText = c.size;
+    Boxes.SumText = c.sum;
+    OfferCorners(TheBoard, Boxes, List2, choice);
+    ASSERT_EQ(choice.Entries.size(), c.entries) << c.size << "/" << c.sum;
+    EXPECT_EQ(choice.Entries[0], "any");
+    EXPECT_EQ(choice.Entries[c.entries > 1 ? 1 : 0], c.second);
+    EXPECT_EQ(choice.Entries.back(), c.last);
+    EXPECT_EQ(Boxes.SumText, c.sumAfter);
+    if (c.entries > 1) {
+      EXPECT_NE(std::find(choice.Entries.begin(), choice.Entries.end(),
+                          std::to_string(TheBoard.BaseValue)),
+                choice.Entries.end());
+    }
+  }
+}
+
+class TopRowTest : public SolveCommandTest {
+ protected:
+  TopRowCommand command_{TheBoard, Boxes, Speech, Stage, Dice};
+};
+
+TEST_F(TopRowTest, AsksUntilATopRowIsGivenAndShowsItsSquare) {
+  Speech.Texts = {"30,9,19", "30,9,19,95"};
+  EXPECT_TRUE(command_.Run());
+  EXPECT_EQ(Speech.Take(),
+            (Messages{"Top row: four numbers, such as the parts of a date [30,9,19,95]",
+                      "top row should be four whole numbers from 0 to 9999",
+                      "Top row: four numbers, such as the parts of a date [30,9,19]"}));
+  EXPECT_EQ(WhyNotMagicNow(153), "");
+  EXPECT_EQ(ShownRows(TheBoard.grid)[0], (std::vector<double>{30, 9, 19, 95}));
+  EXPECT_EQ(Boxes.SizeText, "4");
+  EXPECT_EQ(Boxes.SumText, "153");
+  EXPECT_EQ(TheBoard.SolveMode, ModeVariable);
+  EXPECT_FALSE(command_.Run()) << "left without an answer";
+  EXPECT_EQ(Speech.Take().size(), 1U);
+  EXPECT_EQ(WhyNotMagicNow(153), "");
+}
+
+TEST_F(TopRowTest, SaysWhenItHadToStepBack) {
+  struct Case {
+    const char* row;
+    std::size_t remarks;
+  };
+  for (const Case& c : {Case{"1,1,19,70", 1}, {"0,0,0,0", 1}, {"5,0,0,0", 1}, {"31,12,19,99", 0}}) {
+    Speech.Texts = {c.row};
+    EXPECT_TRUE(command_.Run()) << c.row;
+    EXPECT_EQ(Speech.Take().size(), 1 + c.remarks) << c.row;
+    EXPECT_EQ(WhyNotMagicNow(TheBoard.TargetTotal), "") << c.row;
+  }
+}
+
+TEST(TopRows, AreFourNumbersWithCommasOrBlanks) {
+  const TopRow row{30, 9, 19, 95};
+  for (const char* text : {"30,9,19,95", " 30 , 9 ,19, 95 ", "30 9 19 95", "30\t9,19 95"}) {
+    EXPECT_EQ(ParseTopRow(text), row) << text;
+  }
+  for (const char* text : {"", "1,2,3", "1,2,3,4,5", "1,2,3,x", "1,2,3,-4", "1,2,3,10000", "1,,2,3",
+                           "1;2;3;4", "1.5,2,3,4", "1,2,3,99999999999"}) {
+    EXPECT_EQ(ParseTopRow(text), std::nullopt) << text;
+  }
+}
+
+TEST(TopRows, MakeSquaresOfNearlyAllBirthdays) {
+  TickingClock clock(4);
+  ClockSeededRandom random(clock);
+  int birthdays = 0, allDifferent = 0;
+  for (int year = 50; year < 100; year += 7) {
+    for (int month = 1; month <= 12; ++month) {
+      for (int day = 1; day <= 28; day += 3) {
+        const auto found = FindTopRowSquare({day, month, 19, year}, random, [] {});
+        ASSERT_TRUE(found);
+        const auto rows = RowsOf(found->Square, 4);
+        ASSERT_EQ(slow::WhyNotMagic(rows, day + month + 19 + year), "");
+        EXPECT_EQ(rows[0], (std::vector<double>{1.0 * day, 1.0 * month, 19, 1.0 * year}));
+        std::set<double> values;
+        for (const auto& r : rows)
+          values.insert(r.begin(), r.end());
+        EXPECT_EQ(values.size() == 16, found->Quality == TopRowQuality::AllDifferent);
+        EXPECT_GE(*values.begin(), found->Quality == TopRowQuality::WithZeros ? 0 : 1);
+        ++birthdays;
+        if (found->Quality == TopRowQuality::AllDifferent) ++allDifferent;
+      }
+    }
+  }
+  EXPECT_GT(allDifferent, birthdays * 8 / 10);
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,263 @@
+#include "generate/spreading.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "generate/exchange.h"
+#include "support/boards.h"
+#include "support/scripted_random.h"
+#include "transform/symmetry.h"
+
+namespace numorra {
+namespace {
+
+/// The passes as they are told, on whole matrices that are turned cell by cell: slow and obvious.
+class PlainSpreading {
+ public:
+  PlainSpreading(const CellTable& values, int order, bool limit, Random& random)
+      : Values(values), n_(order), limit_(limit), random_(random) {}
+
+  void CornerDiagonals() {
+    for (int k = 2; k < n_ + 1 - k; ++k) {
+      const int m = n_ + 1 - k;
+      Twice({{1, 1, -1},
+             {1, n_, 1},
+             {n_, 1, 1},
+             {n_, n_, -1},
+             {k, k, 2},
+             {k, m, -2},
+             {n_, k, -2},
+             {n_, m, 2}});
+    }
+  }
+
+  void CornerEdges() {
+    for (int c = n_ - 1; c > 1; --c) {
+      Twice({{1, 1, 1}, {1, n_, 1}, {n_, 1, -1}, {n_, n_, -1}, {1, c, -2}, {n_, c, 2}});
+    }
+  }
+
+  void Rings() {
+    for (int k = 1; k <= (n_ + 1) / 2 - 1; ++k)
+      OneRing(k, n_ + 1 - k);
+  }
+
+  CellTable Values;
+  int Passes = 0;
+
+ private:
+  void Write(const std::vector<FlaggedCell>& cells, int sign) {
+    flags_ = CellTable();
+    for (const auto& cell : cells)
+      flags_(cell.Row, cell.Column) = sign * cell.Weight;
+  }
+
+  void Apply(double factor) {
+    ++Passes;
+    if (limit_ && Highest(factor) > 9) factor = 0;
+    ForEachCell(n_, [&](int r, int c) { Values(r, c) += factor * flags_(r, c); });
+  }
+
+  double Highest(double factor) {
+    double highest = 0;
+    ForEachCell(n_, [&](int r, int c) {
+      highest = std::max(highest, Values(r, c) + factor * flags_(r, c));
+    });
+    return highest;
+  }
+
+  double Factor() {
+    double m = 9999;
+    ForEachCell(n_, [&](int r, int c) {
+      if (flags_(r, c) < 0 && Values(r, c) < m) m = Values(r, c);
+    });
+    if (m == 1) return 0;
+    const double lim = m / 2 - 1;
+    double f = 1 + random_.Next() * lim;
+    if (f > lim) f = lim;
+    f = std::nearbyint(f);
+    return limit_ && Highest(f) > 9 ? 0 : f;
+  }
+
+  void Twice(const std::vector<FlaggedCell>& cells) {
+    for (const int sign : {1, -1}) {
+      Write(cells, sign);
+      Apply(Factor());
+    }
+    RotateBoard90(Values, n_);
+  }
+
+  void OneRing(int a, int c) {
+    int j1 = 0, i1 = 0, j2 = 0, i2 = 0;
+    for (int round = 0; round < 100; ++round) {
+      double low = 9999, low2 = 9999, high = -1, high2 = -1;
+      for (int x = a + 1; x < c; ++x) {
+        if (Values(a, x) < low) low = Values(a, j1 = x);
+        if (Values(x, c) < low2) low2 = Values(i1 = x, c);
+      }
+      if (!Ring(a, c, i1, j1, 1)) return;
+      for (int x = a + 1; x < c; ++x) {
+        if (Values(1, x) > high) high = Values(1, j2 = x);
+        if (Values(x, n_) > high2) high2 = Values(i2 = x, n_);
+      }
+      if (!Ring(a, c, i2, j2, -1)) return;
+      RotateBoard90(Values, n_);
+    }
+  }
+
+  bool Ring(int a, int c, int i, int j, int sign) {
+    if (i == 0 || j == 0) return false;
+    Write({{a, a, -1},
+           {a, c, -2},
+           {a, j, 3},
+           {c, j, -3},
+           {i, a, -1},
+           {i, c, 1},
+           {c, a, 2},
+           {c, c, 1}},
+          sign);
+    bool low = false;
+    ForEachCell(n_, [&](int r, int cc) {
+      if (flags_(r, cc) != 0 && Values(r, cc) + flags_(r, cc) < 1) low = true;
+    });
+    if (!low) Apply(1);
+    return !low;
+  }
+
+  CellTable flags_;
+  int n_;
+  bool limit_;
+  Random& random_;
+};
+
+CellTable VariedBoard(int order, int base, bool limit, std::uint64_t seed) {
+  TickingClock clock(seed);
+  ClockSeededRandom random(clock);
+  SilentStage stage;
+  ListBoy list(random);
+  std::int32_t passes = 0;
+  TurningSquare flat(order);
+  flat.Fill(base);
+  Spreading spreading(flat, limit, passes, random, stage);
+  ThirdCornerPass(spreading, list);
+  return spreading.BoardValues.Settled();
+}
+
+TEST(Spreading, IsThePlainMethodCellForCell) {
+  std::uint64_t seed = 1;
+  for (int order = 4; order <= 13; ++order) {
+    for (const int base : {2, 3, 4, 5, 12, 50, 10500}) {
+      for (const bool limit : {false, true}) {
+        if (limit && base > 5) continue;
+        const CellTable start = VariedBoard(order, base, limit, ++seed);
+        TickingClock clocks[] = {TickingClock(seed), TickingClock(seed)};
+        ClockSeededRandom first(clocks[0]), second(clocks[1]);
+        SilentStage stage;
+        std::int32_t passes = 0;
+        Spreading fast(TurningSquare(start, order), limit, passes, first, stage);
+        PlainSpreading plain(start, order, limit, second);
+        fast.SpreadCornerDiagonals();
+        plain.CornerDiagonals();
+        fast.SpreadCornerEdges();
+        plain.CornerEdges();
+        fast.SpreadRings();
+        plain.Rings();
+        ASSERT_EQ(RowsOf(fast.BoardValues.Settled(), order), RowsOf(plain.Values, order))
+            << "order " << order << " base " << base << " limit " << limit;
+        ASSERT_EQ(passes, plain.Passes);
+      }
+    }
+  }
+}
+
+class FlatSpreading : public testing::Test {
+ protected:
+  Spreading Make(int order, double base, bool limit = false) {
+    TurningSquare flat(order);
+    flat.Fill(base);
+    return {flat, limit, passes_, random_, stage_};
+  }
+
+  ScriptedRandom random_{{0.999}};
+  SilentStage stage_;
+  std::int32_t passes_ = 0;
+};
+
+TEST_F(FlatSpreading, CountsApplicationsThatCannotChangeAnything) {
+  auto threes = Make(8, 3);
+  threes.SpreadCornerDiagonals();
+  EXPECT_EQ(passes_, 2 * 3);
+  threes.SpreadCornerEdges();
+  EXPECT_EQ(passes_, 2 * 3 + 2 * 6);
+  EXPECT_EQ(RowsOf(threes.BoardValues.Settled(), 8), slow::Rows(8, std::vector<double>(8, 3)));
+  auto ones = Make(8, 1);
+  passes_ = 0;
+  ones.SpreadRings();
+  EXPECT_EQ(passes_, 0);
+  passes_ = std::numeric_limits<std::int32_t>::max();
+  EXPECT_THROW(threes.SpreadCornerEdges(), RuntimeError);
+}
+
+TEST_F(FlatSpreading, ChoosesMultipliersByTheSmallestLoweredCell) {
+  const std::pair<double, int> cases[] = {{1, 0}, {2, 0}, {3, 0}, {4, 1}, {6, 2}, {50, 24}};
+  for (const auto& [base, factor] : cases) {
+    auto spreading = Make(4, base);
+    spreading.CellFlags.Add(1, 1, -1);
+    spreading.CellFlags.Add(1, 2, 1);
+    EXPECT_EQ(spreading.PatternFactor(), factor) << base;
+  }
+  auto limited = Make(4, 9, true);
+  limited.CellFlags.Add(1, 1, -1);
+  limited.CellFlags.Add(1, 2, 1);
+  EXPECT_EQ(limited.PatternFactor(), 0);
+  limited.ApplyPattern(1);
+  EXPECT_EQ(limited.BoardValues(1, 1), 9) << "the limit stands where every application passes";
+}
+
+TEST_F(FlatSpreading, EndsARingThatFindsNoPlace) {
+  auto huge = Make(6, 20000);
+  huge.SpreadRings();
+  EXPECT_EQ(passes_, 0);
+}
+
+TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
+  TickingClock clock(8);
+  ClockSeededRandom random(clock);
+  SilentStage stage;
+  std::int32_t passes = 0;
+  for (const int order : {4, 5, 6, 7, 8, 13, 50}) {
+    Spreading spreading(TurningSquare(order), false, passes, random, stage);
+    ForEachCell(order, [&](int r, int c) {
+      const bool diagonal = r == c || r + c == order + 1;
+      for (int time = 0; time < 3; ++time) {
+        ASSERT_EQ(BuildExchange(spreading, r, c), order > 4 || !diagonal) << order << r << c;
+        CellTable sums;
+        for (const auto& cell : spreading.CellFlags) {
+          sums(cell.Row, cell.Column) += cell.Weight;
+          if (r != 1 || c != 1) {
+            EXPECT_FALSE(cell.Row == 1 && cell.Column == 1 && cell.Weight != 0);
+          }
+        }
+        ASSERT_EQ(slow::WhyNotMagic(RowsOf(sums, order), 0), "");
+        if (order > 4) {
+          EXPECT_EQ(sums(r, c), 1);
+        }
+      }
+    });
+  }
+}
+
+TEST(TurningSquares, TurnLikeTheBoardItself) {
+  CellTable cells = TableOf(ParseRows("1 2 3 4 / 5 6 7 8 / 9 10 11 12 / 13 14 15 16"));
+  TurningSquare square(cells, 4);
+  for (int turn = 0; turn < 5; ++turn) {
+    RotateBoard90(cells, 4);
+    square.RotateBoard90();
+    EXPECT_EQ(RowsOf(square.Settled(), 4), RowsOf(cells, 4));
+  }
+  EXPECT_THROW(TurningSquare(52), RuntimeError);
+  EXPECT_THROW(TurningSquare(0), RuntimeError);
+}
+
+}  // namespace
+}  // namespace numorra

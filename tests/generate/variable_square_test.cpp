@@ -1,0 +1,183 @@
+#include "generate/variable_square.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <set>
+
+#include "generate/remainder.h"
+#include "generate/size3_square.h"
+#include "support/boards.h"
+#include "support/scripted_random.h"
+#include "transform/symmetry.h"
+
+namespace numorra {
+namespace {
+
+class VariableSquareTest : public testing::Test {
+ protected:
+  VariableBuild Build(const VariablePlan& plan, std::optional<double> corner = {}) {
+    for (int tries = 1; tries <= 10; ++tries) {
+      const VariableBuild build = generator_.Build(plan, corner, tries);
+      if (build.Status != SolveStatus::TryAgain) return build;
+    }
+    ADD_FAILURE() << "ten failed tries at order " << plan.GridSize << " sum " << plan.Sum;
+    return {};
+  }
+
+  /// Empty, or what is wrong with the build.
+  std::string WhyWrong(const VariableBuild& build, int order, double total, double highest = 1e9) {
+    std::string why = slow::WhyNotMagic(RowsOf(build.Square, order), total);
+    ForEachCell(order, [&](int r, int c) {
+      const double value = build.Square(r, c);
+      if (value < 1 || value > highest || value != std::floor(value)) {
+        why += " cell " + std::to_string(value);
+      }
+    });
+    return why;
+  }
+
+  TickingClock clock_{11};
+  ClockSeededRandom random_{clock_};
+  SilentStage stage_;
+  ListBoy list_{random_};
+  VariableSquare generator_{random_, stage_, list_};
+};
+
+TEST_F(VariableSquareTest, ReachesTheTotalAtEverySizeAndSum) {
+  for (int order = 3; order <= kMaxOrder; ++order) {
+    for (const int sum :
+         {7 * order, 7 * order + 1, 13 * order + order / 2, 60 * order - 1, 31 * order}) {
+      const VariablePlan plan = PlanVariableSquare(order, sum, false, false);
+      const double total = order == 3 ? 3 * std::floor(sum / 3.0) : sum;
+      // A remainder larger than the cells has no square; a large one may fail on small cells.
+      if (order > 3 && plan.BaseValue < plan.TotalRemainder) {
+        EXPECT_EQ(generator_.Build(plan, {}, 1).Status, SolveStatus::CellValueTooSmall);
+      } else if (order % 2 == 1 || plan.TotalRemainder <= 2 || plan.BaseValue > 30) {
+        const VariableBuild build = Build(plan);
+        ASSERT_EQ(WhyWrong(build, order, total), "") << order << " sum " << sum;
+        EXPECT_EQ(build.Total, total);
+      }
+    }
+  }
+}
+
+TEST_F(VariableSquareTest, KeepsTheLimitAndTheCorner) {
+  for (int time = 0; time < 40; ++time) {
+    for (const int order : {4, 5, 6, 9, 10, 17, 30}) {
+      const double sum = order * (3 + time % 3);
+      const VariablePlan limited = PlanVariableSquare(order, sum, true, false);
+      ASSERT_EQ(WhyWrong(Build(limited), order, sum, 9), "") << order << " sum " << sum;
+      if (order < 5) continue;
+      const int base = 2 + time;
+      const VariablePlan plan = PlanVariableSquare(order, base * order + 1, false, true);
+      for (const int corner : {1, base, 2 * base - 1, 1 + time % (2 * base - 1)}) {
+        const VariableBuild build = Build(plan, corner);
+        ASSERT_EQ(WhyWrong(build, order, base * order), "") << order << " corner " << corner;
+        EXPECT_EQ(build.Square(1, 1), corner) << order << " base " << base;
+      }
+    }
+  }
+}
+
+TEST_F(VariableSquareTest, BuildsATrueSquareForACornerOutOfReach) {
+  for (const int order : {3, 4, 5, 8}) {
+    const VariablePlan plan = PlanVariableSquare(order, 10 * order, false, true);
+    for (const double corner : {0.0, -3.0, 0.5, 500.0, 30000.0}) {
+      EXPECT_EQ(WhyWrong(Build(plan, corner), order, 10 * order), "") << order << " " << corner;
+    }
+  }
+}
+
+TEST_F(VariableSquareTest, VariesTheWholeBoard) {
+  std::set<double> centres;
+  for (int time = 0; time < 10; ++time) {
+    const VariableBuild build = Build(PlanVariableSquare(10, 500, false, false));
+    std::set<double> different;
+    int atBase = 0;
+    ForEachCell(10, [&](int r, int c) {
+      different.insert(build.Square(r, c));
+      if (build.Square(r, c) == 50) ++atBase;
+    });
+    EXPECT_GT(different.size(), 50U);
+    EXPECT_LT(atBase, 8);  // about two or three are by chance
+    centres.insert(Build(PlanVariableSquare(9, 450, false, false)).Square(5, 5));
+  }
+  EXPECT_GT(centres.size(), 3U);
+}
+
+TEST(VariablePlan, CorrectsSumsByTheRules) {
+  struct Case {
+    double size, sum;
+    bool limit, corner;
+    int base, remainder;
+    double correctedSum;
+  };
+  const Case cases[] = {{6, 100, false, false, 16, 4, 100}, {3, 16, false, false, 5, 1, 16},
+                        {5, 7, false, false, 2, 0, 10},     {10, 100, true, false, 5, 0, 50},
+                        {10, 44, true, false, 4, 0, 44},    {10, 107, false, true, 10, 0, 107},
+                        {10, 107, true, true, 10, 0, 107},  {5, 0, false, false, 2, 0, 10},
+                        {5, -9, true, false, 2, 0, 10},     {4, 33.5, false, false, 8, 2, 33.5}};
+  for (const Case& c : cases) {
+    const VariablePlan plan = PlanVariableSquare(c.size, c.sum, c.limit, c.corner);
+    EXPECT_EQ(plan.BaseValue, c.base) << c.size << "/" << c.sum;
+    EXPECT_EQ(plan.TotalRemainder, c.remainder) << c.size << "/" << c.sum;
+    EXPECT_EQ(plan.Sum, c.correctedSum);
+    EXPECT_EQ(plan.LimitToNine, c.limit && !c.corner);
+  }
+  EXPECT_THROW(PlanVariableSquare(3, 1e6, false, false), RuntimeError);
+  EXPECT_THROW(PlanVariableSquare(40000, 1e6, false, false), RuntimeError);
+}
+
+TEST(RemainderEven, RaisesEveryLineOrComesBackTurned) {
+  for (const int order : {4, 6, 10, 50}) {
+    TurningSquare square(order);
+    square.Fill(9);
+    ASSERT_TRUE(SpreadRemainderEven(square, 3));
+    EXPECT_EQ(slow::WhyNotMagic(RowsOf(square.Settled(), order), 9 * order + 3), "");
+    ASSERT_TRUE(SpreadRemainderEven(square, -2));
+    EXPECT_EQ(slow::WhyNotMagic(RowsOf(square.Settled(), order), 9 * order + 1), "");
+  }
+  // A quarter turn brings larger numbers under the two cells that are lowered.
+  CellTable cells = TableOf(ParseRows("5 5 5 1 / 5 5 5 5 / 5 5 1 5 / 5 5 5 5"));
+  TurningSquare turnable(cells, 4);
+  ASSERT_TRUE(SpreadRemainderEven(turnable, 1));
+  EXPECT_EQ(turnable(4, 4), 1 + 1) << "(1, 4) of before, turned and raised";
+  cells = TableOf(ParseRows("1 2 3 1 / 4 1 1 5 / 6 1 1 7 / 1 8 9 1"));
+  TurningSquare hopeless(cells, 4);
+  EXPECT_FALSE(SpreadRemainderEven(hopeless, 1));
+  for (int turn = 0; turn < 3; ++turn)
+    RotateBoard90(cells, 4);
+  EXPECT_EQ(RowsOf(hopeless.Settled(), 4), RowsOf(cells, 4));
+}
+
+TEST(RemainderOdd, RaisesEveryLineAndNoCellFalls) {
+  TickingClock clock(2);
+  ClockSeededRandom random(clock);
+  for (const int order : {5, 7, 49}) {
+    TurningSquare square(order);
+    square.Fill(1);
+    SpreadRemainderOdd(square, order - 1, random);
+    EXPECT_EQ(slow::WhyNotMagic(RowsOf(square.Settled(), order), 2 * order - 1), "");
+    ForEachCell(order, [&](int r, int c) { EXPECT_GE(square(r, c), 1); });
+  }
+}
+
+TEST(Size3, BuildsFromTwoRandomOffsets) {
+  ScriptedRandom random({0.1});
+  TurningSquare square(3);
+  square.Fill(3);
+  ASSERT_TRUE(BuildSize3Square(square, 3, random));
+  EXPECT_EQ(RowsOf(square.Settled(), 3), ParseRows("4 1 4 / 3 3 3 / 2 5 2"));
+  // p = 2 and r = 1, exchanged because the third draw is below five tenths.
+  ScriptedRandom swapping({0.5, 0.1, 0.1});
+  square.Fill(5);
+  ASSERT_TRUE(BuildSize3Square(square, 5, swapping));
+  EXPECT_EQ(RowsOf(square.Settled(), 3), ParseRows("6 2 7 / 6 5 4 / 3 8 4"));
+  EXPECT_EQ(swapping.Reseeds, 3);
+  square.Fill(2);
+  EXPECT_FALSE(BuildSize3Square(square, 2, random));
+  EXPECT_EQ(RowsOf(square.Settled(), 3), ParseRows("2 2 2 / 2 2 2 / 2 2 2"));
+}
+
+}  // namespace
+}  // namespace numorra

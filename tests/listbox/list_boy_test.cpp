@@ -1,0 +1,225 @@
+#include "listbox/list_boy.h"
+
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include "app/board/runtime_error.h"
+#include "listbox/wildcard.h"
+
+namespace numorra {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class ListBoyTest : public testing::Test {
+ protected:
+  void Fill(const Texts& texts, const std::vector<double>& data = {}) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+      list_.Additem(texts[i]);
+      if (i < data.size()) list_.SetItemData(list_.ListCount() - 1, data[i]);
+    }
+  }
+
+  Texts Items() {
+    Texts items;
+    for (int i = 0; i < list_.ListCount(); ++i)
+      items.push_back(*list_.list(i, 0));
+    return items;
+  }
+
+  TickingClock clock_{3};
+  ClockSeededRandom random_{clock_};
+  ListBoy list_{random_};
+};
+
+TEST_F(ListBoyTest, PlacesNewItemsByItsOwnRules) {
+  list_.Additem("x");
+  EXPECT_EQ(list_.GetItemData(0), 0);
+  list_.Additem("y", -1);
+  list_.Additem("z", 0);
+  EXPECT_EQ(Items(), (Texts{"y", "x", "z"}));
+  list_.Additem("w", 2);
+  EXPECT_EQ(Items(), (Texts{"y", "x", "w", "z"}));
+  list_.Additem("none", 4);
+  list_.Additem("none", 99);
+  list_.Additem("end", -7);
+  EXPECT_EQ(Items(), (Texts{"y", "x", "w", "z", "end"}));
+  list_.Clear();
+  list_.Additem("none", 1);
+  EXPECT_EQ(list_.ListCount(), 0);
+  list_.Additem("first", -1);
+  list_.ListCount(17);
+  EXPECT_EQ(Items(), Texts{"first"});
+}
+
+TEST_F(ListBoyTest, RemovesWhatIsThere) {
+  Fill({"a", "b", "c"});
+  for (const int nothing : {-1, 3, 5})
+    list_.RemoveItem(nothing);
+  EXPECT_EQ(list_.ListCount(), 3);
+  list_.RemoveItem(1);
+  EXPECT_EQ(Items(), (Texts{"a", "c"}));
+  list_.RemoveItem(0);
+  list_.RemoveItem(0);
+  list_.RemoveItem(0);
+  EXPECT_EQ(list_.ListCount(), 0);
+}
+
+TEST_F(ListBoyTest, SortsWholeRecordsByCharacterCodes) {
+  Fill({"b", "B", "a", "ab", "a"}, {0, 0, 9, 0, 10});
+  list_.SortAscending();
+  EXPECT_EQ(Items(), (Texts{"B", "a", "a", "ab", "b"}));
+  EXPECT_EQ(list_.GetItemData(1), 10) << "equal texts by their data as text";
+  list_.SortDescending();
+  EXPECT_EQ(Items(), (Texts{"b", "ab", "a", "a", "B"}));
+}
+
+TEST_F(ListBoyTest, SortsItemDataRoundedAndEqualOnesByText) {
+  Fill({"ten", "nine", "most", "zero"}, {10, 9, 9.6, 0});
+  list_.SortItemDataAscending();
+  EXPECT_EQ(Items(), (Texts{"zero", "nine", "most", "ten"}));
+  EXPECT_EQ(list_.GetItemData(2), 9.6);
+  list_.SortItemDataDescending();
+  EXPECT_EQ(Items(), (Texts{"ten", "most", "nine", "zero"}));
+}
+
+TEST_F(ListBoyTest, DataBeyondTwelveDigitsLeaveTheirRestBehind) {
+  Fill({"minus", "huge"}, {-5, 1e12});
+  list_.SortItemDataAscending();
+  EXPECT_EQ(Items(), (Texts{"5minus", "0huge"}));
+}
+
+TEST_F(ListBoyTest, SortsManyEqualItemsAndManyDifferentOnes) {
+  for (int i = 0; i < 3000; ++i)
+    list_.Additem(i % 2 == 0 ? "same" : std::to_string(i * 7919 % 3001));
+  list_.SortAscending();
+  auto sorted = Items();
+  EXPECT_TRUE(std::is_sorted(sorted.begin(), sorted.end()));
+  list_.SortDescending();
+  std::reverse(sorted.begin(), sorted.end());
+  EXPECT_EQ(Items(), sorted);
+}
+
+TEST_F(ListBoyTest, FindsByWildcardInEitherDirection) {
+  EXPECT_EQ(list_.Find("*", 0, false, 0, true), std::nullopt);
+  Fill({"apple", "Avocado", "banana\tyellow", "apple"}, {1, 2, 3, 4});
+  EXPECT_EQ(list_.Find("A*", 0, false, 0, false), 0);
+  EXPECT_EQ(list_.Find("A*", 0, false, 0, true), 1);
+  EXPECT_EQ(list_.Find("a*", 0, true, 0, true), 3) << "backwards from the last";
+  EXPECT_EQ(list_.Find("a*", 0, true, 2, true), 0);
+  EXPECT_EQ(list_.Find("a*", 0, false, 1, true), 3);
+  EXPECT_EQ(list_.Find("YELLOW", 2, false, 0, false), 2);
+  EXPECT_EQ(list_.Find("4", 2, false, 0, true), 3) << "the data are the column after the text";
+  EXPECT_EQ(list_.Find("kiwi", 0, false, 0, true), -1);
+  EXPECT_EQ(list_.Find("*", 0, false, 4, true), std::nullopt);
+  EXPECT_EQ(list_.Find("*", 0, false, -1, true), std::nullopt);
+}
+
+TEST_F(ListBoyTest, FindsByItemData) {
+  Fill({"a", "b", "c"}, {5, 7, 5});
+  EXPECT_EQ(list_.FindItemData(5, false, 0), 0);
+  EXPECT_EQ(list_.FindItemData(5, true, 0), 2);
+  EXPECT_EQ(list_.FindItemData(5, false, 1), 2);
+  EXPECT_EQ(list_.FindItemData(8, false, 0), -1);
+  EXPECT_EQ(list_.FindItemData(5, false, 3), std::nullopt);
+}
+
+TEST_F(ListBoyTest, KeepsColumnsApartAtTheLastTab) {
+  Fill({"one\ttwo"}, {3.5});
+  EXPECT_EQ(list_.list(0, 0), "one\ttwo");
+  EXPECT_EQ(list_.list(0, 1), "one");
+  EXPECT_EQ(list_.list(0, 3), "3.5");
+  EXPECT_EQ(list_.list(0, 4), "");
+  EXPECT_EQ(list_.list(1, 0), std::nullopt);
+  list_.UpdateText(0, "2", 2);
+  list_.UpdateText(0, "nowhere", 9);
+  list_.UpdateText(0, "nowhere", 0);
+  EXPECT_EQ(list_.list(0, 0), "one\t2");
+  list_.UpdateText(0, "7x", 3);
+  EXPECT_EQ(list_.GetItemData(0), 7);
+  list_.SetItemData(0, -0.25);
+  EXPECT_EQ(list_.list(0, 3), "-0.25");
+  list_.SetItemData(5, 1);
+  EXPECT_EQ(list_.GetItemData(5), std::nullopt);
+}
+
+TEST_F(ListBoyTest, SavesAndLoadsTexts) {
+  const std::string path = testing::TempDir() + "numorra_list.txt";
+  Fill({"first", "", "tab\tbed"}, {1, 2, 3});
+  list_.SaveFile(path);
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "first\r\n\r\ntab\tbed\r\n");
+  list_.Clear();
+  list_.LoadFile(path);
+  EXPECT_EQ(Items(), (Texts{"first", "", "tab\tbed"}));
+  EXPECT_EQ(list_.GetItemData(2), 0);
+  std::ofstream(path, std::ios::binary) << "unix\nno end";
+  list_.LoadFile(path);
+  EXPECT_EQ(list_.list(3, 0), "unix");
+  EXPECT_EQ(list_.list(4, 0), "no end");
+  std::remove(path.c_str());
+  EXPECT_THROW(list_.LoadFile(path), RuntimeError);
+  EXPECT_THROW(list_.LoadFile(testing::TempDir()), RuntimeError);
+  EXPECT_THROW(list_.SaveFile("/nowhere/list.txt"), RuntimeError);
+  EXPECT_EQ(list_.ListCount(), 5);
+}
+
+TEST_F(ListBoyTest, ExchangesItemsWithAListBox) {
+  struct PlainListBox : ListBox {
+    void AddItem(const std::string& text) override { Entries.push_back(text); }
+    int ListCount() const override { return static_cast<int>(Entries.size()); }
+    std::string List(int index) const override { return Entries[static_cast<std::size_t>(index)]; }
+    Texts Entries{"there"};
+  } box;
+  Fill({"a", "b"}, {1, 2});
+  list_.FillListBox(box);
+  EXPECT_EQ(box.Entries, (Texts{"there", "a", "b"}));
+  list_.CopyFromListbox(box);
+  EXPECT_EQ(Items(), (Texts{"a", "b", "there", "a", "b"}));
+  EXPECT_EQ(list_.GetItemData(4), 0);
+}
+
+TEST(Wildcards, MatchByTheirRules) {
+  struct Case {
+    const char* text;
+    const char* pattern;
+    bool matches;
+  };
+  const Case cases[] = {{"", "", true},
+                        {"", "*", true},
+                        {"", "?", false},
+                        {"a", "", false},
+                        {"abc", "a?c", true},
+                        {"abc", "a*", true},
+                        {"abc", "*c", true},
+                        {"abc", "*b", false},
+                        {"a1c", "a#c", true},
+                        {"abc", "a#c", false},
+                        {"abc", "[a-c]bc", true},
+                        {"abc", "[!a-c]bc", false},
+                        {"zbc", "[!a-c]bc", true},
+                        {"-", "[a-]", true},
+                        {"]", "]", true},
+                        {"a[b", "a[b", true},
+                        {"a[b", "a[bc", false},
+                        {"x", "[]", false},
+                        {"aXbXc", "a*X*c", true},
+                        {"aab", "*a*b*", true},
+                        {"mississippi", "*iss*ip*i", true},
+                        {"é", "?", true},
+                        {"é", "[à-ï]", true},
+                        {"ab", "?", false},
+                        {"5", "[1-37-9]", false},
+                        {"8", "[1-37-9]", true},
+                        {"a", "[!]", true},
+                        {"a*c", "a[*]c", true},
+                        {"abc", "a[*]c", false}};
+  for (const Case& c : cases) {
+    EXPECT_EQ(MatchesWildcard(c.text, c.pattern), c.matches) << c.text << " ~ " << c.pattern;
+  }
+  EXPECT_FALSE(MatchesWildcard(std::string(5000, 'a'), "*a*a*a*a*a*a*a*a*b"));
+}
+
+}  // namespace
+}  // namespace numorra
