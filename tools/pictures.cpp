@@ -9,6 +9,7 @@
 /// saves what it shows.
 namespace {
 
+using numorra::Grid;
 using numorra::MainWindow;
 
 class Album {
@@ -42,6 +43,22 @@ void ShowVariableSquare(MainWindow& window, int size, int sum) {
   window.findChild<QPushButton*>("SolveAuto")->click();
 }
 
+/// A board in play: some lines right, some not.
+void ShowManualBoard(MainWindow& window) {
+  window.findChild<QLineEdit*>("Text1")->setText("5");
+  window.findChild<QLineEdit*>("Text4")->setText("65");
+  window.findChild<QPushButton*>("SolveManual")->click();
+  const int typed[] = {17, 24, 1, 8, 15, 23, 5, 7, 14, 16, 4, 6};
+  for (const int value : typed) {
+    for (const QChar digit : QString::number(value)) {
+      Q_EMIT window.View().CharacterTyped(digit.unicode());
+    }
+    const Grid& grid = window.TheBoard().grid;
+    const int column = grid.CurrentColumn();
+    Q_EMIT window.View().CellWanted(grid.CurrentRow() + column / 5, column % 5 + 1);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -62,5 +79,7 @@ int main(int argc, char** argv) {
   window.findChild<QRadioButton*>("Option4")->click();
   ShowVariableSquare(window, 10, 505);
   album.Save(window, "variable-10");
+  ShowManualBoard(window);
+  album.Save(window, "manual-5");
   return album.Ok() ? 0 : 1;
 }

@@ -4,29 +4,48 @@
 
 namespace numorra {
 
-BoardMenu::BoardMenu(QWidget* parent) : QMenu(parent), redox(Named("redox", new QAction(this))) {
+BoardMenu::BoardMenu(QWidget* parent)
+    : QMenu(parent),
+      redox(Named("redox", new QAction(this))),
+      setValue_(addMenu("Set value to")),
+      adjustValue_(addMenu("Adjust value to")) {
   setObjectName("ManualMenux");
-  AddCommand("flipvx", "Flip vertical", RedoCode::FlipVertical);
-  AddCommand("fliphx", "Flip horizontal", RedoCode::FlipHorizontal);
-  AddCommand("flipd1x", "Flip diagonal 1", RedoCode::FlipDiagonal1);
-  AddCommand("flipd2x", "Flip diagonal 2", RedoCode::FlipDiagonal2);
-  AddCommand("rot90x", "Rotate 90d", RedoCode::Rotate90);
-  AddCommand("rot180x", "Rotate 180d", RedoCode::Rotate180);
-  AddCommand("rot270x", "Rotate 270d", RedoCode::Rotate270);
+  Named("SetValuex", setValue_->menuAction());
+  AddCommand(setValue_, "Set2Cellvaluex", RedoCode::SetValue);
+  AddCommand(setValue_, "Set2Max", RedoCode::MaximumValue);
+  AddCommand(setValue_, "set2Min", RedoCode::MinimumValue);
+  AddCommand(setValue_, "set2Ran", RedoCode::RandomValue);
+  AddCommand(setValue_, "Set2allran", RedoCode::WholeBoardRandom);
+  AddItem(setValue_, "SetAllRem", "all other values to", OnSetAllRem);
+  Named("Adjustvaluex", adjustValue_->menuAction());
+  AddCommand(adjustValue_, "correctrowx", RedoCode::CorrectRow);
+  AddCommand(adjustValue_, "correctcolx", RedoCode::CorrectColumn);
+  AddCommand(adjustValue_, "correctdiagx", RedoCode::CorrectDiagonal);
+  AddItem(this, "swapvaluex", "Swap value", OnSwapValue);
+  addSeparator();
+  AddCommand(this, "flipvx", RedoCode::FlipVertical);
+  AddCommand(this, "fliphx", RedoCode::FlipHorizontal);
+  AddCommand(this, "flipd1x", RedoCode::FlipDiagonal1);
+  AddCommand(this, "flipd2x", RedoCode::FlipDiagonal2);
+  AddCommand(this, "rot90x", RedoCode::Rotate90);
+  AddCommand(this, "rot180x", RedoCode::Rotate180);
+  AddCommand(this, "rot270x", RedoCode::Rotate270);
   Named("transx", addAction("Transpose"));  // by design without a command
   addSeparator();
   addAction(redox);
-  connect(redox, &QAction::triggered, this, [this] {
-    const int code = redox->property("tag").toString().toInt();
-    if (code != 0) OnCommand(static_cast<RedoCode>(code));
-  });
+  connect(redox, &QAction::triggered, this, [this] { OnRedo(); });
   ShowHistory({});
 }
 
-void BoardMenu::AddCommand(const char* name, const char* caption, RedoCode code) {
-  QAction* action = Named(name, addAction(caption));
-  action->setData(static_cast<int>(code));
+void BoardMenu::AddCommand(QMenu* menu, const char* name, RedoCode code) {
+  QAction* action = Named(name, menu->addAction(CaptionOf(code)));
   connect(action, &QAction::triggered, this, [this, code] { OnCommand(code); });
+}
+
+void BoardMenu::AddItem(QMenu* menu, const char* name, const char* caption,
+                        std::function<void()>& chosen) {
+  QAction* action = Named(name, menu->addAction(caption));
+  connect(action, &QAction::triggered, this, [&chosen] { chosen(); });
 }
 
 void BoardMenu::ShowHistory(const CommandHistory& history) {
@@ -34,11 +53,15 @@ void BoardMenu::ShowHistory(const CommandHistory& history) {
   redox->setText(QString::fromStdString(history.Caption));
 }
 
-std::string BoardMenu::Caption(RedoCode code) const {
-  for (const QAction* action : actions()) {
-    if (action->data() == static_cast<int>(code)) return action->text().toStdString();
-  }
-  return {};
+void BoardMenu::ShowBaseValue(const std::string& value) {
+  const QString text = QString::fromStdString(value);
+  setValue_->actions().first()->setText(text);
+  setValue_->actions().last()->setText("all other values to" + text);
+}
+
+void BoardMenu::EnableEditing(bool enabled) {
+  setValue_->menuAction()->setEnabled(enabled);
+  adjustValue_->menuAction()->setEnabled(enabled);
 }
 
 }  // namespace numorra

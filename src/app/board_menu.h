@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// The context menu of the board. Choosing an item hands its code to `OnCommand`; `redox` shows the
-/// last recorded command and hands on its code.
+/// The context menu of the board. What is chosen is handed to the three functions; `redox` shows
+/// the last recorded command.
 class BoardMenu : public QMenu {
   Q_OBJECT
 
@@ -17,17 +17,27 @@ class BoardMenu : public QMenu {
   explicit BoardMenu(QWidget* parent = nullptr);
 
   std::function<void(RedoCode)> OnCommand;
+  std::function<void()> OnRedo;
+  std::function<void()> OnSetAllRem;
+  std::function<void()> OnSwapValue;
 
   /// Shows what a click on "Redo last command" repeats.
   void ShowHistory(const CommandHistory& history);
 
-  /// The caption of the command's own item.
-  std::string Caption(RedoCode code) const;
+  /// Shows the base value, " 12" for 12, in the items that write it.
+  void ShowBaseValue(const std::string& value);
+
+  /// Whether the commands that need a checked board can be chosen.
+  void EnableEditing(bool enabled);
 
   QAction* const redox;
 
  private:
-  void AddCommand(const char* name, const char* caption, RedoCode code);
+  void AddCommand(QMenu* menu, const char* name, RedoCode code);
+  void AddItem(QMenu* menu, const char* name, const char* caption, std::function<void()>& chosen);
+
+  QMenu* const setValue_;
+  QMenu* const adjustValue_;
 };
 
 }  // namespace numorra

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -13,6 +15,7 @@ namespace numorra {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
+constexpr int kGuideAlpha = 36;  // of 255
 
 QColor ToQColor(Colour colour) {
   return {colour.Red, colour.Green, colour.Blue};
@@ -94,13 +97,79 @@ void GridView::paintEvent(QPaintEvent* event) {
   block({fixed, 0, width - fixed, fixed}, 0, kFixed, kFixed, columns);
   block({0, fixed, fixed, height - fixed}, kFixed, rows, 0, kFixed);
   block({0, 0, fixed, fixed}, 0, kFixed, 0, kFixed);
-  PaintCurrentCell(painter);
+  if (CurrentInBlock()) {
+    PaintGuides(painter);
+    PaintCurrentCell(painter);
+  }
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (const auto cell = CellAt(event->position().toPoint())) {
     Q_EMIT CellPressed(cell->y(), cell->x(), event->button(), event->globalPosition().toPoint());
   }
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const bool command =
+      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  const bool keypad = event->modifiers() & Qt::KeypadModifier;
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const QString text = enter ? QString('\r') : event->text();
+  if (!grid_.Visible() || grid_.Rows() < 3) {
+    event->ignore();
+  } else if (Navigate(event->key(), event->modifiers() & Qt::ControlModifier)) {
+    event->accept();
+  } else if (command || event->key() == Qt::Key_Escape || event->key() == Qt::Key_Delete ||
+             text.isEmpty()) {
+    event->ignore();
+  } else if (keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
+    Q_EMIT KeypadPressed(event->key() == Qt::Key_Plus ? 1 : -1);
+  } else {
+    Q_EMIT CharacterTyped(text.front().unicode());
+  }
+}
+
+/// Whether the key is one that moves the current cell.
+bool GridView::Navigate(int key, bool toTheVeryEnd) {
+  const int row = grid_.CurrentRow();
+  const int column = grid_.CurrentColumn();
+  const int lastRow = grid_.Rows() - 2;
+  const int lastColumn = grid_.Columns() - 2;
+  const int page = std::max(1, viewport()->height() / Edge(1) - Grid::kFixedLines - 1);
+  switch (key) {
+    case Qt::Key_Up:
+      Q_EMIT CellWanted(row - 1, column);
+      return true;
+    case Qt::Key_Down:
+      Q_EMIT CellWanted(row + 1, column);
+      return true;
+    case Qt::Key_Left:
+      Q_EMIT CellWanted(row, column - 1);
+      return true;
+    case Qt::Key_Right:
+      Q_EMIT CellWanted(row, column + 1);
+      return true;
+    case Qt::Key_Home:
+      Q_EMIT CellWanted(toTheVeryEnd ? 1 : row, 1);
+      return true;
+    case Qt::Key_End:
+      Q_EMIT CellWanted(toTheVeryEnd ? lastRow : row, lastColumn);
+      return true;
+    case Qt::Key_PageUp:
+      Q_EMIT CellWanted(std::max(1, row - page), column);
+      return true;
+    case Qt::Key_PageDown:
+      Q_EMIT CellWanted(std::min(lastRow, row + page), column);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() != QContextMenuEvent::Keyboard || !grid_.Visible()) return;
+  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn());
+  Q_EMIT MenuWanted(viewport()->mapToGlobal(cell.center()));
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
@@ -190,15 +259,36 @@ void GridView::PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int
   if (before) painter.drawLine(cell.topRight(), cell.bottomRight());
 }
 
+bool GridView::CurrentInBlock() const {
+  const auto inside = [](int line, int lines) {
+    return line >= Grid::kFixedLines && line < lines - 1;
+  };
+  return inside(grid_.CurrentRow(), grid_.Rows()) && inside(grid_.CurrentColumn(), grid_.Columns());
+}
+
+/// Tints the current row and column, so that the eye finds their totals.
+void GridView::PaintGuides(QPainter& painter) {
+  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn());
+  const int fixed = Edge(Grid::kFixedLines);
+  const QRect whole(0, 0, CellRect(0, grid_.Columns() - 2).right(),
+                    CellRect(grid_.Rows() - 2, 0).bottom());
+  QColor tint = palette().color(QPalette::Highlight);
+  tint.setAlpha(kGuideAlpha);
+  painter.setClipRect(QRect(0, fixed, width(), height()));
+  painter.fillRect(QRect(0, cell.top(), whole.width(), cell.height() - 1), tint);
+  painter.setClipRect(QRect(fixed, 0, width(), height()));
+  painter.fillRect(QRect(cell.left(), 0, cell.width() - 1, whole.height()), tint);
+}
+
+/// A ring in the theme's highlight with a light one inside, to be seen on every colour of cell.
 void GridView::PaintCurrentCell(QPainter& painter) {
-  const int row = grid_.CurrentRow();
-  const int column = grid_.CurrentColumn();
-  if (row < Grid::kFixedLines || column < Grid::kFixedLines) return;
   const int fixed = Edge(Grid::kFixedLines);
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
-  const QRect cell = CellRect(row, column).adjusted(0, 0, -2, -2);
+  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn()).adjusted(0, 0, -2, -2);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(cell.adjusted(1, 1, 0, 0));
+  painter.setPen(Qt::white);
+  painter.drawRect(cell.adjusted(2, 2, -2, -2));
 }
 
 CellText& GridView::Texts() {

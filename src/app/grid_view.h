@@ -10,8 +10,8 @@
 
 namespace numorra {
 
-/// Paints a Grid and reports the mouse; it decides nothing. The fixed row and column stay in sight
-/// while the rest scrolls. Cell edges lie on whole pixels, so cells may differ by one pixel.
+/// Paints a Grid and reports mouse and keys; it decides nothing. The fixed row and column stay in
+/// sight while the rest scrolls. Cell edges lie on whole pixels, so cells may differ by one pixel.
 class GridView : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -32,10 +32,25 @@ class GridView : public QAbstractScrollArea {
  Q_SIGNALS:
   void CellPressed(int row, int column, Qt::MouseButton button, QPoint globalPosition);
 
+  /// A key asks for another current cell: the neighbour, which may lie in the frame, the end of the
+  /// line, or a page on.
+  void CellWanted(int row, int column);
+
+  /// A character was typed, Backspace (8) and Enter (13) among them.
+  void CharacterTyped(char32_t character);
+
+  /// The keypad's plus (1) or minus (-1).
+  void KeypadPressed(int sign);
+
+  /// The keyboard asks for the context menu.
+  void MenuWanted(QPoint globalPosition);
+
  protected:
   bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -47,7 +62,10 @@ class GridView : public QAbstractScrollArea {
   void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
                   int columnEnd);
   void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);
+  bool CurrentInBlock() const;
+  void PaintGuides(QPainter& painter);
   void PaintCurrentCell(QPainter& painter);
+  bool Navigate(int key, bool toTheVeryEnd);
   CellText& Texts();
 
   Grid& grid_;

@@ -7,9 +7,10 @@
 
 #include "app/board/numbers.h"
 #include "app/named.h"
+#include "app/play/board_mouse.h"
+#include "app/play/manual_board.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
-#include "transform/symmetry.h"
 
 namespace numorra {
 namespace {
@@ -25,10 +26,15 @@ constexpr int kMargin = Pixels(120);  // right of the board and below it
 /// Room for the largest proposal, a board of order 14.
 constexpr QSize kOpeningSize(720, 600);
 
-/// Which symmetry a menu command's code stands for.
-Symmetry SymmetryOf(RedoCode code) {
-  const int first = static_cast<int>(RedoCode::FlipVertical);
-  return static_cast<Symmetry>(static_cast<int>(code) - first);
+PressedButton ButtonOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return PressedButton::Left;
+    case Qt::RightButton:
+      return PressedButton::Right;
+    default:
+      return PressedButton::Other;
+  }
 }
 
 }  // namespace
@@ -46,6 +52,8 @@ MainWindow::MainWindow(const World& world)
       view_(new GridView(board_.grid)),
       menu_(new BoardMenu(this)),
       stage_(*solve_, runner_),
+      cellEntry_(board_, dialogs_),
+      edit_(board_, dialogs_, random_, history_),
       List2(random_),
       List3(random_),
       solveCommand_({board_, *square_, *this, dialogs_, stage_, random_, List2, List3}),
@@ -55,6 +63,7 @@ MainWindow::MainWindow(const World& world)
   LayOut();
   BuildMenus();
   ConnectControls();
+  ConnectBoard();
   StartUp();
   resize(kOpeningSize);
 }
@@ -103,11 +112,15 @@ void MainWindow::ConnectControls() {
     connect(control, signal, this, [this, body = std::move(body)] {
       runner_.Run([this, body] {
         body();
-        EnableCommands();
+        ShowState();
       });
     });
   };
   command(solve_->SolveAuto, &QPushButton::clicked, [this] { solveCommand_.Auto(); });
+  command(solve_->SolveManual, &QPushButton::clicked, [this] {
+    BuildManualBoard(board_, *square_, dialogs_, stage_);
+    view_->setFocus();
+  });
   command(solve_->SolveAgain, &QPushButton::clicked, [this] { solveCommand_.Again(); });
   command(corners_->Combo1, &CornerBox::Entered, [this] {
     corners_->Combo1->clear();
@@ -128,8 +141,41 @@ void MainWindow::ConnectControls() {
     });
   }
   connect(square_->Text1, &QLineEdit::textChanged, this, [this] { FollowSize(); });
+}
+
+void MainWindow::ConnectBoard() {
   connect(view_, &GridView::CellPressed, this, &MainWindow::PressCell);
-  menu_->OnCommand = [this](RedoCode code) { runner_.Run([this, code] { EditBoard(code); }); };
+  connect(view_, &GridView::MenuWanted, this, &MainWindow::OpenMenu);
+  connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
+    RunOnBoard([this, row, column] { board_.grid.SetCurrent(row, column); });
+  });
+  connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
+    RunOnBoard([this, character] {
+      if (character == U'\r') {
+        cellEntry_.PressEnter();
+      } else {
+        cellEntry_.TypeCharacter(character);
+      }
+    });
+  });
+  connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
+    RunOnBoard([this, sign] { sign > 0 ? cellEntry_.KeypadPlus() : cellEntry_.KeypadMinus(); });
+  });
+  menu_->OnCommand = [this](RedoCode code) { RunOnBoard([this, code] { edit_.Run(code); }); };
+  menu_->OnRedo = [this] { RunOnBoard([this] { edit_.Redo(); }); };
+  menu_->OnSetAllRem = [this] { RunOnBoard([this] { edit_.SetAllRem(); }); };
+  menu_->OnSwapValue = [this] { RunOnBoard([this] { edit_.SwapValue(); }); };
+}
+
+/// Runs a command that acts on the board, which then has the keyboard.
+void MainWindow::RunOnBoard(CommandRunner::Command command) {
+  runner_.Run([this, command = std::move(command)] {
+    view_->setFocus();
+    if (!board_.Shown()) return;
+    command();
+    view_->BringIntoView(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
+    ShowState();
+  });
 }
 
 /// What the boxes say before the first proposal replaces it is what the program starts from.
@@ -151,13 +197,16 @@ void MainWindow::SetSolveMode(Mode mode) {
   square_->Text4->setEnabled(variable);
   limit_->setEnabled(variable);
   corners_->setEnabled(variable);
+  menu_->EnableEditing(variable);
   menu_->redox->setEnabled(variable);
-  EnableCommands();
+  ShowState();
   FollowSize();
 }
 
-/// Buttons can be pressed when their command has something to work on.
-void MainWindow::EnableCommands() {
+/// Shows what the commands have left behind, and which of them have something to work on.
+void MainWindow::ShowState() {
+  solve_->SolveManual->setProperty("tag", board_.UntouchedBase ? "X" : "");
+  menu_->ShowHistory(history_);
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
   corners_->DoCor1->setEnabled(board_.Shown());
   corners_->DoCor2->setEnabled(board_.Shown());
@@ -182,18 +231,20 @@ void MainWindow::FollowSize() {
 }
 
 void MainWindow::PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition) {
-  if (button != Qt::RightButton || !board_.Shown()) return;
-  if (row < 1 || row > board_.GridSize || column < 1 || column > board_.GridSize) return;
-  board_.grid.SetCurrent(row, column);
-  menu_->redox->setEnabled(true);
-  menu_->popup(globalPosition);
+  RunOnBoard([this, row, column, button, globalPosition] {
+    const PressOutcome outcome = PressBoard(board_, dialogs_, row, column, ButtonOf(button));
+    if (outcome == PressOutcome::Nothing) return;
+    menu_->EnableEditing(outcome != PressOutcome::OpenShortMenu);
+    menu_->redox->setEnabled(true);
+    if (outcome == PressOutcome::Done) return;
+    menu_->ShowBaseValue(Str(board_.BaseValue));
+    menu_->popup(globalPosition);
+  });
 }
 
-void MainWindow::EditBoard(RedoCode code) {
-  if (!board_.Shown()) return;
-  TurnBoard(board_, SymmetryOf(code));
-  history_.Record(code, menu_->Caption(code));
-  menu_->ShowHistory(history_);
+/// The menu on the current cell, as a right press there opens it.
+void MainWindow::OpenMenu(QPoint globalPosition) {
+  PressCell(board_.grid.CurrentRow(), board_.grid.CurrentColumn(), Qt::RightButton, globalPosition);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

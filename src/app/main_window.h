@@ -10,7 +10,9 @@
 #include "app/grid_view.h"
 #include "app/limit_frame.h"
 #include "app/message_boxes.h"
+#include "app/play/cell_entry.h"
 #include "app/play/command_history.h"
+#include "app/play/edit_commands.h"
 #include "app/solve_frame.h"
 #include "app/square_frame.h"
 #include "app/window_stage.h"
@@ -53,10 +55,12 @@ class MainWindow : public QMainWindow, private BuildOptions {
   std::optional<double> Corner() const override;
 
   void SetSolveMode(Mode mode);
-  void EnableCommands();
   void FollowSize();
+  void ConnectBoard();
+  void RunOnBoard(CommandRunner::Command command);
   void PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition);
-  void EditBoard(RedoCode code);
+  void OpenMenu(QPoint globalPosition);
+  void ShowState();
 
   SystemClock systemClock_;
   MessageBoxes messageBoxes_;
@@ -76,6 +80,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   BoardMenu* menu_;
 
   WindowStage stage_;
+  CellEntry cellEntry_;
+  EditCommands edit_;
   ListBoy List2;
   ListBoy List3;
   SolveCommand solveCommand_;

@@ -12,6 +12,7 @@ SolveFrame::SolveFrame(QWidget* parent)
       Option4(Named("Option4", new QRadioButton("Variable"))),
       SolveAuto(Named("SolveAuto", new QPushButton("Auto"))),
       SolveAgain(Named("SolveAgain", new QPushButton("Solve Again"))),
+      SolveManual(Named("SolveManual", new QPushButton("Manual"))),
       IterationCount(Named("IterationCount", new QLabel)),
       autoPlace_(new QStackedLayout) {
   setObjectName("Frame3");
@@ -20,6 +21,7 @@ SolveFrame::SolveFrame(QWidget* parent)
   Option4->setToolTip("Squares of any numbers, with the sum you choose");
   SolveAuto->setToolTip("Build a magic square of this size");
   SolveAgain->setToolTip("Build another square like the last one");
+  SolveManual->setToolTip("Show grid, user will create MagicSqaure");
   IterationCount->setAlignment(Qt::AlignCenter);
 
   SolveAuto->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -31,6 +33,7 @@ SolveFrame::SolveFrame(QWidget* parent)
   column->addWidget(Option4);
   column->addLayout(autoPlace_);
   column->addWidget(SolveAgain);
+  column->addWidget(SolveManual);
 }
 
 void SolveFrame::ShowCounter(bool counting) {

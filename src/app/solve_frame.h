@@ -22,6 +22,7 @@ class SolveFrame : public QGroupBox {
   QRadioButton* const Option4;  ///< "Variable"
   QPushButton* const SolveAuto;
   QPushButton* const SolveAgain;
+  QPushButton* const SolveManual;
   QLabel* const IterationCount;
 
  private:

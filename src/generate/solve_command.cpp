@@ -156,6 +156,7 @@ void SolveCommand::Spread(void (Spreading::*pass)()) {
   if (!board.Shown()) return;
   const BusyPointer busy(ports_.Stage);
   ports_.Dice.Reseed();
+  board.TakeTypedCell();
   Spreading spreading(TurningSquare(board.BoardValues, board.GridSize),
                       lastPlan_ && lastPlan_->LimitToNine, variable_.PassCount, ports_.Dice,
                       ports_.Stage);

@@ -53,6 +53,7 @@ void FlipBoardDiagonal2(CellTable& cells, int order) {
 
 void TurnBoard(Board& board, Symmetry symmetry) {
   const int order = board.GridSize;
+  board.TakeTypedCell();
   const auto quarterTurns = [&](int count) {
     for (int turn = 0; turn < count; ++turn)
       RotateBoard90(board.BoardValues, order);

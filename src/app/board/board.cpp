@@ -1,20 +1,20 @@
 #include "app/board/board.h"
 
 #include "app/board/numbers.h"
+#include "app/board/scoped_flag.h"
 
 namespace numorra {
 
 void Board::SetupBoard() {
   MarkedRow = -1;
   MarkedCol = -1;
-  BoardBusy = true;
+  const ScopedFlag busy(BoardBusy);
   const int last = GridSize + 1;
   grid.Reshape(GridSize + 2, GridSize + 2);  // which leaves every cell in the window's background
   ForEachCell(GridSize, [this](int row, int column) {
     grid.SetColours(row, column, ColorTable[kCellBackground], ColorTable[kCellText]);
   });
   grid.SetCurrent(last, last);
-  BoardBusy = false;
 }
 
 void Board::FillBoard(double value) {
@@ -53,7 +53,7 @@ void Board::ShowSquare(std::int16_t order, double target, const CellTable& squar
   BoardValues = square;
   ShowBoard();
   grid.SetVisible(true);
-  SetCurrentInBlock(1, 1);
+  ReturnTo(1, 1);
 }
 
 void Board::MarkAllTotalsWrong() {
@@ -71,13 +71,21 @@ void Board::ResizeBoard() {
   }
 }
 
-void Board::SetCurrentInBlock(int row, int column) {
+void Board::ReturnTo(int row, int column) {
   const auto inside = [this](int line) { return line >= 1 && line <= GridSize; };
+  NewEntry = true;
   if (inside(row) && inside(column)) {
     grid.SetCurrent(row, column);
   } else {
     grid.SetCurrent(1, 1);
   }
+}
+
+void Board::TakeTypedCell() {
+  if (!TotalsChecked || NewEntry) return;
+  const int row = grid.CurrentRow();
+  const int column = grid.CurrentColumn();
+  BoardValues(row, column) = Val(grid.Text(row, column));
 }
 
 void ComputeTotals(CellTable& cells, int order) {

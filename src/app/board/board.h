@@ -33,7 +33,9 @@ struct Board {
 
   bool BoardBusy = false;      ///< while SetupBoard runs
   bool TotalsChecked = false;  ///< false before the first totals check and while one runs
+  bool CheckRunning = false;   ///< while a totals check runs
   bool UntouchedBase = false;  ///< the last check found every cell at BaseValue
+  bool NewEntry = false;       ///< the next digit typed replaces the current cell's text
 
   std::int16_t MarkedRow = -1;  ///< the cell, row or column remembered for a swap; -1 = none
   std::int16_t MarkedCol = -1;
@@ -66,8 +68,12 @@ struct Board {
   /// Empties the grid and gives it the shape for GridSize, the bottom row in the window's colour.
   void ResizeBoard();
 
-  /// Makes (row, column) current, or the first value cell when that lies in the frame.
-  void SetCurrentInBlock(int row, int column);
+  /// Makes (row, column) current again after a command, or the first value cell when that lies in
+  /// the frame. What was typed there counts as entered.
+  void ReturnTo(int row, int column);
+
+  /// Takes what the player has typed into the current cell since the last check into BoardValues.
+  void TakeTypedCell();
 };
 
 /// Calls visit(row, column) for every cell of an n x n value block in reading order.

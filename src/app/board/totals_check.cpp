@@ -1,6 +1,7 @@
 #include "app/board/totals_check.h"
 
 #include "app/board/numbers.h"
+#include "app/board/scoped_flag.h"
 
 namespace numorra {
 
@@ -9,6 +10,7 @@ Verdict Recount(Board& board) {
   const int last = board.GridSize + 1;
   const double target = board.TargetTotal;
   board.TotalsChecked = false;
+  const ScopedFlag running(board.CheckRunning);
   const RedrawLock lock(grid);
 
   bool changed = false;
@@ -46,12 +48,18 @@ Verdict Recount(Board& board) {
   return offTarget ? Verdict::Wrong : Verdict::Right;
 }
 
+Verdict CheckTotals(Board& board, Dialogs& dialogs) {
+  const Verdict verdict = Recount(board);
+  if (verdict == Verdict::Right) dialogs.Tell("WELL DONE, YOU GOT IT");
+  return verdict;
+}
+
 void RefreshTotals(Board& board) {
   if (!board.TotalsChecked) return;
   const int row = board.grid.CurrentRow();
   const int column = board.grid.CurrentColumn();
   Recount(board);
-  board.grid.SetCurrent(row, column);
+  board.ReturnTo(row, column);
 }
 
 }  // namespace numorra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/board/board.h"
+#include "app/ports/dialogs.h"
 
 namespace numorra {
 
@@ -13,6 +14,9 @@ enum class Verdict { UntouchedBase, Right, Wrong };
 /// (0, 0) marked wrong. Leaves the current cell at (0, 0), the total coloured last, and the redraw
 /// lock lifted.
 Verdict Recount(Board& board);
+
+/// The totals check after a player's move: recounts, and congratulates when the board is right.
+Verdict CheckTotals(Board& board, Dialogs& dialogs);
 
 /// Recounts after a change that no player's move made: nothing is done unless an earlier check had
 /// coloured the totals, and the current cell stays.

@@ -23,6 +23,9 @@ enum class RedoCode {
   Rotate270,
 };
 
+/// What the command's menu item says. SetValue's item says the base value instead.
+const char* CaptionOf(RedoCode code);
+
 /// The program's memory of one command, the last: what the "Redo last command" item says and runs.
 /// There is no undo, turning and mirroring back is a command like any other.
 struct CommandHistory {

@@ -1,0 +1,61 @@
+#include "app/play/board_mouse.h"
+
+#include "app/play/moves.h"
+
+namespace numorra {
+namespace {
+
+constexpr const char* kMark = "X";
+
+void WipeMarks(Board& board) {
+  const int last = board.GridSize + 1;
+  if (board.MarkedRow != -1) board.grid.SetText(board.MarkedRow, last, "");
+  if (board.MarkedCol != -1) board.grid.SetText(last, board.MarkedCol, "");
+}
+
+}  // namespace
+
+PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, PressedButton button) {
+  if (!board.Shown()) return PressOutcome::Nothing;
+  const int last = board.GridSize + 1;
+  if (row < 0 || row > last || column < 0 || column > last) return PressOutcome::Nothing;
+  if (!board.TotalsChecked) return PressOutcome::OpenShortMenu;
+
+  Grid& grid = board.grid;
+  const auto inBlock = [last](int line) { return line >= 1 && line < last; };
+  const bool onCell = inBlock(row) && inBlock(column);
+  const bool onRowMark = column == last && inBlock(row);
+  const bool onColumnMark = row == last && inBlock(column);
+  if (button == PressedButton::Left) {
+    if (onCell) {
+      grid.SetCurrent(row, column);
+      board.MarkedRow = static_cast<std::int16_t>(row);
+      board.MarkedCol = static_cast<std::int16_t>(column);
+    } else if (onRowMark) {
+      WipeMarks(board);
+      board.MarkedRow = static_cast<std::int16_t>(row);
+      grid.SetText(row, last, kMark);
+    } else if (onColumnMark) {
+      WipeMarks(board);
+      board.MarkedCol = static_cast<std::int16_t>(column);
+      grid.SetText(last, column, kMark);
+    }
+  } else if (button == PressedButton::Right) {
+    if (onCell) {
+      grid.SetCurrent(row, column);
+      return PressOutcome::OpenMenu;
+    }
+    if (onRowMark && board.MarkedRow != -1) {
+      SwapRows(board, dialogs, row, board.MarkedRow);
+      grid.SetText(board.MarkedRow, last, "");
+      board.MarkedRow = -1;
+    } else if (onColumnMark && board.MarkedCol != -1) {
+      SwapColumns(board, dialogs, column, board.MarkedCol);
+      grid.SetText(last, board.MarkedCol, "");
+      board.MarkedCol = -1;
+    }
+  }
+  return PressOutcome::Done;
+}
+
+}  // namespace numorra

@@ -1,0 +1,78 @@
+#include "app/play/cell_entry.h"
+
+#include "app/board/numbers.h"
+#include "app/board/scoped_flag.h"
+#include "app/board/totals_check.h"
+#include "app/play/moves.h"
+
+namespace numorra {
+namespace {
+
+constexpr char32_t kBackspace = 8;
+
+}  // namespace
+
+CellEntry::CellEntry(Board& board, Dialogs& dialogs) : board_(board), dialogs_(dialogs) {
+  board_.grid.OnLeaveCell = [this] { LeaveCell(); };
+  board_.grid.OnCellChanged = [this] { ChangeCell(); };
+}
+
+void CellEntry::TypeCharacter(char32_t character) {
+  if (!board_.TotalsChecked || !board_.Shown()) return;
+  Grid& grid = board_.grid;
+  const int row = grid.CurrentRow();
+  const int column = grid.CurrentColumn();
+  std::string text = Trim(grid.Text(row, column));
+  if (character == kBackspace) {
+    if (text.empty()) return;
+    text.pop_back();
+  } else if (character >= U'0' && character <= U'9') {
+    if (board_.NewEntry) text.clear();
+    if (text.size() < kMostDigits) text += static_cast<char>(character);
+  } else {
+    return;
+  }
+  grid.SetText(row, column, text);
+  board_.NewEntry = false;
+}
+
+void CellEntry::PressEnter() {
+  if (!board_.TotalsChecked || !board_.Shown()) return;
+  const int next = board_.grid.CurrentRow() + 1;
+  board_.NewEntry = true;
+  CheckTotals(board_, dialogs_);
+  board_.grid.SetCurrent(next, board_.grid.CurrentColumn());
+}
+
+void CellEntry::KeypadPlus() {
+  Step(1);
+}
+
+void CellEntry::KeypadMinus() {
+  Step(-1);
+}
+
+void CellEntry::Step(double amount) {
+  if (!board_.TotalsChecked || !board_.Shown() || board_.SolveMode != ModeVariable) return;
+  const double value =
+      Val(board_.grid.Text(board_.grid.CurrentRow(), board_.grid.CurrentColumn())) + amount;
+  const bool downToZero = amount < 0 && value == 0;
+  SetCurrentCell(board_, dialogs_, Decimal(downToZero ? 1 : value));
+}
+
+void CellEntry::LeaveCell() {
+  if (board_.NewEntry || !board_.TotalsChecked || board_.BoardBusy || leaving_) return;
+  const ScopedFlag leaving(leaving_);
+  CheckAndReturn(board_, dialogs_);
+}
+
+/// Whoever leaves the value block at one edge enters it again at the opposite one.
+void CellEntry::ChangeCell() {
+  if (board_.BoardBusy || board_.CheckRunning || !board_.Shown()) return;
+  const int n = board_.GridSize;
+  const auto wrapped = [n](int line) { return line == 0 ? n : line == n + 1 ? 1 : line; };
+  board_.NewEntry = true;
+  board_.grid.SetCurrent(wrapped(board_.grid.CurrentRow()), wrapped(board_.grid.CurrentColumn()));
+}
+
+}  // namespace numorra

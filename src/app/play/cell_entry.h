@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/board/board.h"
+#include "app/ports/dialogs.h"
+
+namespace numorra {
+
+/// The player's keys on the current cell, and what goes with a change of the current cell: it never
+/// leaves the value block, and a cell that was typed into is checked when it is left.
+///
+/// Keys do nothing before the first totals check and while one runs.
+class CellEntry {
+ public:
+  /// The most digits that typing puts into a cell; more are swallowed.
+  static constexpr std::size_t kMostDigits = 15;
+
+  /// Takes over the grid's hooks.
+  CellEntry(Board& board, Dialogs& dialogs);
+
+  /// Digits build a number, Backspace (code 8) takes its last one away; neither checks. All else is
+  /// swallowed: signs, points and letters cannot be typed.
+  void TypeCharacter(char32_t character);
+
+  /// Checks, then goes to the next row; the check leaves the last column current.
+  void PressEnter();
+
+  /// The keypad's plus and minus: one more or less in the Variable mode, then a check. Minus makes
+  /// 1 of what would be exactly 0; a 0 becomes -1.
+  void KeypadPlus();
+  void KeypadMinus();
+
+ private:
+  void LeaveCell();
+  void ChangeCell();
+  void Step(double amount);
+
+  Board& board_;
+  Dialogs& dialogs_;
+  bool leaving_ = false;
+};
+
+}  // namespace numorra

@@ -1,0 +1,142 @@
+#include "app/play/cell_entry.h"
+
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+class CellEntryTest : public PlayTest {
+ protected:
+  void Type(const std::string& keys) {
+    for (const char key : keys)
+      entry_.TypeCharacter(key == '<' ? 8 : static_cast<char32_t>(key));
+  }
+};
+
+TEST_F(CellEntryTest, TypingBuildsNumbers) {
+  struct Case {
+    const char *before, *keys, *after;
+  };
+  const Case cases[] = {{"7", "12", "12"},
+                        {"72", "<12", "712"},
+                        {"5", "<", ""},
+                        {"5", "<<", ""},
+                        {"5", "<3", "3"},
+                        {"5", "-.a+ ", "5"},
+                        {"5", "0", "0"},
+                        {"5", "1x2", "12"},
+                        {" 7 ", "<", ""},
+                        {"-4", "<7", "-7"},
+                        {"5", "1234567890123456789", "123456789012345"}};
+  for (const Case& c : cases) {
+    Show("1 2 3 / 4 5 6 / 7 8 9");
+    board_.grid.SetText(1, 1, c.before);
+    Type(c.keys);
+    EXPECT_EQ(Here(), c.after) << c.before << " and " << c.keys;
+    EXPECT_EQ(At(1, 0), "6") << "typing does not check";
+  }
+}
+
+TEST_F(CellEntryTest, LeavingATypedCellChecksAndAnUntypedDoesNot) {
+  Show("8 1 6 / 3 5 7 / 4 9 3");
+  Go(3, 3);
+  Type("2");
+  EXPECT_EQ(At(3, 0), "16");
+  Go(3, 2);
+  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(At(3, 0), "15");
+  EXPECT_EQ(Where(), (std::pair{3, 2}));
+  Go(1, 1);
+  EXPECT_TRUE(dialogs_.Take().empty()) << "said once";
+  Type("<");
+  Go(1, 2);
+  EXPECT_EQ(At(1, 0), "7") << "an empty cell counts as 0";
+}
+
+TEST_F(CellEntryTest, EnterChecksAndGoesDownInTheLastColumn) {
+  Show("1 2 3 / 4 5 6 / 7 8 9");
+  Type("9");
+  entry_.PressEnter();
+  EXPECT_EQ(At(1, 0), "14");
+  EXPECT_EQ(Where(), (std::pair{2, 3}));
+  entry_.PressEnter();
+  entry_.PressEnter();
+  EXPECT_EQ(Where(), (std::pair{1, 3})) << "the last row leads to the first";
+  Type("4");
+  EXPECT_EQ(At(1, 3), "4") << "a newly entered cell's text is replaced";
+}
+
+TEST_F(CellEntryTest, TheCurrentCellWrapsWhoeverMovesIt) {
+  Show("1 2 3 / 4 5 6 / 7 8 9");
+  const std::pair<std::pair<int, int>, std::pair<int, int>> moves[] = {
+      {{0, 2}, {3, 2}}, {{4, 2}, {1, 2}}, {{2, 0}, {2, 3}}, {{2, 4}, {2, 1}}, {{0, 4}, {3, 1}}};
+  for (const auto& [to, at] : moves) {
+    Go(to.first, to.second);
+    EXPECT_EQ(Where(), at);
+  }
+  board_.TotalsChecked = false;
+  Go(0, 0);
+  EXPECT_EQ(Where(), (std::pair{3, 3})) << "before the first check too";
+}
+
+TEST_F(CellEntryTest, KeypadStepsInTheVariableMode) {
+  struct Case {
+    const char* before;
+    int sign;
+    const char* after;
+  };
+  const Case cases[] = {{"7", 1, "8"},  {"7", -1, "6"},     {"1", -1, "1"}, {"0", -1, "-1"},
+                        {"-1", 1, "0"}, {"2.5", -1, "1.5"}, {"x", 1, "1"},  {"", -1, "-1"}};
+  for (const Case& c : cases) {
+    Show("1 2 3 / 4 5 6 / 7 8 9");
+    Go(2, 2);
+    board_.grid.SetText(2, 2, c.before);
+    c.sign > 0 ? entry_.KeypadPlus() : entry_.KeypadMinus();
+    EXPECT_EQ(At(2, 2), c.after) << c.before;
+    EXPECT_EQ(Where(), (std::pair{2, 2}));
+    EXPECT_EQ(Val(At(2, 0)), 10 + Val(c.after)) << "checked";
+  }
+  board_.SolveMode = ModeNormal;
+  entry_.KeypadPlus();
+  EXPECT_EQ(At(2, 2), "-1");
+}
+
+TEST_F(CellEntryTest, ATypedWinStepIsAnnouncedOnce) {
+  Show("8 1 6 / 3 5 7 / 4 9 2");
+  Go(3, 3);
+  Type("1");
+  entry_.KeypadPlus();
+  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+}
+
+TEST_F(CellEntryTest, AStepToTheUntouchedBoardIsTakenBack) {
+  Show("5 5 5 / 5 6 5 / 5 5 5");
+  Go(2, 2);
+  entry_.KeypadMinus();
+  EXPECT_EQ(At(2, 2), "6");
+  EXPECT_FALSE(board_.UntouchedBase);
+  Show("5 5 5 / 5 4 5 / 5 5 5");
+  Go(2, 2);
+  entry_.KeypadPlus();
+  EXPECT_EQ(At(2, 2), "4");
+}
+
+TEST_F(CellEntryTest, KeysDoNothingBeforeTheFirstCheck) {
+  ShowRows(board_, "1 2 3 / 4 5 6 / 7 8 9");
+  board_.ReturnTo(1, 1);
+  Type("12<");
+  entry_.KeypadPlus();
+  entry_.PressEnter();
+  EXPECT_EQ(Here(), "1");
+  EXPECT_EQ(Where(), (std::pair{1, 1}));
+}
+
+TEST_F(CellEntryTest, ATransformTakesWhatWasTyped) {
+  Show("1 2 3 / 4 5 6 / 7 8 9");
+  Type("77");
+  edit_.Run(RedoCode::Rotate90);
+  EXPECT_EQ(At(1, 3), "77");
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "app/board/numbers.h"
+#include "app/play/command_history.h"
+#include "support/invariants.h"
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+class PlayerTest : public WindowTest {
+ protected:
+  void Manual(const char* size, const char* sum) {
+    Click("Option4");
+    Type("Text1", size);
+    Type("Text4", sum);
+    Click("SolveManual");
+  }
+
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&window_.View(), key, modifiers);
+  }
+
+  std::pair<int, int> Where() { return {TheGrid().CurrentRow(), TheGrid().CurrentColumn()}; }
+};
+
+TEST_F(PlayerTest, SolvesASquareByKeysAlone) {
+  Manual("3", "15");
+  EXPECT_TRUE(window_.View().hasFocus());
+  const char* const rows[] = {"816", "357", "492"};
+  for (const char* row : rows) {
+    for (const char* digit = row; *digit; ++digit) {
+      EXPECT_TRUE(dialogs_.Said.empty());
+      QTest::keyClicks(&window_.View(), QString(QChar(*digit)));
+      Key(Qt::Key_Right);
+    }
+    Key(Qt::Key_Down);
+  }
+  EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
+}
+
+TEST_F(PlayerTest, SolvesASquareByMouseAlone) {
+  Manual("3", "15");
+  // From 6s: the corners and edges by their lines, with the menu's help.
+  const auto adjust = [&](const char* item, int row, int column) { Choose(item, row, column); };
+  adjust("Set2Cellvaluex", 2, 2);
+  EXPECT_EQ(TheGrid().Text(2, 2), "5");
+  while (TheGrid().Text(1, 1) != "2")
+    adjust("set2Ran", 1, 1);
+  while (TheGrid().Text(1, 3) != "4")
+    adjust("set2Ran", 1, 3);
+  adjust("correctrowx", 1, 2);
+  adjust("correctdiagx", 3, 3);
+  adjust("correctdiagx", 3, 1);
+  adjust("correctcolx", 2, 1);
+  adjust("correctcolx", 2, 3);
+  EXPECT_TRUE(dialogs_.Take().empty());
+  adjust("correctcolx", 3, 2);
+  EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
+  EXPECT_EQ(Rows(), ParseRows("2 9 4 / 7 5 3 / 6 1 8"));
+}
+
+TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
+  Manual("4", "40");
+  QTest::keyClicks(&window_.View(), "1");
+  ClickCell(2, 5);
+  EXPECT_EQ(TheGrid().Text(2, 5), "X");
+  ClickCell(1, 5, Qt::RightButton);
+  EXPECT_EQ(TheGrid().Text(2, 1), "1");
+  EXPECT_EQ(TheGrid().Text(2, 5), "");
+  ClickCell(2, 1, Qt::RightButton);
+  auto& menu = Find<QMenu>("ManualMenux");
+  EXPECT_TRUE(menu.isVisible());
+  EXPECT_EQ(Find<QAction>("Set2Cellvaluex").text(), " 10");
+  EXPECT_EQ(Find<QAction>("SetAllRem").text(), "all other values to 10");
+  EXPECT_TRUE(Find<QAction>("SetValuex").isEnabled());
+  menu.close();
+  Choose("SetAllRem", 2, 1);
+  EXPECT_EQ(Find<QAction>("redox").text(), "entire grid to random values");
+  ClickCell(3, 3);
+  EXPECT_EQ(Where(), (std::pair{3, 3}));
+}
+
+TEST_F(PlayerTest, AnUncheckedBoardOpensTheShortMenu) {
+  Click("SolveAuto");
+  ClickCell(1, 1);
+  EXPECT_TRUE(Find<QMenu>("ManualMenux").isVisible());
+  EXPECT_FALSE(Find<QAction>("SetValuex").isEnabled());
+  EXPECT_FALSE(Find<QAction>("Adjustvaluex").isEnabled());
+  EXPECT_TRUE(Find<QAction>("redox").isEnabled());
+  Find<QMenu>("ManualMenux").close();
+}
+
+TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
+  Manual("50", "5000");
+  dialogs_.Take();
+  const auto visible = [&] {
+    return window_.View().viewport()->rect().contains(
+        window_.View().CellRect(Where().first, Where().second));
+  };
+  const std::pair<Qt::Key, std::pair<int, int>> moves[] = {
+      {Qt::Key_Up, {50, 1}},  {Qt::Key_Left, {50, 50}}, {Qt::Key_Down, {1, 50}},
+      {Qt::Key_Home, {1, 1}}, {Qt::Key_End, {1, 50}},   {Qt::Key_Right, {1, 1}}};
+  for (const auto& [key, at] : moves) {
+    Key(key);
+    EXPECT_EQ(Where(), at);
+    EXPECT_TRUE(visible());
+  }
+  Key(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(Where(), (std::pair{50, 50}));
+  Key(Qt::Key_PageUp);
+  EXPECT_LT(Where().first, 45);
+  EXPECT_TRUE(visible());
+  Key(Qt::Key_Plus, Qt::KeypadModifier);
+  EXPECT_EQ(TheGrid().Text(Where().first, 50), "102");
+  Key(Qt::Key_Plus);
+  EXPECT_EQ(TheGrid().Text(Where().first, 50), "102") << "not the keypad's";
+}
+
+/// An hour of a player in a minute: random moves, and what must hold after each of them.
+TEST_F(PlayerTest, EverythingHoldsAfterEveryMove) {
+  std::mt19937 dice(2026);
+  const auto below = [&](int bound) {
+    return static_cast<int>(dice() % static_cast<unsigned>(bound));
+  };
+  const char* const items[] = {"Set2Cellvaluex", "Set2Max",      "set2Min",    "set2Ran",
+                               "Set2allran",     "SetAllRem",    "swapvaluex", "correctrowx",
+                               "correctcolx",    "correctdiagx", "flipvx",     "fliphx",
+                               "flipd1x",        "flipd2x",      "rot90x",     "rot180x",
+                               "rot270x",        "transx",       "redox"};
+  const Qt::Key keys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
+                          Qt::Key_Right, Qt::Key_Return, Qt::Key_Home,
+                          Qt::Key_End,   Qt::Key_PageUp, Qt::Key_Backspace};
+  for (const int size : {3, 4, 5, 8}) {
+    Manual(std::to_string(size).c_str(), std::to_string(10 * size + size % 3).c_str());
+    for (int step = 0; step < 400; ++step) {
+      SCOPED_TRACE("size " + std::to_string(size) + " step " + std::to_string(step));
+      switch (below(5)) {
+        case 0:
+          ClickCell(below(size + 2), below(size + 2));
+          break;
+        case 1:
+          ClickCell(below(size + 2), below(size + 2), Qt::RightButton);
+          break;
+        case 2:
+          Key(keys[below(std::size(keys))]);
+          break;
+        case 3:
+          QTest::keyClicks(&window_.View(), QString::number(below(30)));
+          break;
+        case 4:
+          Find<QAction>(items[below(std::size(items))]).trigger();
+          break;
+      }
+      if (below(8) == 0) Key(below(2) ? Qt::Key_Plus : Qt::Key_Minus, Qt::KeypadModifier);
+      Find<QMenu>("ManualMenux").close();
+      // A mirror that overflows leaves its exchanges behind the grid until the next check.
+      for (const auto& said : dialogs_.Take()) {
+        if (said == "Overflow") Key(Qt::Key_Return);
+      }
+      dialogs_.Take();
+      ASSERT_EQ(WhyInvalid(window_.TheBoard()), "");
+      const auto& redox = Find<QAction>("redox");
+      const int code = redox.property("tag").toInt();
+      ASSERT_TRUE(code == 0 || redox.text().startsWith(CaptionOf(static_cast<RedoCode>(code))));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace numorra

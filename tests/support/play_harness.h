@@ -1,0 +1,44 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "app/board/numbers.h"
+#include "app/board/totals_check.h"
+#include "app/play/cell_entry.h"
+#include "app/play/edit_commands.h"
+#include "support/boards.h"
+#include "support/scripted_dialogs.h"
+#include "support/scripted_random.h"
+
+namespace numorra {
+
+/// A checked board of the Variable mode and all that a player can do with it, without a window.
+class PlayTest : public testing::Test {
+ protected:
+  static constexpr const char* kWin = "WELL DONE, YOU GOT IT";
+
+  /// Shows and checks a board; target 15 and base 5 unless told.
+  void Show(const std::string& rows, double target = 15, std::int16_t base = 5) {
+    board_.SolveMode = ModeVariable;
+    ShowRows(board_, rows, target, base);
+    Recount(board_);
+    board_.ReturnTo(1, 1);
+  }
+
+  void Go(int row, int column) { board_.grid.SetCurrent(row, column); }
+
+  std::string At(int row, int column) { return board_.grid.Text(row, column); }
+
+  std::string Here() { return At(board_.grid.CurrentRow(), board_.grid.CurrentColumn()); }
+
+  std::pair<int, int> Where() { return {board_.grid.CurrentRow(), board_.grid.CurrentColumn()}; }
+
+  Board board_;
+  ScriptedDialogs dialogs_;
+  ScriptedRandom random_{{0.0, 0.5, 0.999}};
+  CommandHistory history_;
+  CellEntry entry_{board_, dialogs_};
+  EditCommands edit_{board_, dialogs_, random_, history_};
+};
+
+}  // namespace numorra
