@@ -1,7 +1,9 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QMenu>
 
 #include "app/main_window.h"
 
@@ -16,10 +18,14 @@ class Album {
  public:
   explicit Album(const QString& folder) : folder_(folder) {}
 
-  void Save(const QWidget& widget, const QString& name) {
+  /// `width`: of the picture, 0 for the widget's own.
+  void Save(const QWidget& widget, const QString& name, int width = 0) {
     QCoreApplication::processEvents();
     const QString path = folder_.filePath(name + ".png");
-    if (!const_cast<QWidget&>(widget).grab().save(path)) {
+    QPixmap picture(widget.size());
+    const_cast<QWidget&>(widget).render(&picture);
+    if (width > 0) picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
+    if (!picture.save(path)) {
       std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
       ok_ = false;
     }
@@ -32,22 +38,26 @@ class Album {
   bool ok_ = true;
 };
 
+void Click(MainWindow& window, const char* button) {
+  window.findChild<QAbstractButton*>(button)->click();
+}
+
 void ShowNormalSquare(MainWindow& window, int size) {
   window.findChild<QLineEdit*>("Text1")->setText(QString::number(size));
-  window.findChild<QPushButton*>("SolveAuto")->click();
+  Click(window, "SolveAuto");
 }
 
 void ShowVariableSquare(MainWindow& window, int size, int sum) {
   window.findChild<QLineEdit*>("Text1")->setText(QString::number(size));
   window.findChild<QLineEdit*>("Text4")->setText(QString::number(sum));
-  window.findChild<QPushButton*>("SolveAuto")->click();
+  Click(window, "SolveAuto");
 }
 
 /// A board in play: some lines right, some not.
 void ShowManualBoard(MainWindow& window) {
   window.findChild<QLineEdit*>("Text1")->setText("5");
   window.findChild<QLineEdit*>("Text4")->setText("65");
-  window.findChild<QPushButton*>("SolveManual")->click();
+  Click(window, "SolveManual");
   const int typed[] = {17, 24, 1, 8, 15, 23, 5, 7, 14, 16, 4, 6};
   for (const int value : typed) {
     for (const QChar digit : QString::number(value)) {
@@ -64,22 +74,46 @@ void ShowManualBoard(MainWindow& window) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  if (argc != 2) {
-    std::fputs("usage: numorra-pictures FOLDER\n", stderr);
+  if (argc != 3) {
+    std::fputs("usage: numorra-pictures DOCUMENTS HELP\n", stderr);
     return 2;
   }
-  Album album(argv[1]);
+  Album documents(argv[1]);
+  Album help(argv[2]);
   numorra::TickingClock clock(1514);
   MainWindow window({.TimeOfDay = &clock});
   window.show();
+  const auto& drawing = *window.findChild<numorra::Drawing*>();
+
   for (const int size : {3, 11, 50}) {
     ShowNormalSquare(window, size);
-    album.Save(window, QString("normal-%1").arg(size));
+    documents.Save(window, QString("normal-%1").arg(size));
+    if (size == 11) help.Save(window, "normal", 560);
   }
-  window.findChild<QRadioButton*>("Option4")->click();
+  ShowNormalSquare(window, 10);
+  Click(window, "Command1");
+  documents.Save(window, "circles-10");
+  help.Save(drawing, "circles", 300);
+  for (const int size : {5, 8, 10}) {
+    ShowNormalSquare(window, size);
+    Click(window, "Command2");
+    documents.Save(window, QString("vectors-%1").arg(size));
+    help.Save(drawing, QString("vectors-%1").arg(size), 300);
+  }
+  Click(window, "Option4");
   ShowVariableSquare(window, 10, 505);
-  album.Save(window, "variable-10");
+  documents.Save(window, "variable-10");
+  Click(window, "Command3");
+  documents.Save(window, "shaded-10");
   ShowManualBoard(window);
-  album.Save(window, "manual-5");
-  return album.Ok() ? 0 : 1;
+  documents.Save(window, "manual-5");
+  help.Save(window, "manual", 560);
+  auto* menu = window.findChild<QMenu*>("ManualMenux");
+  menu->popup(QPoint(0, 0));
+  help.Save(*menu, "menu");
+  menu->close();
+  Click(window, "SolveManual");
+  window.findChild<QAction*>("PrintSol")->trigger();
+  documents.Save(*window.findChild<QDialog*>("PrintSolution"), "print");
+  return documents.Ok() && help.Ok() ? 0 : 1;
 }

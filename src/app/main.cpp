@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "app/main_window.h"
+#include "app/program_icon.h"
 
 namespace {
 
@@ -23,6 +24,7 @@ void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& mes
 int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
   const QApplication application(argc, argv);
+  QApplication::setWindowIcon(numorra::ProgramIcon());
   numorra::MainWindow window;
   window.show();
   return QApplication::exec();

@@ -6,11 +6,17 @@
 #include <QMenuBar>
 
 #include "app/board/numbers.h"
+#include "app/column_scroller.h"
 #include "app/named.h"
 #include "app/play/board_mouse.h"
 #include "app/play/manual_board.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
+#include "help/about_window.h"
+#include "help/help_window.h"
+#include "print/print_form.h"
+#include "print/sheet.h"
+#include "visual/shading.h"
 
 namespace numorra {
 namespace {
@@ -21,10 +27,11 @@ constexpr int Pixels(int twips) {
 }
 
 constexpr int kGap = Pixels(30);      // left of the column of frames, and right of it
+constexpr int kInside = 6;            // pixels around and between a frame's controls
 constexpr int kMargin = Pixels(120);  // right of the board and below it
 
 /// Room for the largest proposal, a board of order 14.
-constexpr QSize kOpeningSize(720, 600);
+constexpr QSize kOpeningSize(740, 700);
 
 PressedButton ButtonOf(Qt::MouseButton button) {
   switch (button) {
@@ -43,13 +50,18 @@ MainWindow::MainWindow(const World& world)
     : messageBoxes_(this),
       random_(world.TimeOfDay ? *world.TimeOfDay : systemClock_),
       dialogs_(world.Boxes ? *world.Boxes : messageBoxes_),
+      printer_(world.Printer ? *world.Printer : paperPrinter_),
       runner_(dialogs_, world.FrameMilliseconds),
       solve_(new SolveFrame),
       limit_(new LimitFrame),
       square_(new SquareFrame),
       corners_(new CornersFrame),
+      colours_(new ColourPicker),
+      draw_(new DrawFrame),
       solution_(Named("Frame1", new QGroupBox("Solution"))),
       view_(new GridView(board_.grid)),
+      drawing_(new Drawing(board_)),
+      boardPlace_(new QStackedLayout),
       menu_(new BoardMenu(this)),
       stage_(*solve_, runner_),
       cellEntry_(board_, dialogs_),
@@ -79,22 +91,34 @@ void MainWindow::LayOut() {
   columns->setContentsMargins(kGap, kGap, kMargin, kMargin);
   columns->setSpacing(kGap);
 
-  auto* frames = new QVBoxLayout;
-  for (QGroupBox* frame : std::initializer_list<QGroupBox*>{limit_, solve_, square_, corners_}) {
+  auto* left = new QWidget;
+  auto* frames = new QVBoxLayout(left);
+  frames->setContentsMargins({});
+  frames->setSpacing(kGap);
+  for (QGroupBox* frame :
+       std::initializer_list<QGroupBox*>{limit_, solve_, square_, corners_, colours_, draw_}) {
     frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    frame->layout()->setContentsMargins(kInside, kInside, kInside, kInside);
+    frame->layout()->setSpacing(kInside);
     frames->addWidget(frame);
   }
   frames->addStretch();
-  columns->addLayout(frames);
+  columns->addWidget(new ColumnScroller(left));
 
   auto* board = new QVBoxLayout(solution_);
   board->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  board->addWidget(view_);
+  board->addLayout(boardPlace_);
+  boardPlace_->addWidget(view_);
+  boardPlace_->addWidget(drawing_);
   columns->addWidget(solution_, 1);
 }
 
 void MainWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
+  QAction* print = Named("PrintSol", file->addAction("&Print Solution..."));
+  print->setShortcut(QKeySequence::Print);
+  connect(print, &QAction::triggered, this, &MainWindow::OpenPrintForm);
+  file->addSeparator();
   QAction* exit = Named("Exitx", file->addAction("E&xit"));
   exit->setShortcut(QKeySequence::Quit);
   connect(exit, &QAction::triggered, this, [] { QApplication::closeAllWindows(); });
@@ -105,6 +129,28 @@ void MainWindow::BuildMenus() {
     move(0, 0);
     showMaximized();
   });
+
+  QMenu* help = menuBar()->addMenu("&Help");
+  QAction* page = Named("Helpx", help->addAction("&Help"));
+  page->setShortcut(QKeySequence::HelpContents);
+  connect(page, &QAction::triggered, this, &MainWindow::OpenHelp);
+  QAction* about = Named("Aboutx", help->addAction("&About"));
+  connect(about, &QAction::triggered, this, [this] { (new AboutForm(this))->open(); });
+}
+
+void MainWindow::OpenHelp() {
+  (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();
+}
+
+/// The print form, where there is a board in sight that fits on a page.
+void MainWindow::OpenPrintForm() {
+  if (!board_.Shown() || !board_.grid.Visible()) {
+    dialogs_.Tell("nothing to print");
+  } else if (board_.GridSize > kMaxPrintedOrder) {
+    dialogs_.Tell("cannot print larger than 30x30 grid");
+  } else {
+    (new PrintForm(board_.grid, *square_, printer_, dialogs_, this))->open();
+  }
 }
 
 void MainWindow::ConnectControls() {
@@ -134,6 +180,18 @@ void MainWindow::ConnectControls() {
   });
   command(square_->SolveRandum, &QPushButton::clicked,
           [this] { ProposeSquare(*square_, board_.SolveMode, random_); });
+  command(colours_->Command3, &QPushButton::clicked, [this] {
+    const BusyPointer busy(stage_);
+    FillColours(board_, colours_->Picked());
+  });
+  const auto draw = [this](OverlayKind kind) {
+    return [this, kind] {
+      if (board_.HasTotal()) board_.SetOverlay(kind);
+    };
+  };
+  command(draw_->Command1, &QPushButton::clicked, draw(OverlayKind::Circles));
+  command(draw_->Command2, &QPushButton::clicked, draw(OverlayKind::Vectors));
+  command(draw_->Command4, &QPushButton::clicked, draw(OverlayKind::None));
   for (const Mode mode : {ModeNormal, ModeVariable}) {
     QRadioButton* option = mode == ModeNormal ? solve_->Option3 : solve_->Option4;
     connect(option, &QRadioButton::toggled, this, [this, mode](bool on) {
@@ -144,6 +202,7 @@ void MainWindow::ConnectControls() {
 }
 
 void MainWindow::ConnectBoard() {
+  board_.OnOverlay = [this] { ShowOverlay(); };
   connect(view_, &GridView::CellPressed, this, &MainWindow::PressCell);
   connect(view_, &GridView::MenuWanted, this, &MainWindow::OpenMenu);
   connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
@@ -184,6 +243,7 @@ void MainWindow::StartUp() {
   board_.BaseValue = ToInt16(board_.TargetTotal);
   board_.GridSize = ToInt16(Val(square_->Size()));
   SetSolveMode(ModeNormal);
+  colours_->ShowBars();
   ProposeSquare(*square_, board_.SolveMode, random_);
 }
 
@@ -210,6 +270,23 @@ void MainWindow::ShowState() {
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
   corners_->DoCor1->setEnabled(board_.Shown());
   corners_->DoCor2->setEnabled(board_.Shown());
+}
+
+/// Puts the drawing in the place of the board, or the board back.
+void MainWindow::ShowOverlay() {
+  drawing_->SetColour(colours_->Picked());
+  switch (board_.Overlay) {
+    case OverlayKind::None:
+      drawing_->setProperty("tag", "");
+      break;
+    case OverlayKind::Circles:
+      drawing_->setProperty("tag", "C");
+      break;
+    case OverlayKind::Vectors:
+      drawing_->setProperty("tag", "V");
+      break;
+  }
+  boardPlace_->setCurrentWidget(board_.OverlayShown() ? static_cast<QWidget*>(drawing_) : view_);
 }
 
 bool MainWindow::LimitToNine() const {

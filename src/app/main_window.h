@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QStackedLayout>
 
 #include "app/board/board.h"
 #include "app/board/random.h"
@@ -19,6 +20,10 @@
 #include "generate/solve_command.h"
 #include "generate/top_row_command.h"
 #include "listbox/list_boy.h"
+#include "print/sheet_printer.h"
+#include "visual/colour_picker.h"
+#include "visual/draw_frame.h"
+#include "visual/drawing.h"
 
 namespace numorra {
 
@@ -26,6 +31,7 @@ namespace numorra {
 struct World {
   Clock* TimeOfDay = nullptr;
   Dialogs* Boxes = nullptr;
+  SheetPrinter* Printer = nullptr;
   int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
 };
 
@@ -61,11 +67,16 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition);
   void OpenMenu(QPoint globalPosition);
   void ShowState();
+  void ShowOverlay();
+  void OpenPrintForm();
+  void OpenHelp();
 
   SystemClock systemClock_;
   MessageBoxes messageBoxes_;
   ClockSeededRandom random_;
+  PaperPrinter paperPrinter_;
   Dialogs& dialogs_;
+  SheetPrinter& printer_;
   CommandRunner runner_;
   Board board_;
   CommandHistory history_;
@@ -75,8 +86,12 @@ class MainWindow : public QMainWindow, private BuildOptions {
   LimitFrame* limit_;
   SquareFrame* square_;
   CornersFrame* corners_;
+  ColourPicker* colours_;
+  DrawFrame* draw_;
   QGroupBox* solution_;
   GridView* view_;
+  Drawing* drawing_;
+  QStackedLayout* boardPlace_;
   BoardMenu* menu_;
 
   WindowStage stage_;

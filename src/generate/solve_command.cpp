@@ -22,6 +22,7 @@ SolveCommand::SolveCommand(const SolvePorts& ports)
       variable_(ports.Dice, ports.Stage, ports.List3) {}
 
 void SolveCommand::Auto() {
+  ports_.TheBoard.SetOverlay(OverlayKind::None);
   if (ports_.TheBoard.SolveMode == ModeNormal) {
     if (Val(ports_.Boxes.Size()) >= kMaxOrder + 1) {
       ports_.Speech.Tell(kTooLarge);

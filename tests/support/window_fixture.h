@@ -14,7 +14,9 @@ namespace numorra {
 class WindowTest : public testing::Test {
  protected:
   explicit WindowTest(int frameMilliseconds = CommandRunner::kFrameMilliseconds)
-      : window_({&clock_, &dialogs_, frameMilliseconds}) {
+      : window_({.TimeOfDay = &clock_,
+                 .Boxes = &dialogs_,
+                 .FrameMilliseconds = frameMilliseconds}) {
     window_.show();
     QCoreApplication::processEvents();
   }

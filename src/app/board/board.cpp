@@ -5,6 +5,17 @@
 
 namespace numorra {
 
+bool Board::HasTotal() const {
+  return Shown() && Val(grid.Text(0, 0)) != 0;
+}
+
+void Board::SetOverlay(OverlayKind overlay) {
+  if (overlay == Overlay) return;
+  Overlay = overlay;
+  grid.SetVisible(overlay == OverlayKind::None);
+  if (OnOverlay) OnOverlay();
+}
+
 void Board::SetupBoard() {
   MarkedRow = -1;
   MarkedCol = -1;
@@ -43,6 +54,7 @@ void Board::ShowBoard() {
   show(0, last);
   show(last, 0);
   show(0, 0);
+  SetOverlay(OverlayKind::None);
 }
 
 void Board::ShowSquare(std::int16_t order, double target, const CellTable& square) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "app/board/cell_table.h"
 #include "app/board/grid.h"
@@ -9,6 +10,9 @@ namespace numorra {
 
 /// Which squares the program is asked for: the numbers 1 to n x n, or any numbers with a total.
 enum Mode : std::int16_t { ModeVariable = 0, ModeNormal = 1 };
+
+/// What covers the board instead of the grid.
+enum class OverlayKind { None, Circles, Vectors };
 
 /// The board that every command shares: an n x n block of numbers in a grid of n + 2 lines each
 /// way, with its totals around it.
@@ -40,8 +44,21 @@ struct Board {
   std::int16_t MarkedRow = -1;  ///< the cell, row or column remembered for a swap; -1 = none
   std::int16_t MarkedCol = -1;
 
+  /// The drawing over the board. The grid is invisible while there is one.
+  OverlayKind Overlay = OverlayKind::None;
+  bool OverlayShown() const { return Overlay != OverlayKind::None; }
+
+  /// Raised when the drawing has changed.
+  std::function<void()> OnOverlay;
+
   /// Whether a board of GridSize stands in the grid.
   bool Shown() const { return GridSize > 0 && grid.Rows() == GridSize + 2; }
+
+  /// Whether the main diagonal's total is other than 0: what can be shaded and drawn.
+  bool HasTotal() const;
+
+  /// Covers the grid with a drawing, or shows the grid again.
+  void SetOverlay(OverlayKind overlay);
 
   /// Makes the grid that of an empty board of GridSize: empty value cells in their colours, the
   /// frame in the window's own; forgets the marks.
@@ -55,7 +72,8 @@ struct Board {
   /// diagonal in (0, 0), the other one in (0, n + 1) and (n + 1, 0).
   void ComputeTotals();
 
-  /// Computes the totals and writes values and totals into the grid; changes no colours.
+  /// Computes the totals and writes values and totals into the grid, which takes a drawing away;
+  /// changes no colours.
   void ShowBoard();
 
   /// Puts a new board of order `order` with the values of `square` in the grid and in sight, its

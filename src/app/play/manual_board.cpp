@@ -14,6 +14,7 @@ constexpr int kLargestSimpleSize = 20;
 }  // namespace
 
 void BuildManualBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage) {
+  board.SetOverlay(OverlayKind::None);
   stage.ShowCount("");
   const std::int16_t order = ToInt16(Val(boxes.Size()));
   double sum = Val(boxes.Sum());

@@ -1,0 +1,60 @@
+#include "help/help_window.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+
+#include "help/help_page.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kSideMargin = 4;  // pixels: 120 twips on both sides together
+constexpr qint64 kLargestFile = 16 << 20;
+
+}  // namespace
+
+FolderBrowser::FolderBrowser(const QString& folder, QWidget* parent)
+    : QTextBrowser(parent), folder_(folder) {
+  setOpenExternalLinks(false);
+  setFrameShape(QFrame::NoFrame);
+}
+
+QUrl FolderBrowser::Absolute(const QUrl& name) const {
+  return QUrl::fromLocalFile(HelpPageIn(folder_)).resolved(name);
+}
+
+QVariant FolderBrowser::loadResource(int, const QUrl& name) {
+  const QUrl url = Absolute(name);
+  if (!StandsIn(folder_, url)) return {};
+  QFile file(url.toLocalFile());
+  if (file.size() > kLargestFile || !file.open(QFile::ReadOnly)) return {};
+  return file.readAll();
+}
+
+void FolderBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
+  if (StandsIn(folder_, Absolute(name))) {
+    QTextBrowser::doSetSource(name, QTextDocument::HtmlResource);
+  }
+}
+
+HelpForm::HelpForm(const QString& folder, QWidget* parent)
+    : QDialog(parent), wb1(new FolderBrowser(folder)) {
+  setObjectName("HelpForm");
+  setWindowTitle("Numorra Help");
+  setAttribute(Qt::WA_DeleteOnClose);
+  wb1->setObjectName("wb1");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
+  row->addWidget(wb1);
+  resize(760, 640);
+
+  const QString page = HelpPageIn(folder);
+  wb1->setSource(QUrl::fromLocalFile(page));
+  if (wb1->document()->isEmpty()) {
+    wb1->setPlainText("The help page cannot be shown. It should stand beside the program as\n" +
+                      page);
+  }
+}
+
+}  // namespace numorra

@@ -1,0 +1,68 @@
+#include "print/print_form.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "app/board/numbers.h"
+#include "app/named.h"
+#include "print/sheet.h"
+
+namespace numorra {
+
+PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer,
+                     Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent),
+      Text1(new QPlainTextEdit),
+      PrintGridx(Named("PrintGridx", new QPushButton("Print &Puzzle Sheet"))),
+      PrintSolx(Named("PrintSolx", new QPushButton("Print &Solution"))),
+      Closex(Named("Closex", new QPushButton("&Close"))),
+      grid_(grid),
+      boxes_(boxes),
+      printer_(printer),
+      dialogs_(dialogs),
+      runner_(dialogs) {
+  setObjectName("PrintSolution");
+  setWindowTitle("Print Solution");
+  setAttribute(Qt::WA_DeleteOnClose);
+  Text1->setObjectName("preview");
+  Text1->setAccessibleName("Preview");
+  Text1->setReadOnly(true);
+  Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
+  QFont font("courier new", 8);
+  font.setStyleHint(QFont::Monospace);
+  Text1->setFont(font);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(PrintGridx);
+  buttons->addWidget(PrintSolx);
+  buttons->addStretch();
+  buttons->addWidget(Closex);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(Text1);
+  column->addLayout(buttons);
+  resize(640, 480);
+
+  connect(PrintGridx, &QPushButton::clicked, this, [this] { Print(PuzzleSheet, "grid printed"); });
+  connect(PrintSolx, &QPushButton::clicked, this,
+          [this] { Print(SolutionSheet, "solution printed"); });
+  connect(Closex, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void PrintForm::showEvent(QShowEvent* event) {
+  Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total())));
+  QDialog::showEvent(event);
+}
+
+void PrintForm::Print(Sheet sheet, const char* done) {
+  runner_.Run([this, sheet, done] {
+    if (!printer_.Choose(this)) return;
+    printer_.Print(sheet(grid_, Total()));
+    dialogs_.Tell(done);
+  });
+}
+
+double PrintForm::Total() const {
+  return Val(boxes_.Sum());
+}
+
+}  // namespace numorra

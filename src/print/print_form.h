@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "app/board/grid.h"
+#include "app/command_runner.h"
+#include "app/ports/square_boxes.h"
+#include "print/sheet_printer.h"
+
+namespace numorra {
+
+/// The print form (`PrintSolution`): the board as text, and the commands that print it.
+class PrintForm : public QDialog {
+  Q_OBJECT
+
+ public:
+  PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
+            QWidget* parent);
+
+  QPlainTextEdit* const Text1;
+  QPushButton* const PrintGridx;
+  QPushButton* const PrintSolx;
+  QPushButton* const Closex;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  using Sheet = std::string (*)(const Grid&, double);
+  void Print(Sheet sheet, const char* done);
+  double Total() const;
+
+  const Grid& grid_;
+  const SquareBoxes& boxes_;
+  SheetPrinter& printer_;
+  Dialogs& dialogs_;
+  CommandRunner runner_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,97 @@
+#include "print/sheet.h"
+
+#include <algorithm>
+
+#include "app/board/numbers.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kPlaces = 3;
+constexpr int kPageWidth = 128;
+constexpr const char* kFilledCaption =
+    "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS ADD TO";
+constexpr const char* kPuzzleCaption =
+    "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS MUST ADD TO";
+
+std::size_t LineWidth(int order) {
+  return static_cast<std::size_t>(4 * order + 2);
+}
+
+/// Writes `text` over `line` from the 0-based `place` on, as far as the line goes.
+void WriteOver(std::string& line, std::size_t place, const std::string& text) {
+  const std::size_t length = std::min(text.size(), line.size() - std::min(place, line.size()));
+  line.replace(place, length, text, 0, length);
+}
+
+std::string Rule(int order, char joint) {
+  std::string line(LineWidth(order), ' ');
+  for (int column = 0; column < order; ++column) {
+    WriteOver(line, static_cast<std::size_t>(4 * column), std::string("---") + joint);
+  }
+  return joint + line;
+}
+
+std::string Places(const std::string& text) {
+  const auto places = static_cast<std::size_t>(kPlaces);
+  return text.size() < places ? std::string(places - text.size(), ' ') + text : text;
+}
+
+template <class TextAt>
+std::string RowLine(int order, TextAt textAt) {
+  std::string line = "|" + std::string(LineWidth(order), ' ');
+  for (int column = 1; column <= order; ++column) {
+    WriteOver(line, static_cast<std::size_t>(4 * column - 3), Places(textAt(column)) + "|");
+  }
+  return line;
+}
+
+/// Caption, edge, the rows with rules between them, edge.
+template <class TextAt>
+std::string Sheet(int order, const std::string& caption, std::size_t indent,
+                  const std::string& edge, TextAt textAt) {
+  std::string sheet;
+  const auto add = [&](const std::string& line) {
+    sheet += std::string(indent, ' ') + line + "\r\n";
+  };
+  add(caption);
+  add(edge);
+  for (int row = 1; row <= order; ++row) {
+    add(RowLine(order, [&](int column) { return textAt(row, column); }));
+    add(row < order ? Rule(order, '|') : edge);
+  }
+  return sheet;
+}
+
+int OrderOf(const Grid& grid) {
+  return grid.Rows() - 2;
+}
+
+std::size_t CentringIndent(int order) {
+  return static_cast<std::size_t>(std::max<int>(0, ToInt16((kPageWidth - 4 * order) / 2.0)));
+}
+
+}  // namespace
+
+std::string PreviewSheet(const Grid& grid, double total) {
+  const int order = OrderOf(grid);
+  return Sheet(order, kFilledCaption + Str(total), 1, Rule(order, '|'),
+               [&](int row, int column) { return grid.Text(row, column); });
+}
+
+std::string SolutionSheet(const Grid& grid, double total) {
+  const int order = OrderOf(grid);
+  return Sheet(order, kFilledCaption + Str(total), CentringIndent(order), Rule(order, '+'),
+               [&](int row, int column) { return grid.Text(row, column); });
+}
+
+std::string PuzzleSheet(const Grid& grid, double total) {
+  const int order = OrderOf(grid);
+  const auto atEnd = [order](int line) { return line == 1 || line == order; };
+  return Sheet(order, kPuzzleCaption + Str(total), CentringIndent(order), Rule(order, '+'),
+               [&](int row, int column) {
+                 return atEnd(row) && atEnd(column) ? grid.Text(row, column) : std::string();
+               });
+}
+
+}  // namespace numorra

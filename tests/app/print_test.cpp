@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "app/board/runtime_error.h"
+#include "print/print_form.h"
+#include "print/sheet.h"
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+/// Keeps what is printed, or fails.
+struct KeepingPrinter : SheetPrinter {
+  bool Choose(QWidget*) override { return Chosen; }
+  void Print(const std::string& text) override {
+    if (Broken) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+    Printed.push_back(text);
+  }
+  bool Chosen = true;
+  bool Broken = false;
+  Messages Printed;
+};
+
+class PrintTest : public testing::Test {
+ protected:
+  PrintTest() {
+    window_.show();
+    window_.findChild<QLineEdit*>("Text1")->setText("3");
+  }
+
+  void Build() { window_.findChild<QPushButton*>("SolveAuto")->click(); }
+  void Open() { window_.findChild<QAction*>("PrintSol")->trigger(); }
+  QDialog* Form() { return window_.findChild<QDialog*>("PrintSolution"); }
+
+  TickingClock clock_{1};
+  ScriptedDialogs dialogs_;
+  KeepingPrinter printer_;
+  MainWindow window_{{.TimeOfDay = &clock_, .Boxes = &dialogs_, .Printer = &printer_}};
+};
+
+TEST_F(PrintTest, OpensOnlyWhereThereIsSomethingToPrint) {
+  const auto said = [this](const char* message) {
+    Open();
+    EXPECT_EQ(dialogs_.Take(), Messages{message});
+    EXPECT_EQ(Form(), nullptr);
+  };
+  said("nothing to print");
+  window_.findChild<QLineEdit*>("Text1")->setText("31");
+  Build();
+  said("cannot print larger than 30x30 grid");
+  window_.findChild<QPushButton*>("Command1")->click();
+  said("nothing to print");
+  window_.findChild<QLineEdit*>("Text1")->setText("30");
+  Build();
+  Open();
+  EXPECT_NE(Form(), nullptr);
+}
+
+TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
+  Build();
+  Open();
+  const Grid& grid = window_.TheBoard().grid;
+  auto* preview = Form()->findChild<QPlainTextEdit*>("preview");
+  EXPECT_EQ(preview->toPlainText().replace("\n", "\r\n").toStdString(), PreviewSheet(grid, 15));
+  const auto click = [this](const char* button) {
+    QTest::mouseClick(Form()->findChild<QPushButton*>(button), Qt::LeftButton);
+    return dialogs_.Take();
+  };
+  EXPECT_EQ(click("PrintGridx"), Messages{"grid printed"});
+  EXPECT_EQ(click("PrintSolx"), Messages{"solution printed"});
+  EXPECT_EQ(printer_.Printed, (Messages{PuzzleSheet(grid, 15), SolutionSheet(grid, 15)}));
+  printer_.Chosen = false;
+  EXPECT_EQ(click("PrintSolx"), Messages{});
+  printer_.Chosen = true;
+  printer_.Broken = true;
+  EXPECT_EQ(click("PrintGridx"), Messages{"Printer error: cannot begin to print"});
+  EXPECT_EQ(printer_.Printed.size(), 2U);
+  click("Closex");
+  EXPECT_FALSE(Form() && Form()->isVisible());
+}
+
+TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
+  const QTemporaryDir folder;
+  const QString pdf = folder.filePath("sheet.pdf");
+  Board board;
+  board.GridSize = 30;
+  board.SetupBoard();
+  board.FillBoard(0);
+  board.ShowBoard();
+  const std::string sheet = SolutionSheet(board.grid, 13515);
+  PaperPrinter printer;
+  printer.PrintTo(pdf);
+  printer.Print(sheet);
+
+  QProcess reader;
+  reader.start("pdftotext", {"-fixed", "4.8", "-nopgbrk", pdf, "-"});
+  ASSERT_TRUE(reader.waitForFinished());
+  const auto lines = [](QString text) {
+    QStringList kept;
+    for (const QString& line : text.split('\n')) {
+      if (!line.trimmed().isEmpty()) kept << line.trimmed();
+    }
+    return kept;
+  };
+  EXPECT_EQ(lines(reader.readAllStandardOutput()),
+            lines(QString::fromStdString(sheet).remove('\r')));
+  reader.start("pdfinfo", {pdf});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QString info = reader.readAllStandardOutput();
+  EXPECT_TRUE(info.contains(QRegularExpression("Pages:\\s+1\\n"))) << info.toStdString();
+  EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+(841|842|792)")))
+      << info.toStdString();
+}
+
+TEST(PaperPrinters, FailWithARunTimeError) {
+  for (const char* file : {"/nowhere/at/all.pdf", "/dev/full", "/tmp"}) {
+    PaperPrinter printer;
+    printer.PrintTo(file);
+    EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << file;
+  }
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,154 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextDocument>
+
+#include "help/about_window.h"
+#include "help/help_page.h"
+#include "help/help_window.h"
+
+namespace numorra {
+namespace {
+
+void Write(const QString& path, const QByteArray& content) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QFile::WriteOnly));
+  file.write(content);
+}
+
+class HelpTest : public testing::Test {
+ protected:
+  HelpTest() {
+    EXPECT_TRUE(QDir(root_.path()).mkpath("program/nrhelp"));
+    folder_ = root_.path() + "/program";
+    Write(root_.path() + "/secret.txt", "secret");
+    Write(folder_ + "/nrhelp/more.htm", "<p>more</p>");
+  }
+
+  QTemporaryDir root_;
+  QString folder_;
+};
+
+TEST_F(HelpTest, ThePageStandsBesideTheProgram) {
+  EXPECT_EQ(HelpPageIn("/opt/numorra"), "/opt/numorra/nrhelp.htm");
+  EXPECT_EQ(HelpPageIn("/"), "/nrhelp.htm");
+}
+
+TEST_F(HelpTest, SaysPlainlyWhenThePageIsMissing) {
+  const HelpForm form(folder_, nullptr);
+  EXPECT_TRUE(form.wb1->toPlainText().contains("cannot be shown"));
+  EXPECT_TRUE(form.wb1->toPlainText().contains(folder_ + "/nrhelp.htm"));
+  EXPECT_EQ(form.windowTitle(), "Numorra Help");
+}
+
+TEST_F(HelpTest, ShowsItsOwnFolderAndNothingElse) {
+  Write(folder_ + "/nrhelp.htm", "<h1>Hello</h1>");
+  QFile::link(root_.path() + "/secret.txt", folder_ + "/link.txt");
+  HelpForm form(folder_, nullptr);
+  EXPECT_EQ(form.wb1->toPlainText(), "Hello");
+  for (const QString& link :
+       {QString("../secret.txt"), QString("link.txt"), "file://" + root_.path() + "/secret.txt",
+        QString("file:///etc/hostname"), QString("http://example.org/"), QString("nowhere.htm"),
+        QString("qrc:/x"), QString("data:text/html,x"), QString("file://host/etc/passwd"),
+        QString("%2e%2e/secret.txt")}) {
+    form.wb1->setSource(QUrl(link));
+    EXPECT_EQ(form.wb1->toPlainText(), "Hello") << link.toStdString();
+    EXPECT_TRUE(form.wb1->loadResource(QTextDocument::HtmlResource, QUrl(link)).isNull())
+        << link.toStdString();
+  }
+  form.wb1->setSource(QUrl("nrhelp/more.htm"));
+  EXPECT_EQ(form.wb1->toPlainText(), "more");
+}
+
+TEST_F(HelpTest, ResizesToNothingWithoutHarm) {
+  Write(folder_ + "/nrhelp.htm", "<h1>Hello</h1>");
+  HelpForm form(folder_, nullptr);
+  form.show();
+  form.resize(500, 300);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form.wb1->width(), form.width() - 8);
+  EXPECT_EQ(form.wb1->height(), form.height());
+  form.resize(1, 1);
+  QCoreApplication::processEvents();
+}
+
+/// The page that goes with the program: every picture and link leads somewhere, every name is
+/// there.
+TEST(HelpPage, IsWhole) {
+  const QString folder = QCoreApplication::applicationDirPath();
+  QFile file(HelpPageIn(folder));
+  ASSERT_TRUE(file.open(QFile::ReadOnly));
+  const QString page = QString::fromUtf8(file.readAll()).simplified();
+  HelpForm form(folder, nullptr);
+  int links = 0;
+  QRegularExpression reference("(?:src|href)=\"([^\"]+)\"");
+  for (const auto& match : reference.globalMatch(page)) {
+    const QString target = match.captured(1);
+    ++links;
+    if (target.startsWith('#')) {
+      EXPECT_TRUE(page.contains("name=\"" + target.mid(1) + "\"")) << target.toStdString();
+    } else {
+      EXPECT_TRUE(StandsIn(folder, QUrl::fromLocalFile(folder + "/" + target)))
+          << target.toStdString();
+    }
+  }
+  EXPECT_GT(links, 10);
+  for (const char* word : {"Auto",
+                           "Manual",
+                           "Solve Again",
+                           "4x4Set",
+                           "Random",
+                           "Limit to 9",
+                           "Corners",
+                           "Diagonals",
+                           "Edges",
+                           "Show",
+                           "Cricles",
+                           "Vectors",
+                           "Clear",
+                           "Print Solution",
+                           "Set value to",
+                           "mimimum value in grid",
+                           "correct diagnonal",
+                           "Swap value",
+                           "Flip diagonal 1",
+                           "Rotate 270d",
+                           "Transpose",
+                           "Redo last command",
+                           "Backspace",
+                           "Enter",
+                           "F1",
+                           "green",
+                           "red",
+                           "LUX"}) {
+    EXPECT_TRUE(page.contains(word)) << word;
+  }
+}
+
+TEST(About, ClosesByButtonTextAndEsc) {
+  const auto closes = [](auto act) {
+    auto* form = new AboutForm(nullptr);
+    QPointer<AboutForm> alive(form);
+    form->show();
+    act(form);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return alive.isNull();
+  };
+  EXPECT_TRUE(closes([](AboutForm* f) { QTest::mouseClick(f->AboutOk, Qt::LeftButton); }));
+  EXPECT_TRUE(closes([](AboutForm* f) { QTest::mousePress(f->AboutText, Qt::LeftButton); }));
+  EXPECT_TRUE(closes([](AboutForm* f) { QTest::keyClick(f, Qt::Key_Escape); }));
+  const AboutForm form(nullptr);
+  EXPECT_EQ(form.AboutText->text(),
+            "\nNumorra - Feb 2004\nQuestions and ideas are welcome:\nnumorra@example.org\n");
+  EXPECT_EQ(form.Label1->text(), "Version 1.0");
+  EXPECT_EQ(form.windowTitle(), "About Numorra");
+  EXPECT_FALSE(form.Picture1->pixmap().isNull());
+}
+
+}  // namespace
+}  // namespace numorra

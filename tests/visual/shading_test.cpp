@@ -1,0 +1,90 @@
+#include "visual/shading.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "support/boards.h"
+#include "visual/value_path.h"
+
+namespace numorra {
+namespace {
+
+double Luminance(Colour c) {
+  double parts[] = {c.Red / 255.0, c.Green / 255.0, c.Blue / 255.0};
+  for (double& part : parts) {
+    part = part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  }
+  return 0.2126 * parts[0] + 0.7152 * parts[1] + 0.0722 * parts[2];
+}
+
+double Contrast(Colour a, Colour b) {
+  const double la = Luminance(a) + 0.05, lb = Luminance(b) + 0.05;
+  return std::max(la, lb) / std::min(la, lb);
+}
+
+TEST(FillColours, ShadesInProportionToTheValues) {
+  struct Case {
+    const char* rows;
+    Colour picked;
+    int row, column;
+    Colour shaded;
+  };
+  const char* square = "8 1 6 / 3 5 7 / 4 9 2";
+  const Case cases[] = {
+      {square, Rgb(0, 0, 0), 3, 2, Rgb(255, 255, 255)},
+      {square, Rgb(0, 0, 0), 1, 2, Rgb(28, 28, 28)},
+      {square, Rgb(255, 0, 0), 1, 2, Rgb(255, 28, 28)},
+      {square, Rgb(255, 0, 0), 3, 2, Rgb(255, 255, 255)},
+      {"0 4 0 / 0 2 0 / 0 8 1", Rgb(10, 20, 30), 1, 1, Rgb(10, 20, 30)},
+      {"0 4 0 / 0 2 0 / 0 8 1", Rgb(10, 20, 30), 2, 2, Rgb(74, 84, 94)},
+      {"-5 1 1 / 1 -5 1 / 1 1 10", Rgb(10, 20, 30), 1, 1, ColorTable[kCellBackground]},
+      {"-5 -9 -9 / -9 -5 -9 / -9 -9 -5", Rgb(0, 0, 0), 1, 1, Rgb(255, 255, 255)},
+      {"8 1 6 / 3 5 7 / 4 5000000000 2", Rgb(0, 0, 0), 1, 1, Rgb(255, 255, 255)}};
+  for (const Case& c : cases) {
+    Board board;
+    ShowRows(board, c.rows);
+    FillColours(board, c.picked);
+    EXPECT_EQ(board.grid.Background(c.row, c.column), c.shaded) << c.rows;
+    EXPECT_EQ(board.grid.Background(0, 1), kWindowBackground) << "totals are left alone";
+    EXPECT_FALSE(board.grid.RedrawLocked());
+  }
+}
+
+TEST(FillColours, DoesNothingWhereTheDiagonalIsZero) {
+  Board board;
+  FillColours(board, Rgb(1, 2, 3));
+  ShowRows(board, "1 1 1 / 1 0 1 / 1 1 -1");
+  FillColours(board, Rgb(1, 2, 3));
+  EXPECT_EQ(board.grid.Background(1, 1), ColorTable[kCellBackground]);
+}
+
+TEST(FillColours, AHighestValueOfZeroLeavesThePickedColour) {
+  Board board;
+  ShowRows(board, "0 -1 -1 / -1 -1 -1 / -1 -1 -1");
+  FillColours(board, Rgb(9, 8, 7));
+  EXPECT_EQ(board.grid.Background(2, 2), Rgb(9, 8, 7));
+}
+
+TEST(ReadableText, HasContrastOnEveryColour) {
+  for (int red = 0; red < 256; red += 15) {
+    for (int green = 0; green < 256; green += 15) {
+      for (int blue = 0; blue < 256; blue += 15) {
+        const Colour colour = Rgb(red, green, blue);
+        ASSERT_GE(Contrast(colour, ReadableOn(colour)), 4.5) << red << green << blue;
+      }
+    }
+  }
+}
+
+TEST(ValuePaths, RiseWithEqualValuesInReadingOrder) {
+  Board board;
+  ShowRows(board, "2 9 2 / 1 5 7 / 2 -1 9");
+  std::string path;
+  for (const auto& cell : ValuePath(board)) {
+    path += std::to_string(cell.Row) + std::to_string(cell.Column) + " ";
+  }
+  EXPECT_EQ(path, "32 21 11 13 31 22 23 12 33 ");
+}
+
+}  // namespace
+}  // namespace numorra
