@@ -40,6 +40,6 @@ build() {
   echo "Building ($preset)"
   { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } \
     >"$log" 2>&1 ||
-    { grep -E '(: |fatal )error|undefined reference' "$log" | head -n 20 >&2
+    { grep -E '(: |fatal )error|undefined reference' "$log" | head -n 20 >&2 || tail -n 5 "$log" >&2
       echo "The build failed: see $log" >&2; return 1; }
 }

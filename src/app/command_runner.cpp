@@ -23,7 +23,7 @@ void CommandRunner::Run(Command command) {
 }
 
 void CommandRunner::Yield() {
-  if (sinceYield_.elapsed() >= frameMilliseconds_) {
+  if (YieldIsDue()) {
     QCoreApplication::processEvents();
     sinceYield_.start();
   }

@@ -26,6 +26,9 @@ class CommandRunner {
   /// Runs the command, or lets it take the place of the one that is running.
   void Run(Command command);
 
+  /// Whether the next yield will let events run.
+  bool YieldIsDue() const { return sinceYield_.elapsed() >= frameMilliseconds_; }
+
   /// For the running command: lets pending window events run, at most once a frame. Throws
   /// Superseded when it is to make way.
   void Yield();

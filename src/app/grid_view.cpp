@@ -23,7 +23,8 @@ QColor ToQColor(Colour colour) {
 
 }  // namespace
 
-GridView::GridView(Grid& grid, QWidget* parent) : QAbstractScrollArea(parent), grid_(grid) {
+GridView::GridView(Grid& grid, QWidget* parent)
+    : QAbstractScrollArea(parent), grid_(grid), dpi_(logicalDpiX()) {
   setObjectName("grid");
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -185,16 +186,21 @@ void GridView::changeEvent(QEvent* event) {
 
 /// The pixel at which a line begins, unscrolled.
 int GridView::Edge(int line) const {
-  return static_cast<int>(std::lround(line * Grid::kCellTwips * logicalDpiX() / kTwipsPerInch));
+  const auto index = static_cast<std::size_t>(line);
+  while (edges_.size() <= index) {
+    const auto next = static_cast<double>(edges_.size());
+    edges_.push_back(static_cast<int>(std::lround(next * Grid::kCellTwips * dpi_ / kTwipsPerInch)));
+  }
+  return edges_[index];
 }
 
 /// The line drawn at a pixel; -1 beyond the last.
 int GridView::LineAt(int position, int scrolled, int lines) const {
   if (position >= Edge(Grid::kFixedLines)) position += scrolled;
-  auto line = static_cast<int>(position * kTwipsPerInch / logicalDpiX() / Grid::kCellTwips);
+  auto line = std::max(0, static_cast<int>(position * kTwipsPerInch / dpi_ / Grid::kCellTwips));
   while (Edge(line + 1) <= position)
     ++line;
-  while (Edge(line) > position)
+  while (line > 0 && Edge(line) > position)
     --line;
   return position >= 0 && line < lines ? line : -1;
 }

@@ -69,6 +69,8 @@ class GridView : public QAbstractScrollArea {
   CellText& Texts();
 
   Grid& grid_;
+  int dpi_;
+  mutable std::vector<int> edges_;  ///< by line, as far as they have been asked for
   std::optional<CellText> texts_;
   std::optional<QSize> shape_;  ///< the table's lines when the scroll bars were last set
 };

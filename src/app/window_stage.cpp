@@ -8,19 +8,26 @@ void WindowStage::ShowBusy(bool busy) {
   const bool shown = QGuiApplication::overrideCursor() != nullptr;
   if (busy && !shown) QGuiApplication::setOverrideCursor(Qt::BusyCursor);
   if (!busy && shown) QGuiApplication::restoreOverrideCursor();
+  WriteCount();
 }
 
 void WindowStage::ShowCounter(bool counting) {
+  WriteCount();
   frame_.ShowCounter(counting);
   if (!counting) frame_.SolveAuto->setFocus();
 }
 
 void WindowStage::ShowCount(const char* text) {
-  frame_.IterationCount->setText(QLatin1String(text));
+  count_ = text;
 }
 
 void WindowStage::Yield() {
+  if (runner_.YieldIsDue()) WriteCount();
   runner_.Yield();
+}
+
+void WindowStage::WriteCount() {
+  frame_.IterationCount->setText(QString::fromStdString(count_));
 }
 
 }  // namespace numorra

@@ -6,7 +6,7 @@
 #include "app/board/runtime_error.h"
 #include "generate/proposal.h"
 #include "generate/stepping.h"
-#include "transform/symmetry.h"
+#include "transform/turning_square.h"
 
 namespace numorra {
 namespace {
@@ -93,21 +93,20 @@ CellTable NormalSquare::BuildLuxSquare(int k) {
 CellTable NormalSquare::BuildDoublyEvenSquare(int m) {
   const int order = 4 * m;
   stage_.ShowCount("");
-  CellTable cells;
+  // One step for each cell and each block.
+  Count(order * order + m * m);
+  LastPickOrTurns = static_cast<std::int16_t>(LastPickOrTurns >= 3 ? 0 : LastPickOrTurns + 1);
+  TurningSquare square(order);
   ForEachCell(order, [&](int i, int j) {
     const int value = (i - 1) * order + j;
     const int inRow = (i - 1) % 4;
     const int inColumn = (j - 1) % 4;
     const bool onBlockDiagonal = inRow == inColumn || inRow + inColumn == 3;
-    cells(i, j) = onBlockDiagonal ? order * order + 1 - value : value;
+    square(i, j) = onBlockDiagonal ? order * order + 1 - value : value;
   });
-  // One step for each cell and each block.
-  Count(order * order + m * m);
-
-  LastPickOrTurns = static_cast<std::int16_t>(LastPickOrTurns >= 3 ? 0 : LastPickOrTurns + 1);
   for (int turn = 0; turn < LastPickOrTurns; ++turn)
-    RotateBoard90(cells, order);
-  return cells;
+    square.RotateBoard90();
+  return square.Settled();
 }
 
 }  // namespace numorra

@@ -20,11 +20,11 @@ struct Stepping {
   int BreakRow;
 };
 
+/// One step each way: a diagonal is back at its start after n numbers, and only then is a cell taken.
 /// Pattern 0 goes up and right and breaks down, pattern 1 goes down and left and breaks up.
 inline constexpr Stepping kSteppings[] = {{-1, 1, 1}, {1, -1, -1}};
 
-/// Fills the block with 1..order x order from (startRow, startColumn), each 1..order. The break
-/// cell is written to whether or not it is free.
+/// Fills the block with 1..order x order from (startRow, startColumn), each 1..order.
 void FillByStepping(CellTable& cells, int order, int startRow, int startColumn, Stepping step);
 
 /// A start that gives a magic square.
@@ -40,8 +40,9 @@ struct SteppingAttempt {
 ///
 /// Not all 2n^2 squares need be filled. A start elsewhere shifts the whole fill cyclically, so rows
 /// and columns keep their totals and the two main diagonals are broken diagonals of the fill that
-/// starts at (1, 1): one fill a pattern and its 2n broken diagonals decide about every start. 2n
-/// attempts are kept, 2n/3 when 3 divides n.
+/// starts at (1, 1). The second pattern's fill from there is the first one's turned by half a turn
+/// about (1, 1), with wrap-around. So one fill and its 2n broken diagonals decide about every
+/// start. 2n attempts are kept, 2n/3 when 3 divides n.
 std::vector<SteppingAttempt> FindMagicStarts(int order, double target);
 
 }  // namespace numorra

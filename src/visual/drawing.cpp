@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include "visual/shading.h"
 #include "visual/value_path.h"
@@ -12,12 +12,28 @@
 namespace numorra {
 namespace {
 
-constexpr double kMargin = 8;            // pixels around the drawing
-constexpr double kSmallestArrowed = 14;  // the cells' side from which steps have arrow heads
-constexpr double kFirstHue = 0.68;       // blue, going to red
+constexpr double kMargin = 8;                // pixels around the drawing
+constexpr double kSmallestArrowed = 30;      // the cells' side from which steps have arrow heads
+const QColor kBehindCircles(104, 108, 114);  // lets white and dark ones stand out
+const QColor kRules(205, 205, 205);
+constexpr double kFirstHue = 0.68;  // blue, going to red
 
 QColor ToQColor(Colour colour) {
   return {colour.Red, colour.Green, colour.Blue};
+}
+
+/// A circle of radius 1 as a polygon that is nowhere further than a tenth of a pixel from the
+/// circle when it is drawn with `radius`. The toolkit's own ellipses take twice as long.
+QPolygonF UnitCircle(double radius) {
+  constexpr double kFlatness = 0.2;
+  const double half = std::acos(std::max(0.0, 1 - kFlatness / std::max(radius, 1.0)));
+  const int corners = std::max(8, static_cast<int>(std::ceil(std::numbers::pi / half)));
+  QPolygonF circle;
+  for (int i = 0; i < corners; ++i) {
+    const double angle = 2 * std::numbers::pi * i / corners;
+    circle << QPointF(std::cos(angle), std::sin(angle));
+  }
+  return circle;
 }
 
 /// The colour of a share, 0 to 1, of the way.
@@ -41,6 +57,7 @@ void PaintArrowHead(QPainter& painter, QPointF from, QPointF to, double size) {
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {
   setObjectName("Picture1");
   setProperty("tag", "");
+  setAttribute(Qt::WA_OpaquePaintEvent);  // or the frames behind would be painted first
   setAccessibleName("Drawing of the board");
 }
 
@@ -50,8 +67,9 @@ void Drawing::SetColour(Colour picked) {
 }
 
 void Drawing::paintEvent(QPaintEvent*) {
-  if (board_.Overlay == OverlayKind::None || !board_.Shown()) return;
   QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+  if (!board_.OverlayShown() || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   PaintCells(painter);
   if (board_.Overlay == OverlayKind::Circles) PaintCircles(painter);
@@ -76,8 +94,9 @@ void Drawing::PaintCells(QPainter& painter) const {
   const int n = board_.GridSize;
   const double side = Side();
   const QRectF block(Origin(), QSizeF(n, n) * side);
-  painter.fillRect(block, ToQColor(ColorTable[kCellBackground]));
-  painter.setPen(QPen(QColor(205, 205, 205), 1));
+  const bool circles = board_.Overlay == OverlayKind::Circles;
+  painter.fillRect(block, circles ? kBehindCircles : ToQColor(ColorTable[kCellBackground]));
+  painter.setPen(QPen(circles ? kBehindCircles.lighter(115) : kRules, 1));
   for (int line = 0; line <= n; ++line) {
     const QPointF down(0, line * side);
     const QPointF across(line * side, 0);
@@ -93,12 +112,17 @@ void Drawing::PaintCircles(QPainter& painter) const {
   if (largest <= 0) return;
   const Shading shading(board_, picked_);
   const double fullRadius = Side() / 2 - 0.5;
-  painter.setPen(QPen(QColor(60, 60, 60), std::min(1.0, Side() / 20)));
+  const QPolygonF unit = UnitCircle(fullRadius);
+  QPolygonF circle = unit;
+  painter.setPen(Qt::NoPen);
   for (const ValuedCell& cell : path) {
     if (cell.Value <= 0) continue;
-    painter.setBrush(ToQColor(shading.Of(cell.Value).value_or(picked_)));
     const double radius = fullRadius * std::sqrt(cell.Value / largest);
-    painter.drawEllipse(Centre(cell.Row, cell.Column), radius, radius);
+    const QPointF centre = Centre(cell.Row, cell.Column);
+    std::transform(unit.begin(), unit.end(), circle.begin(),
+                   [&](QPointF point) { return centre + point * radius; });
+    painter.setBrush(ToQColor(shading.Of(cell.Value).value_or(picked_)));
+    painter.drawConvexPolygon(circle);
   }
 }
 
@@ -113,7 +137,7 @@ void Drawing::PaintVectors(QPainter& painter) const {
     const QPointF from = Centre(path[i - 1].Row, path[i - 1].Column);
     const QPointF to = Centre(path[i].Row, path[i].Column);
     const QColor hue = HueAt(static_cast<double>(i) / steps);
-    painter.setPen(QPen(hue, pen, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(hue, pen, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(from, to);
     if (side < kSmallestArrowed) continue;
     painter.setPen(Qt::NoPen);

@@ -20,6 +20,10 @@ class CellTable {
   double& operator()(int row, int column) { return cells_[Index(row, column)]; }
   double operator()(int row, int column) const { return cells_[Index(row, column)]; }
 
+  /// The row's numbers by column, for loops over a whole block; columns are not checked.
+  double* Row(int row) { return &cells_[Index(row, 0)]; }
+  const double* Row(int row) const { return &cells_[Index(row, 0)]; }
+
  private:
   static std::size_t Index(int row, int column) {
     if (row < 0 || row >= kSide || column < 0 || column >= kSide) {

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "results.h"
+
+namespace numorra::bench {
+
+inline constexpr const char* kRepaint = "full repaint of the window";
+inline constexpr const char* kBoardRepaint = "repaint of the board";
+inline constexpr const char* kTableRepaint = "the same cells in QTableWidget";
+inline constexpr const char* kAllNormal = "normal squares 3 to 50";
+inline constexpr const char* kVariable = "variable generator";
+inline constexpr const char* kArithmetic = "the patterns' own arithmetic";
+
+/// Registers, at every order, the time from the click on each command to the painted board, and the
+/// repaints that it is held against. Returns the commands' names.
+std::vector<std::string> RegisterWindowBenches();
+
+/// Registers the generators without a window.
+void RegisterGeneratorBenches();
+
+/// Whole processes: what a child measured of itself.
+struct Probe {
+  Figure Seconds;    ///< from its start to its first paint
+  Figure Kilobytes;  ///< the most memory it had resident
+};
+
+/// Our window, a bare window of the toolkit, and one with a word in it: the first text of a process
+/// loads the fonts.
+inline constexpr const char* kProbeKinds[] = {"ours", "bare", "word"};
+
+/// Runs `program --probe KIND` for each kind in turn, again and again.
+std::map<std::string, Probe> RunProbes(const char* program, int runs);
+
+/// The child's side: opens the window and reports when it is painted.
+int RunProbeChild(const std::string& kind);
+
+/// Seconds that Octave takes for magic(3) to magic(50), medians of several runs in one process; 0
+/// where it is not installed.
+Figure OctaveSeconds();
+
+}  // namespace numorra::bench

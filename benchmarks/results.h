@@ -1,0 +1,40 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace numorra::bench {
+
+/// The orders at which everything is measured.
+inline constexpr int kOrders[] = {5, 10, 20, 30, 49, 50};
+
+/// A figure over several runs: its median, and how far the middle half of the runs lies apart as a
+/// share of the median.
+struct Figure {
+  double Median = 0;
+  double Spread = 0;
+};
+
+Figure FigureOf(std::vector<double> values);
+
+/// The exponent k of the power n^k that fits the times best, by least squares on the logarithms.
+double FitExponent(const std::map<int, double>& timeByOrder);
+
+/// Keeps the time of every run, in seconds, by the benchmark's name.
+class Results : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override;
+
+  Figure Of(const std::string& name) const;
+
+ private:
+  std::map<std::string, std::vector<double>> seconds_;
+};
+
+/// "NAME/ORDER", the name under which a benchmark of one order is registered.
+std::string At(const std::string& name, int order);
+
+}  // namespace numorra::bench

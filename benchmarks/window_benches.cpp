@@ -1,0 +1,235 @@
+#include <functional>
+#include <memory>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTableWidget>
+
+#include "app/main_window.h"
+#include "benches.h"
+
+namespace numorra::bench {
+namespace {
+
+/// Says yes to everything, at once.
+class Yes : public Dialogs {
+ public:
+  void Tell(const std::string&) override {}
+  bool Ask(const std::string&) override { return true; }
+  std::optional<std::string> AskText(const std::string&, const std::string& initial) override {
+    return initial;
+  }
+};
+
+/// Counts the paints of what shows the board.
+class PaintCounter : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Paints;
+    return false;
+  }
+  int Paints = 0;
+};
+
+/// One real window for all measurements, large enough to show a board of order 50 whole.
+class Stand {
+ public:
+  static Stand& Get() {
+    static auto* stand = new Stand;  // the application is gone before statics are
+    return *stand;
+  }
+
+  template <class Control>
+  Control& Find(const char* name) {
+    return *window_.findChild<Control*>(name);
+  }
+
+  void Click(const char* button) { Find<QAbstractButton>(button).click(); }
+
+  void Key(int key) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window_.View(), &event);
+  }
+
+  /// Lets events run until the board, or a drawing of it, has been painted.
+  void AwaitPaint() {
+    const int before = counter_.Paints;
+    while (counter_.Paints == before)
+      QCoreApplication::processEvents();
+  }
+
+  void Type(int order, int sum) {
+    Find<QLineEdit>("Text1").setText(QString::number(order));
+    Find<QLineEdit>("Text4").setText(QString::number(sum));
+  }
+
+  /// A checked board of the Variable mode, and nothing left to paint.
+  void Prepare(int order) {
+    Find<QRadioButton>("Option4").setChecked(true);
+    Find<QCheckBox>("Option1").setChecked(false);
+    Find<QComboBox>("Combo1").setCurrentText("any");
+    Type(order, 60 * order + order / 2);
+    Click("SolveAuto");
+    Click("SolveManual");
+    Settle();
+  }
+
+  void Settle() {
+    for (int i = 0; i < 3; ++i)
+      QCoreApplication::processEvents();
+  }
+
+  /// Everything in the window, by way of the event loop as a command's own paint comes.
+  void Repaint() {
+    for (QWidget* widget : window_.findChildren<QWidget*>())
+      widget->update();
+    window_.update();
+    AwaitPaint();
+  }
+  void RepaintBoard() { window_.View().viewport()->repaint(); }
+
+ private:
+  Stand() {
+    window_.resize(1700, 1500);
+    window_.show();
+    window_.View().viewport()->installEventFilter(&counter_);
+    Find<Drawing>("Picture1").installEventFilter(&counter_);
+    Settle();
+  }
+
+  Yes yes_;
+  PaintCounter counter_;
+  MainWindow window_{{.Boxes = &yes_}};
+};
+
+struct Command {
+  const char* Name;
+  std::function<void(Stand&, int order)> Before;  ///< not measured
+  std::function<void(Stand&)> Act;
+};
+
+void Nothing(Stand&, int) {}
+
+Command Item(const char* name, const char* item) {
+  return {name, Nothing, [item](Stand& stand) { stand.Find<QAction>(item).trigger(); }};
+}
+
+Command Button(const char* name, const char* button) {
+  return {name, Nothing, [button](Stand& stand) { stand.Click(button); }};
+}
+
+Command Auto(const char* name, std::function<void(Stand&, int)> before) {
+  return {name, std::move(before), [](Stand& stand) { stand.Click("SolveAuto"); }};
+}
+
+std::vector<Command> Commands() {
+  return {
+      Auto("Auto, Normal", [](Stand& s, int) { s.Find<QRadioButton>("Option3").setChecked(true); }),
+      Auto("Auto, sum a multiple of n", [](Stand& s, int n) { s.Type(n, 60 * n); }),
+      Auto("Auto, any sum", [](Stand& s, int n) { s.Type(n, 60 * n + n / 2); }),
+      Auto("Auto, limit to 9",
+           [](Stand& s, int n) {
+             s.Find<QCheckBox>("Option1").setChecked(true);
+             s.Type(n, 5 * n);
+           }),
+      Auto("Auto, a corner",
+           [](Stand& s, int n) {
+             s.Type(n, 60 * n);
+             auto& combo = s.Find<QComboBox>("Combo1");
+             combo.addItem("37");
+             combo.setCurrentText("37");
+           }),
+      Button("Manual", "SolveManual"),
+      Item("Flip vertical", "flipvx"),
+      Item("Flip horizontal", "fliphx"),
+      Item("Flip diagonal 1", "flipd1x"),
+      Item("Flip diagonal 2", "flipd2x"),
+      Item("Rotate 90d", "rot90x"),
+      Item("Rotate 180d", "rot180x"),
+      Item("Rotate 270d", "rot270x"),
+      Item("set to base value", "Set2Cellvaluex"),
+      Item("maximum value in grid", "Set2Max"),
+      Item("mimimum value in grid", "set2Min"),
+      Item("a random value", "set2Ran"),
+      Item("entire grid random", "Set2allran"),
+      Item("all other values", "SetAllRem"),
+      Item("correct row total", "correctrowx"),
+      Item("correct column total", "correctcolx"),
+      Item("correct diagnonal", "correctdiagx"),
+      {"totals check (Enter)", Nothing, [](Stand& s) { s.Key(Qt::Key_Return); }},
+      Button("Show (fill)", "Command3"),
+      {"Cricles", [](Stand& s, int) { s.Click("Command4"), s.Settle(); },
+       [](Stand& s) { s.Click("Command1"); }},
+      {"Vectors", [](Stand& s, int) { s.Click("Command4"), s.Settle(); },
+       [](Stand& s) { s.Click("Command2"); }},
+  };
+}
+
+void MeasureCommand(benchmark::State& state, const Command& command, int order) {
+  Stand& stand = Stand::Get();
+  stand.Prepare(order);
+  for (auto _ : state) {
+    command.Before(stand, order);
+    stand.Settle();
+    QElapsedTimer timer;
+    timer.start();
+    command.Act(stand);
+    stand.AwaitPaint();
+    state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+  }
+}
+
+void MeasureRepaint(benchmark::State& state, void (Stand::*repaint)(), int order) {
+  Stand& stand = Stand::Get();
+  stand.Prepare(order);
+  for (auto _ : state)
+    (stand.*repaint)();
+}
+
+/// The same cells, texts and colours in the toolkit's own table.
+void MeasureTable(benchmark::State& state, int order) {
+  QTableWidget table(order + 2, order + 2);
+  table.horizontalHeader()->hide();
+  table.verticalHeader()->hide();
+  table.horizontalHeader()->setMinimumSectionSize(1);
+  table.horizontalHeader()->setDefaultSectionSize(27);
+  table.verticalHeader()->setDefaultSectionSize(27);
+  for (int row = 0; row < order + 2; ++row) {
+    for (int column = 0; column < order + 2; ++column) {
+      auto* item = new QTableWidgetItem(QString::number(row * order + column));
+      item->setBackground(QColor(240, 240, 240));
+      item->setTextAlignment(Qt::AlignCenter);
+      table.setItem(row, column, item);
+    }
+  }
+  table.resize(1500, 1450);
+  table.show();
+  QCoreApplication::processEvents();
+  for (auto _ : state)
+    table.viewport()->repaint();
+}
+
+}  // namespace
+
+std::vector<std::string> RegisterWindowBenches() {
+  static const std::vector<Command> commands = Commands();
+  std::vector<std::string> names;
+  for (const Command& command : commands)
+    names.emplace_back(command.Name);
+  for (const int order : kOrders) {
+    benchmark::RegisterBenchmark(At(kRepaint, order).c_str(), MeasureRepaint, &Stand::Repaint,
+                                 order);
+    for (const Command& command : commands) {
+      benchmark::RegisterBenchmark(At(command.Name, order).c_str(), MeasureCommand, command, order)
+          ->UseManualTime();
+    }
+  }
+  benchmark::RegisterBenchmark(At(kBoardRepaint, 50).c_str(), MeasureRepaint, &Stand::RepaintBoard,
+                               50);
+  benchmark::RegisterBenchmark(At(kTableRepaint, 50).c_str(), MeasureTable, 50);
+  return names;
+}
+
+}  // namespace numorra::bench
