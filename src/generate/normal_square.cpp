@@ -14,6 +14,9 @@ namespace {
 /// The most attempts that the odd search remembers.
 constexpr std::size_t kMaxAttempts = 501;
 
+/// How often another attempt than the last is drawn for; more than any working random source needs.
+constexpr int kMaxDraws = 1000;
+
 /// The order in which Conway's letters number the 2 x 2 block of an odd square's cell: the offsets
 /// to its first number of the upper left, upper right, lower left and lower right cell.
 struct LuxBlock {
@@ -57,12 +60,13 @@ CellTable NormalSquare::SearchOddSquare(int order) {
 
   const auto kept = static_cast<int>(attempts.size());
   std::int16_t pick = 0;
-  do {
+  for (int draw = 0; draw < kMaxDraws; ++draw) {
     stage_.Yield();
     random_.Reseed();
     pick = ToInt16(Int(kept * random_.Next() + 0.5));
     if (pick < 1) pick = 1;
-  } while (pick == LastPickOrTurns);
+    if (pick != LastPickOrTurns) break;
+  }
   LastPickOrTurns = pick;
 
   const SteppingAttempt& attempt = attempts[static_cast<std::size_t>(pick - 1)];

@@ -8,6 +8,8 @@
 namespace numorra {
 namespace {
 
+constexpr int kMaxDraws = 1000;  // more than any working random source needs
+
 /// A whole number in low..high - 1, freshly seeded. The upper bound itself is never drawn.
 double Draw(Random& random, double low, double high) {
   random.Reseed();
@@ -33,10 +35,11 @@ void ProposeSquare(SquareBoxes& boxes, Mode mode, Random& random) {
   const double shownTotal = Val(boxes.Sum());
   double size = 0;
   double total = 0;
-  do {
+  for (int draw = 0; draw < kMaxDraws; ++draw) {
     size = Draw(random, 3, 15);
     total = Draw(random, size * size + 1, 2 * size * size + 1);
-  } while (size == shownSize && total == shownTotal);
+    if (size != shownSize || total != shownTotal) break;
+  }
   boxes.SetSize(Decimal(size));
   boxes.SetSum(Decimal(mode == ModeNormal ? MagicConstant(size) : total));
 }

@@ -58,18 +58,23 @@ bool SpreadRemainderEven(TurningSquare& square, int remainder) {
   return false;
 }
 
-void SpreadRemainderOdd(TurningSquare& square, int remainder, Random& random) {
+bool SpreadRemainderOdd(TurningSquare& square, int remainder, Random& random) {
+  constexpr int kMaxShuffles = 10000;  // about one permutation in seven will do
   std::array<int, CellTable::kSide> columns{};
   const std::span<int> column(columns.data(), static_cast<std::size_t>(square.Order()));
   std::iota(column.begin(), column.end(), 0);
   for (int unit = 0; unit < remainder; ++unit) {
-    do {  // about one permutation in seven will do
+    bool found = false;
+    for (int shuffle = 0; !found && shuffle < kMaxShuffles; ++shuffle) {
       Shuffle(column, random);
-    } while (!MeetsDiagonalsOnce(column));
+      found = MeetsDiagonalsOnce(column);
+    }
+    if (!found) return false;
     for (int row = 1; row <= square.Order(); ++row) {
       square(row, 1 + column[static_cast<std::size_t>(row - 1)]) += 1;
     }
   }
+  return true;
 }
 
 }  // namespace numorra

@@ -16,7 +16,8 @@ namespace numorra {
 bool SpreadRemainderEven(TurningSquare& square, int remainder);
 
 /// Adds 1 along `remainder` random transversals that meet each diagonal exactly once, to a square
-/// of odd order from 5. Only raises cells and never fails.
-void SpreadRemainderOdd(TurningSquare& square, int remainder, Random& random);
+/// of odd order from 5. Only raises cells. False when the random source is so poor that no
+/// transversal turns up.
+bool SpreadRemainderOdd(TurningSquare& square, int remainder, Random& random);
 
 }  // namespace numorra

@@ -20,8 +20,8 @@ struct Stepping {
   int BreakRow;
 };
 
-/// One step each way: a diagonal is back at its start after n numbers, and only then is a cell taken.
-/// Pattern 0 goes up and right and breaks down, pattern 1 goes down and left and breaks up.
+/// One step each way: a diagonal is back at its start after n numbers, and only then is a cell
+/// taken. Pattern 0 goes up and right and breaks down, pattern 1 goes down and left and breaks up.
 inline constexpr Stepping kSteppings[] = {{-1, 1, 1}, {1, -1, -1}};
 
 /// Fills the block with 1..order x order from (startRow, startColumn), each 1..order.

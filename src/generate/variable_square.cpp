@@ -48,8 +48,7 @@ void VariableSquare::SpreadAll(Spreading& spreading, int tries) {
 bool VariableSquare::SpreadRemainder(TurningSquare& square, const VariablePlan& plan) {
   if (plan.TotalRemainder == 0) return true;
   if (IsEvenSize(plan.GridSize)) return SpreadRemainderEven(square, plan.TotalRemainder);
-  SpreadRemainderOdd(square, plan.TotalRemainder, random_);
-  return true;
+  return SpreadRemainderOdd(square, plan.TotalRemainder, random_);
 }
 
 void VariableSquare::BringCorner(Spreading& spreading, double base, double corner) {

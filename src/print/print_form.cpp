@@ -49,8 +49,9 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
 }
 
 void PrintForm::showEvent(QShowEvent* event) {
-  Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total())));
   QDialog::showEvent(event);
+  runner_.Run(
+      [this] { Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total()))); });
 }
 
 void PrintForm::Print(Sheet sheet, const char* done) {

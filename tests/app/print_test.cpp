@@ -86,6 +86,13 @@ TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
   EXPECT_FALSE(Form() && Form()->isVisible());
 }
 
+TEST_F(PrintTest, TellsWhenTheSumCannotBePrinted) {
+  Build();
+  window_.findChild<QLineEdit*>("Text4")->setText(QString(400, '9'));
+  Open();
+  EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
+}
+
 TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
   const QTemporaryDir folder;
   const QString pdf = folder.filePath("sheet.pdf");

@@ -156,7 +156,7 @@ TEST(RemainderOdd, RaisesEveryLineAndNoCellFalls) {
   for (const int order : {5, 7, 49}) {
     TurningSquare square(order);
     square.Fill(1);
-    SpreadRemainderOdd(square, order - 1, random);
+    ASSERT_TRUE(SpreadRemainderOdd(square, order - 1, random));
     EXPECT_EQ(slow::WhyNotMagic(RowsOf(square.Settled(), order), 2 * order - 1), "");
     ForEachCell(order, [&](int r, int c) { EXPECT_GE(square(r, c), 1); });
   }

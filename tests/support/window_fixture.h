@@ -14,9 +14,8 @@ namespace numorra {
 class WindowTest : public testing::Test {
  protected:
   explicit WindowTest(int frameMilliseconds = CommandRunner::kFrameMilliseconds)
-      : window_({.TimeOfDay = &clock_,
-                 .Boxes = &dialogs_,
-                 .FrameMilliseconds = frameMilliseconds}) {
+      : window_(
+            {.TimeOfDay = &clock_, .Boxes = &dialogs_, .FrameMilliseconds = frameMilliseconds}) {
     window_.show();
     QCoreApplication::processEvents();
   }

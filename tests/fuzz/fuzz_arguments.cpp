@@ -1,0 +1,22 @@
+#include <sstream>
+
+#include "cli/arguments.h"
+#include "fuzz/check.h"
+
+using namespace numorra;
+
+/// Words are what stands between blanks. What is accepted is within the bounds that are told.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  std::istringstream input(TextOf(data, size));
+  std::vector<std::string> words;
+  for (std::string word; std::getline(input, word, ' ');)
+    words.push_back(word);
+  const Arguments arguments = ParseArguments(words);
+  if (const auto* bad = std::get_if<BadArguments>(&arguments)) Check(!bad->Message.empty());
+  if (const auto* request = std::get_if<SquareRequest>(&arguments)) {
+    Check(request->Top.has_value() != (request->Size >= 3 && request->Size <= 50));
+    Check(!request->Sum || (*request->Sum >= 1 && *request->Sum <= 32767));
+    Check(!request->Corner || *request->Corner >= 1);
+  }
+  return 0;
+}

@@ -1,0 +1,37 @@
+#include <exception>
+
+#include "fuzz/check.h"
+#include "generate/top_row_square.h"
+#include "support/slow_checker.h"
+
+using namespace numorra;
+
+/// Every text is refused or gives four numbers in range; small ones a square with them on top.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const auto top = ParseTopRow(TextOf(data, size));
+  if (!top) return 0;
+  for (const int number : *top)
+    Check(number >= 0 && number <= 9999);
+  TickingClock clock(size);
+  ClockSeededRandom random(clock);
+  int yields = 0;
+  struct Enough : std::exception {};
+  try {
+    const auto found = FindTopRowSquare(*top, random, [&] {
+      if (++yields > 200) throw Enough();  // a proof of "none" may take long
+    });
+    if (!found) return 0;
+    slow::Rows rows(4, std::vector<double>(4));
+    for (int r = 1; r <= 4; ++r) {
+      for (int c = 1; c <= 4; ++c) {
+        rows[static_cast<std::size_t>(r - 1)][static_cast<std::size_t>(c - 1)] =
+            found->Square(r, c);
+      }
+    }
+    Check(slow::WhyNotMagic(rows, found->Total).empty());
+    for (std::size_t c = 0; c < 4; ++c)
+      Check(rows[0][c] == (*top)[c]);
+  } catch (const Enough&) {
+  }
+  return 0;
+}
