@@ -45,13 +45,6 @@ TEST_F(GridViewTest, FindsTheCellThatIsDrawnScrolledOrNot) {
   EXPECT_FALSE(view_.CellAt({5, 5}));
 }
 
-TEST_F(GridViewTest, CellEdgesAreRoundedTwips) {
-  view_.resize(2000, 2000);
-  for (const int line : {0, 1, 2, 3, 51}) {
-    EXPECT_EQ(view_.CellRect(0, line).left(), qRound(line * 400 * view_.logicalDpiX() / 1440.0));
-  }
-}
-
 TEST_F(GridViewTest, BringsCellsIntoViewBesideTheFixedLines) {
   for (const auto& [row, column] : {std::pair{50, 50}, {1, 1}, {25, 1}, {51, 0}, {1, 51}}) {
     view_.BringIntoView(row, column);

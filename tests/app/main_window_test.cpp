@@ -110,22 +110,6 @@ TEST_F(WindowTest, SymmetriesAreRecordedAndRepeated) {
   }
 }
 
-TEST_F(WindowTest, CommandsOnTheBoardDoNothingWithoutOne) {
-  Find<QAction>("rot90x").trigger();
-  EXPECT_EQ(Find<QAction>("redox").text(), "Redo last command");
-  QTest::mouseClick(window_.View().viewport(), Qt::RightButton, {}, QPoint(40, 40));
-  EXPECT_FALSE(Find<QMenu>("ManualMenux").isVisible());
-}
-
-TEST_F(WindowTest, SurvivesBeingMadeVerySmall) {
-  Click("SolveAuto");
-  window_.resize(1, 1);
-  QCoreApplication::processEvents();
-  window_.resize(900, 700);
-  QCoreApplication::processEvents();
-  EXPECT_GT(window_.View().width(), 500);
-}
-
 TEST(RealBoxes, ShowTheMessageUnderTheApplicationTitle) {
   MainWindow window;
   window.show();

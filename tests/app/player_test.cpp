@@ -120,55 +120,5 @@ TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102") << "not the keypad's";
 }
 
-/// An hour of a player in a minute: random moves, and what must hold after each of them.
-TEST_F(PlayerTest, EverythingHoldsAfterEveryMove) {
-  std::mt19937 dice(2026);
-  const auto below = [&](int bound) {
-    return static_cast<int>(dice() % static_cast<unsigned>(bound));
-  };
-  const char* const items[] = {"Set2Cellvaluex", "Set2Max",      "set2Min",    "set2Ran",
-                               "Set2allran",     "SetAllRem",    "swapvaluex", "correctrowx",
-                               "correctcolx",    "correctdiagx", "flipvx",     "fliphx",
-                               "flipd1x",        "flipd2x",      "rot90x",     "rot180x",
-                               "rot270x",        "transx",       "redox"};
-  const Qt::Key keys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
-                          Qt::Key_Right, Qt::Key_Return, Qt::Key_Home,
-                          Qt::Key_End,   Qt::Key_PageUp, Qt::Key_Backspace};
-  for (const int size : {3, 4, 5, 8}) {
-    Manual(std::to_string(size).c_str(), std::to_string(10 * size + size % 3).c_str());
-    for (int step = 0; step < 400; ++step) {
-      SCOPED_TRACE("size " + std::to_string(size) + " step " + std::to_string(step));
-      switch (below(5)) {
-        case 0:
-          ClickCell(below(size + 2), below(size + 2));
-          break;
-        case 1:
-          ClickCell(below(size + 2), below(size + 2), Qt::RightButton);
-          break;
-        case 2:
-          Key(keys[below(std::size(keys))]);
-          break;
-        case 3:
-          QTest::keyClicks(&window_.View(), QString::number(below(30)));
-          break;
-        case 4:
-          Find<QAction>(items[below(std::size(items))]).trigger();
-          break;
-      }
-      if (below(8) == 0) Key(below(2) ? Qt::Key_Plus : Qt::Key_Minus, Qt::KeypadModifier);
-      Find<QMenu>("ManualMenux").close();
-      // A mirror that overflows leaves its exchanges behind the grid until the next check.
-      for (const auto& said : dialogs_.Take()) {
-        if (said == "Overflow") Key(Qt::Key_Return);
-      }
-      dialogs_.Take();
-      ASSERT_EQ(WhyInvalid(window_.TheBoard()), "");
-      const auto& redox = Find<QAction>("redox");
-      const int code = redox.property("tag").toInt();
-      ASSERT_TRUE(code == 0 || redox.text().startsWith(CaptionOf(static_cast<RedoCode>(code))));
-    }
-  }
-}
-
 }  // namespace
 }  // namespace numorra

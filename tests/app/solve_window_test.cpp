@@ -70,24 +70,6 @@ TEST_F(WindowTest, TheCornerBoxOffersWhatFitsWhenThePlayerComesToIt) {
   EXPECT_EQ(slow::WhyNotMagic(Rows(), 70), "");
 }
 
-TEST_F(WindowTest, TheLimitHoldsAndACornerLiftsIt) {
-  Click("Option4");
-  Click("Option1");
-  Type("Text1", "8");
-  Type("Text4", "99");
-  Click("SolveAuto");
-  EXPECT_EQ(SumBox(), "40");
-  for (const auto& row : Rows()) {
-    for (const double value : row)
-      EXPECT_LE(value, 9);
-  }
-  auto& combo = Find<QComboBox>("Combo1");
-  combo.setFocus(Qt::MouseFocusReason);
-  combo.setCurrentText("9");
-  Click("SolveAuto");
-  EXPECT_FALSE(Find<QCheckBox>("Option1").isChecked());
-}
-
 TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
   dialogs_.Texts = {"24,12,18,15"};
   Click("Set4x4");
@@ -150,20 +132,6 @@ TEST_F(BusyWindowTest, ClosingEndsTheBuild) {
   DuringTheBuild([this] { window_.close(); });
   EXPECT_FALSE(window_.isVisible());
   EXPECT_EQ(Rows(), before_);
-}
-
-TEST(RealInputBox, AsksForATopRow) {
-  MainWindow window;
-  window.show();
-  QTimer::singleShot(0, &window, [&] {
-    auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(box->textValue(), "30,9,19,95");
-    EXPECT_EQ(box->windowTitle(), "Numorra");
-    box->accept();
-  });
-  QTest::mouseClick(window.findChild<QPushButton*>("Set4x4"), Qt::LeftButton);
-  EXPECT_EQ(window.TheBoard().grid.Text(0, 0), "153");
 }
 
 }  // namespace

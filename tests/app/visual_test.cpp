@@ -78,34 +78,6 @@ TEST_F(VisualTest, DrawingsCoverTheBoardUntilSomethingShowsIt) {
   EXPECT_FALSE(Drawn()) << "Auto takes the drawing away even when it refuses";
 }
 
-/// How many pixels are of some colour other than grey.
-int ColouredPixels(const QImage& image) {
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y).saturation() > 60) ++count;
-    }
-  }
-  return count;
-}
-
-TEST_F(VisualTest, DrawingsShowTheValuesAtEverySize) {
-  for (const char* size : {"3", "11", "50"}) {
-    Type("Text1", size);
-    Click("SolveAuto");
-    for (const char* button : {"Command1", "Command2"}) {
-      Click(button);
-      for (const QSize extent : {QSize(900, 700), QSize(600, 800)}) {
-        window_.resize(extent);
-        QCoreApplication::processEvents();
-        const QImage image = Find<Drawing>("Picture1").grab().toImage();
-        EXPECT_GT(ColouredPixels(image), 200) << size << button;
-      }
-    }
-    Click("Command4");
-  }
-}
-
 TEST_F(VisualTest, TheLargestCircleFillsItsCellAndAreasAreInProportion) {
   Type("Text1", "3");
   Click("SolveAuto");

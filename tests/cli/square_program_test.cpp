@@ -34,16 +34,6 @@ slow::Rows ReadCsv(const std::string& text) {
   return rows;
 }
 
-TEST(SquareProgram, PrintsMagicSquaresAsCsv) {
-  for (int size = 3; size <= 50; ++size) {
-    const Outcome run = RunWith("--format csv --size " + std::to_string(size));
-    ASSERT_EQ(run.Status, 0);
-    const auto rows = ReadCsv(run.Out);
-    ASSERT_EQ(rows.size(), static_cast<std::size_t>(size));
-    EXPECT_EQ(slow::WhyNotNormal(rows), "");
-  }
-}
-
 TEST(SquareProgram, WritesTheOtherFormats) {
   EXPECT_EQ(RunWith("--size=4").Out,
             " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
@@ -101,13 +91,6 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
 TEST(SquareProgram, HelpsAndNamesItsVersion) {
   EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
   EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
-}
-
-TEST(SquareProgram, SaysWhenTheOutputCannotBeWritten) {
-  std::ostringstream out, err;
-  out.setstate(std::ios::badbit);
-  EXPECT_EQ(RunSquareProgram({"--size", "3"}, out, err), 1);
-  EXPECT_NE(err.str(), "");
 }
 
 }  // namespace

@@ -19,12 +19,6 @@ class CountingStage : public SilentStage {
   std::string Last;
 };
 
-TEST(FillByStepping, GivesTheOldestSquareFromTheMiddleOfTheTopRow) {
-  CellTable cells;
-  FillByStepping(cells, 3, 1, 2, kSteppings[0]);
-  EXPECT_EQ(RowsOf(cells, 3), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
-}
-
 /// The search as it is told: every start is filled and every line added up.
 std::vector<SteppingAttempt> PlainSearch(int order) {
   std::vector<SteppingAttempt> kept;

@@ -133,23 +133,5 @@ TEST(BuildsOfEveryKind, EndOnAnyRandomSource) {
   }
 }
 
-TEST(BuildsOfEveryKind, EndOnAnyClock) {
-  struct OddClock : Clock {
-    std::vector<std::uint64_t> Readings;
-    std::size_t At = 0;
-    std::uint64_t NanosecondsSinceMidnight() override { return Readings[At++ % Readings.size()]; }
-  };
-  const std::vector<std::uint64_t> clocks[] = {
-      {7}, {900, 800, 700, 600, 500}, {86'399'999'999'999U, 0}, {0, ~std::uint64_t{0}}};
-  for (const auto& readings : clocks) {
-    OddClock clock;
-    clock.Readings = readings;
-    ClockSeededRandom random(clock);
-    BuildsByLot lot(random);
-    for (int build = 0; build < 40; ++build)
-      ASSERT_EQ(lot.One(), "");
-  }
-}
-
 }  // namespace
 }  // namespace numorra

@@ -129,15 +129,6 @@ TEST_F(SolveCommandTest, SolveAgainFollowsTheLastPlanWhateverTheBoxesSay) {
   EXPECT_EQ(TheBoard.TargetTotal, 8);
 }
 
-TEST_F(SolveCommandTest, ACornerUnchecksTheLimit) {
-  Options.Limit = true;
-  Options.WantedCorner = 7;
-  Auto("10", "104");
-  EXPECT_FALSE(Options.Limit);
-  EXPECT_EQ(TheBoard.BoardValues(1, 1), 7);
-  EXPECT_EQ(WhyNotMagicNow(100), "");
-}
-
 TEST_F(SolveCommandTest, ASupersededBuildLeavesNoTrace) {
   Auto("8", "400");
   const auto before = ShownRows(TheBoard.grid);

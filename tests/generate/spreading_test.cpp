@@ -170,56 +170,6 @@ TEST(Spreading, IsThePlainMethodCellForCell) {
   }
 }
 
-class FlatSpreading : public testing::Test {
- protected:
-  Spreading Make(int order, double base, bool limit = false) {
-    TurningSquare flat(order);
-    flat.Fill(base);
-    return {flat, limit, passes_, random_, stage_};
-  }
-
-  ScriptedRandom random_{{0.999}};
-  SilentStage stage_;
-  std::int32_t passes_ = 0;
-};
-
-TEST_F(FlatSpreading, CountsApplicationsThatCannotChangeAnything) {
-  auto threes = Make(8, 3);
-  threes.SpreadCornerDiagonals();
-  EXPECT_EQ(passes_, 2 * 3);
-  threes.SpreadCornerEdges();
-  EXPECT_EQ(passes_, 2 * 3 + 2 * 6);
-  EXPECT_EQ(RowsOf(threes.BoardValues.Settled(), 8), slow::Rows(8, std::vector<double>(8, 3)));
-  auto ones = Make(8, 1);
-  passes_ = 0;
-  ones.SpreadRings();
-  EXPECT_EQ(passes_, 0);
-  passes_ = std::numeric_limits<std::int32_t>::max();
-  EXPECT_THROW(threes.SpreadCornerEdges(), RuntimeError);
-}
-
-TEST_F(FlatSpreading, ChoosesMultipliersByTheSmallestLoweredCell) {
-  const std::pair<double, int> cases[] = {{1, 0}, {2, 0}, {3, 0}, {4, 1}, {6, 2}, {50, 24}};
-  for (const auto& [base, factor] : cases) {
-    auto spreading = Make(4, base);
-    spreading.CellFlags.Add(1, 1, -1);
-    spreading.CellFlags.Add(1, 2, 1);
-    EXPECT_EQ(spreading.PatternFactor(), factor) << base;
-  }
-  auto limited = Make(4, 9, true);
-  limited.CellFlags.Add(1, 1, -1);
-  limited.CellFlags.Add(1, 2, 1);
-  EXPECT_EQ(limited.PatternFactor(), 0);
-  limited.ApplyPattern(1);
-  EXPECT_EQ(limited.BoardValues(1, 1), 9) << "the limit stands where every application passes";
-}
-
-TEST_F(FlatSpreading, EndsARingThatFindsNoPlace) {
-  auto huge = Make(6, 20000);
-  huge.SpreadRings();
-  EXPECT_EQ(passes_, 0);
-}
-
 TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
   TickingClock clock(8);
   ClockSeededRandom random(clock);
@@ -245,18 +195,6 @@ TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
       }
     });
   }
-}
-
-TEST(TurningSquares, TurnLikeTheBoardItself) {
-  CellTable cells = TableOf(ParseRows("1 2 3 4 / 5 6 7 8 / 9 10 11 12 / 13 14 15 16"));
-  TurningSquare square(cells, 4);
-  for (int turn = 0; turn < 5; ++turn) {
-    RotateBoard90(cells, 4);
-    square.RotateBoard90();
-    EXPECT_EQ(RowsOf(square.Settled(), 4), RowsOf(cells, 4));
-  }
-  EXPECT_THROW(TurningSquare(52), RuntimeError);
-  EXPECT_THROW(TurningSquare(0), RuntimeError);
 }
 
 }  // namespace

@@ -65,18 +65,6 @@ TEST_F(HelpTest, ShowsItsOwnFolderAndNothingElse) {
   EXPECT_EQ(form.wb1->toPlainText(), "more");
 }
 
-TEST_F(HelpTest, ResizesToNothingWithoutHarm) {
-  Write(folder_ + "/nrhelp.htm", "<h1>Hello</h1>");
-  HelpForm form(folder_, nullptr);
-  form.show();
-  form.resize(500, 300);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(form.wb1->width(), form.width() - 8);
-  EXPECT_EQ(form.wb1->height(), form.height());
-  form.resize(1, 1);
-  QCoreApplication::processEvents();
-}
-
 /// The page that goes with the program: every picture and link leads somewhere, every name is
 /// there.
 TEST(HelpPage, IsWhole) {

@@ -50,20 +50,5 @@ TEST(Sheets, LongNumbersRunIntoTheNextCell) {
   EXPECT_NE(sheet.find("ADD TO 0.5\r\n"), std::string::npos);
 }
 
-TEST(Sheets, TheLargestFitsOnALineOf128Characters) {
-  Board board;
-  board.GridSize = kMaxPrintedOrder;
-  board.SetupBoard();
-  board.FillBoard(0);
-  board.ShowBoard();
-  const std::string sheet = SolutionSheet(board.grid, 1);
-  std::size_t longest = 0;
-  for (std::size_t at = 0, end = 0; (end = sheet.find("\r\n", at)) != std::string::npos;
-       at = end + 2) {
-    longest = std::max(longest, end - at);
-  }
-  EXPECT_LE(longest, 128U);
-}
-
 }  // namespace
 }  // namespace numorra

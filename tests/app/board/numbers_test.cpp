@@ -83,20 +83,5 @@ TEST(RandomNumbers, StayBelowOneAndDifferEvenWhenTheClockStandsStill) {
   EXPECT_NEAR(sum / 1000, 0.5, 0.05);
 }
 
-TEST(RandomNumbers, FirstDrawsOfNeighbouringSeedsAreSpread) {
-  TickingClock clock(1'000'000);
-  ClockSeededRandom random(clock);
-  int low = 0;
-  for (int i = 0; i < 1000; ++i) {
-    random.Reseed();
-    if (random.Next() < 0.5) ++low;
-  }
-  EXPECT_NEAR(low, 500, 80);
-}
-
-TEST(SystemClockReading, IsATimeOfDay) {
-  EXPECT_LT(SystemClock().NanosecondsSinceMidnight(), 86'401'000'000'000U);
-}
-
 }  // namespace
 }  // namespace numorra

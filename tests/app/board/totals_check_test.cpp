@@ -73,16 +73,5 @@ TEST(Recount, ReadsTextsByTheirLeadingNumber) {
   EXPECT_EQ(board.BoardValues(1, 2), 0);
 }
 
-TEST(RefreshTotals, KeepsTotalsUncolouredUntilACheckHasRun) {
-  Board board;
-  ShowRows(board, kLoShu);
-  RefreshTotals(board);
-  EXPECT_EQ(board.grid.Background(0, 1), kWindowBackground);
-  Recount(board);
-  board.grid.SetCurrent(2, 3);
-  RefreshTotals(board);
-  EXPECT_EQ(board.grid.CurrentColumn(), 3);
-}
-
 }  // namespace
 }  // namespace numorra

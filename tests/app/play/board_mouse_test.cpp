@@ -60,15 +60,6 @@ TEST_F(BoardMouseTest, MarksSwapRowsAndColumns) {
   EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
 }
 
-TEST_F(BoardMouseTest, ARememberedCellLendsItsLinesToTheFrame) {
-  Show("1 2 3 / 4 5 6 / 7 8 9");
-  Left(1, 2);
-  Right(3, 4);
-  EXPECT_EQ(ShownRows(board_.grid), ParseRows("7 8 9 / 4 5 6 / 1 2 3"));
-  Right(4, 1);
-  EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 7 9 / 5 4 6 / 2 1 3"));
-}
-
 TEST_F(BoardMouseTest, RememberedCellsSwapByTheMenu) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   history_.Record(RedoCode::Rotate90, "before");

@@ -131,12 +131,5 @@ TEST_F(CellEntryTest, KeysDoNothingBeforeTheFirstCheck) {
   EXPECT_EQ(Where(), (std::pair{1, 1}));
 }
 
-TEST_F(CellEntryTest, ATransformTakesWhatWasTyped) {
-  Show("1 2 3 / 4 5 6 / 7 8 9");
-  Type("77");
-  edit_.Run(RedoCode::Rotate90);
-  EXPECT_EQ(At(1, 3), "77");
-}
-
 }  // namespace
 }  // namespace numorra
