@@ -81,27 +81,45 @@ void GridView::paintEvent(QPaintEvent* event) {
   UpdateScrollBars();
   if (!grid_.Visible()) return;
   QPainter painter(viewport());
-  const int fixed = Edge(Grid::kFixedLines);
-  const int rows = grid_.Rows();
-  const int columns = grid_.Columns();
-  const int width = viewport()->width();
-  const int height = viewport()->height();
-  constexpr int kFixed = Grid::kFixedLines;
-  const auto block = [&](const QRect& area, int firstRow, int rowEnd, int firstColumn,
-                         int columnEnd) {
-    const QRect dirty = area & event->rect();
-    if (!dirty.isEmpty()) {
-      PaintBlock(painter, dirty, firstRow, rowEnd, firstColumn, columnEnd);
-    }
-  };
-  block({fixed, fixed, width - fixed, height - fixed}, kFixed, rows, kFixed, columns);
-  block({fixed, 0, width - fixed, fixed}, 0, kFixed, kFixed, columns);
-  block({0, fixed, fixed, height - fixed}, kFixed, rows, 0, kFixed);
-  block({0, 0, fixed, fixed}, 0, kFixed, 0, kFixed);
+  PaintCells(painter, viewport()->size(), event->rect());
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
   }
+}
+
+/// Paints the four blocks that scroll differently, as far as they lie in `dirty`.
+void GridView::PaintCells(QPainter& painter, QSize size, const QRect& dirty) {
+  constexpr int kFixed = Grid::kFixedLines;
+  const int fixed = Edge(kFixed);
+  const int rows = grid_.Rows();
+  const int columns = grid_.Columns();
+  const int width = size.width() - fixed;
+  const int height = size.height() - fixed;
+  const auto block = [&](const QRect& whole, int firstRow, int rowEnd, int firstColumn,
+                         int columnEnd) {
+    const QRect area = whole & dirty;
+    if (!area.isEmpty()) PaintBlock(painter, area, firstRow, rowEnd, firstColumn, columnEnd);
+  };
+  block({fixed, fixed, width, height}, kFixed, rows, kFixed, columns);
+  block({fixed, 0, width, fixed}, 0, kFixed, kFixed, columns);
+  block({0, fixed, fixed, height}, kFixed, rows, 0, kFixed);
+  block({0, 0, fixed, fixed}, 0, kFixed, 0, kFixed);
+}
+
+QImage GridView::Picture() {
+  QImage picture(Edge(grid_.Columns()), Edge(grid_.Rows()), QImage::Format_RGB32);
+  picture.fill(palette().color(QPalette::Window));
+  const QSignalBlocker quietColumns(horizontalScrollBar());
+  const QSignalBlocker quietRows(verticalScrollBar());
+  const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  horizontalScrollBar()->setValue(0);
+  verticalScrollBar()->setValue(0);
+  QPainter painter(&picture);
+  PaintCells(painter, picture.size(), picture.rect());
+  horizontalScrollBar()->setValue(scrolled.x());
+  verticalScrollBar()->setValue(scrolled.y());
+  return picture;
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {

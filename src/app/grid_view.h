@@ -27,6 +27,9 @@ class GridView : public QAbstractScrollArea {
   /// Scrolls until the cell is in sight.
   void BringIntoView(int row, int column);
 
+  /// The whole table, in sight or not, without the current cell's marks.
+  QImage Picture();
+
   QSize sizeHint() const override;
 
  Q_SIGNALS:
@@ -59,6 +62,7 @@ class GridView : public QAbstractScrollArea {
   int LineAt(int position, int scrolled, int lines) const;
   int Scrolled(int line, int scrolled) const;
   void UpdateScrollBars();
+  void PaintCells(QPainter& painter, QSize size, const QRect& dirty);
   void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
                   int columnEnd);
   void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);

@@ -1,14 +1,17 @@
 #include "app/main_window.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QMimeData>
 
 #include "app/board/numbers.h"
 #include "app/column_scroller.h"
 #include "app/named.h"
 #include "app/play/board_mouse.h"
+#include "app/play/board_text.h"
 #include "app/play/manual_board.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
@@ -123,6 +126,14 @@ void MainWindow::BuildMenus() {
   exit->setShortcut(QKeySequence::Quit);
   connect(exit, &QAction::triggered, this, [] { QApplication::closeAllWindows(); });
 
+  QMenu* edit = menuBar()->addMenu("&Edit");
+  QAction* copy = Named("Copyx", edit->addAction("&Copy Board"));
+  copy->setShortcut(QKeySequence::Copy);
+  connect(copy, &QAction::triggered, this, &MainWindow::CopyBoard);
+  QAction* paste = Named("Pastex", edit->addAction("&Paste Board"));
+  paste->setShortcut(QKeySequence::Paste);
+  connect(paste, &QAction::triggered, this, &MainWindow::PasteFromClipboard);
+
   QMenu* view = menuBar()->addMenu("&View");
   QAction* maximize = Named("Maximx", view->addAction("&Maximize"));
   connect(maximize, &QAction::triggered, this, [this] {
@@ -136,6 +147,24 @@ void MainWindow::BuildMenus() {
   connect(page, &QAction::triggered, this, &MainWindow::OpenHelp);
   QAction* about = Named("Aboutx", help->addAction("&About"));
   connect(about, &QAction::triggered, this, [this] { (new AboutForm(this))->open(); });
+}
+
+/// The board as text for tables and texts, and as a picture for drawings.
+void MainWindow::CopyBoard() {
+  if (!board_.Shown()) return;
+  auto* copied = new QMimeData;
+  copied->setText(QString::fromStdString(BoardText(board_)));
+  copied->setImageData(board_.OverlayShown() ? drawing_->grab().toImage() : view_->Picture());
+  QGuiApplication::clipboard()->setMimeData(copied);
+}
+
+void MainWindow::PasteFromClipboard() {
+  runner_.Run([this] {
+    const std::string text = QGuiApplication::clipboard()->text().toStdString();
+    if (!PasteBoard(board_, *square_, dialogs_, text)) return;
+    SetSolveMode(ModeVariable);
+    view_->setFocus();
+  });
 }
 
 void MainWindow::OpenHelp() {

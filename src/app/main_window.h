@@ -68,6 +68,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void OpenMenu(QPoint globalPosition);
   void ShowState();
   void ShowOverlay();
+  void CopyBoard();
+  void PasteFromClipboard();
   void OpenPrintForm();
   void OpenHelp();
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTimer>
 
 #include "support/window_fixture.h"
@@ -108,6 +110,29 @@ TEST_F(WindowTest, SymmetriesAreRecordedAndRepeated) {
     EXPECT_EQ(Rows(), kept);
     EXPECT_EQ(redox.text(), c.caption) << "Transpose records nothing";
   }
+}
+
+TEST_F(WindowTest, TheClipboardTakesAndGivesTheBoard) {
+  Find<QAction>("Copyx").trigger();
+  Type("Text1", "50");
+  Click("SolveAuto");
+  const auto square = Rows();
+  Find<QAction>("Copyx").trigger();
+  const auto* copied = QGuiApplication::clipboard()->mimeData();
+  EXPECT_EQ(copied->text().count('\t'), 50 * 49);
+  EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()).width(),
+            window_.View().CellRect(0, 52).left());
+  Click("SolveManual");
+  dialogs_.Take();
+  Find<QAction>("Pastex").trigger();
+  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{"WELL DONE, YOU GOT IT"});
+  EXPECT_EQ(Rows(), square);
+  EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked());
+  EXPECT_EQ(SumBox(), "62525");
+  QGuiApplication::clipboard()->setText("no square");
+  Find<QAction>("Pastex").trigger();
+  EXPECT_EQ(dialogs_.Take().size(), 1U);
+  EXPECT_EQ(Rows(), square);
 }
 
 TEST(RealBoxes, ShowTheMessageUnderTheApplicationTitle) {
