@@ -25,11 +25,12 @@ void CornerBox::focusInEvent(QFocusEvent* event) {
 CornersFrame::CornersFrame(QWidget* parent)
     : QGroupBox("Corners", parent),
       Combo1(Named("Combo1", new CornerBox)),
-      DoCor1(Named("DoCor1", new QPushButton("Diagonals"))),
-      DoCor2(Named("DoCor2", new QPushButton("Edges"))) {
+      DoCor1(Named("DoCor1", new QPushButton("&Diagonals"))),
+      DoCor2(Named("DoCor2", new QPushButton("Edg&es"))) {
   setObjectName("Frame6");
   Combo1->addItem(kAnyCorner);
   Combo1->setToolTip("The number wanted in the top left corner");
+  Combo1->setAccessibleName("top left corner");
   DoCor1->setToolTip("Vary the corners and diagonals of this board");
   DoCor2->setToolTip("Vary the corners and edges of this board");
   auto* layout = new QGridLayout(this);

@@ -18,6 +18,8 @@ class GridView : public QAbstractScrollArea {
  public:
   explicit GridView(Grid& grid, QWidget* parent = nullptr);
 
+  const Grid& Cells() const { return grid_; }
+
   /// The cell that is drawn at a point of the viewport, scrolled or not; none beside the table.
   std::optional<QPoint> CellAt(QPoint point) const;
 
@@ -65,6 +67,7 @@ class GridView : public QAbstractScrollArea {
   void PaintCells(QPainter& painter, QSize size, const QRect& dirty);
   void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
                   int columnEnd);
+  void PaintWrongMark(QPainter& painter, const QRect& cell);
   void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "app/grid_accessible.h"
 #include "app/main_window.h"
 #include "app/program_icon.h"
 
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
   const QApplication application(argc, argv);
   QApplication::setWindowIcon(numorra::ProgramIcon());
+  numorra::InstallGridAccessibility();
   numorra::MainWindow window;
   window.show();
   return QApplication::exec();

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 
 #include "app/board/numbers.h"
 #include "app/column_scroller.h"
@@ -33,7 +34,8 @@ constexpr int kGap = Pixels(30);      // left of the column of frames, and right
 constexpr int kInside = 6;            // pixels around and between a frame's controls
 constexpr int kMargin = Pixels(120);  // right of the board and below it
 
-/// Room for the largest proposal, a board of order 14.
+/// Room for the largest proposal, a board of order 14, where the screen has it.
+constexpr double kShareOfScreen = 0.95;
 constexpr QSize kOpeningSize(740, 700);
 
 PressedButton ButtonOf(Qt::MouseButton button) {
@@ -74,13 +76,14 @@ MainWindow::MainWindow(const World& world)
       solveCommand_({board_, *square_, *this, dialogs_, stage_, random_, List2, List3}),
       topRowCommand_(board_, *square_, dialogs_, stage_, random_) {
   setObjectName("Form1");
+  view_->setAccessibleName("Board");
   setWindowTitle(kApplicationTitle);
   LayOut();
   BuildMenus();
   ConnectControls();
   ConnectBoard();
   StartUp();
-  resize(kOpeningSize);
+  resize(kOpeningSize.boundedTo(screen()->availableSize() * kShareOfScreen));
 }
 
 MainWindow::~MainWindow() {

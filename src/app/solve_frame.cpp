@@ -8,11 +8,11 @@ namespace numorra {
 
 SolveFrame::SolveFrame(QWidget* parent)
     : QGroupBox("Solve", parent),
-      Option3(Named("Option3", new QRadioButton("Normal"))),
-      Option4(Named("Option4", new QRadioButton("Variable"))),
-      SolveAuto(Named("SolveAuto", new QPushButton("Auto"))),
-      SolveAgain(Named("SolveAgain", new QPushButton("Solve Again"))),
-      SolveManual(Named("SolveManual", new QPushButton("Manual"))),
+      Option3(Named("Option3", new QRadioButton("&Normal"))),
+      Option4(Named("Option4", new QRadioButton("&Variable"))),
+      SolveAuto(Named("SolveAuto", new QPushButton("&Auto"))),
+      SolveAgain(Named("SolveAgain", new QPushButton("Solve A&gain"))),
+      SolveManual(Named("SolveManual", new QPushButton("&Manual"))),
       IterationCount(Named("IterationCount", new QLabel)),
       autoPlace_(new QStackedLayout) {
   setObjectName("Frame3");

@@ -10,8 +10,8 @@ SquareFrame::SquareFrame(QWidget* parent)
     : QGroupBox("Square", parent),
       Text1(Named("Text1", new QLineEdit("11"))),
       Text4(Named("Text4", new QLineEdit("34"))),
-      Set4x4(Named("Set4x4", new QPushButton("4x4Set"))),
-      SolveRandum(Named("SolveRandum", new QPushButton("Random"))) {
+      Set4x4(Named("Set4x4", new QPushButton("&4x4Set"))),
+      SolveRandum(Named("SolveRandum", new QPushButton("&Random"))) {
   setObjectName("Frame4");
   Text1->setToolTip("How many cells a side has, 3 to 50");
   Text4->setToolTip("What every row, column and diagonal adds up to");
@@ -24,8 +24,8 @@ SquareFrame::SquareFrame(QWidget* parent)
 
   auto* form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  form->addRow("size", Text1);
-  form->addRow("sum", Text4);
+  form->addRow("&size", Text1);
+  form->addRow("s&um", Text4);
   form->addRow(Set4x4);
   form->addRow(SolveRandum);
 }

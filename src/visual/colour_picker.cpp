@@ -43,9 +43,10 @@ ColourPicker::ColourPicker(QWidget* parent)
       PicRGB{Named("PicRGB0", new Swatch), Named("PicRGB1", new Swatch),
              Named("PicRGB2", new Swatch)},
       picColorToUse(Named("picColorToUse", new Swatch)),
-      Command3(Named("Command3", new QPushButton("Show"))) {
+      Command3(Named("Command3", new QPushButton("Sho&w"))) {
   setObjectName("Frame7");
   Command3->setToolTip("Shade the cells in this color, larger numbers lighter");
+  picColorToUse->setAccessibleName("the mixed color");
   auto* layout = new QGridLayout(this);
   for (std::size_t channel = 0; channel < kChannels; ++channel) {
     QScrollBar* bar = Bars[channel];
@@ -56,6 +57,7 @@ ColourPicker::ColourPicker(QWidget* parent)
     bar->setFocusPolicy(Qt::StrongFocus);
     bar->setAccessibleName(kChannelNames[channel]);
     bar->setToolTip(kChannelNames[channel]);
+    PicRGB[channel]->setAccessibleName(QString(kChannelNames[channel]) + " alone");
     QLabel* degree = Degrees[channel];
     degree->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     degree->setMinimumWidth(degree->fontMetrics().horizontalAdvance("000"));

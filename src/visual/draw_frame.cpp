@@ -8,9 +8,9 @@ namespace numorra {
 
 DrawFrame::DrawFrame(QWidget* parent)
     : QGroupBox("Draw", parent),
-      Command1(Named("Command1", new QPushButton("Cricles"))),
-      Command2(Named("Command2", new QPushButton("Vectors"))),
-      Command4(Named("Command4", new QPushButton("Clear"))) {
+      Command1(Named("Command1", new QPushButton("Cric&les"))),
+      Command2(Named("Command2", new QPushButton("Vec&tors"))),
+      Command4(Named("Command4", new QPushButton("&Clear"))) {
   setObjectName("Frame8");
   Command1->setToolTip("Draw each number as a circle of its size");
   Command2->setToolTip("Draw the way from the smallest number to the largest");

@@ -74,6 +74,20 @@ TEST_F(GridViewTest, RepaintsOnceWhenTheLockIsLifted) {
   EXPECT_EQ(counter.Paints, 1);
 }
 
+TEST_F(GridViewTest, MarksTheCurrentCellWithoutHidingIt) {
+  board_.MarkAllTotalsWrong();
+  board_.grid.SetCurrent(2, 2);
+  const QImage image = view_.viewport()->grab().toImage();
+  const QRect cell = view_.CellRect(2, 2);
+  int dark = 0;
+  for (int x = cell.left() + 4; x < cell.right() - 4; ++x) {
+    for (int y = cell.top() + 4; y < cell.bottom() - 4; ++y) {
+      if (image.pixelColor(x, y).lightness() < 100) ++dark;
+    }
+  }
+  EXPECT_GT(dark, 5) << "the number is in sight";
+}
+
 TEST(CellTexts, ShrinkUntilTheyFitAndSayWhenTheyCannot) {
   CellText texts(QFont(), 27);
   for (const char* text : {"", "7", "2500", "62525", "-1234"})

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QStandardPaths>
 
+#include "app/grid_accessible.h"
+
 namespace {
 
 /// The offscreen platform says at every window what it cannot do; real warnings stay in sight.
@@ -23,5 +25,6 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  numorra::InstallGridAccessibility();
   return RUN_ALL_TESTS();
 }
