@@ -129,22 +129,25 @@ void GridView::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+  const Qt::KeyboardModifiers modifiers = event->modifiers();
   const bool command =
-      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  const bool keypad = event->modifiers() & Qt::KeypadModifier;
+      modifiers.testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  const bool keypad = modifiers.testFlag(Qt::KeypadModifier);
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const QString text = enter ? QString('\r') : event->text();
+  const bool typed = !command && !text.isEmpty() && event->key() != Qt::Key_Escape &&
+                     event->key() != Qt::Key_Delete;
+  event->accept();
   if (!grid_.Visible() || grid_.Rows() < 3) {
     event->ignore();
-  } else if (Navigate(event->key(), event->modifiers() & Qt::ControlModifier)) {
-    event->accept();
-  } else if (command || event->key() == Qt::Key_Escape || event->key() == Qt::Key_Delete ||
-             text.isEmpty()) {
-    event->ignore();
+  } else if (Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) {
+    return;
   } else if (keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
     Q_EMIT KeypadPressed(event->key() == Qt::Key_Plus ? 1 : -1);
-  } else {
+  } else if (typed) {
     Q_EMIT CharacterTyped(text.front().unicode());
+  } else {
+    event->ignore();
   }
 }
 

@@ -48,10 +48,11 @@ class Reader {
   Arguments Read() {
     while (next_ < words_.size() && error_.empty()) {
       TakeOption();
-      if (const auto handler = Handler())
+      if (const auto handler = Handler()) {
         (this->*handler)();
-      else
+      } else {
         Fail("unknown argument '" + option_ + "'");
+      }
       if (attached_) Fail("'" + option_ + "' takes no value");
       if (error_.empty() && special_) return *special_;
     }
@@ -134,14 +135,15 @@ class Reader {
 
   void Format() {
     const std::string name = Value();
-    if (name == "text")
+    if (name == "text") {
       request_.Format = SquareFormat::Text;
-    else if (name == "csv")
+    } else if (name == "csv") {
       request_.Format = SquareFormat::Csv;
-    else if (name == "json")
+    } else if (name == "json") {
       request_.Format = SquareFormat::Json;
-    else
+    } else {
       Fail("the format is text, csv or json");
+    }
   }
 
   void Seed() {

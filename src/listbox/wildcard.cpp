@@ -29,8 +29,9 @@ struct Element {
 };
 
 Element ElementAt(const std::u32string& pattern, std::size_t begin) {
-  const std::size_t closing = pattern[begin] == U'[' ? pattern.find(U']', begin) : pattern.npos;
-  return {begin, closing == pattern.npos ? begin + 1 : closing + 1};
+  const std::size_t closing =
+      pattern[begin] == U'[' ? pattern.find(U']', begin) : std::u32string::npos;
+  return {begin, closing == std::u32string::npos ? begin + 1 : closing + 1};
 }
 
 bool InList(char32_t character, std::u32string_view list) {
@@ -64,7 +65,7 @@ bool MatchesWildcard(std::string_view text, std::string_view pattern) {
   const std::u32string elements = Characters(pattern);
   std::size_t at = 0;
   std::size_t in = 0;
-  std::size_t afterAsterisk = elements.npos;
+  std::size_t afterAsterisk = std::u32string::npos;
   std::size_t takenByAsterisk = 0;
   while (at < characters.size()) {
     if (in < elements.size() && elements[in] == U'*') {
@@ -80,7 +81,7 @@ bool MatchesWildcard(std::string_view text, std::string_view pattern) {
         continue;
       }
     }
-    if (afterAsterisk == elements.npos) return false;
+    if (afterAsterisk == std::u32string::npos) return false;
     in = afterAsterisk;
     at = ++takenByAsterisk;
   }

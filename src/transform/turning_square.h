@@ -35,7 +35,8 @@ class TurningSquare {
   static constexpr int kSide = CellTable::kSide;
 
   std::size_t Index(int row, int column) const {
-    return static_cast<std::size_t>(origin_ + row * rowStep_ + column * columnStep_);
+    const int index = origin_ + row * rowStep_ + column * columnStep_;
+    return static_cast<std::size_t>(index);
   }
 
   int order_;
