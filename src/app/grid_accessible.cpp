@@ -40,7 +40,7 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
 
   QString text(QAccessible::Text kind) const override {
     if (!isValid()) return {};
-    const QString value = QString::fromStdString(Cells().Text(row_, column_));
+    QString value = QString::fromStdString(Cells().Text(row_, column_));
     if (kind == QAccessible::Value) return value;
     if (kind != QAccessible::Name) return {};
     const int last = Cells().Rows() - 1;
@@ -137,7 +137,8 @@ class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterfac
 
   QAccessibleInterface* cellAt(int row, int column) const override {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) return nullptr;
-    const auto index = static_cast<std::size_t>(row * kMostLines + column);
+    const auto index =
+        static_cast<std::size_t>(row) * kMostLines + static_cast<std::size_t>(column);
     if (cells_.size() <= index) cells_.resize(index + 1);
     if (cells_[index] == 0) {
       cells_[index] =

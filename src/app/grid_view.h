@@ -67,7 +67,7 @@ class GridView : public QAbstractScrollArea {
   void PaintCells(QPainter& painter, QSize size, const QRect& dirty);
   void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
                   int columnEnd);
-  void PaintWrongMark(QPainter& painter, const QRect& cell);
+  static void PaintWrongMark(QPainter& painter, const QRect& cell);
   void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);

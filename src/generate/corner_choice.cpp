@@ -17,6 +17,7 @@ void AddCandidate(ListBoy& candidates, int value) {
 }  // namespace
 
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice) {
+  choice.AddItem(kAnyCorner);  // first, so that it is there whatever the boxes say
   candidates.Clear();
   const double size = Val(boxes.Size());
   if (size >= 1) {
@@ -35,7 +36,6 @@ void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox
       candidates.SortItemDataAscending();
     }
   }
-  choice.AddItem(kAnyCorner);
   candidates.FillListBox(choice);
 }
 

@@ -40,10 +40,10 @@ class Search {
  private:
   bool PlaceBottomRow() {
     const int a = Cell(1, 1), b = Cell(1, 2), c = Cell(1, 3), d = Cell(1, 4);
-    return TryAll(b + c, [&](int m) {
+    return TryBetween(lowest_, b + c - lowest_, [&](int m) {
       return With(4, 1, m, [&] {
         return With(4, 4, b + c - m, [&] {
-          return TryAll(a + d, [&](int n) {
+          return TryBetween(lowest_, a + d - lowest_, [&](int n) {
             return With(4, 2, n,
                         [&] { return With(4, 3, a + d - n, [&] { return PlaceCentre(); }); });
           });
@@ -52,40 +52,56 @@ class Search {
     });
   }
 
+  /// The bounds of f are those that leave f, j, k, g, and some e with its h, i and l, in range:
+  /// with numbers repeated there is a square for every f tried, and a bottom row is refuted at
+  /// once.
   bool PlaceCentre() {
-    return TryAll(sum_ - Cell(1, 2) - Cell(4, 2), [&](int f) {
+    const int leftUp = sum_ - Cell(1, 1) - Cell(4, 1);   // e + i
+    const int column2 = sum_ - Cell(1, 2) - Cell(4, 2);  // f + j
+    const int column3 = sum_ - Cell(1, 3) - Cell(4, 3);  // g + k
+    const int falling = sum_ - Cell(1, 1) - Cell(4, 4);  // f + k
+    if (leftUp < 2 * lowest_ || 2 * lowest_ + leftUp + column2 + column3 > 2 * sum_) return false;
+    const int low = std::max(
+        {lowest_, lowest_ + falling - column3, -FloorHalf(sum_ - column2 - falling - 2 * lowest_)});
+    const int high = std::min(
+        {column2 - lowest_, falling - lowest_, FloorHalf(sum_ - column3 + falling - 2 * lowest_)});
+    return TryBetween(low, high, [&](int f) {
       return With(2, 2, f, [&] {
-        return With(3, 2, sum_ - Cell(1, 2) - Cell(4, 2) - f, [&] {
-          return With(3, 3, sum_ - Cell(1, 1) - Cell(4, 4) - f, [&] {
-            return With(2, 3, sum_ - Cell(1, 3) - Cell(4, 3) - Cell(3, 3),
-                        [&] { return PlaceSides(); });
+        return With(3, 2, column2 - f, [&] {
+          return With(3, 3, falling - f, [&] {
+            return With(2, 3, column3 - falling + f, [&] { return PlaceSides(leftUp); });
           });
         });
       });
     });
   }
 
-  bool PlaceSides() {
-    return TryAll(sum_ - Cell(1, 1) - Cell(4, 1), [&](int e) {
+  bool PlaceSides(int leftUp) {
+    const int row2 = sum_ - Cell(2, 2) - Cell(2, 3);  // e + h
+    const int row3 = sum_ - Cell(3, 2) - Cell(3, 3);  // i + l
+    const int low = std::max(lowest_, lowest_ + leftUp - row3);
+    const int high = std::min(leftUp, row2) - lowest_;
+    return TryBetween(low, high, [&](int e) {
       return With(2, 1, e, [&] {
-        return With(3, 1, sum_ - Cell(1, 1) - Cell(4, 1) - e, [&] {
-          return With(2, 4, sum_ - e - Cell(2, 2) - Cell(2, 3), [&] {
-            return With(3, 4, sum_ - Cell(3, 1) - Cell(3, 2) - Cell(3, 3), [] { return true; });
-          });
+        return With(3, 1, leftUp - e, [&] {
+          return With(2, 4, row2 - e,
+                      [&] { return With(3, 4, row3 - leftUp + e, [] { return true; }); });
         });
       });
     });
   }
 
-  /// Tries a number and what is left of `pair` for its partner, both lowest_ or more.
+  static int FloorHalf(int number) { return number >= 0 ? number / 2 : -((1 - number) / 2); }
+
+  /// Tries low..high from a random start, with wrap-around.
   template <class Try>
-  bool TryAll(int pair, Try attempt) {
-    const int count = pair - 2 * lowest_ + 1;
-    if (count <= 0) return false;
+  bool TryBetween(int low, int high, Try attempt) {
+    if (low > high) return false;
+    const int count = high - low + 1;
     const int start = random_.Between(0, count - 1);
     for (int step = 0; step < count; ++step) {
       if (++steps_ % kSteps == 0) yield_();
-      if (attempt(lowest_ + (start + step) % count)) return true;
+      if (attempt(low + (start + step) % count)) return true;
     }
     return false;
   }

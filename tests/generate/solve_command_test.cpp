@@ -196,6 +196,14 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
   }
 }
 
+TEST_F(SolveCommandTest, OffersAnyCornerWhenTheSumIsBeyondAllNumbers) {
+  ChoiceList choice;
+  Boxes.SizeText = "5";
+  Boxes.SumText = "99999999";
+  EXPECT_THROW(OfferCorners(TheBoard, Boxes, List2, choice), RuntimeError);
+  EXPECT_EQ(choice.Entries, Messages{"any"});
+}
+
 class TopRowTest : public SolveCommandTest {
  protected:
   TopRowCommand command_{TheBoard, Boxes, Speech, Stage, Dice};
@@ -239,6 +247,22 @@ TEST(TopRows, AreFourNumbersWithCommasOrBlanks) {
   for (const char* text : {"", "1,2,3", "1,2,3,4,5", "1,2,3,x", "1,2,3,-4", "1,2,3,10000", "1,,2,3",
                            "1;2;3;4", "1.5,2,3,4", "1,2,3,99999999999"}) {
     EXPECT_EQ(ParseTopRow(text), std::nullopt) << text;
+  }
+}
+
+/// Every top row has an answer soon, large numbers and hopeless ones too.
+TEST(TopRows, AreDecidedSoon) {
+  TickingClock clock(4);
+  ClockSeededRandom random(clock);
+  for (int time = 0; time < 3000; ++time) {
+    TopRow top{};
+    for (int& number : top)
+      number = random.Between(0, random.Between(0, 1) ? 9 : 9999);
+    int yields = 0;
+    const auto found = FindTopRowSquare(top, random, [&] { ASSERT_LT(++yields, 20000); });
+    if (found) {
+      ASSERT_EQ(slow::WhyNotMagic(RowsOf(found->Square, 4), top[0] + top[1] + top[2] + top[3]), "");
+    }
   }
 }
 
