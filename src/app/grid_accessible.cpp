@@ -141,9 +141,10 @@ class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterfac
         static_cast<std::size_t>(row) * kMostLines + static_cast<std::size_t>(column);
     if (cells_.size() <= index) cells_.resize(index + 1);
     if (cells_[index] == 0) {
-      cells_[index] =
-          QAccessible::registerAccessibleInterface(new CellAccessible(view_, row, column));
-    }
+      // The toolkit owns what is registered with it, until it is deleted by its number.
+      auto* cell = new CellAccessible(view_, row, column);
+      cells_[index] = QAccessible::registerAccessibleInterface(cell);
+    }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
     return QAccessible::accessibleInterface(cells_[index]);
   }
 

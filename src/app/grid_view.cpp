@@ -137,14 +137,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const QString text = enter ? QString('\r') : event->text();
   const bool typed = !command && !text.isEmpty() && event->key() != Qt::Key_Escape &&
                      event->key() != Qt::Key_Delete;
+  const bool board = grid_.Visible() && grid_.Rows() >= 3;
   event->accept();
-  if (!grid_.Visible() || grid_.Rows() < 3) {
-    event->ignore();
-  } else if (Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) {
-    return;
-  } else if (keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
+  if (board && Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) return;
+  if (board && keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
     Q_EMIT KeypadPressed(event->key() == Qt::Key_Plus ? 1 : -1);
-  } else if (typed) {
+  } else if (board && typed) {
     Q_EMIT CharacterTyped(text.front().unicode());
   } else {
     event->ignore();
