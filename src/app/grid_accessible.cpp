@@ -20,8 +20,6 @@ QString LineName(int row, int column, int last) {
   return {};
 }
 
-class GridAccessible;
-
 /// One cell. It belongs to its table, which makes it when it is first asked for.
 class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellInterface {
  public:

@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
-#include <random>
 
-#include "app/board/numbers.h"
-#include "app/play/command_history.h"
-#include "support/invariants.h"
 #include "support/window_fixture.h"
 
 namespace numorra {
