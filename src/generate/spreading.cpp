@@ -55,6 +55,12 @@ bool Spreading::ExceedsNine(int factor) const {
   return exceeds;
 }
 
+void Spreading::ApplyBothSigns() {
+  ApplyPattern(PatternFactor());
+  CellFlags.Negate();
+  ApplyPattern(PatternFactor());
+}
+
 void Spreading::SpreadCornerDiagonals() {
   const int n = BoardValues.Order();
   for (int k = 2; k < n + 1 - k; ++k) {
@@ -68,9 +74,7 @@ void Spreading::SpreadCornerDiagonals() {
     CellFlags.Add(k, mirror, -2);
     CellFlags.Add(n, k, -2);
     CellFlags.Add(n, mirror, 2);
-    ApplyPattern(PatternFactor());
-    CellFlags.Negate();
-    ApplyPattern(PatternFactor());
+    ApplyBothSigns();
     BoardValues.RotateBoard90();
   }
 }
@@ -85,9 +89,7 @@ void Spreading::SpreadCornerEdges() {
     CellFlags.Add(n, n, -1);
     CellFlags.Add(1, column, -2);
     CellFlags.Add(n, column, 2);
-    ApplyPattern(PatternFactor());
-    CellFlags.Negate();
-    ApplyPattern(PatternFactor());
+    ApplyBothSigns();
     BoardValues.RotateBoard90();
   }
 }

@@ -71,6 +71,9 @@ class Spreading {
   bool ApplyRingPattern(const Ring& ring, int row, int column, int sign);
   bool ExceedsNine(int factor) const;
 
+  /// Applies the pattern and then its negative, each with a random multiplier of its own.
+  void ApplyBothSigns();
+
   Random& random_;
   BuildStage& stage_;
 };
