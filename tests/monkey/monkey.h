@@ -2,7 +2,6 @@
 
 #include <random>
 #include <string>
-#include <vector>
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -11,13 +10,12 @@
 
 namespace numorra {
 
-/// A monkey at the real window, with real boxes: it clicks, types, drags bars, opens menus and
-/// windows, answers boxes with any button or Esc, resizes, prints, closes and reopens, in the
-/// middle of builds too. The same seed does the same again.
+/// A monkey at the real window, with real boxes: it does with whatever control is in reach what
+/// can be done with it, in the middle of builds too, and answers boxes with any button, Esc or
+/// their frame. The same seed does the same again.
 class Monkey {
  public:
   explicit Monkey(unsigned seed);
-  ~Monkey();
 
   /// Does one thing. Returns what does not hold afterwards, or nothing.
   std::string Step();
@@ -33,33 +31,39 @@ class Monkey {
   int Below(int bound) { return static_cast<int>(dice_() % static_cast<unsigned>(bound)); }
   template <class List>
   const auto& Any(const List& list) {
-    return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
+    return list[static_cast<decltype(std::size(list))>(Below(static_cast<int>(std::size(list))))];
   }
+  template <class Control>
+  void WithAny(void (Monkey::*use)(Control*));
 
-  void PressButton();
-  void PressBuild();
-  void TypeIntoBox();
+  void Press(QAbstractButton* button);
+  void Choose(QAction* action);
+  void Type(QLineEdit* box);
+  void Drag(QScrollBar* bar);
+  void Pick(QComboBox* combo);
+
+  void PressButton() { WithAny(&Monkey::Press); }
+  void ChooseAction() { WithAny(&Monkey::Choose); }
+  void TypeText() { WithAny(&Monkey::Type); }
+  void DragBar() { WithAny(&Monkey::Drag); }
+  void PickEntry() { WithAny(&Monkey::Pick); }
   void TypeSensibleSize();
+  void Build();
   void PressBoard();
   void PressKey();
-  void ChooseFromMenu();
-  void DragBar();
-  void ChooseCorner();
-  void ResizeWindow();
-  void OpenReadingWindow();
-  void CloseReadingWindow();
-  void CloseAndReopen();
+  void CopyText();
+  void Resize() { window_.resize(1 + Below(1200), 1 + Below(900)); }
+  void Close() { Front()->close(); }
 
+  /// What a person could reach now: a dialog in front, or the window.
+  QWidget* Front();
   void AnswerBox();
   std::string WhyWrong();
 
-  class Printer : public PaperPrinter {
-   public:
-    explicit Printer(Monkey& monkey) : monkey_(monkey) {}
+  struct Printer : PaperPrinter {
+    explicit Printer(Monkey& monkey) : TheMonkey(monkey) {}
     bool Choose(QWidget*) override;
-
-   private:
-    Monkey& monkey_;
+    Monkey& TheMonkey;
   };
 
   std::mt19937 dice_;
