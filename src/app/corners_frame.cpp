@@ -26,7 +26,7 @@ CornersFrame::CornersFrame(QWidget* parent)
     : QGroupBox("Corners", parent),
       Combo1(Named("Combo1", new CornerBox)),
       DoCor1(Named("DoCor1", new QPushButton("&Diagonals"))),
-      DoCor2(Named("DoCor2", new QPushButton("Edg&es"))) {
+      DoCor2(Named("DoCor2", new QPushButton("Ed&ges"))) {
   setObjectName("Frame6");
   Combo1->addItem(kAnyCorner);
   Combo1->setToolTip("The number wanted in the top left corner");

@@ -6,8 +6,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
-#include "app/grid_view.h"
-
 namespace numorra {
 namespace {
 
@@ -184,6 +182,13 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
 
 void InstallGridAccessibility() {
   QAccessible::installFactory(MakeInterface);
+}
+
+void ReadCurrentCell(GridView& view, bool another) {
+  const Grid& grid = view.Cells();
+  QAccessibleEvent event(&view, another ? QAccessible::Focus : QAccessible::NameChanged);
+  event.setChild(grid.CurrentRow() * grid.Columns() + grid.CurrentColumn());
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace numorra

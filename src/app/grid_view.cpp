@@ -85,7 +85,19 @@ void GridView::paintEvent(QPaintEvent* event) {
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
+    TellCurrentCell();
   }
+}
+
+/// What is told is what is painted, so once a repaint at most.
+void GridView::TellCurrentCell() {
+  if (!hasFocus()) return;
+  const ShownCell now{grid_.CurrentRow(), grid_.CurrentColumn(),
+                      grid_.Text(grid_.CurrentRow(), grid_.CurrentColumn())};
+  const bool another = !told_ || told_->Row != now.Row || told_->Column != now.Column;
+  if (!another && told_->Text == now.Text) return;
+  told_ = now;
+  Q_EMIT CurrentCellShown(another);
 }
 
 /// Paints the four blocks that scroll differently, as far as they lie in `dirty`.
@@ -190,6 +202,12 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() != QContextMenuEvent::Keyboard || !grid_.Visible()) return;
   const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn());
   Q_EMIT MenuWanted(viewport()->mapToGlobal(cell.center()));
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  told_.reset();
+  viewport()->update();
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

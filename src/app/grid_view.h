@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <QAbstractScrollArea>
@@ -50,12 +51,17 @@ class GridView : public QAbstractScrollArea {
   /// The keyboard asks for the context menu.
   void MenuWanted(QPoint globalPosition);
 
+  /// The cell that has the keyboard has come into sight: another one than before, or with another
+  /// text.
+  void CurrentCellShown(bool another);
+
  protected:
   bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -73,13 +79,21 @@ class GridView : public QAbstractScrollArea {
   void PaintGuides(QPainter& painter);
   void PaintCurrentCell(QPainter& painter);
   bool Navigate(int key, bool toTheVeryEnd);
+  void TellCurrentCell();
   CellText& Texts();
+
+  struct ShownCell {
+    int Row;
+    int Column;
+    std::string Text;
+  };
 
   Grid& grid_;
   int dpi_;
   mutable std::vector<int> edges_;  ///< by line, as far as they have been asked for
   std::optional<CellText> texts_;
-  std::optional<QSize> shape_;  ///< the table's lines when the scroll bars were last set
+  std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
+  std::optional<ShownCell> told_;  ///< the current cell as it was last told of
 };
 
 }  // namespace numorra

@@ -10,6 +10,7 @@
 
 #include "app/board/numbers.h"
 #include "app/column_scroller.h"
+#include "app/grid_accessible.h"
 #include "app/named.h"
 #include "app/play/board_mouse.h"
 #include "app/play/board_text.h"
@@ -237,6 +238,8 @@ void MainWindow::ConnectBoard() {
   board_.OnOverlay = [this] { ShowOverlay(); };
   connect(view_, &GridView::CellPressed, this, &MainWindow::PressCell);
   connect(view_, &GridView::MenuWanted, this, &MainWindow::OpenMenu);
+  connect(view_, &GridView::CurrentCellShown, this,
+          [this](bool another) { ReadCurrentCell(*view_, another); });
   connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
     RunOnBoard([this, row, column] { board_.grid.SetCurrent(row, column); });
   });

@@ -9,9 +9,9 @@ namespace numorra {
 SolveFrame::SolveFrame(QWidget* parent)
     : QGroupBox("Solve", parent),
       Option3(Named("Option3", new QRadioButton("&Normal"))),
-      Option4(Named("Option4", new QRadioButton("&Variable"))),
+      Option4(Named("Option4", new QRadioButton("Var&iable"))),
       SolveAuto(Named("SolveAuto", new QPushButton("&Auto"))),
-      SolveAgain(Named("SolveAgain", new QPushButton("Solve A&gain"))),
+      SolveAgain(Named("SolveAgain", new QPushButton("S&olve Again"))),
       SolveManual(Named("SolveManual", new QPushButton("&Manual"))),
       IterationCount(Named("IterationCount", new QLabel)),
       autoPlace_(new QStackedLayout) {

@@ -2,6 +2,8 @@
 #include <set>
 
 #include <QAccessible>
+#include <QMenuBar>
+#include <QSignalSpy>
 
 #include "support/window_fixture.h"
 
@@ -45,21 +47,41 @@ TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
   EXPECT_EQ(table->indexOfChild(table->child(8)), 8);
 }
 
-/// Whatever takes the keyboard has a name, and a mnemonic where it is a button.
-TEST_F(AccessibilityTest, EveryControlHasAName) {
+TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
+  Click("SolveManual");
+  QCoreApplication::processEvents();
+  QSignalSpy told(&window_.View(), &GridView::CurrentCellShown);
+  const std::pair<Qt::Key, QVariantList> keys[] = {
+      {Qt::Key_Right, {true}}, {Qt::Key_9, {false}}, {Qt::Key_Up, {true}}, {Qt::Key_Escape, {}}};
+  for (const auto& [key, another] : keys) {
+    QTest::keyClick(&window_.View(), key);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told.isEmpty() ? QVariantList() : told.takeFirst(), another) << key;
+    EXPECT_TRUE(told.isEmpty());
+  }
+}
+
+/// Whatever takes the keyboard has a name; no two mnemonics are the same, the menus' among them.
+TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
   std::set<QString> mnemonics;
+  const auto note = [&](const QString& key, const QString& text) {
+    EXPECT_NE(key, "") << text.toStdString();
+    EXPECT_TRUE(mnemonics.insert(key).second) << key.toStdString() << " twice";
+  };
+  for (const QAction* menu : window_.menuBar()->actions())
+    note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
   for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
+    if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      note(button->shortcut().toString(), button->text());
+    } else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) {
+      note(QKeySequence::mnemonic(label->text()).toString(), label->text());
+    }
     if (!(widget->focusPolicy() & Qt::TabFocus)) continue;
     const auto* interface = QAccessible::queryAccessibleInterface(widget);
     ASSERT_NE(interface, nullptr);
     EXPECT_NE(interface->text(QAccessible::Name), "") << widget->objectName().toStdString();
-    if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      const QString key = button->shortcut().toString();
-      EXPECT_NE(key, "") << button->text().toStdString();
-      EXPECT_TRUE(mnemonics.insert(key).second) << key.toStdString() << " twice";
-    }
   }
-  EXPECT_GT(mnemonics.size(), 10U);
+  EXPECT_GT(mnemonics.size(), 15U);
 }
 
 }  // namespace
