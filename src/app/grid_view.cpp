@@ -46,6 +46,11 @@ QRect GridView::CellRect(int row, int column) const {
   return {left, top, Edge(column + 1) - Edge(column), Edge(row + 1) - Edge(row)};
 }
 
+QPoint GridView::CurrentCellPosition() const {
+  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn());
+  return viewport()->mapToGlobal(cell.center());
+}
+
 void GridView::BringIntoView(int row, int column) {
   UpdateScrollBars();
   const auto bring = [this](QScrollBar* bar, int line, int length) {
@@ -152,7 +157,11 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const bool board = grid_.Visible() && grid_.Rows() >= 3;
   event->accept();
   if (board && Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) return;
-  if (board && keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
+  if (board && event->key() == Qt::Key_Space) {
+    Q_EMIT MarkWanted(modifiers.testFlag(Qt::ShiftModifier)     ? MarkedLine::Row
+                      : modifiers.testFlag(Qt::ControlModifier) ? MarkedLine::Column
+                                                                : MarkedLine::Cell);
+  } else if (board && keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
     Q_EMIT KeypadPressed(event->key() == Qt::Key_Plus ? 1 : -1);
   } else if (board && typed) {
     Q_EMIT CharacterTyped(text.front().unicode());
@@ -200,8 +209,7 @@ bool GridView::Navigate(int key, bool toTheVeryEnd) {
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() != QContextMenuEvent::Keyboard || !grid_.Visible()) return;
-  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn());
-  Q_EMIT MenuWanted(viewport()->mapToGlobal(cell.center()));
+  Q_EMIT MenuWanted();
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {

@@ -8,6 +8,7 @@
 
 #include "app/board/grid.h"
 #include "app/cell_text.h"
+#include "app/play/board_mouse.h"
 
 namespace numorra {
 
@@ -26,6 +27,9 @@ class GridView : public QAbstractScrollArea {
 
   /// Where the cell (row, column) is drawn in the viewport, whether in sight or not.
   QRect CellRect(int row, int column) const;
+
+  /// The middle of the current cell on the screen: where the keyboard opens a menu.
+  QPoint CurrentCellPosition() const;
 
   /// Scrolls until the cell is in sight.
   void BringIntoView(int row, int column);
@@ -48,8 +52,11 @@ class GridView : public QAbstractScrollArea {
   /// The keypad's plus (1) or minus (-1).
   void KeypadPressed(int sign);
 
+  /// Space marks the current cell, with Shift its row, with Ctrl its column.
+  void MarkWanted(MarkedLine line);
+
   /// The keyboard asks for the context menu.
-  void MenuWanted(QPoint globalPosition);
+  void MenuWanted();
 
   /// The cell that has the keyboard has come into sight: another one than before, or with another
   /// text.

@@ -236,8 +236,23 @@ void MainWindow::ConnectControls() {
 
 void MainWindow::ConnectBoard() {
   board_.OnOverlay = [this] { ShowOverlay(); };
-  connect(view_, &GridView::CellPressed, this, &MainWindow::PressCell);
-  connect(view_, &GridView::MenuWanted, this, &MainWindow::OpenMenu);
+  connect(view_, &GridView::CellPressed, this,
+          [this](int row, int column, Qt::MouseButton button, QPoint position) {
+            const auto press = [=, this] {
+              return PressBoard(board_, dialogs_, row, column, ButtonOf(button));
+            };
+            Press(press, position);
+          });
+  connect(view_, &GridView::MenuWanted, this, [this] {
+    const auto press = [this] {
+      return PressBoard(board_, dialogs_, board_.grid.CurrentRow(), board_.grid.CurrentColumn(),
+                        PressedButton::Right);
+    };
+    Press(press, view_->CurrentCellPosition());
+  });
+  connect(view_, &GridView::MarkWanted, this, [this](MarkedLine line) {
+    Press([this, line] { return MarkByKey(board_, dialogs_, line); }, view_->CurrentCellPosition());
+  });
   connect(view_, &GridView::CurrentCellShown, this,
           [this](bool another) { ReadCurrentCell(*view_, another); });
   connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
@@ -342,21 +357,17 @@ void MainWindow::FollowSize() {
   if (board_.SolveMode == ModeNormal) square_->SetSum(MagicConstantText(square_->Size()));
 }
 
-void MainWindow::PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition) {
-  RunOnBoard([this, row, column, button, globalPosition] {
-    const PressOutcome outcome = PressBoard(board_, dialogs_, row, column, ButtonOf(button));
+/// Runs a press on the board and opens the menu where it asks for one.
+void MainWindow::Press(std::function<PressOutcome()> press, QPoint menuPosition) {
+  RunOnBoard([this, press = std::move(press), menuPosition] {
+    const PressOutcome outcome = press();
     if (outcome == PressOutcome::Nothing) return;
     menu_->EnableEditing(outcome != PressOutcome::OpenShortMenu);
     menu_->redox->setEnabled(true);
     if (outcome == PressOutcome::Done) return;
     menu_->ShowBaseValue(Str(board_.BaseValue));
-    menu_->popup(globalPosition);
+    menu_->popup(menuPosition);
   });
-}
-
-/// The menu on the current cell, as a right press there opens it.
-void MainWindow::OpenMenu(QPoint globalPosition) {
-  PressCell(board_.grid.CurrentRow(), board_.grid.CurrentColumn(), Qt::RightButton, globalPosition);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -64,8 +64,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void FollowSize();
   void ConnectBoard();
   void RunOnBoard(CommandRunner::Command command);
-  void PressCell(int row, int column, Qt::MouseButton button, QPoint globalPosition);
-  void OpenMenu(QPoint globalPosition);
+  void Press(std::function<PressOutcome()> press, QPoint menuPosition);
   void ShowState();
   void ShowOverlay();
   void CopyBoard();

@@ -74,6 +74,15 @@ TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
   EXPECT_EQ(Find<QAction>("SetAllRem").text(), "all other values to 10");
   EXPECT_TRUE(Find<QAction>("SetValuex").isEnabled());
   menu.close();
+  Key(Qt::Key_Space, Qt::ShiftModifier);
+  EXPECT_EQ(TheGrid().Text(2, 5), "X");
+  Key(Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(TheGrid().Text(5, 1), "X");
+  Key(Qt::Key_Space);
+  Key(Qt::Key_Right);
+  Find<QAction>("swapvaluex").trigger();
+  EXPECT_EQ(TheGrid().Text(2, 2), "1");
+  Find<QAction>("swapvaluex").trigger();
   Choose("SetAllRem", 2, 1);
   EXPECT_EQ(Find<QAction>("redox").text(), "entire grid to random values");
   ClickCell(3, 3);

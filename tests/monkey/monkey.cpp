@@ -163,7 +163,9 @@ void Monkey::PressKey() {
   } else {
     const Qt::Key key = Any(kKeys);
     LastDone += std::to_string(key);
-    QTest::keyClick(target, key, Below(8) ? Qt::NoModifier : Qt::ControlModifier);
+    const Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
+                                              Qt::ShiftModifier, Qt::ControlModifier};
+    QTest::keyClick(target, key, Any(modifiers));
   }
 }
 

@@ -58,4 +58,17 @@ PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, Pre
   return PressOutcome::Done;
 }
 
+PressOutcome MarkByKey(Board& board, Dialogs& dialogs, MarkedLine line) {
+  if (!board.Shown()) return PressOutcome::Nothing;
+  const Grid& grid = board.grid;
+  const int last = board.GridSize + 1;
+  const int row = line == MarkedLine::Column ? last : grid.CurrentRow();
+  const int column = line == MarkedLine::Row ? last : grid.CurrentColumn();
+  const auto shows = [&grid](int r, int c) { return r > 0 && c > 0 && grid.Text(r, c) == kMark; };
+  const bool another = (line == MarkedLine::Row && shows(board.MarkedRow, last)) ||
+                       (line == MarkedLine::Column && shows(last, board.MarkedCol));
+  return PressBoard(board, dialogs, row, column,
+                    another ? PressedButton::Right : PressedButton::Left);
+}
+
 }  // namespace numorra

@@ -23,4 +23,11 @@ enum class PressOutcome {
 /// the first check every press asks for the menu.
 PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, PressedButton button);
 
+/// What can be marked by keys: the current cell, its row, or its column.
+enum class MarkedLine { Cell, Row, Column };
+
+/// The mouse's marks for the keyboard: a left press on the current cell, or on the mark of its row
+/// or column; when another row or column is marked, the right press that swaps the two.
+PressOutcome MarkByKey(Board& board, Dialogs& dialogs, MarkedLine line);
+
 }  // namespace numorra

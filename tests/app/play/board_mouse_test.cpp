@@ -60,6 +60,31 @@ TEST_F(BoardMouseTest, MarksSwapRowsAndColumns) {
   EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
 }
 
+TEST_F(BoardMouseTest, KeysMarkAndSwapToo) {
+  const auto mark = [this](int row, int column, MarkedLine line) {
+    Go(row, column);
+    return MarkByKey(board_, dialogs_, line);
+  };
+  EXPECT_EQ(MarkByKey(board_, dialogs_, MarkedLine::Row), PressOutcome::Nothing) << "no board";
+  Show("8 1 6 / 4 9 2 / 3 5 7");
+  mark(3, 1, MarkedLine::Cell);
+  mark(2, 3, MarkedLine::Row);
+  EXPECT_EQ(At(2, 4), "X") << "a remembered cell is no marked row";
+  mark(3, 1, MarkedLine::Row);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
+  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  mark(1, 1, MarkedLine::Column);
+  mark(2, 3, MarkedLine::Row);
+  EXPECT_EQ(At(4, 1), "") << "one mark at a time";
+  mark(2, 1, MarkedLine::Row);
+  EXPECT_EQ(At(2, 4), "") << "taken back";
+  mark(1, 1, MarkedLine::Column);
+  mark(1, 3, MarkedLine::Column);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("6 1 8 / 7 5 3 / 2 9 4"));
+  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(Where(), (std::pair{1, 3}));
+}
+
 TEST_F(BoardMouseTest, RememberedCellsSwapByTheMenu) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   history_.Record(RedoCode::Rotate90, "before");
