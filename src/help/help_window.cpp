@@ -10,7 +10,7 @@ namespace numorra {
 namespace {
 
 constexpr int kSideMargin = 4;  // pixels: 120 twips on both sides together
-constexpr qint64 kLargestFile = 16 << 20;
+constexpr qint64 kLargestFile = 4 << 20;
 
 }  // namespace
 
@@ -24,18 +24,20 @@ QUrl FolderBrowser::Absolute(const QUrl& name) const {
   return QUrl::fromLocalFile(HelpPageIn(folder_)).resolved(name);
 }
 
-QVariant FolderBrowser::loadResource(int, const QUrl& name) {
+bool FolderBrowser::Serves(const QUrl& name) const {
   const QUrl url = Absolute(name);
-  if (!StandsIn(folder_, url)) return {};
-  QFile file(url.toLocalFile());
-  if (file.size() > kLargestFile || !file.open(QFile::ReadOnly)) return {};
-  return file.readAll();
+  const QFileInfo file(url.toLocalFile());
+  return StandsIn(folder_, url) && file.isFile() && file.size() <= kLargestFile;
+}
+
+QVariant FolderBrowser::loadResource(int, const QUrl& name) {
+  if (!Serves(name)) return {};
+  QFile file(Absolute(name).toLocalFile());
+  return file.open(QFile::ReadOnly) ? file.readAll() : QVariant();
 }
 
 void FolderBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
-  if (StandsIn(folder_, Absolute(name))) {
-    QTextBrowser::doSetSource(name, QTextDocument::HtmlResource);
-  }
+  if (Serves(name)) QTextBrowser::doSetSource(name, QTextDocument::HtmlResource);
 }
 
 HelpForm::HelpForm(const QString& folder, QWidget* parent)

@@ -5,7 +5,8 @@
 
 namespace numorra {
 
-/// A viewer that shows nothing but what stands in one folder: no other file, no address outside.
+/// A viewer that shows nothing but files of a sensible size in one folder: no other file, no
+/// address outside.
 class FolderBrowser : public QTextBrowser {
   Q_OBJECT
 
@@ -19,6 +20,7 @@ class FolderBrowser : public QTextBrowser {
 
  private:
   QUrl Absolute(const QUrl& name) const;
+  bool Serves(const QUrl& name) const;
 
   QString folder_;
 };

@@ -21,10 +21,7 @@ class AccessibilityTest : public WindowTest {
 
 TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
   EXPECT_EQ(Cell(1, 1), "none");
-  Click("Option4");
-  Type("Text1", "3");
-  Type("Text4", "18");
-  Click("SolveManual");
+  Make("SolveManual", "3", "18");
   const std::pair<std::pair<int, int>, const char*> cells[] = {
       {{2, 3}, "row 2, column 3, value 7"},
       {{2, 0}, "total of row 2, 21, wrong"},

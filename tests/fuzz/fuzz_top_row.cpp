@@ -2,7 +2,7 @@
 
 #include "fuzz/check.h"
 #include "generate/top_row_square.h"
-#include "support/slow_checker.h"
+#include "support/boards.h"
 
 using namespace numorra;
 
@@ -21,13 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       if (++yields > 200) throw Enough();  // a proof of "none" may take long
     });
     if (!found) return 0;
-    slow::Rows rows(4, std::vector<double>(4));
-    for (int r = 1; r <= 4; ++r) {
-      for (int c = 1; c <= 4; ++c) {
-        rows[static_cast<std::size_t>(r - 1)][static_cast<std::size_t>(c - 1)] =
-            found->Square(r, c);
-      }
-    }
+    const slow::Rows rows = RowsOf(found->Square, 4);
     Check(slow::WhyNotMagic(rows, found->Total).empty());
     for (std::size_t c = 0; c < 4; ++c)
       Check(rows[0][c] == (*top)[c]);

@@ -6,9 +6,20 @@
 
 #include "app/main_window.h"
 #include "support/boards.h"
+#include "support/invariants.h"
 #include "support/scripted_dialogs.h"
 
 namespace numorra {
+
+/// A clock at which memory runs out at a look of one's choice.
+struct UnluckyClock : TickingClock {
+  using TickingClock::TickingClock;
+  std::uint64_t NanosecondsSinceMidnight() override {
+    if (LooksUntilMemoryIsRefused >= 0 && LooksUntilMemoryIsRefused-- == 0) throw std::bad_alloc();
+    return TickingClock::NanosecondsSinceMidnight();
+  }
+  int LooksUntilMemoryIsRefused = -1;
+};
 
 /// A fresh window, driven through its controls as a person would; boxes are answered from a list.
 class WindowTest : public testing::Test {
@@ -40,6 +51,14 @@ class WindowTest : public testing::Test {
     QTest::keyClicks(&edit, text);
   }
 
+  /// Asks for a board of a size: normal, or with a sum.
+  void Make(const char* button, const std::string& size, const std::string& sum = {}) {
+    Click(sum.empty() ? "Option3" : "Option4");
+    Type("Text1", size.c_str());
+    if (!sum.empty()) Type("Text4", sum.c_str());
+    Click(button);
+  }
+
   void ClickCell(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
     window_.View().BringIntoView(row, column);
     QTest::mouseClick(window_.View().viewport(), button, {},
@@ -57,11 +76,19 @@ class WindowTest : public testing::Test {
     action.trigger();
   }
 
+  /// What must hold after every command: the board is whole, and nothing is left over.
+  void ExpectSettled() {
+    EXPECT_EQ(WhyInvalid(window_.TheBoard()), "");
+    EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisibleTo(&window_));
+    EXPECT_FALSE(Find<QLabel>("IterationCount").isVisible());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  }
+
   std::string SumBox() { return Find<QLineEdit>("Text4").text().toStdString(); }
   const Grid& TheGrid() { return window_.TheBoard().grid; }
   slow::Rows Rows() { return ShownRows(TheGrid()); }
 
-  TickingClock clock_{99};
+  UnluckyClock clock_{99};
   ScriptedDialogs dialogs_;
   MainWindow window_;
 };
