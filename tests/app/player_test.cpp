@@ -31,24 +31,6 @@ TEST_F(PlayerTest, SolvesASquareByKeysAlone) {
   EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
 }
 
-TEST_F(PlayerTest, SolvesASquareByMouseAlone) {
-  Make("SolveManual", "3", "15");
-  // From 6s: the corners and edges by their lines, with the menu's help.
-  Choose("Set2Cellvaluex", 2, 2);
-  EXPECT_EQ(TheGrid().Text(2, 2), "5");
-  while (TheGrid().Text(1, 1) != "2" || TheGrid().Text(1, 3) != "4")
-    Choose("set2Ran", 1, TheGrid().Text(1, 1) != "2" ? 1 : 3);
-  Choose("correctrowx", 1, 2);
-  Choose("correctdiagx", 3, 3);
-  Choose("correctdiagx", 3, 1);
-  Choose("correctcolx", 2, 1);
-  Choose("correctcolx", 2, 3);
-  EXPECT_TRUE(dialogs_.Take().empty());
-  Choose("correctcolx", 3, 2);
-  EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
-  EXPECT_EQ(Rows(), ParseRows("2 9 4 / 7 5 3 / 6 1 8"));
-}
-
 TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
   Make("SolveManual", "4", "40");
   QTest::keyClicks(&window_.View(), "1");

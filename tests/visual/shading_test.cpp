@@ -39,30 +39,18 @@ TEST(FillColours, ShadesInProportionToTheValues) {
       {"0 4 0 / 0 2 0 / 0 8 1", Rgb(10, 20, 30), 2, 2, Rgb(74, 84, 94)},
       {"-5 1 1 / 1 -5 1 / 1 1 10", Rgb(10, 20, 30), 1, 1, ColorTable[kCellBackground]},
       {"-5 -9 -9 / -9 -5 -9 / -9 -9 -5", Rgb(0, 0, 0), 1, 1, Rgb(255, 255, 255)},
-      {"8 1 6 / 3 5 7 / 4 5000000000 2", Rgb(0, 0, 0), 1, 1, Rgb(255, 255, 255)}};
+      {"8 1 6 / 3 5 7 / 4 5000000000 2", Rgb(0, 0, 0), 1, 1, Rgb(255, 255, 255)},
+      {"0 -1 -1 / -1 -1 -1 / -1 -1 -1", Rgb(9, 8, 7), 2, 2, Rgb(9, 8, 7)},
+      {"1 1 1 / 1 0 1 / 1 1 -1", Rgb(9, 8, 7), 1, 1, ColorTable[kCellBackground]}};
   for (const Case& c : cases) {
     Board board;
+    FillColours(board, c.picked);
     ShowRows(board, c.rows);
     FillColours(board, c.picked);
     EXPECT_EQ(board.grid.Background(c.row, c.column), c.shaded) << c.rows;
     EXPECT_EQ(board.grid.Background(0, 1), kWindowBackground) << "totals are left alone";
     EXPECT_FALSE(board.grid.RedrawLocked());
   }
-}
-
-TEST(FillColours, DoesNothingWhereTheDiagonalIsZero) {
-  Board board;
-  FillColours(board, Rgb(1, 2, 3));
-  ShowRows(board, "1 1 1 / 1 0 1 / 1 1 -1");
-  FillColours(board, Rgb(1, 2, 3));
-  EXPECT_EQ(board.grid.Background(1, 1), ColorTable[kCellBackground]);
-}
-
-TEST(FillColours, AHighestValueOfZeroLeavesThePickedColour) {
-  Board board;
-  ShowRows(board, "0 -1 -1 / -1 -1 -1 / -1 -1 -1");
-  FillColours(board, Rgb(9, 8, 7));
-  EXPECT_EQ(board.grid.Background(2, 2), Rgb(9, 8, 7));
 }
 
 TEST(ReadableText, HasContrastOnEveryColour) {

@@ -39,24 +39,6 @@ TEST(GridRedrawLock, HoldsBackRepaintsAndIsLiftedByOneCall) {
   EXPECT_EQ(repaints, 2);
 }
 
-TEST(BoardLayout, TotalsStandAroundTheValues) {
-  Board board;
-  ShowRows(board, "8 1 6 / 3 5 7 / 4 9 3");
-  const Grid& grid = board.grid;
-  ASSERT_EQ(grid.Rows(), 5);
-  EXPECT_EQ(grid.Text(0, 0), "16");
-  EXPECT_EQ(grid.Text(0, 4), "15");
-  EXPECT_EQ(grid.Text(4, 0), "15");
-  EXPECT_EQ(grid.Text(3, 0), "16");
-  EXPECT_EQ(grid.Text(0, 3), "16");
-  EXPECT_EQ(grid.Text(0, 1), "15");
-  EXPECT_EQ(grid.Text(4, 4), "");
-  EXPECT_EQ(grid.Text(2, 3), "7");
-  EXPECT_EQ(grid.Background(2, 2), ColorTable[kCellBackground]);
-  EXPECT_EQ(grid.Background(0, 2), kWindowBackground);
-  EXPECT_EQ(grid.Background(4, 4), kWindowBackground);
-}
-
 TEST(BoardLayout, HoldsTheLargestOrderAndRefusesToIndexBeyond) {
   Board board;
   board.GridSize = 51;
