@@ -29,7 +29,10 @@ GridView::GridView(Grid& grid, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setBackgroundRole(QPalette::Window);
-  grid_.OnRepaint = [this] { viewport()->update(); };
+  grid_.OnRepaint = [this] {
+    UpdateScrollBars();
+    viewport()->update();
+  };
 }
 
 std::optional<QPoint> GridView::CellAt(QPoint point) const {
@@ -342,16 +345,23 @@ void GridView::PaintGuides(QPainter& painter) {
   painter.fillRect(QRect(cell.left(), 0, cell.width() - 1, whole.height()), tint);
 }
 
-/// A ring in the theme's highlight with a light one inside, to be seen on every colour of cell.
+/// The current cell anew, in a ring of the theme's highlight with a light one inside, to be seen on
+/// every colour. The number lies over the rings, so that long ones stay readable.
 void GridView::PaintCurrentCell(QPainter& painter) {
-  const int fixed = Edge(Grid::kFixedLines);
+  const int row = grid_.CurrentRow();
+  const int column = grid_.CurrentColumn();
+  const int fixed = Edge(Grid::kFixedLines) - 1;
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
-  const QRect cell = CellRect(grid_.CurrentRow(), grid_.CurrentColumn()).adjusted(0, 0, -2, -2);
-  painter.setBrush(Qt::NoBrush);
+  const QRect cell = CellRect(row, column);
+  const QRect edge = cell.adjusted(0, 0, -1, -1);
+  painter.setBrush(ToQColor(grid_.Background(row, column)));
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-  painter.drawRect(cell.adjusted(1, 1, 0, 0));
+  painter.drawRect(edge);
+  painter.setBrush(Qt::NoBrush);
   painter.setPen(Qt::white);
-  painter.drawRect(cell.adjusted(2, 2, -2, -2));
+  painter.drawRect(edge.adjusted(1, 1, -2, -2));
+  painter.setPen(ToQColor(grid_.Foreground(row, column)));
+  Texts().Draw(painter, cell, grid_.Text(row, column));
 }
 
 CellText& GridView::Texts() {

@@ -127,7 +127,7 @@ void MainWindow::BuildMenus() {
   connect(print, &QAction::triggered, this, &MainWindow::OpenPrintForm);
   file->addSeparator();
   QAction* exit = Named("Exitx", file->addAction("E&xit"));
-  exit->setShortcut(QKeySequence::Quit);
+  exit->setShortcut(Qt::CTRL | Qt::Key_Q);  // not every desktop names a standard key for it
   connect(exit, &QAction::triggered, this, [] { QApplication::closeAllWindows(); });
 
   QMenu* edit = menuBar()->addMenu("&Edit");

@@ -44,6 +44,16 @@ TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
   EXPECT_EQ(table->indexOfChild(table->child(8)), 8);
 }
 
+TEST_F(AccessibilityTest, TheMenusShowTheirKeys) {
+  const std::pair<const char*, const char*> keys[] = {{"PrintSol", "Ctrl+P"},
+                                                      {"Exitx", "Ctrl+Q"},
+                                                      {"Copyx", "Ctrl+C"},
+                                                      {"Pastex", "Ctrl+V"},
+                                                      {"Helpx", "F1"}};
+  for (const auto& [action, key] : keys)
+    EXPECT_EQ(Find<QAction>(action).shortcut().toString(), key);
+}
+
 TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
   Click("SolveManual");
   QCoreApplication::processEvents();
