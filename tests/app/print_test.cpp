@@ -1,4 +1,6 @@
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QFile>
 #include <QPlainTextEdit>
@@ -84,10 +86,6 @@ TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
   EXPECT_EQ(printer_.Printed.size(), 2U);
   click("Closex");
   EXPECT_FALSE(Form() && Form()->isVisible());
-}
-
-TEST_F(PrintTest, TellsWhenTheSumCannotBePrinted) {
-  Build();
   window_.findChild<QLineEdit*>("Text4")->setText(QString(400, '9'));
   Open();
   EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
@@ -126,11 +124,20 @@ TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
       << info.toStdString();
 }
 
-TEST(PaperPrinters, FailWithARunTimeError) {
-  for (const char* file : {"/nowhere/at/all.pdf", "/dev/full", "/tmp"}) {
+TEST(PaperPrinters, FailWithARunTimeErrorAtTheBeginningInTheMiddleOrAtTheEnd) {
+  const QTemporaryDir folder;
+  const std::string full = folder.filePath("full.pdf").toStdString();
+  for (const std::string& file : {std::string("/nowhere/at/all.pdf"), std::string("/tmp"), full}) {
+    // A disk that is full after some bytes.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{2000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
     PaperPrinter printer;
-    printer.PrintTo(file);
+    printer.PrintTo(QString::fromStdString(file));
     EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << file;
+    setrlimit(RLIMIT_FSIZE, &before);
   }
 }
 

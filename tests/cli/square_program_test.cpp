@@ -1,6 +1,7 @@
 #include "cli/square_program.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <sstream>
 
 #include "support/slow_checker.h"
@@ -34,12 +35,14 @@ slow::Rows ReadCsv(const std::string& text) {
   return rows;
 }
 
-TEST(SquareProgram, WritesTheOtherFormats) {
+TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
   EXPECT_EQ(RunWith("--size=4").Out,
             " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
   EXPECT_EQ(RunWith("--size 4 --format=json").Out,
             "{\"order\": 4, \"total\": 34, \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
             "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
+  EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
+  EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
 }
 
 TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
@@ -68,13 +71,11 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
 }
 
 TEST(SquareProgram, RepeatsARunFromItsSeed) {
-  EXPECT_EQ(RunWith("--size 15 --seed 7").Out, RunWith("--size 15 --seed 7").Out);
-  bool differs = false;
-  for (const char* seed : {"8", "9", "10"}) {
-    differs |=
-        RunWith(std::string("--size 15 --seed ") + seed).Out != RunWith("--size 15 --seed 7").Out;
-  }
-  EXPECT_TRUE(differs);
+  std::set<std::string> different;
+  for (const char* seed : {"7", "7", "8", "9", "10"})
+    different.insert(RunWith(std::string("--size 15 --seed ") + seed).Out);
+  EXPECT_GT(different.size(), 1U);
+  EXPECT_LT(different.size(), 5U);
 }
 
 TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
@@ -86,11 +87,6 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
     EXPECT_EQ(run.Out, "") << line;
     EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 1) << line;
   }
-}
-
-TEST(SquareProgram, HelpsAndNamesItsVersion) {
-  EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
-  EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "app/play/board_text.h"
 #include "fuzz/check.h"
-#include "support/plain_boxes.h"
+#include "support/stand_ins.h"
 
 using namespace numorra;
 

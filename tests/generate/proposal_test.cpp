@@ -4,8 +4,7 @@
 #include <set>
 
 #include "app/board/numbers.h"
-#include "support/plain_boxes.h"
-#include "support/scripted_random.h"
+#include "support/stand_ins.h"
 
 namespace numorra {
 namespace {

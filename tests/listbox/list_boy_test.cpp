@@ -55,14 +55,11 @@ TEST_F(ListBoyTest, PlacesNewItemsByItsOwnRules) {
 
 TEST_F(ListBoyTest, RemovesWhatIsThere) {
   Fill({"a", "b", "c"});
-  for (const int nothing : {-1, 3, 5})
-    list_.RemoveItem(nothing);
-  EXPECT_EQ(list_.ListCount(), 3);
-  list_.RemoveItem(1);
+  for (const int index : {-1, 3, 5, 1})
+    list_.RemoveItem(index);
   EXPECT_EQ(Items(), (Texts{"a", "c"}));
-  list_.RemoveItem(0);
-  list_.RemoveItem(0);
-  list_.RemoveItem(0);
+  for (int time = 0; time < 3; ++time)
+    list_.RemoveItem(0);
   EXPECT_EQ(list_.ListCount(), 0);
 }
 
@@ -86,28 +83,36 @@ TEST_F(ListBoyTest, SortsByTextAndByRoundedData) {
   EXPECT_EQ(Items(), (Texts{"5minus", "0huge"})) << "what is beyond twelve digits stays behind";
 }
 
-TEST_F(ListBoyTest, FindsByWildcardInEitherDirection) {
+TEST_F(ListBoyTest, FindsByWildcardOrDataInEitherDirection) {
   EXPECT_EQ(list_.Find("*", 0, false, 0, true), std::nullopt);
-  Fill({"apple", "Avocado", "banana\tyellow", "apple"}, {1, 2, 3, 4});
-  EXPECT_EQ(list_.Find("A*", 0, false, 0, false), 0);
-  EXPECT_EQ(list_.Find("A*", 0, false, 0, true), 1);
-  EXPECT_EQ(list_.Find("a*", 0, true, 0, true), 3) << "backwards from the last";
-  EXPECT_EQ(list_.Find("a*", 0, true, 2, true), 0);
-  EXPECT_EQ(list_.Find("a*", 0, false, 1, true), 3);
-  EXPECT_EQ(list_.Find("YELLOW", 2, false, 0, false), 2);
-  EXPECT_EQ(list_.Find("4", 2, false, 0, true), 3) << "the data are the column after the text";
-  EXPECT_EQ(list_.Find("kiwi", 0, false, 0, true), -1);
-  EXPECT_EQ(list_.Find("*", 0, false, 4, true), std::nullopt);
-  EXPECT_EQ(list_.Find("*", 0, false, -1, true), std::nullopt);
-}
-
-TEST_F(ListBoyTest, FindsByItemData) {
-  Fill({"a", "b", "c"}, {5, 7, 5});
-  EXPECT_EQ(list_.FindItemData(5, false, 0), 0);
-  EXPECT_EQ(list_.FindItemData(5, true, 0), 2);
-  EXPECT_EQ(list_.FindItemData(5, false, 1), 2);
+  Fill({"apple", "Avocado", "banana\tyellow", "apple"}, {1, 2, 3, 1});
+  struct Case {
+    const char* text;
+    int column;
+    bool backwards;
+    int from;
+    bool caseSensitive;
+    std::optional<int> found;
+  };
+  const Case cases[] = {{"A*", 0, false, 0, false, 0},
+                        {"A*", 0, false, 0, true, 1},
+                        {"a*", 0, true, 0, true, 3},
+                        {"a*", 0, true, 2, true, 0},
+                        {"a*", 0, false, 1, true, 3},
+                        {"YELLOW", 2, false, 0, false, 2},
+                        {"2", 2, false, 0, true, 1},
+                        {"kiwi", 0, false, 0, true, -1},
+                        {"*", 0, false, 4, true, std::nullopt},
+                        {"*", 0, false, -1, true, std::nullopt}};
+  for (const Case& c : cases) {
+    EXPECT_EQ(list_.Find(c.text, c.column, c.backwards, c.from, c.caseSensitive), c.found)
+        << c.text << " from " << c.from;
+  }
+  EXPECT_EQ(list_.FindItemData(1, false, 0), 0);
+  EXPECT_EQ(list_.FindItemData(1, true, 0), 3);
+  EXPECT_EQ(list_.FindItemData(1, false, 1), 3);
   EXPECT_EQ(list_.FindItemData(8, false, 0), -1);
-  EXPECT_EQ(list_.FindItemData(5, false, 3), std::nullopt);
+  EXPECT_EQ(list_.FindItemData(1, false, 4), std::nullopt);
 }
 
 TEST_F(ListBoyTest, KeepsColumnsApartAtTheLastTab) {

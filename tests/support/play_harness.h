@@ -7,8 +7,7 @@
 #include "app/play/cell_entry.h"
 #include "app/play/edit_commands.h"
 #include "support/boards.h"
-#include "support/scripted_dialogs.h"
-#include "support/scripted_random.h"
+#include "support/stand_ins.h"
 
 namespace numorra {
 

@@ -7,7 +7,7 @@
 #include "app/main_window.h"
 #include "support/boards.h"
 #include "support/invariants.h"
-#include "support/scripted_dialogs.h"
+#include "support/stand_ins.h"
 
 namespace numorra {
 

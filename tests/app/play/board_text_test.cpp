@@ -1,7 +1,7 @@
 #include "app/play/board_text.h"
 
-#include "support/plain_boxes.h"
 #include "support/play_harness.h"
+#include "support/stand_ins.h"
 
 namespace numorra {
 namespace {

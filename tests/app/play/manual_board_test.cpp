@@ -39,32 +39,23 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
 
 TEST(ManualBoard, RefusesAndKeepsWhatWas) {
   SolveHarness h;
-  h.Boxes = PlainBoxes("3", "15");
-  BuildManualBoard(h.TheBoard, h.Boxes, h.Speech, h.Stage);
-  struct Case {
-    const char *size, *sum, *said, *sumAfter;
-  };
-  const Case cases[] = {{"2", "30", "grid size should be 3x3 or bigger", "30"},
-                        {"2", "1", "grid size should be 3x3 or bigger", " 4"},
-                        {"", "30", "grid size should be 3x3 or bigger", "30"},
-                        {"0", "30", "grid size should be 3x3 or bigger", "30"},
-                        {"-7", "30", "grid size should be 3x3 or bigger", "30"},
-                        {"51", "3000", "grid size should be 50x50 or smaller", "3000"}};
-  for (const Case& c : cases) {
-    h.Boxes = PlainBoxes(c.size, c.sum);
+  const auto manual = [&h](const char* size, const char* sum) {
+    h.Boxes = PlainBoxes(size, sum);
     BuildManualBoard(h.TheBoard, h.Boxes, h.Speech, h.Stage);
-    EXPECT_EQ(h.Speech.Take(), Messages{c.said}) << c.size;
-    EXPECT_EQ(h.Boxes.SumText, c.sumAfter);
-    EXPECT_EQ(h.TheBoard.GridSize, 3);
-    EXPECT_EQ(h.TheBoard.BaseValue, 5);
-    EXPECT_EQ(h.TheBoard.TargetTotal, 15);
+    return h.Speech.Take();
+  };
+  manual("3", "15");
+  for (const char* size : {"2", "", "0", "-7", "51"}) {
+    const char* bound = size == std::string("51") ? "50x50 or smaller" : "3x3 or bigger";
+    EXPECT_EQ(manual(size, "3000"), Messages{std::string("grid size should be ") + bound});
+    EXPECT_EQ(h.Boxes.SumText, "3000");
+    EXPECT_EQ(ShownRows(h.TheBoard.grid), slow::Rows(3, {6, 6, 6}));
   }
-  h.Boxes = PlainBoxes("3", "1000000");
-  EXPECT_THROW(BuildManualBoard(h.TheBoard, h.Boxes, h.Speech, h.Stage), RuntimeError);
-  EXPECT_EQ(h.TheBoard.BaseValue, 5);
-  h.Boxes = PlainBoxes("21", "2100");
-  BuildManualBoard(h.TheBoard, h.Boxes, h.Speech, h.Stage);
-  EXPECT_EQ(h.Speech.Take(), Messages{"solution may be too complex to solve"});
+  EXPECT_EQ(manual("2", "1").size(), 1U);
+  EXPECT_EQ(h.Boxes.SumText, " 4") << "the sum is corrected before the size is judged";
+  EXPECT_THROW(manual("3", "1000000"), RuntimeError);
+  EXPECT_EQ(h.TheBoard.BaseValue + h.TheBoard.TargetTotal, 5 + 15);
+  EXPECT_EQ(manual("21", "2100"), Messages{"solution may be too complex to solve"});
   EXPECT_EQ(h.TheBoard.GridSize, 21);
 }
 
