@@ -133,7 +133,10 @@ void MainWindow::BuildMenus() {
   QMenu* edit = menuBar()->addMenu("&Edit");
   QAction* copy = Named("Copyx", edit->addAction("&Copy Board"));
   copy->setShortcut(QKeySequence::Copy);
-  connect(copy, &QAction::triggered, this, &MainWindow::CopyBoard);
+  connect(copy, &QAction::triggered, this, [this] { CopyBoard(true); });
+  QAction* numbers = Named("CopyNumbersx", edit->addAction("Copy &Numbers"));
+  numbers->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
+  connect(numbers, &QAction::triggered, this, [this] { CopyBoard(false); });
   QAction* paste = Named("Pastex", edit->addAction("&Paste Board"));
   paste->setShortcut(QKeySequence::Paste);
   connect(paste, &QAction::triggered, this, &MainWindow::PasteFromClipboard);
@@ -154,11 +157,13 @@ void MainWindow::BuildMenus() {
 }
 
 /// The board as text for tables and texts, and as a picture for drawings.
-void MainWindow::CopyBoard() {
+void MainWindow::CopyBoard(bool withPicture) {
   if (!board_.Shown()) return;
   auto* copied = new QMimeData;
   copied->setText(QString::fromStdString(BoardText(board_)));
-  copied->setImageData(board_.OverlayShown() ? drawing_->grab().toImage() : view_->Picture());
+  if (withPicture) {
+    copied->setImageData(board_.OverlayShown() ? drawing_->grab().toImage() : view_->Picture());
+  }
   QGuiApplication::clipboard()->setMimeData(copied);
 }
 

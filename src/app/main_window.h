@@ -67,7 +67,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void Press(std::function<PressOutcome()> press, QPoint menuPosition);
   void ShowState();
   void ShowOverlay();
-  void CopyBoard();
+  void CopyBoard(bool withPicture);
   void PasteFromClipboard();
   void OpenPrintForm();
   void OpenHelp();

@@ -97,6 +97,8 @@ TEST_F(WindowTest, TheClipboardTakesAndGivesTheBoard) {
   EXPECT_EQ(copied->text().count('\t'), 50 * 49);
   EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()).width(),
             window_.View().CellRect(0, 52).left());
+  Find<QAction>("CopyNumbersx").trigger();
+  EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasImage());
   Click("SolveManual");
   dialogs_.Take();
   Find<QAction>("Pastex").trigger();

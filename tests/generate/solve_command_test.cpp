@@ -48,6 +48,7 @@ TEST_F(SolveCommandTest, BuildsCorrectsAndTells) {
       {" 8x", "80", false, 80, "80", {}}};
   for (const Case& c : cases) {
     Options.Limit = c.limit;
+    TheBoard.TotalsChecked = true;
     Auto(c.size, c.sum);
     EXPECT_EQ(Speech.Take(), c.said) << c.size << "/" << c.sum;
     EXPECT_EQ(WhyNotMagicNow(c.total), "") << c.size << "/" << c.sum;

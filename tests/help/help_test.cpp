@@ -27,6 +27,7 @@ class HelpTest : public testing::Test {
     EXPECT_TRUE(QDir(root_.path()).mkpath("program/nrhelp"));
     folder_ = root_.path() + "/program";
     Write(root_.path() + "/secret.txt", "secret");
+    Write(root_.path() + "/program.txt", "secret beside the folder");
     Write(folder_ + "/nrhelp/more.htm", "<p>more</p>");
   }
 
@@ -55,9 +56,10 @@ TEST_F(HelpTest, ShowsItsOwnFolderAndNothingElse) {
   HelpForm form(folder_, nullptr);
   EXPECT_EQ(form.wb1->toPlainText(), "Hello");
   for (const QString& link :
-       {QString("../secret.txt"), QString("link.txt"), "file://" + root_.path() + "/secret.txt",
-        QString("file:///etc/hostname"), QString("http://example.org/"), QString("nowhere.htm"),
-        QString("qrc:/x"), QString("data:text/html,x"), QString("file://host/etc/passwd"),
+       {QString("../secret.txt"), QString("../program.txt"), QString("link.txt"),
+        "file://" + root_.path() + "/secret.txt", QString("file:///etc/hostname"),
+        QString("http://example.org/"), QString("nowhere.htm"), QString("qrc:/x"),
+        QString("data:text/html,x"), QString("file://host/etc/passwd"),
         QString("%2e%2e/secret.txt")}) {
     form.wb1->setSource(QUrl(link));
     EXPECT_EQ(form.wb1->toPlainText(), "Hello") << link.toStdString();

@@ -24,8 +24,10 @@ TEST(Recount, TellsBoardsApart) {
       {"6 6 6 / 6 6 6 / 6 6 6", 18, 5, Verdict::Right},
       {"5 5 5 / 5 6 5 / 5 5 5", 15, 5, Verdict::Wrong},
       {"2.5 2.5 2.5 / 2.5 2.5 2.5 / 2.5 2.5 2.5", 7.5, 2, Verdict::Right},
-      // Rows, columns and one diagonal right, the other diagonal wrong.
-      {"8 1 6 / 4 9 2 / 3 5 7", 15, 5, Verdict::Wrong},
+      // Only the columns wrong, only the one diagonal, only the other.
+      {"1 5 9 / 1 5 9 / 1 5 9", 15, 5, Verdict::Wrong},
+      {"3 2 1 / 1 3 2 / 2 1 3", 6, 2, Verdict::Wrong},
+      {"1 2 3 / 2 3 1 / 3 1 2", 6, 2, Verdict::Wrong},
   };
   for (const Case& c : cases) {
     Board board;
