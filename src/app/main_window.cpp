@@ -15,6 +15,7 @@
 #include "app/play/board_mouse.h"
 #include "app/play/board_text.h"
 #include "app/play/manual_board.h"
+#include "app/play/moves.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
 #include "help/about_window.h"
@@ -173,6 +174,7 @@ void MainWindow::PasteFromClipboard() {
     if (!PasteBoard(board_, *square_, dialogs_, text)) return;
     SetSolveMode(ModeVariable);
     view_->setFocus();
+    CheckAndReturn(board_, dialogs_);
   });
 }
 

@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto block = ParseBlock(text);
   try {
     const bool pasted = PasteBoard(board, boxes, dialogs, text);
-    Check(pasted == block.has_value() && (pasted || dialogs.Told == 1));
+    Check(pasted == block.has_value() && dialogs.Told == (pasted ? 0 : 1));
   } catch (const RuntimeError& error) {
     Check(block && error.Kind() == Fault::Overflow);
   }

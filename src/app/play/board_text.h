@@ -20,8 +20,8 @@ std::string BoardText(const Board& board);
 std::optional<std::vector<std::vector<double>>> ParseBlock(const std::string& text);
 
 /// Shows such a text as a board of the Variable mode, to be checked and played: the boxes follow,
-/// the sum is that of the first row, and the totals check speaks. False, with a message and nothing
-/// changed, for any other text.
+/// the sum is that of the first row. False, with a message and nothing changed, for any other text.
+/// Throws Overflow, with nothing changed, for numbers whose sum is beyond the program's.
 bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text);
 
 }  // namespace numorra

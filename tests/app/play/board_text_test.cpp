@@ -1,5 +1,6 @@
 #include "app/play/board_text.h"
 
+#include "app/play/moves.h"
 #include "support/play_harness.h"
 #include "support/stand_ins.h"
 
@@ -8,7 +9,11 @@ namespace {
 
 class BoardTextTest : public PlayTest {
  protected:
-  bool Paste(const std::string& text) { return PasteBoard(board_, boxes_, dialogs_, text); }
+  bool Paste(const std::string& text) {
+    const bool pasted = PasteBoard(board_, boxes_, dialogs_, text);
+    if (pasted) CheckAndReturn(board_, dialogs_);
+    return pasted;
+  }
   PlainBoxes boxes_{"9", "9"};
 };
 
