@@ -5,8 +5,10 @@
 #include <QClipboard>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTimer>
 
+#include "app/column_scroller.h"
 #include "support/window_fixture.h"
 
 namespace numorra {
@@ -20,6 +22,16 @@ TEST_F(WindowTest, OpensWithAProposalAndNoBoard) {
   EXPECT_FALSE(TheGrid().Visible() || window_.TheBoard().Shown());
   EXPECT_FALSE(Find<QLineEdit>("Text4").isEnabled());
   EXPECT_EQ(window_.windowTitle(), "Numorra");
+}
+
+TEST_F(WindowTest, ControlsScrollInALowWindowWithNothingCovered) {
+  window_.resize(700, 420);
+  QCoreApplication::processEvents();
+  const auto& button = Find<QPushButton>("SolveManual");
+  const auto& bar = *window_.findChild<ColumnScroller*>()->verticalScrollBar();
+  EXPECT_TRUE(bar.isVisible());
+  EXPECT_LE(button.mapTo(&window_, QPoint(button.width(), 0)).x(),
+            bar.mapTo(&window_, QPoint()).x());
 }
 
 TEST_F(WindowTest, AutoShowsANormalSquareOfEverySize) {

@@ -79,9 +79,10 @@ TEST(SquareProgram, RepeatsARunFromItsSeed) {
 }
 
 TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
-  for (const char* line : {"", "--size", "--size 2", "--size 51", "--size 8x", "--size 99999999999",
-                           "--size=", "--size 8 --format xml", "--seed -1 --size 8", "--bogus", "8",
-                           "--size 8 --help=x", "--format csv"}) {
+  for (const char* line :
+       {"", "--size", "--size 2", "--size 51", "--size 8x", "--size 99999999999",
+        "--size=", "--size 8 --format xml", "--size 8 --sum 0", "--seed -1 --size 8", "--bogus",
+        "8", "--size 8 --help=x", "--format csv"}) {
     const Outcome run = RunWith(line);
     EXPECT_EQ(run.Status, 2) << line;
     EXPECT_EQ(run.Out, "") << line;
