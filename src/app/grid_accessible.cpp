@@ -139,8 +139,9 @@ class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterfac
     if (cells_[index] == 0) {
       // The toolkit owns what is registered with it, until it is deleted by its number.
       auto* cell = new CellAccessible(view_, row, column);
+      // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
       cells_[index] = QAccessible::registerAccessibleInterface(cell);
-    }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+    }
     return QAccessible::accessibleInterface(cells_[index]);
   }
 

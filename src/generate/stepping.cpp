@@ -21,7 +21,7 @@ struct LineTotals {
 std::vector<char> MagicOnes(const std::vector<double>& totals, double target) {
   std::vector<char> magic(2 * totals.size());
   for (std::size_t i = 0; i < magic.size(); ++i)
-    magic[i] = totals[i % totals.size()] == target;
+    magic[i] = totals[i % totals.size()] == target ? 1 : 0;
   return magic;
 }
 
@@ -82,7 +82,7 @@ std::vector<SteppingAttempt> FindMagicStarts(int order, double target) {
   const LineTotals totals = TotalsOf(fill, order, target);
   std::vector<SteppingAttempt> kept;
   if (!totals.RowsAndColumnsMagic) return kept;
-  kept.reserve(static_cast<std::size_t>(2 * order));
+  kept.reserve(2 * static_cast<std::size_t>(order));
   const auto falling = MagicOnes(totals.Falling, target);
   const auto rising = MagicOnes(totals.Rising, target);
   for (std::int16_t pattern = 0; pattern < 2; ++pattern) {
@@ -90,7 +90,7 @@ std::vector<SteppingAttempt> FindMagicStarts(int order, double target) {
     // backwards for the first pattern and forwards for the second, which is turned.
     const int step = pattern == 0 ? -1 : 1;
     for (int row = 0; row < order; ++row) {
-      const char* fall = falling.data() + order - step * row;
+      const char* fall = &falling[static_cast<std::size_t>(order - step * row)];
       const char* rise = rising.data() + (pattern == 0 ? 2 * order - 1 - row : row + 1);
       for (int column = 0; column < order; ++column, fall += step, rise += step) {
         if ((*fall & *rise) == 0) continue;

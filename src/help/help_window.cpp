@@ -1,5 +1,7 @@
 #include "help/help_window.h"
 
+#include <utility>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -14,8 +16,8 @@ constexpr qint64 kLargestFile = 4 << 20;
 
 }  // namespace
 
-FolderBrowser::FolderBrowser(const QString& folder, QWidget* parent)
-    : QTextBrowser(parent), folder_(folder) {
+FolderBrowser::FolderBrowser(QString folder, QWidget* parent)
+    : QTextBrowser(parent), folder_(std::move(folder)) {
   setOpenExternalLinks(false);
   setFrameShape(QFrame::NoFrame);
 }

@@ -11,7 +11,7 @@ class FolderBrowser : public QTextBrowser {
   Q_OBJECT
 
  public:
-  explicit FolderBrowser(const QString& folder, QWidget* parent = nullptr);
+  explicit FolderBrowser(QString folder, QWidget* parent = nullptr);
 
   QVariant loadResource(int type, const QUrl& name) override;
 

@@ -15,7 +15,7 @@ constexpr const char* kPuzzleCaption =
     "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS MUST ADD TO";
 
 std::size_t LineWidth(int order) {
-  return static_cast<std::size_t>(4 * order + 2);
+  return 4 * static_cast<std::size_t>(order) + 2;
 }
 
 /// Writes `text` over `line` from the 0-based `place` on, as far as the line goes.
@@ -27,7 +27,7 @@ void WriteOver(std::string& line, std::size_t place, const std::string& text) {
 std::string Rule(int order, char joint) {
   std::string line(LineWidth(order), ' ');
   for (int column = 0; column < order; ++column) {
-    WriteOver(line, static_cast<std::size_t>(4 * column), std::string("---") + joint);
+    WriteOver(line, 4 * static_cast<std::size_t>(column), std::string("---") + joint);
   }
   return joint + line;
 }
