@@ -36,8 +36,6 @@ class CommandRunner {
   /// The window is closing: the running command is superseded and nothing runs after it.
   void Stop();
 
-  bool Running() const { return running_; }
-
  private:
   void RunGuarded(const Command& command);
 

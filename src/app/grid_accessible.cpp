@@ -38,10 +38,13 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
     if (!isValid()) return {};
     QString value = QString::fromStdString(Cells().Text(row_, column_));
     if (kind == QAccessible::Value) return value;
-    if (kind != QAccessible::Name) return {};
     const int last = Cells().Rows() - 1;
     const QString line = LineName(row_, column_, last);
-    if (!line.isEmpty()) return QString("total of %1, %2%3").arg(line, value, Judgement());
+    if (kind == QAccessible::Description && line.isEmpty() && row_ < last && column_ < last) {
+      return Total(row_, 0) + "; " + Total(0, column_);
+    }
+    if (kind != QAccessible::Name) return {};
+    if (!line.isEmpty()) return Total(row_, column_);
     if (row_ == last || column_ == last) return value.isEmpty() ? "frame" : "marked for a swap";
     return QString("row %1, column %2, value %3").arg(row_).arg(column_).arg(value);
   }
@@ -82,10 +85,15 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
  private:
   const Grid& Cells() const { return view_.Cells(); }
 
-  QString Judgement() const {
-    const Colour colour = Cells().Background(row_, column_);
-    if (colour == ColorTable[kRightTotal]) return ", right";
-    return colour == ColorTable[kWrongTotal] ? ", wrong" : "";
+  /// A total, and whether it is right where that was judged.
+  QString Total(int row, int column) const {
+    const Colour colour = Cells().Background(row, column);
+    const QString judgement = colour == ColorTable[kRightTotal]   ? ", right"
+                              : colour == ColorTable[kWrongTotal] ? ", wrong"
+                                                                  : "";
+    return QString("total of %1, %2%3")
+        .arg(LineName(row, column, Cells().Rows() - 1),
+             QString::fromStdString(Cells().Text(row, column)), judgement);
   }
 
   GridView& view_;

@@ -152,7 +152,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers();
   const bool command =
       modifiers.testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  const bool keypad = modifiers.testFlag(Qt::KeypadModifier);
+  // Keyboards without a keypad step with Ctrl, and those without a menu key have Shift+F10.
+  const bool steps = modifiers.testAnyFlags(Qt::KeypadModifier | Qt::ControlModifier);
+  const bool menu = event->key() == Qt::Key_F10 && modifiers.testFlag(Qt::ShiftModifier);
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const QString text = enter ? QString('\r') : event->text();
   const bool typed = !command && !text.isEmpty() && event->key() != Qt::Key_Escape &&
@@ -164,7 +166,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     Q_EMIT MarkWanted(modifiers.testFlag(Qt::ShiftModifier)     ? MarkedLine::Row
                       : modifiers.testFlag(Qt::ControlModifier) ? MarkedLine::Column
                                                                 : MarkedLine::Cell);
-  } else if (board && keypad && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
+  } else if (board && menu) {
+    Q_EMIT MenuWanted();
+  } else if (board && steps && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
     Q_EMIT KeypadPressed(event->key() == Qt::Key_Plus ? 1 : -1);
   } else if (board && typed) {
     Q_EMIT CharacterTyped(text.front().unicode());

@@ -49,7 +49,7 @@ class GridView : public QAbstractScrollArea {
   /// A character was typed, Backspace (8) and Enter (13) among them.
   void CharacterTyped(char32_t character);
 
-  /// The keypad's plus (1) or minus (-1).
+  /// The keypad's plus (1) or minus (-1), or any with Ctrl.
   void KeypadPressed(int sign);
 
   /// Space marks the current cell, with Shift its row, with Ctrl its column.

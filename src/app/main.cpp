@@ -25,6 +25,7 @@ void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& mes
 int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
   const QApplication application(argc, argv);
+  QGuiApplication::setDesktopFileName("org.numorra.Numorra");
   QApplication::setWindowIcon(numorra::ProgramIcon());
   numorra::InstallGridAccessibility();
   numorra::MainWindow window;

@@ -170,10 +170,12 @@ void MainWindow::CopyBoard(bool withPicture) {
 
 void MainWindow::PasteFromClipboard() {
   runner_.Run([this] {
-    const std::string text = QGuiApplication::clipboard()->text().toStdString();
-    if (!PasteBoard(board_, *square_, dialogs_, text)) return;
+    // Pages of the web are full of blanks that look like others.
+    const QString text = QGuiApplication::clipboard()->text().replace(QChar::Nbsp, ' ');
+    if (!PasteBoard(board_, *square_, dialogs_, text.toStdString())) return;
     SetSolveMode(ModeVariable);
     view_->setFocus();
+    BringCurrentCellIntoView();
     CheckAndReturn(board_, dialogs_);
   });
 }
@@ -202,12 +204,18 @@ void MainWindow::ConnectControls() {
       });
     });
   };
-  command(solve_->SolveAuto, &QPushButton::clicked, [this] { solveCommand_.Auto(); });
-  command(solve_->SolveManual, &QPushButton::clicked, [this] {
+  const auto build = [&](QPushButton* button, CommandRunner::Command body) {
+    command(button, &QPushButton::clicked, [this, body = std::move(body)] {
+      body();
+      BringCurrentCellIntoView();
+    });
+  };
+  build(solve_->SolveAuto, [this] { solveCommand_.Auto(); });
+  build(solve_->SolveManual, [this] {
     BuildManualBoard(board_, *square_, dialogs_, stage_);
     view_->setFocus();
   });
-  command(solve_->SolveAgain, &QPushButton::clicked, [this] { solveCommand_.Again(); });
+  build(solve_->SolveAgain, [this] { solveCommand_.Again(); });
   command(corners_->Combo1, &CornerBox::Entered, [this] {
     corners_->Combo1->clear();
     OfferCorners(board_, *square_, List2, *corners_);
@@ -215,7 +223,7 @@ void MainWindow::ConnectControls() {
   command(corners_->DoCor1, &QPushButton::clicked,
           [this] { solveCommand_.SpreadCornerDiagonals(); });
   command(corners_->DoCor2, &QPushButton::clicked, [this] { solveCommand_.SpreadCornerEdges(); });
-  command(square_->Set4x4, &QPushButton::clicked, [this] {
+  build(square_->Set4x4, [this] {
     if (topRowCommand_.Run()) SetSolveMode(ModeVariable);
   });
   command(square_->SolveRandum, &QPushButton::clicked,
@@ -255,10 +263,10 @@ void MainWindow::ConnectBoard() {
       return PressBoard(board_, dialogs_, board_.grid.CurrentRow(), board_.grid.CurrentColumn(),
                         PressedButton::Right);
     };
-    Press(press, view_->CurrentCellPosition());
+    Press(press);
   });
   connect(view_, &GridView::MarkWanted, this, [this](MarkedLine line) {
-    Press([this, line] { return MarkByKey(board_, dialogs_, line); }, view_->CurrentCellPosition());
+    Press([this, line] { return MarkByKey(board_, dialogs_, line); });
   });
   connect(view_, &GridView::CurrentCellShown, this,
           [this](bool another) { ReadCurrentCell(*view_, another); });
@@ -289,9 +297,13 @@ void MainWindow::RunOnBoard(CommandRunner::Command command) {
     view_->setFocus();
     if (!board_.Shown()) return;
     command();
-    view_->BringIntoView(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
+    BringCurrentCellIntoView();
     ShowState();
   });
+}
+
+void MainWindow::BringCurrentCellIntoView() {
+  view_->BringIntoView(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
 }
 
 /// What the boxes say before the first proposal replaces it is what the program starts from.
@@ -364,8 +376,9 @@ void MainWindow::FollowSize() {
   if (board_.SolveMode == ModeNormal) square_->SetSum(MagicConstantText(square_->Size()));
 }
 
-/// Runs a press on the board and opens the menu where it asks for one.
-void MainWindow::Press(std::function<PressOutcome()> press, QPoint menuPosition) {
+/// Runs a press on the board and opens the menu where it asks for one: where the mouse is, or on
+/// the current cell.
+void MainWindow::Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition) {
   RunOnBoard([this, press = std::move(press), menuPosition] {
     const PressOutcome outcome = press();
     if (outcome == PressOutcome::Nothing) return;
@@ -373,7 +386,8 @@ void MainWindow::Press(std::function<PressOutcome()> press, QPoint menuPosition)
     menu_->redox->setEnabled(true);
     if (outcome == PressOutcome::Done) return;
     menu_->ShowBaseValue(Str(board_.BaseValue));
-    menu_->popup(menuPosition);
+    BringCurrentCellIntoView();
+    menu_->popup(menuPosition.value_or(view_->CurrentCellPosition()));
   });
 }
 

@@ -64,7 +64,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void FollowSize();
   void ConnectBoard();
   void RunOnBoard(CommandRunner::Command command);
-  void Press(std::function<PressOutcome()> press, QPoint menuPosition);
+  void Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition = {});
+  void BringCurrentCellIntoView();
   void ShowState();
   void ShowOverlay();
   void CopyBoard(bool withPicture);

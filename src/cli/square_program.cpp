@@ -54,9 +54,11 @@ Result BuildVariable(const SquareRequest& request, Random& random) {
     if (build.Status == SolveStatus::CellValueTooSmall) throw Unsolvable{"Cell value too small"};
     std::string remark;
     if (request.Corner && build.Square(1, 1) != *request.Corner) {
-      remark = "the corner is out of reach with this sum";
-    } else if (request.Sum && build.Total != sum) {
-      remark = "the nearest total within reach is " + Decimal(build.Total);
+      remark = "the corner is out of reach with this size and sum";
+    }
+    if (request.Sum && build.Total != sum) {
+      if (!remark.empty()) remark += "; ";
+      remark += "the total is " + Decimal(build.Total);
     }
     return {build.Square, request.Size, build.Total, remark};
   }

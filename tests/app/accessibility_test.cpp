@@ -34,6 +34,8 @@ TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
   for (const auto& [place, name] : cells)
     EXPECT_EQ(Cell(place.first, place.second), name);
   EXPECT_EQ(Cell(2, 3, QAccessible::Value), "7");
+  EXPECT_EQ(Cell(2, 3, QAccessible::Description),
+            "total of row 2, 21, wrong; total of column 3, 21, wrong");
   Choose("correctrowx", 1, 1);
   EXPECT_EQ(Cell(1, 0), "total of row 1, 18, right");
   Click("SolveAuto");

@@ -46,6 +46,9 @@ TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
   EXPECT_EQ(Find<QAction>("SetAllRem").text(), "all other values to 10");
   EXPECT_TRUE(Find<QAction>("SetValuex").isEnabled());
   menu.close();
+  Key(Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(menu.isVisible());
+  menu.close();
   Key(Qt::Key_Space, Qt::ShiftModifier);
   EXPECT_EQ(TheGrid().Text(2, 5), "X");
   Key(Qt::Key_Space, Qt::ControlModifier);
@@ -93,8 +96,13 @@ TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
   EXPECT_TRUE(visible());
   Key(Qt::Key_Plus, Qt::KeypadModifier);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102");
+  Key(Qt::Key_Minus, Qt::ControlModifier);
+  Key(Qt::Key_Plus, Qt::ControlModifier);
   Key(Qt::Key_Plus);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102") << "not the keypad's";
+  Click("SolveManual");
+  dialogs_.Take();
+  EXPECT_TRUE(visible()) << "a new board's first cell";
 }
 
 }  // namespace

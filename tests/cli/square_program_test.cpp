@@ -54,10 +54,10 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
   const Case cases[] = {{"--size 6 --sum 100", 100, ""},
                         {"--size 50 --sum 32767", 32767, ""},
                         {"--size 8 --sum 77 --limit-to-9", 40,
-                         "numorra-square: the nearest total within reach is 40\n"},
+                         "numorra-square: the total is 40\n"},
                         {"--size 7 --corner 3", 175, ""},
                         {"--size 5 --sum 50 --corner 900", 50,
-                         "numorra-square: the corner is out of reach with this sum\n"},
+                         "numorra-square: the corner is out of reach with this size and sum\n"},
                         {"--top-row 30,9,19,95", 153, ""},
                         {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};
   for (const Case& c : cases) {

@@ -192,17 +192,14 @@ void Monkey::AnswerBox() {
 
 std::string Monkey::WhyWrong() {
   const Board& board = window_.TheBoard();
-  // A mirror that overflows leaves its exchanges behind the grid until the next check.
-  if (overflowed_ && board.TotalsChecked && !board.OverlayShown()) {
-    QTest::keyClick(&window_.View(), Qt::Key_Return);
-    overflowed_ = false;
-  }
-  if (overflowed_) return {};
   if (QGuiApplication::overrideCursor()) return "the busy pointer is left over";
   if (!window_.findChild<QPushButton*>("SolveAuto")->isVisibleTo(&window_)) return "Auto is hidden";
   if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return "a box is left open";
   if (board.Shown() && board.grid.Visible() == board.OverlayShown()) return "nothing is in sight";
-  return WhyInvalid(board);
+  const std::string why = WhyInvalid(board);
+  if (why.empty()) overflowed_ = false;
+  // A mirror that overflows leaves its exchanges behind the grid until the next check or command.
+  return overflowed_ && why == kDisagreement ? "" : why;
 }
 
 }  // namespace numorra

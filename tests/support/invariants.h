@@ -8,6 +8,8 @@
 
 namespace numorra {
 
+inline constexpr const char* kDisagreement = "grid and values disagree";
+
 /// What must hold for the board whatever has been done to it: empty, or what does not.
 inline std::string WhyInvalid(const Board& board) {
   const Grid& grid = board.grid;
@@ -26,7 +28,7 @@ inline std::string WhyInvalid(const Board& board) {
     for (int c = 1; c <= n; ++c) {
       const bool typedHere = typed && r == grid.CurrentRow() && c == grid.CurrentColumn();
       const double shown = Val(grid.Text(r, c));
-      if (!typedHere && shown != board.BoardValues(r, c)) return "grid and values disagree";
+      if (!typedHere && shown != board.BoardValues(r, c)) return kDisagreement;
       rows.back().push_back(typedHere ? board.BoardValues(r, c) : shown);
     }
   }

@@ -1,6 +1,7 @@
 #include "app/play/board_text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <sstream>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::size_t kMinOrder = 3;
 constexpr std::size_t kMostCharacters = 1 << 20;
+constexpr double kLargestNumber = 1e15;  // as many digits as can be typed: sums of such are exact
 constexpr const char* kNoBlock =
     "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text";
 
@@ -72,8 +74,10 @@ std::optional<std::vector<std::vector<double>>> ParseBlock(const std::string& te
     if (fields.size() != lines.size()) return std::nullopt;
     rows.emplace_back();
     try {
-      for (const std::string& field : fields)
+      for (const std::string& field : fields) {
         rows.back().push_back(StrictVal(field));
+        if (std::abs(rows.back().back()) > kLargestNumber) return std::nullopt;
+      }
     } catch (const RuntimeError&) {
       return std::nullopt;
     }
@@ -95,13 +99,6 @@ bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::s
   ForEachCell(order, [&](int r, int c) {
     cells(r, c) = (*rows)[static_cast<std::size_t>(r - 1)][static_cast<std::size_t>(c - 1)];
   });
-  // Totals that no number holds are found before anything changes.
-  CellTable totals = cells;
-  ComputeTotals(totals, order);
-  for (int line = 0; line <= order + 1; ++line) {
-    Str(totals(line, 0));
-    Str(totals(0, line));
-  }
   board.SolveMode = ModeVariable;
   board.BaseValue = base;
   boxes.SetSize(Decimal(order));

@@ -16,7 +16,7 @@ std::string BoardText(const Board& board);
 
 /// The numbers of a square block of 3 x 3 to 50 x 50, by row: one line a row, separated by tabs, by
 /// semicolons, by commas, or by blanks, the same on every line. Empty lines around it do not count.
-/// Nothing when the text is not that.
+/// Nothing when the text is not that, or holds a number of more than 15 digits.
 std::optional<std::vector<std::vector<double>>> ParseBlock(const std::string& text);
 
 /// Shows such a text as a board of the Variable mode, to be checked and played: the boxes follow,

@@ -44,7 +44,7 @@ TEST_F(BoardTextTest, RefusesAnythingElseAndChangesNothing) {
         std::string("1 2 3 4\n1 2 3 4\n1 2 3 4"), std::string("1 2 3\n4 5\n7 8 9"),
         std::string("1 2 3\n\n4 5 6\n7 8 9"), std::string("1 2 x\n4 5 6\n7 8 9"),
         std::string("1,2,3,\n4,5,6,\n7,8,9,"), std::string("1e9 2 3\n4 5 6\n7 8 9"),
-        std::string(2 << 20, '1'), wide}) {
+        std::string("1234567890123456 2 3\n4 5 6\n7 8 9"), std::string(2 << 20, '1'), wide}) {
     EXPECT_FALSE(Paste(text)) << text.substr(0, 40);
     EXPECT_EQ(dialogs_.Take().size(), 1U);
     EXPECT_EQ(ShownRows(board_.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
