@@ -53,8 +53,7 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
   };
   const Case cases[] = {{"--size 6 --sum 100", 100, ""},
                         {"--size 50 --sum 32767", 32767, ""},
-                        {"--size 8 --sum 77 --limit-to-9", 40,
-                         "numorra-square: the total is 40\n"},
+                        {"--size 8 --sum 77 --limit-to-9", 40, "numorra-square: the total is 40\n"},
                         {"--size 7 --corner 3", 175, ""},
                         {"--size 5 --sum 50 --corner 900", 50,
                          "numorra-square: the corner is out of reach with this size and sum\n"},

@@ -18,23 +18,22 @@ class PlainSpreading {
       : Values(values), n_(order), limit_(limit), random_(random) {}
 
   void CornerDiagonals() {
-    for (int k = 2; k < n_ + 1 - k; ++k) {
-      const int m = n_ + 1 - k;
+    const int n = n_;
+    for (int k = 2, m = n - 1; k < m; ++k, --m)
       Twice({{1, 1, -1},
-             {1, n_, 1},
-             {n_, 1, 1},
-             {n_, n_, -1},
+             {1, n, 1},
+             {n, 1, 1},
+             {n, n, -1},
              {k, k, 2},
              {k, m, -2},
-             {n_, k, -2},
-             {n_, m, 2}});
-    }
+             {n, k, -2},
+             {n, m, 2}});
   }
 
   void CornerEdges() {
-    for (int c = n_ - 1; c > 1; --c) {
-      Twice({{1, 1, 1}, {1, n_, 1}, {n_, 1, -1}, {n_, n_, -1}, {1, c, -2}, {n_, c, 2}});
-    }
+    const int n = n_;
+    for (int c = n - 1; c > 1; --c)
+      Twice({{1, 1, 1}, {1, n, 1}, {n, 1, -1}, {n, n, -1}, {1, c, -2}, {n, c, 2}});
   }
 
   void Rings() {

@@ -108,16 +108,8 @@ void Monkey::Press(QAbstractButton* button) {
   QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
 }
 
-void Monkey::Choose(QAction* action) {
-  action->trigger();
-}
-
 void Monkey::Type(QLineEdit* box) {
   box->setText(Below(12) == 0 ? QString(400, '9') : QString(Any(kTexts)));
-}
-
-void Monkey::Drag(QScrollBar* bar) {
-  bar->setValue(Below(bar->maximum() + 1));
 }
 
 void Monkey::Pick(QComboBox* combo) {

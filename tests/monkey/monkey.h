@@ -3,6 +3,7 @@
 #include <random>
 #include <string>
 
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -37,9 +38,9 @@ class Monkey {
   void WithAny(void (Monkey::*use)(Control*));
 
   void Press(QAbstractButton* button);
-  void Choose(QAction* action);
+  void Choose(QAction* action) { action->trigger(); }
   void Type(QLineEdit* box);
-  void Drag(QScrollBar* bar);
+  void Drag(QScrollBar* bar) { bar->setValue(Below(bar->maximum() + 1)); }
   void Pick(QComboBox* combo);
 
   void PressButton() { WithAny(&Monkey::Press); }

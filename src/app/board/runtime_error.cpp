@@ -12,8 +12,6 @@ const char* Describe(Fault fault) {
       return "Overflow";
     case Fault::SubscriptOutOfRange:
       return "Subscript out of range";
-    case Fault::DivisionByZero:
-      return "Division by zero";
     case Fault::TypeMismatch:
       return "Type mismatch";
     case Fault::OutOfMemory:

@@ -9,7 +9,6 @@ enum class Fault {
   InvalidPropertyValue,
   Overflow,
   SubscriptOutOfRange,
-  DivisionByZero,
   TypeMismatch,
   OutOfMemory,
   FileError,
