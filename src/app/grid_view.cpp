@@ -21,6 +21,11 @@ QColor ToQColor(Colour colour) {
   return {colour.Red, colour.Green, colour.Blue};
 }
 
+MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
+  if (modifiers.testFlag(Qt::ShiftModifier)) return MarkedLine::Row;
+  return modifiers.testFlag(Qt::ControlModifier) ? MarkedLine::Column : MarkedLine::Cell;
+}
+
 }  // namespace
 
 GridView::GridView(Grid& grid, QWidget* parent)
@@ -163,9 +168,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   event->accept();
   if (board && Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) return;
   if (board && event->key() == Qt::Key_Space) {
-    Q_EMIT MarkWanted(modifiers.testFlag(Qt::ShiftModifier)     ? MarkedLine::Row
-                      : modifiers.testFlag(Qt::ControlModifier) ? MarkedLine::Column
-                                                                : MarkedLine::Cell);
+    Q_EMIT MarkWanted(LineMarkedWith(modifiers));
   } else if (board && menu) {
     Q_EMIT MenuWanted();
   } else if (board && steps && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {

@@ -177,6 +177,7 @@ void MainWindow::PasteFromClipboard() {
     view_->setFocus();
     BringCurrentCellIntoView();
     CheckAndReturn(board_, dialogs_);
+    ShowState();
   });
 }
 
@@ -271,10 +272,10 @@ void MainWindow::ConnectBoard() {
   connect(view_, &GridView::CurrentCellShown, this,
           [this](bool another) { ReadCurrentCell(*view_, another); });
   connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
-    RunOnBoard([this, row, column] { board_.grid.SetCurrent(row, column); });
+    RunOnCurrentCell([this, row, column] { board_.grid.SetCurrent(row, column); });
   });
   connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
-    RunOnBoard([this, character] {
+    RunOnCurrentCell([this, character] {
       if (character == U'\r') {
         cellEntry_.PressEnter();
       } else {
@@ -283,12 +284,13 @@ void MainWindow::ConnectBoard() {
     });
   });
   connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
-    RunOnBoard([this, sign] { sign > 0 ? cellEntry_.KeypadPlus() : cellEntry_.KeypadMinus(); });
+    RunOnCurrentCell(
+        [this, sign] { sign > 0 ? cellEntry_.KeypadPlus() : cellEntry_.KeypadMinus(); });
   });
-  menu_->OnCommand = [this](RedoCode code) { RunOnBoard([this, code] { edit_.Run(code); }); };
-  menu_->OnRedo = [this] { RunOnBoard([this] { edit_.Redo(); }); };
-  menu_->OnSetAllRem = [this] { RunOnBoard([this] { edit_.SetAllRem(); }); };
-  menu_->OnSwapValue = [this] { RunOnBoard([this] { edit_.SwapValue(); }); };
+  menu_->OnCommand = [this](RedoCode code) { RunOnCurrentCell([this, code] { edit_.Run(code); }); };
+  menu_->OnRedo = [this] { RunOnCurrentCell([this] { edit_.Redo(); }); };
+  menu_->OnSetAllRem = [this] { RunOnCurrentCell([this] { edit_.SetAllRem(); }); };
+  menu_->OnSwapValue = [this] { RunOnCurrentCell([this] { edit_.SwapValue(); }); };
 }
 
 /// Runs a command that acts on the board, which then has the keyboard.
@@ -297,8 +299,15 @@ void MainWindow::RunOnBoard(CommandRunner::Command command) {
     view_->setFocus();
     if (!board_.Shown()) return;
     command();
-    BringCurrentCellIntoView();
     ShowState();
+  });
+}
+
+/// The same for what acts on the current cell, which then is in sight.
+void MainWindow::RunOnCurrentCell(CommandRunner::Command command) {
+  RunOnBoard([this, command = std::move(command)] {
+    command();
+    BringCurrentCellIntoView();
   });
 }
 
@@ -386,7 +395,7 @@ void MainWindow::Press(std::function<PressOutcome()> press, std::optional<QPoint
     menu_->redox->setEnabled(true);
     if (outcome == PressOutcome::Done) return;
     menu_->ShowBaseValue(Str(board_.BaseValue));
-    BringCurrentCellIntoView();
+    if (!menuPosition) BringCurrentCellIntoView();
     menu_->popup(menuPosition.value_or(view_->CurrentCellPosition()));
   });
 }

@@ -64,6 +64,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void FollowSize();
   void ConnectBoard();
   void RunOnBoard(CommandRunner::Command command);
+  void RunOnCurrentCell(CommandRunner::Command command);
   void Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition = {});
   void BringCurrentCellIntoView();
   void ShowState();

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kMinOrder = 3;
 constexpr std::size_t kMostCharacters = 1 << 20;
-constexpr double kLargestNumber = 1e15;  // as many digits as can be typed: sums of such are exact
+constexpr double kLargestNumber = 1e15;  // as many digits as can be typed
 constexpr const char* kNoBlock =
     "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text";
 
