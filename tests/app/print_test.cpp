@@ -30,21 +30,13 @@ struct KeepingPrinter : SheetPrinter {
   Messages Printed;
 };
 
-class PrintTest : public testing::Test {
+class PrintTest : public WindowTest {
  protected:
-  PrintTest() {
-    window_.show();
-    window_.findChild<QLineEdit*>("Text1")->setText("3");
-  }
-
-  void Build() { window_.findChild<QPushButton*>("SolveAuto")->click(); }
-  void Open() { window_.findChild<QAction*>("PrintSol")->trigger(); }
+  PrintTest() : WindowTest({.Printer = &printer_}) {}
+  void Open() { Find<QAction>("PrintSol").trigger(); }
   QDialog* Form() { return window_.findChild<QDialog*>("PrintSolution"); }
 
-  TickingClock clock_{1};
-  ScriptedDialogs dialogs_;
   KeepingPrinter printer_;
-  MainWindow window_{{.TimeOfDay = &clock_, .Boxes = &dialogs_, .Printer = &printer_}};
 };
 
 TEST_F(PrintTest, OpensOnlyWhereThereIsSomethingToPrint) {
@@ -54,19 +46,17 @@ TEST_F(PrintTest, OpensOnlyWhereThereIsSomethingToPrint) {
     EXPECT_EQ(Form(), nullptr);
   };
   said("nothing to print");
-  window_.findChild<QLineEdit*>("Text1")->setText("31");
-  Build();
+  Make("SolveAuto", "31");
   said("cannot print larger than 30x30 grid");
-  window_.findChild<QPushButton*>("Command1")->click();
+  Click("Command1");
   said("nothing to print");
-  window_.findChild<QLineEdit*>("Text1")->setText("30");
-  Build();
+  Make("SolveAuto", "30");
   Open();
   EXPECT_NE(Form(), nullptr);
 }
 
 TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
-  Build();
+  Make("SolveAuto", "3");
   Open();
   const Grid& grid = window_.TheBoard().grid;
   auto* preview = Form()->findChild<QPlainTextEdit*>("preview");
@@ -86,7 +76,7 @@ TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
   EXPECT_EQ(printer_.Printed.size(), 2U);
   click("Closex");
   EXPECT_FALSE(Form() && Form()->isVisible());
-  window_.findChild<QLineEdit*>("Text4")->setText(QString(400, '9'));
+  Find<QLineEdit>("Text4").setText(QString(400, '9'));
   Open();
   EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
 }

@@ -79,7 +79,7 @@ TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
 /// A window whose builds let events through at every yield.
 class BusyWindowTest : public WindowTest {
  protected:
-  BusyWindowTest() : WindowTest(0) {
+  BusyWindowTest() : WindowTest({.FrameMilliseconds = 0}) {
     dialogs_.Answers = {true, true};
     Make("SolveAuto", "30", "3000");
     Type("Text1", "50");

@@ -4,6 +4,7 @@
 
 #include "fuzz/check.h"
 #include "listbox/list_boy.h"
+#include "support/stand_ins.h"
 
 using namespace numorra;
 
@@ -11,8 +12,7 @@ using namespace numorra;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::string path = "/tmp/numorra-fuzz-list-" + std::to_string(getpid());
   std::ofstream(path, std::ios::binary) << TextOf(data, size);
-  TickingClock clock(size);
-  ClockSeededRandom random(clock);
+  SeededRandom random(size);
   ListBoy list(random);
   list.LoadFile(path);
   for (int i = 0; i < list.ListCount(); ++i)

@@ -37,8 +37,7 @@ TEST(FindMagicStarts, FindsWhatThePlainSearchFindsInItsOrder) {
 }
 
 TEST(NormalSquare, IsNormalAndMagicAtEveryOrder) {
-  TickingClock clock(1);
-  ClockSeededRandom random(clock);
+  SeededRandom random(1);
   NotingStage stage;
   NormalSquare generator(random, stage);
   for (int order = 3; order <= kMaxOrder; ++order) {

@@ -96,8 +96,7 @@ class BuildsByLot {
 TEST(BuildsOfEveryKind, AreWhatTheyShouldBe) {
   constexpr int kBuilds = 800;
   const Soak soak;
-  TickingClock clock(soak.Seed());
-  ClockSeededRandom random(clock);
+  SeededRandom random(soak.Seed());
   BuildsByLot lot(random);
   while (soak.Minutes() > 0 ? soak.Goes() : lot.Builds < kBuilds)
     ASSERT_EQ(lot.One(), "");

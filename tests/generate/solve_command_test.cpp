@@ -162,13 +162,6 @@ TEST_F(SolveCommandTest, CornerPassesVaryTheBoardOnTheScreen) {
   EXPECT_EQ(WhyNotMagicNow(450), "");
 }
 
-struct ChoiceList : ListBox {
-  void AddItem(const std::string& text) override { Entries.push_back(text); }
-  int ListCount() const override { return 0; }
-  std::string List(int) const override { return {}; }
-  std::vector<std::string> Entries;
-};
-
 TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
   struct Case {
     const char *size, *sum;
@@ -181,7 +174,7 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
                         {"", "50", 1, "any", "any", "50"},
                         {"5", "50000", 102, "1", "19801", "50000"}};
   for (const Case& c : cases) {
-    ChoiceList choice;
+    PlainListBox choice;
     Boxes.SizeText = c.size;
     Boxes.SumText = c.sum;
     OfferCorners(TheBoard, Boxes, List2, choice);
@@ -194,7 +187,7 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
                          std::to_string(TheBoard.BaseValue)),
               c.entries > 1 ? 1 : 0);
   }
-  ChoiceList choice;
+  PlainListBox choice;
   Boxes.SizeText = "5";
   Boxes.SumText = "99999999";
   EXPECT_THROW(OfferCorners(TheBoard, Boxes, List2, choice), RuntimeError);
@@ -241,8 +234,7 @@ TEST(TopRows, AreFourNumbersWithCommasOrBlanks) {
 /// Every top row has an answer soon, large numbers and hopeless ones too; nearly all birthdays make
 /// squares of sixteen different numbers.
 TEST(TopRows, AreDecidedSoon) {
-  TickingClock clock(4);
-  ClockSeededRandom random(clock);
+  SeededRandom random(4);
   int birthdays = 0, allDifferent = 0;
   for (int time = 0; time < 3000; ++time) {
     TopRow top{};

@@ -131,8 +131,7 @@ class PlainSpreading {
 
 /// Any numbers from 1 to twice the base: the passes ask for no more.
 CellTable AnyBoard(int order, int base, std::uint64_t seed) {
-  TickingClock clock(seed);
-  ClockSeededRandom random(clock);
+  SeededRandom random(seed);
   CellTable cells;
   ForEachCell(order, [&](int r, int c) { cells(r, c) = random.Between(1, 2 * base - 1); });
   return cells;
@@ -145,8 +144,7 @@ TEST(Spreading, IsThePlainMethodCellForCell) {
       for (const bool limit : {false, true}) {
         if (limit && base > 5) continue;
         const CellTable start = AnyBoard(order, base, ++seed);
-        TickingClock clocks[] = {TickingClock(seed), TickingClock(seed)};
-        ClockSeededRandom first(clocks[0]), second(clocks[1]);
+        SeededRandom first(seed), second(seed);
         SilentStage stage;
         std::int32_t passes = 0;
         Spreading fast(TurningSquare(start, order), limit, passes, first, stage);
@@ -166,8 +164,7 @@ TEST(Spreading, IsThePlainMethodCellForCell) {
 }
 
 TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
-  TickingClock clock(8);
-  ClockSeededRandom random(clock);
+  SeededRandom random(8);
   SilentStage stage;
   std::int32_t passes = 0;
   for (const int order : {4, 5, 6, 7, 8, 13, 50}) {

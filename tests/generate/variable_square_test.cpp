@@ -14,8 +14,7 @@ namespace numorra {
 namespace {
 
 TEST(VariableSquares, AreVariedAllOver) {
-  TickingClock clock(11);
-  ClockSeededRandom random(clock);
+  SeededRandom random(11);
   SilentStage stage;
   ListBoy list(random);
   VariableSquare generator(random, stage, list);
@@ -82,8 +81,7 @@ TEST(RemainderEven, RaisesEveryLineOrComesBackTurned) {
 }
 
 TEST(RemainderOdd, RaisesEveryLineAndNoCellFalls) {
-  TickingClock clock(2);
-  ClockSeededRandom random(clock);
+  SeededRandom random(2);
   for (const int order : {5, 7, 49}) {
     TurningSquare square(order);
     square.Fill(1);

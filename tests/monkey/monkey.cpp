@@ -11,32 +11,14 @@
 namespace numorra {
 namespace {
 
-const char* const kTexts[] = {"",
-                              " ",
-                              "3",
-                              "7.5",
-                              "-4",
-                              "abc",
-                              "12e3",
-                              "0",
-                              "51",
-                              "50.7",
-                              "99999",
-                              "1e9",
-                              "+5",
-                              "٣",
-                              "  6  ",
-                              "6\n7",
-                              "0.4",
-                              "32768",
-                              "-32769",
-                              "5,5",
-                              "0x10",
-                              "30,9,19,95",
-                              "1,1,1,1",
-                              "0 0 0 0",
-                              "9999,9999,9999,9999",
-                              "2 7 6\n9 5 1\n4 3 8"};
+const QStringList& Texts() {
+  static const QStringList texts =
+      QString(
+          "| |3|7.5|-4|abc|12e3|0|51|50.7|99999|1e9|+5|٣|  6  |6\n7|0.4|32768|-32769|5,5|0x10|"
+          "30,9,19,95|1,1,1,1|0 0 0 0|9999,9999,9999,9999|2 7 6\n9 5 1\n4 3 8")
+          .split('|');
+  return texts;
+}
 
 const Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,
                          Qt::Key_Home,  Qt::Key_End,    Qt::Key_Tab,  Qt::Key_PageUp,
@@ -109,7 +91,7 @@ void Monkey::Press(QAbstractButton* button) {
 }
 
 void Monkey::Type(QLineEdit* box) {
-  box->setText(Below(12) == 0 ? QString(400, '9') : QString(Any(kTexts)));
+  box->setText(Below(12) == 0 ? QString(400, '9') : Any(Texts()));
 }
 
 void Monkey::Pick(QComboBox* combo) {
@@ -162,7 +144,7 @@ void Monkey::PressKey() {
 }
 
 void Monkey::CopyText() {
-  QGuiApplication::clipboard()->setText(Any(kTexts));
+  QGuiApplication::clipboard()->setText(Any(Texts()));
 }
 
 void Monkey::AnswerBox() {
@@ -170,7 +152,7 @@ void Monkey::AnswerBox() {
   if (auto* input = qobject_cast<QInputDialog*>(modal)) {
     ++BoxesAnswered;
     // A text that cannot be read is asked for again, so now and then one gives up.
-    if (Below(3) != 0) input->setTextValue(Any(kTexts));
+    if (Below(3) != 0) input->setTextValue(Any(Texts()));
     Below(2) ? input->accept() : input->reject();
   } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
     ++BoxesAnswered;

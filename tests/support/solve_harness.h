@@ -15,8 +15,7 @@ struct SolveHarness {
     Commands.Auto();
   }
 
-  TickingClock Time{17};
-  ClockSeededRandom Dice{Time};
+  SeededRandom Dice{17};
   Board TheBoard;
   PlainBoxes Boxes;
   PlainOptions Options;

@@ -11,6 +11,7 @@
 #include "app/ports/build_stage.h"
 #include "app/ports/dialogs.h"
 #include "app/ports/square_boxes.h"
+#include "listbox/list_boy.h"
 
 /// Tests' own worlds: what the logic asks of a window, without one.
 namespace numorra {
@@ -85,6 +86,20 @@ struct PlainOptions : BuildOptions {
   std::optional<double> Corner() const override { return WantedCorner; }
   bool Limit = false;
   std::optional<double> WantedCorner;
+};
+
+/// A list box without a window.
+struct PlainListBox : ListBox {
+  void AddItem(const std::string& text) override { Entries.push_back(text); }
+  int ListCount() const override { return static_cast<int>(Entries.size()); }
+  std::string List(int index) const override { return Entries[static_cast<std::size_t>(index)]; }
+  std::vector<std::string> Entries;
+};
+
+/// Random numbers that are the same in every run.
+struct SeededRandom : private TickingClock, public ClockSeededRandom {
+  explicit SeededRandom(std::uint64_t seed)
+      : TickingClock(seed), ClockSeededRandom(static_cast<Clock&>(*this)) {}
 };
 
 /// Random numbers from a list, again and again.

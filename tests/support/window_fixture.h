@@ -24,9 +24,7 @@ struct UnluckyClock : TickingClock {
 /// A fresh window, driven through its controls as a person would; boxes are answered from a list.
 class WindowTest : public testing::Test {
  protected:
-  explicit WindowTest(int frameMilliseconds = CommandRunner::kFrameMilliseconds)
-      : window_(
-            {.TimeOfDay = &clock_, .Boxes = &dialogs_, .FrameMilliseconds = frameMilliseconds}) {
+  explicit WindowTest(World world = {}) : window_(Scripted(world)) {
     window_.show();
     QCoreApplication::processEvents();
   }
@@ -87,6 +85,12 @@ class WindowTest : public testing::Test {
   std::string SumBox() { return Find<QLineEdit>("Text4").text().toStdString(); }
   const Grid& TheGrid() { return window_.TheBoard().grid; }
   slow::Rows Rows() { return ShownRows(TheGrid()); }
+
+  const World& Scripted(World& world) {
+    world.TimeOfDay = &clock_;
+    world.Boxes = &dialogs_;
+    return world;
+  }
 
   UnluckyClock clock_{99};
   ScriptedDialogs dialogs_;

@@ -51,16 +51,5 @@ TEST(Recount, MarksTheUntouchedBoardWrongButForItsCorner) {
   }
 }
 
-TEST(Recount, ReadsTextsByTheirLeadingNumber) {
-  Board board;
-  ShowRows(board, kLoShu);
-  board.grid.SetText(1, 1, "12ab");
-  board.grid.SetText(1, 2, "ab");
-  board.grid.SetText(1, 3, "");
-  EXPECT_EQ(Recount(board), Verdict::Wrong);
-  EXPECT_EQ(board.grid.Text(1, 0), "12");
-  EXPECT_EQ(board.BoardValues(1, 2), 0);
-}
-
 }  // namespace
 }  // namespace numorra
