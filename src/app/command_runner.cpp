@@ -9,6 +9,7 @@
 #include "app/ports/build_stage.h"
 
 namespace numorra {
+
 void CommandRunner::Run(Command command) {
   newest_ = std::move(command);
   superseded_ = true;

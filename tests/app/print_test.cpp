@@ -97,7 +97,7 @@ TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
   QProcess reader;
   reader.start("pdftotext", {"-fixed", "4.8", "-nopgbrk", pdf, "-"});
   ASSERT_TRUE(reader.waitForFinished());
-  const auto lines = [](QString text) {
+  const auto lines = [](const QString& text) {
     QStringList kept;
     for (const QString& line : text.split('\n')) {
       if (!line.trimmed().isEmpty()) kept << line.trimmed();

@@ -87,7 +87,7 @@ class BusyWindowTest : public WindowTest {
     before_ = Rows();
   }
 
-  void DuringTheBuild(std::function<void()> act) {
+  void DuringTheBuild(const std::function<void()>& act) {
     QTimer::singleShot(0, &window_, [this, act] {
       EXPECT_TRUE(Find<QLabel>("IterationCount").isVisible());
       EXPECT_FALSE(Find<QPushButton>("SolveAuto").isVisible());

@@ -12,7 +12,7 @@ namespace numorra {
 namespace {
 
 /// The search as it is told: every start is filled and every line added up.
-std::vector<SteppingAttempt> PlainSearch(int order) {
+std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
   std::vector<SteppingAttempt> kept;
   for (std::int16_t pattern = 0; pattern < 2; ++pattern) {
     for (std::int16_t row = 1; row <= order; ++row) {
@@ -29,7 +29,7 @@ std::vector<SteppingAttempt> PlainSearch(int order) {
 }
 
 TEST(FindMagicStarts, FindsWhatThePlainSearchFindsInItsOrder) {
-  for (int order = 1; order <= 17; order += 2) {
+  for (std::int16_t order = 1; order <= 17; order += 2) {
     EXPECT_EQ(FindMagicStarts(order, MagicConstant(order)), PlainSearch(order)) << order;
   }
   EXPECT_EQ(FindMagicStarts(49, MagicConstant(49)).size(), 98U);

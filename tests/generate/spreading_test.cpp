@@ -19,7 +19,7 @@ class PlainSpreading {
 
   void CornerDiagonals() {
     const int n = n_;
-    for (int k = 2, m = n - 1; k < m; ++k, --m)
+    for (int k = 2, m = n - 1; k < m; ++k, --m) {
       Twice({{1, 1, -1},
              {1, n, 1},
              {n, 1, 1},
@@ -28,6 +28,7 @@ class PlainSpreading {
              {k, m, -2},
              {n, k, -2},
              {n, m, 2}});
+    }
   }
 
   void CornerEdges() {

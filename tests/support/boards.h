@@ -13,10 +13,11 @@ inline slow::Rows ParseRows(const std::string& text) {
   slow::Rows rows(1);
   std::istringstream words(text);
   for (std::string word; words >> word;) {
-    if (word == "/")
+    if (word == "/") {
       rows.emplace_back();
-    else
+    } else {
       rows.back().push_back(std::stod(word));
+    }
   }
   return rows;
 }
