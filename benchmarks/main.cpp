@@ -69,6 +69,7 @@ int main(int argc, char** argv) {
                                     "--benchmark_enable_random_interleaving=true"};
   flags.insert(flags.end(), argv + 1, argv + argc);
   std::vector<char*> words;
+  words.reserve(flags.size());
   for (std::string& flag : flags)
     words.push_back(flag.data());
   int count = static_cast<int>(words.size());

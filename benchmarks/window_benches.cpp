@@ -76,7 +76,7 @@ class Stand {
     Settle();
   }
 
-  void Settle() {
+  static void Settle() {
     for (int i = 0; i < 3; ++i)
       QCoreApplication::processEvents();
   }
@@ -160,9 +160,9 @@ std::vector<Command> Commands() {
       Item("correct diagnonal", "correctdiagx"),
       {"totals check (Enter)", Nothing, [](Stand& s) { s.Key(Qt::Key_Return); }},
       Button("Show (fill)", "Command3"),
-      {"Cricles", [](Stand& s, int) { s.Click("Command4"), s.Settle(); },
+      {"Cricles", [](Stand& s, int) { s.Click("Command4"), Stand::Settle(); },
        [](Stand& s) { s.Click("Command1"); }},
-      {"Vectors", [](Stand& s, int) { s.Click("Command4"), s.Settle(); },
+      {"Vectors", [](Stand& s, int) { s.Click("Command4"), Stand::Settle(); },
        [](Stand& s) { s.Click("Command2"); }},
   };
 }
@@ -172,7 +172,7 @@ void MeasureCommand(benchmark::State& state, const Command& command, int order) 
   stand.Prepare(order);
   for (auto _ : state) {
     command.Before(stand, order);
-    stand.Settle();
+    Stand::Settle();
     QElapsedTimer timer;
     timer.start();
     command.Act(stand);
@@ -216,6 +216,7 @@ void MeasureTable(benchmark::State& state, int order) {
 std::vector<std::string> RegisterWindowBenches() {
   static const std::vector<Command> commands = Commands();
   std::vector<std::string> names;
+  names.reserve(commands.size());
   for (const Command& command : commands)
     names.emplace_back(command.Name);
   for (const int order : kOrders) {

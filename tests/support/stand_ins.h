@@ -97,9 +97,15 @@ struct PlainListBox : ListBox {
 };
 
 /// Random numbers that are the same in every run.
-struct SeededRandom : private TickingClock, public ClockSeededRandom {
-  explicit SeededRandom(std::uint64_t seed)
-      : TickingClock(seed), ClockSeededRandom(static_cast<Clock&>(*this)) {}
+class SeededRandom : public Random {
+ public:
+  explicit SeededRandom(std::uint64_t seed) : clock_(seed) {}
+  void Reseed() override { random_.Reseed(); }
+  double Next() override { return random_.Next(); }
+
+ private:
+  TickingClock clock_;
+  ClockSeededRandom random_{clock_};
 };
 
 /// Random numbers from a list, again and again.

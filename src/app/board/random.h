@@ -47,7 +47,7 @@ class Random {
 /// passes through the same mixing before it seeds, as first draws from neighbouring seeds would
 /// otherwise be nearly equal. When the clock stands still between two reseeds the second is nudged
 /// on, so that loops which draw until something differs come to an end on any clock.
-class ClockSeededRandom : public Random {
+class ClockSeededRandom final : public Random {
  public:
   explicit ClockSeededRandom(Clock& clock);
   void Reseed() override;
