@@ -47,11 +47,10 @@ TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
 }
 
 TEST_F(AccessibilityTest, TheMenusShowTheirKeys) {
-  const std::pair<const char*, const char*> keys[] = {
-      {"PrintSol", "Ctrl+P"},           {"Exitx", "Ctrl+Q"},  {"Copyx", "Ctrl+C"},
-      {"CopyNumbersx", "Ctrl+Shift+C"}, {"Pastex", "Ctrl+V"}, {"Helpx", "F1"}};
-  for (const auto& [action, key] : keys)
-    EXPECT_EQ(Find<QAction>(action).shortcut().toString(), key);
+  std::string keys;
+  for (const char* action : {"PrintSol", "Exitx", "Copyx", "CopyNumbersx", "Pastex", "Helpx"})
+    keys += Find<QAction>(action).shortcut().toString().toStdString() + " ";
+  EXPECT_EQ(keys, "Ctrl+P Ctrl+Q Ctrl+C Ctrl+Shift+C Ctrl+V F1 ");
 }
 
 TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QThread>
-
 #include "app/board/runtime_error.h"
 #include "app/ports/build_stage.h"
 #include "support/stand_ins.h"
@@ -22,8 +20,7 @@ TEST_F(CommandRunnerTest, TellsARuntimeErrorAndGoesOn) {
   runner_.Run([] { throw RuntimeError(Fault::Overflow); });
   runner_.Run([] { throw RuntimeError(Fault::TypeMismatch); });
   runner_.Run([] { throw std::bad_alloc(); });
-  EXPECT_EQ(dialogs_.Take(),
-            (std::vector<std::string>{"Overflow", "Type mismatch", "Out of memory"}));
+  EXPECT_EQ(dialogs_.Take(), (Messages{"Overflow", "Type mismatch", "Out of memory"}));
   runner_.Run([this] { log_ += "on"; });
   EXPECT_EQ(log_, "on");
 }

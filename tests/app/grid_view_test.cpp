@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QScrollBar>
 
-#include "app/board/board.h"
+#include "support/boards.h"
 
 namespace numorra {
 namespace {
@@ -13,10 +13,7 @@ namespace {
 class GridViewTest : public testing::Test {
  protected:
   GridViewTest() {
-    board_.GridSize = 50;
-    board_.SetupBoard();
-    board_.FillBoard(0);
-    board_.ShowBoard();
+    ShowCounted(board_, 50);
     board_.grid.SetVisible(true);
     view_.resize(400, 300);
     view_.show();

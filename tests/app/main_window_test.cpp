@@ -55,7 +55,7 @@ TEST_F(WindowTest, AutoRefusesSizesItCannotBuildAndKeepsTheBoard) {
       {"-99999", "Overflow"}};
   for (const auto& [size, message] : cases) {
     Make("SolveAuto", size);
-    EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{message}) << size;
+    EXPECT_EQ(dialogs_.Take(), Messages{message}) << size;
     EXPECT_EQ(Rows(), before);
     ExpectSettled();
   }
@@ -114,7 +114,7 @@ TEST_F(WindowTest, TheClipboardTakesAndGivesTheBoard) {
   Click("SolveManual");
   dialogs_.Take();
   Find<QAction>("Pastex").trigger();
-  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{"WELL DONE, YOU GOT IT"});
+  EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
   EXPECT_EQ(Rows(), square);
   EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked());
   EXPECT_EQ(SumBox(), "62525");

@@ -5,8 +5,6 @@
 namespace numorra {
 namespace {
 
-using Messages = std::vector<std::string>;
-
 class PlayerTest : public WindowTest {
  protected:
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include <QFile>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QRegularExpression>
@@ -15,8 +14,6 @@
 
 namespace numorra {
 namespace {
-
-using Messages = std::vector<std::string>;
 
 /// Keeps what is printed, or fails.
 struct KeepingPrinter : SheetPrinter {
@@ -85,10 +82,7 @@ TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
   const QTemporaryDir folder;
   const QString pdf = folder.filePath("sheet.pdf");
   Board board;
-  board.GridSize = 30;
-  board.SetupBoard();
-  board.FillBoard(0);
-  board.ShowBoard();
+  ShowCounted(board, 30);
   const std::string sheet = SolutionSheet(board.grid, 13515);
   PaperPrinter printer;
   printer.PrintTo(pdf);

@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <QInputDialog>
 #include <QTimer>
 
 #include "support/window_fixture.h"
 
 namespace numorra {
 namespace {
-
-using Messages = std::vector<std::string>;
 
 TEST_F(WindowTest, AutoReachesAnySumInTheVariableMode) {
   for (int size = 3; size <= 50; ++size) {
@@ -72,8 +69,6 @@ TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
   EXPECT_EQ(Rows()[0], (std::vector<double>{24, 12, 18, 15}));
   EXPECT_EQ(slow::WhyNotMagic(Rows(), 69), "");
   EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked());
-  EXPECT_EQ(SumBox(), "69");
-  EXPECT_EQ(Find<QLineEdit>("Text1").text(), "4");
 }
 
 /// A window whose builds let events through at every yield.

@@ -4,7 +4,7 @@
 #include <set>
 #include <sstream>
 
-#include "support/slow_checker.h"
+#include "support/boards.h"
 
 namespace numorra {
 namespace {
@@ -23,24 +23,13 @@ Outcome RunWith(const std::string& line) {
   return {status, out.str(), err.str()};
 }
 
-slow::Rows ReadCsv(const std::string& text) {
-  slow::Rows rows;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
-    std::istringstream fields(line);
-    rows.emplace_back();
-    for (std::string field; std::getline(fields, field, ',');)
-      rows.back().push_back(std::stod(field));
-  }
-  return rows;
-}
-
 TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
   EXPECT_EQ(RunWith("--size=4").Out,
             " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
   EXPECT_EQ(RunWith("--size 4 --format=json").Out,
             "{\"order\": 4, \"total\": 34, \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
             "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
+  EXPECT_EQ(RunWith("--size 4 --format csv").Out, "4,9,5,16\n14,7,11,2\n15,6,10,3\n1,12,8,13\n");
   EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
   EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
 }
@@ -63,7 +52,7 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
     const Outcome run = RunWith(std::string("--format csv ") + c.line);
     EXPECT_EQ(run.Status, 0) << c.line;
     EXPECT_EQ(run.Err, c.remark) << c.line;
-    EXPECT_EQ(slow::WhyNotMagic(ReadCsv(run.Out), c.total), "") << c.line;
+    EXPECT_EQ(slow::WhyNotMagic(ParseRows(run.Out, '\n'), c.total), "") << c.line;
   }
   EXPECT_EQ(RunWith("--size 10 --sum 25").Status, 1);
   EXPECT_EQ(RunWith("--size 4 --sum 10").Status, 1);

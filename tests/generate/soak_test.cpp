@@ -96,9 +96,9 @@ class BuildsByLot {
 TEST(BuildsOfEveryKind, AreWhatTheyShouldBe) {
   constexpr int kBuilds = 800;
   const Soak soak;
-  SeededRandom random(soak.Seed());
+  SeededRandom random(soak.Seed);
   BuildsByLot lot(random);
-  while (soak.Minutes() > 0 ? soak.Goes() : lot.Builds < kBuilds)
+  while (soak.Minutes > 0 ? soak.Goes() : lot.Builds < kBuilds)
     ASSERT_EQ(lot.One(), "");
   std::printf("%d builds judged, %d of them without a solution\n", lot.Builds, lot.Unsolvable);
 }
@@ -106,18 +106,14 @@ TEST(BuildsOfEveryKind, AreWhatTheyShouldBe) {
 /// Random sources and clocks that no machine should have: every build ends, and is right or
 /// refused.
 TEST(BuildsOfEveryKind, EndOnAnyRandomSourceAndAnyClock) {
-  struct OddClock : Clock {
-    explicit OddClock(std::vector<std::uint64_t> readings) : Readings(std::move(readings)) {}
-    std::uint64_t NanosecondsSinceMidnight() override { return Readings[Next++ % Readings.size()]; }
-    std::vector<std::uint64_t> Readings;
-    std::size_t Next = 0;
-  } still({42}), back({90, 80, 70, 70, 60}), midnight({86399999999998, 86399999999999, 0, 1});
+  ScriptedClock still({42}), back({90, 80, 70, 70, 60}),
+      midnight({86399999999998, 86399999999999, 0, 1});
   constexpr double kAlmostOne = 1 - 0x1p-24;
   std::vector<std::unique_ptr<Random>> sources;
   for (const auto& numbers : std::initializer_list<std::vector<double>>{
            {0}, {kAlmostOne}, {0.5}, {0, kAlmostOne}, {kAlmostOne, 0, 0}, {0.25, 0.75}})
     sources.push_back(std::make_unique<ScriptedRandom>(numbers));
-  for (OddClock* clock : {&still, &back, &midnight})
+  for (ScriptedClock* clock : {&still, &back, &midnight})
     sources.push_back(std::make_unique<ClockSeededRandom>(*clock));
   for (const auto& random : sources) {
     BuildsByLot lot(*random);

@@ -11,8 +11,6 @@
 namespace numorra {
 namespace {
 
-using Messages = std::vector<std::string>;
-
 constexpr const char* kNotGood = "result may not look good\ntotal sum for this grid is too small";
 
 class SolveCommandTest : public testing::Test, protected SolveHarness {

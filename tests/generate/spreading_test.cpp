@@ -20,14 +20,9 @@ class PlainSpreading {
   void CornerDiagonals() {
     const int n = n_;
     for (int k = 2, m = n - 1; k < m; ++k, --m) {
-      Twice({{1, 1, -1},
-             {1, n, 1},
-             {n, 1, 1},
-             {n, n, -1},
-             {k, k, 2},
-             {k, m, -2},
-             {n, k, -2},
-             {n, m, 2}});
+      const std::vector<FlaggedCell> pattern{{1, 1, -1}, {1, n, 1},  {n, 1, 1},  {n, n, -1},
+                                             {k, k, 2},  {k, m, -2}, {n, k, -2}, {n, m, 2}};
+      Twice(pattern);
     }
   }
 
@@ -107,15 +102,9 @@ class PlainSpreading {
 
   bool Ring(int a, int c, int i, int j, int sign) {
     if (i == 0 || j == 0) return false;
-    Write({{a, a, -1},
-           {a, c, -2},
-           {a, j, 3},
-           {c, j, -3},
-           {i, a, -1},
-           {i, c, 1},
-           {c, a, 2},
-           {c, c, 1}},
-          sign);
+    const std::vector<FlaggedCell> pattern{{a, a, -1}, {a, c, -2}, {a, j, 3}, {c, j, -3},
+                                           {i, a, -1}, {i, c, 1},  {c, a, 2}, {c, c, 1}};
+    Write(pattern, sign);
     bool low = false;
     ForEachCell(n_, [&](int r, int cc) {
       if (flags_(r, cc) != 0 && Values(r, cc) + flags_(r, cc) < 1) low = true;

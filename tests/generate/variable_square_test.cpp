@@ -1,6 +1,5 @@
 #include "generate/variable_square.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
 #include <set>
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
-
 #include "support/soak.h"
 
 namespace numorra {
@@ -14,9 +12,9 @@ TEST(MonkeyTest, BreaksNothing) {
   constexpr int kSteps = 1500;
   constexpr int kStepsAWindow = 500;
   const Soak soak;
-  unsigned seed = soak.Seed();
+  unsigned seed = soak.Seed;
   int steps = 0, builds = 0, boxes = 0;
-  while (soak.Minutes() > 0 ? soak.Goes() : steps < kSteps) {
+  while (soak.Minutes > 0 ? soak.Goes() : steps < kSteps) {
     Monkey monkey(seed);
     SCOPED_TRACE("seed " + std::to_string(seed));
     for (int step = 0; step < kStepsAWindow; ++step, ++steps) {
@@ -28,7 +26,7 @@ TEST(MonkeyTest, BreaksNothing) {
     ++seed;
   }
   std::printf("%d steps, %d builds, %d boxes answered, seeds from %u\n", steps, builds, boxes,
-              soak.Seed());
+              soak.Seed);
 }
 
 }  // namespace

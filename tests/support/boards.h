@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -8,16 +10,14 @@
 
 namespace numorra {
 
-/// Rows of numbers, separated by blanks, rows by a slash: "8 1 6 / 3 5 7 / 4 9 2".
-inline slow::Rows ParseRows(const std::string& text) {
-  slow::Rows rows(1);
-  std::istringstream words(text);
-  for (std::string word; words >> word;) {
-    if (word == "/") {
-      rows.emplace_back();
-    } else {
-      rows.back().push_back(std::stod(word));
-    }
+/// Rows of numbers, separated by blanks or commas, rows by a slash: "8 1 6 / 3 5 7 / 4 9 2".
+inline slow::Rows ParseRows(std::string text, char rowEnd = '/') {
+  slow::Rows rows;
+  std::replace(text.begin(), text.end(), ',', ' ');
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line, rowEnd);) {
+    std::istringstream numbers(line);
+    rows.emplace_back(std::istream_iterator<double>(numbers), std::istream_iterator<double>());
   }
   return rows;
 }
@@ -62,6 +62,14 @@ inline void ShowRows(Board& board, const std::string& text, double target = 15,
   board.BaseValue = baseValue;
   board.SetupBoard();
   board.BoardValues = TableOf(rows);
+  board.ShowBoard();
+}
+
+/// A shown board of the numbers 1 to order x order in reading order.
+inline void ShowCounted(Board& board, std::int16_t order) {
+  board.GridSize = order;
+  board.SetupBoard();
+  board.FillBoard(0);
   board.ShowBoard();
 }
 

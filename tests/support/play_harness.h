@@ -28,8 +28,6 @@ class PlayTest : public testing::Test {
 
   std::string At(int row, int column) { return board_.grid.Text(row, column); }
 
-  std::string Here() { return At(board_.grid.CurrentRow(), board_.grid.CurrentColumn()); }
-
   std::pair<int, int> Where() { return {board_.grid.CurrentRow(), board_.grid.CurrentColumn()}; }
 
   Board board_;

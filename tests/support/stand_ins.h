@@ -16,10 +16,12 @@
 /// Tests' own worlds: what the logic asks of a window, without one.
 namespace numorra {
 
+using Messages = std::vector<std::string>;
+
 /// Notes what is said, answers questions from a list, and takes offence at what nobody expected.
 class ScriptedDialogs : public Dialogs {
  public:
-  ~ScriptedDialogs() override { EXPECT_EQ(Said, std::vector<std::string>{}) << "unexpected boxes"; }
+  ~ScriptedDialogs() override { EXPECT_EQ(Said, Messages{}) << "unexpected boxes"; }
 
   void Tell(const std::string& message) override { Said.push_back(message); }
 
@@ -41,9 +43,9 @@ class ScriptedDialogs : public Dialogs {
   }
 
   /// What has been said since the last look.
-  std::vector<std::string> Take() { return std::exchange(Said, {}); }
+  Messages Take() { return std::exchange(Said, {}); }
 
-  std::vector<std::string> Said;
+  Messages Said;
   std::deque<bool> Answers;
   std::deque<std::string> Texts;
 };
@@ -94,6 +96,14 @@ struct PlainListBox : ListBox {
   int ListCount() const override { return static_cast<int>(Entries.size()); }
   std::string List(int index) const override { return Entries[static_cast<std::size_t>(index)]; }
   std::vector<std::string> Entries;
+};
+
+/// A clock that is read as told, again and again.
+struct ScriptedClock : Clock {
+  explicit ScriptedClock(std::vector<std::uint64_t> readings) : Readings(std::move(readings)) {}
+  std::uint64_t NanosecondsSinceMidnight() override { return Readings[Next++ % Readings.size()]; }
+  std::vector<std::uint64_t> Readings;
+  std::size_t Next = 0;
 };
 
 /// Random numbers that are the same in every run.

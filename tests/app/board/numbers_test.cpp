@@ -4,8 +4,8 @@
 #include <numeric>
 #include <set>
 
-#include "app/board/random.h"
 #include "app/board/runtime_error.h"
+#include "support/stand_ins.h"
 
 namespace numorra {
 namespace {
@@ -68,9 +68,7 @@ TEST(Numbers, ConversionsRoundHalvesToEvenAndRaiseOverflow) {
 }
 
 TEST(RandomNumbers, StayBelowOneAndDifferEvenWhenTheClockStandsStill) {
-  struct FrozenClock : Clock {
-    std::uint64_t NanosecondsSinceMidnight() override { return 42; }
-  } frozen;
+  ScriptedClock frozen({42});
   ClockSeededRandom random(frozen);
   std::set<double> numbers;
   for (int i = 0; i < 1000; ++i) {

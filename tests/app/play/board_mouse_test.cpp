@@ -40,7 +40,7 @@ TEST_F(BoardMouseTest, MarksSwapRowsAndColumns) {
   Left(3, 4);
   EXPECT_EQ(At(2, 4) + At(3, 4), "X") << "the earlier mark is wiped";
   Right(2, 4);
-  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(dialogs_.Take(), Messages{kWin});
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   EXPECT_EQ(At(3, 4), "");
   Right(1, 4);
@@ -67,7 +67,7 @@ TEST_F(BoardMouseTest, KeysMarkAndSwapToo) {
   EXPECT_EQ(At(2, 4), "X") << "a remembered cell is no marked row";
   mark(3, 1, MarkedLine::Row);
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
-  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(dialogs_.Take(), Messages{kWin});
   mark(1, 1, MarkedLine::Column);
   mark(2, 3, MarkedLine::Row);
   EXPECT_EQ(At(4, 1), "") << "one mark at a time";

@@ -2,7 +2,6 @@
 
 #include "app/play/moves.h"
 #include "support/play_harness.h"
-#include "support/stand_ins.h"
 
 namespace numorra {
 namespace {
@@ -23,7 +22,7 @@ TEST_F(BoardTextTest, TakesBlocksFromTablesAndTexts) {
                            "\n\n  8 1 6\n 3  5 7\n 4 9  2 \n", "8.0 +1 6\n3 5 7\n4 9 2"}) {
     EXPECT_TRUE(Paste(text)) << text;
     EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2")) << text;
-    EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+    EXPECT_EQ(dialogs_.Take(), Messages{kWin});
     EXPECT_EQ(boxes_.SizeText, "3");
     EXPECT_EQ(boxes_.SumText, "15");
     EXPECT_EQ(board_.SolveMode, ModeVariable);

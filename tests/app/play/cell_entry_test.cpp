@@ -32,7 +32,7 @@ TEST_F(CellEntryTest, TypingBuildsNumbers) {
     Show("1 2 3 / 4 5 6 / 7 8 9");
     board_.grid.SetText(1, 1, c.before);
     Type(c.keys);
-    EXPECT_EQ(Here(), c.after) << c.before << " and " << c.keys;
+    EXPECT_EQ(At(1, 1), c.after) << c.before << " and " << c.keys;
     EXPECT_EQ(At(1, 0), "6") << "typing does not check";
   }
 }
@@ -43,7 +43,7 @@ TEST_F(CellEntryTest, LeavingATypedCellChecksAndAnUntypedDoesNot) {
   Type("2");
   EXPECT_EQ(At(3, 0), "16");
   Go(3, 2);
-  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(dialogs_.Take(), Messages{kWin});
   EXPECT_EQ(At(3, 0), "15");
   EXPECT_EQ(Where(), (std::pair{3, 2}));
   Go(1, 1);
@@ -106,7 +106,7 @@ TEST_F(CellEntryTest, AStepAnnouncesAWinOnceAndNeverMakesTheUntouchedBoard) {
   Go(3, 3);
   Type("1");
   entry_.KeypadPlus();
-  EXPECT_EQ(dialogs_.Take(), std::vector<std::string>{kWin});
+  EXPECT_EQ(dialogs_.Take(), Messages{kWin});
   Show("5 5 5 / 5 6 5 / 5 5 5");
   Go(2, 2);
   entry_.KeypadMinus();
@@ -120,7 +120,7 @@ TEST_F(CellEntryTest, KeysDoNothingBeforeTheFirstCheck) {
   Type("12<");
   entry_.KeypadPlus();
   entry_.PressEnter();
-  EXPECT_EQ(Here(), "1");
+  EXPECT_EQ(At(1, 1), "1");
   EXPECT_EQ(Where(), (std::pair{1, 1}));
 }
 

@@ -6,8 +6,6 @@
 namespace numorra {
 namespace {
 
-using Messages = std::vector<std::string>;
-
 TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   SolveHarness h;
   CellEntry entry(h.TheBoard, h.Speech);
@@ -30,9 +28,11 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   EXPECT_EQ(h.TheBoard.grid.Text(4, 4), "3");
 
   h.TheBoard.SolveMode = ModeNormal;
+  h.TheBoard.CellFlags(2, 2) = 7;
   h.Boxes = PlainBoxes("3", "15");
   BuildManualBoard(h.TheBoard, h.Boxes, h.Speech, h.Stage);
   EXPECT_EQ(ShownRows(h.TheBoard.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
+  EXPECT_EQ(h.TheBoard.CellFlags(2, 2), 0);
   EXPECT_EQ(h.TheBoard.grid.Background(0, 0), ColorTable[kRightTotal]);
   EXPECT_EQ(h.TheBoard.grid.Background(1, 0), ColorTable[kWrongTotal]);
 }
