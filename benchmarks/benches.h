@@ -21,6 +21,9 @@ std::vector<std::string> RegisterWindowBenches();
 /// Registers the generators without a window.
 void RegisterGeneratorBenches();
 
+/// Prints how varied the squares of the variable generator are, by order and base.
+void PrintVariety();
+
 /// Whole processes: what a child measured of itself.
 struct Probe {
   Figure Seconds;    ///< from its start to its first paint

@@ -8,11 +8,10 @@ namespace {
 
 struct Workshop {
   TickingClock Time{7};
-  ClockSeededRandom Dice{Time};
+  ClockSeededRandom TheRandom{Time};
   SilentStage Stage;
-  ListBoy List{Dice};
-  NormalSquare Normal{Dice, Stage};
-  VariableSquare Variable{Dice, Stage, List};
+  NormalSquare Normal{TheRandom, Stage};
+  VariableSquare Variable{TheRandom, Stage};
 };
 
 VariablePlan PlanFor(int order) {
@@ -45,8 +44,7 @@ void BuildVariable(benchmark::State& state, int order) {
 /// what no way of building by patterns can do without.
 void AddPatterns(benchmark::State& state, int order) {
   Workshop shop;
-  shop.Variable.Build(PlanFor(order), {}, 1);
-  const int applications = shop.Variable.PassCount;
+  const int applications = shop.Variable.Build(PlanFor(order), {}, 1).PassCount;
   TurningSquare square(order);
   square.Fill(60);
   Pattern pattern;
@@ -56,7 +54,7 @@ void AddPatterns(benchmark::State& state, int order) {
   }
   for (auto _ : state) {
     for (int i = 0; i < applications; ++i) {
-      const double factor = shop.Dice.Between(-2, 2);
+      const double factor = shop.TheRandom.Between(-2, 2);
       double lowest = 9999;
       for (const FlaggedCell& cell : pattern) {
         lowest = std::min(lowest, square(cell.Row, cell.Column) + factor * cell.Weight);

@@ -62,6 +62,10 @@ double Growth(const Results& results, const char* name) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   if (argc == 3 && std::strcmp(argv[1], "--probe") == 0) return RunProbeChild(argv[2]);
+  if (argc == 2 && std::strcmp(argv[1], "--variety") == 0) {
+    PrintVariety();
+    return 0;
+  }
   const QApplication application(argc, argv);
 
   std::vector<std::string> flags = {argv[0], "--benchmark_repetitions=9",

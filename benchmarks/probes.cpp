@@ -8,7 +8,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 #include "benches.h"
 
 namespace numorra::bench {

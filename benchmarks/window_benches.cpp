@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 #include <QTableWidget>
 
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 #include "benches.h"
 
 namespace numorra::bench {
@@ -101,7 +101,7 @@ class Stand {
 
   Yes yes_;
   PaintCounter counter_;
-  MainWindow window_{{.Boxes = &yes_}};
+  MainWindow window_{{.TheDialogs = &yes_}};
 };
 
 struct Command {

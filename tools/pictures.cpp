@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QMenu>
 
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 
 /// Takes the documents' pictures: drives the real window, offscreen, with a clock of its own, and
 /// saves what it shows.

@@ -2,28 +2,47 @@
 #include <cstdlib>
 
 #include <QApplication>
+#include <QSettings>
 
-#include "app/grid_accessible.h"
-#include "app/main_window.h"
-#include "app/program_icon.h"
+#include "app/window/grid_accessible.h"
+#include "app/window/main_window.h"
+#include "toolkit/program_icon.h"
 
 namespace {
 
-/// Without a display the toolkit would abort; a person deserves one line and an exit status.
+/// What the toolkit complained of before it could start: the reason, should it then give up.
+QString& ReasonAtStart() {
+  static QString reason;
+  return reason;
+}
+
+/// Where the toolkit would abort, a person deserves one line with the reason and an exit status.
 void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type == QtFatalMsg) {
-    std::fputs("numorra: cannot open a window, there is no display to show it on\n", stderr);
+    QString reason = ReasonAtStart().isEmpty() ? message : ReasonAtStart();
+    reason = reason.section('\n', 0, 0).trimmed();
+    std::fprintf(stderr, "numorra: cannot open a window: %s\n", qPrintable(reason));
     std::_Exit(EXIT_FAILURE);
   }
-  if (type != QtDebugMsg && type != QtInfoMsg && !QCoreApplication::startingUp()) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  if (QCoreApplication::startingUp()) {
+    if (ReasonAtStart().isEmpty()) ReasonAtStart() = message;
+  } else {
     std::fprintf(stderr, "numorra: %s\n", qPrintable(message));
   }
+}
+
+/// The toolkit's file dialogs note where they last were in a file of its own in the player's home;
+/// nothing is to be kept that was not asked for, so they are given no place for it.
+void KeepNoSettings() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
+  KeepNoSettings();
   const QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName("org.numorra.Numorra");
   QApplication::setWindowIcon(numorra::ProgramIcon());

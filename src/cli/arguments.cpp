@@ -3,7 +3,7 @@
 #include <charconv>
 #include <utility>
 
-#include "app/board/cell_table.h"
+#include "app/board/orders.h"
 
 namespace numorra {
 
@@ -28,8 +28,6 @@ any total, or 4 x 4 with a top row of your choice.
 )";
 
 namespace {
-
-constexpr int kMinOrder = 3;
 
 template <class Number>
 std::optional<Number> Whole(const std::string& text) {

@@ -7,6 +7,7 @@
 #include "app/board/runtime_error.h"
 #include "cli/arguments.h"
 #include "cli/square_format.h"
+#include "generate/corner_choice.h"
 #include "generate/normal_square.h"
 #include "generate/proposal.h"
 #include "generate/top_row_square.h"
@@ -31,8 +32,7 @@ struct Unsolvable {
 Result BuildTopRow(const TopRow& top, Random& random) {
   const auto found = FindTopRowSquare(top, random, [] {});
   if (!found) throw Unsolvable{"no 4x4 square has this top row"};
-  const char* const remarks[] = {"", "some numbers are repeated", "some numbers are 0"};
-  return {found->Square, 4, found->Total, remarks[static_cast<int>(found->Quality)]};
+  return {found->Square, 4, found->Total, RemarkOn(found->Quality)};
 }
 
 Result BuildNormal(int order, Random& random) {
@@ -41,10 +41,8 @@ Result BuildNormal(int order, Random& random) {
 }
 
 Result BuildVariable(const SquareRequest& request, Random& random) {
-  constexpr int kTries = 10;
   SilentStage stage;
-  ListBoy order(random);
-  VariableSquare generator(random, stage, order);
+  VariableSquare generator(random, stage);
   const double sum = request.Sum.value_or(static_cast<int>(MagicConstant(request.Size)));
   const VariablePlan plan =
       PlanVariableSquare(request.Size, sum, request.LimitToNine, request.Corner.has_value());
@@ -54,7 +52,7 @@ Result BuildVariable(const SquareRequest& request, Random& random) {
     if (build.Status == SolveStatus::CellValueTooSmall) throw Unsolvable{"Cell value too small"};
     std::string remark;
     if (request.Corner && build.Square(1, 1) != *request.Corner) {
-      remark = "the corner is out of reach with this size and sum";
+      remark = CornerOutOfReach(*request.Corner);
     }
     if (request.Sum && build.Total != sum) {
       if (!remark.empty()) remark += "; ";
@@ -62,7 +60,7 @@ Result BuildVariable(const SquareRequest& request, Random& random) {
     }
     return {build.Square, request.Size, build.Total, remark};
   }
-  throw Unsolvable{"Could not solve in 10 tries"};
+  throw Unsolvable{"Could not solve in " + std::to_string(kTries) + " tries"};
 }
 
 Result BuildSquare(const SquareRequest& request) {

@@ -9,12 +9,25 @@ namespace {
 constexpr int kMostCandidates = 100;
 constexpr int kLargestSizeWithout = 4;
 
+/// The smallest of 1, 2, 5, 10, 20, 50, ... that takes no more than kMostCandidates steps to
+/// `highest`.
+int RoundStep(int highest) {
+  int step = 1;
+  for (int times = 0; highest / step > kMostCandidates; ++times)
+    step = times % 3 == 1 ? step / 2 * 5 : step * 2;
+  return step;
+}
+
 void AddCandidate(ListBoy& candidates, int value) {
   candidates.Additem(Decimal(value));
   candidates.SetItemData(candidates.ListCount() - 1, value);
 }
 
 }  // namespace
+
+std::string CornerOutOfReach(double corner) {
+  return "corner value " + Decimal(corner) + " is out of reach for this size and sum";
+}
 
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice) {
   choice.AddItem(kAnyCorner);  // first, so that it is there whatever the boxes say
@@ -27,8 +40,9 @@ void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox
     if (plan.Sum != sum) boxes.SetSum(Decimal(plan.Sum));
     if (plan.GridSize > kLargestSizeWithout) {
       const int highest = 2 * plan.BaseValue - 1;
-      const int step = (highest + kMostCandidates - 1) / kMostCandidates;
-      for (int value = 1; value <= highest; value += step)
+      const int step = RoundStep(highest);
+      if (step > 1) AddCandidate(candidates, 1);
+      for (int value = step; value <= highest; value += step)
         AddCandidate(candidates, value);
       if (candidates.FindItemData(plan.BaseValue, false, 0) == -1) {
         AddCandidate(candidates, plan.BaseValue);

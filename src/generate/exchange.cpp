@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-
-#include "app/board/numbers.h"
+#include <cstdlib>
+#include <numeric>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace numorra {
 namespace {
@@ -23,98 +26,157 @@ int RandomLine(Random& random, int n, Suits suits) {
   return 0;
 }
 
-bool AddRectangle(Spreading& spreading, int row, int column, int weight) {
-  const int n = spreading.BoardValues.Order();
+/// Adds a rectangle through the cell to the pattern; false where there is none.
+bool AddRectangle(PatternedSquare& square, Pattern& pattern, int row, int column, int weight) {
+  const int n = square.Order();
   const auto offDiagonals = [n](int r, int c) { return r != c && r + c != n + 1; };
   int y = 0;
-  const int x = RandomLine(spreading.Dice(), n, [&](int across) {
+  const int x = RandomLine(square.TheRandom(), n, [&](int across) {
     if (across == column || !offDiagonals(row, across)) return false;
-    y = RandomLine(spreading.Dice(), n, [&](int down) {
+    y = RandomLine(square.TheRandom(), n, [&](int down) {
       return down != row && offDiagonals(down, column) && offDiagonals(down, across);
     });
     return y != 0;
   });
   if (x == 0) return false;
-  spreading.CellFlags.Add(row, column, weight);
-  spreading.CellFlags.Add(y, x, weight);
-  spreading.CellFlags.Add(row, x, -weight);
-  spreading.CellFlags.Add(y, column, -weight);
+  pattern.Add(row, column, weight);
+  pattern.Add(y, x, weight);
+  pattern.Add(row, x, -weight);
+  pattern.Add(y, column, -weight);
   return true;
 }
 
 /// Puts the diagonal through (row, column) right: a rectangle with -1 at another of its cells,
 /// given by columnOf(row), but neither the centre nor (1, 1).
 template <class ColumnOf>
-bool Compensate(Spreading& spreading, int row, ColumnOf columnOf) {
-  const int n = spreading.BoardValues.Order();
-  const int other = RandomLine(spreading.Dice(), n, [&](int line) {
+bool Compensate(PatternedSquare& square, Pattern& pattern, int row, ColumnOf columnOf) {
+  const int n = square.Order();
+  const int other = RandomLine(square.TheRandom(), n, [&](int line) {
     const bool centre = 2 * line == n + 1;
     const bool first = line == 1 && columnOf(line) == 1;
     return line != row && !centre && !first;
   });
-  return other != 0 && AddRectangle(spreading, other, columnOf(other), -1);
+  return other != 0 && AddRectangle(square, pattern, other, columnOf(other), -1);
 }
 
-double ValueOf(const Spreading& spreading, const FlaggedCell& cell) {
-  return spreading.BoardValues(cell.Row, cell.Column);
-}
-
-/// Whole numbers 1..count in random order, through the work list: the lines in the order of their
-/// random item data.
-void ShuffleLines(Spreading& spreading, ListBoy& order, int count) {
-  constexpr double kSpread = 1e6;
-  order.Clear();
-  for (int line = 1; line <= count; ++line) {
-    order.Additem(Decimal(line));
-    order.SetItemData(line - 1, Int(spreading.Dice().Next() * kSpread));
+Pattern RectanglesAt(PatternedSquare& square, int row, int column) {
+  const int n = square.Order();
+  Pattern pattern;
+  bool built = AddRectangle(square, pattern, row, column, 1);
+  if (row == column) {
+    built = built && Compensate(square, pattern, row, [](int i) { return i; });
   }
-  order.SortItemDataAscending();
+  if (row + column == n + 1) {
+    built = built && Compensate(square, pattern, row, [n](int i) { return n + 1 - i; });
+  }
+  return built ? pattern : Pattern();
 }
 
-int LineAt(const ListBoy& order, int place) {
-  return ToInt16(Val(order.list(place, 0).value_or("")));
+/// All patterns of -1, 0 and 1 of order 4. Seven cells are free; the others follow from the lines.
+std::vector<Pattern> FindPatternsOfOrder4() {
+  constexpr int kChoices = 3 * 3 * 3 * 3 * 3 * 3 * 3;
+  std::vector<Pattern> patterns;
+  for (int choice = 0; choice < kChoices; ++choice) {
+    int left = choice;
+    const auto next = [&left] { return std::exchange(left, left / 3) % 3 - 1; };
+    int a[4][4] = {};
+    for (int column = 0; column < 3; ++column)
+      a[0][column] = next();
+    a[0][3] = -a[0][0] - a[0][1] - a[0][2];
+    a[3][0] = next();
+    a[3][3] = -a[3][0] + a[0][1] + a[0][2];  // the corners add up to minus the edge between
+    a[3][1] = next();
+    a[3][2] = -a[3][0] - a[3][1] - a[3][3];
+    a[1][1] = next();
+    a[2][1] = -a[0][1] - a[1][1] - a[3][1];
+    a[2][2] = -a[0][0] - a[1][1] - a[3][3];
+    a[1][2] = -a[0][2] - a[2][2] - a[3][2];
+    a[1][0] = next();
+    a[2][0] = -a[0][0] - a[1][0] - a[3][0];
+    a[1][3] = -a[1][0] - a[1][1] - a[1][2];
+    a[2][3] = -a[2][0] - a[2][1] - a[2][2];
+    Pattern pattern;
+    bool small = true;
+    for (int row = 0; row < 4; ++row) {
+      for (int column = 0; column < 4; ++column) {
+        small = small && std::abs(a[row][column]) <= 1;
+        if (a[row][column] != 0) pattern.Add(row + 1, column + 1, a[row][column]);
+      }
+    }
+    if (small && pattern.begin() != pattern.end()) patterns.push_back(pattern);
+  }
+  return patterns;
+}
+
+/// The weight that a pattern gives a cell.
+int WeightAt(const Pattern& pattern, int row, int column) {
+  for (const FlaggedCell& cell : pattern) {
+    if (cell.Row == row && cell.Column == column) return cell.Weight;
+  }
+  return 0;
+}
+
+Pattern PatternOfOrder4At(Random& random, int row, int column) {
+  static const std::vector<Pattern> patterns = FindPatternsOfOrder4();
+  const bool corner = row == 1 && column == 1;
+  const auto count = static_cast<int>(patterns.size());
+  const int found = RandomLine(random, count, [&](int place) {
+    const Pattern& pattern = patterns[static_cast<std::size_t>(place - 1)];
+    return WeightAt(pattern, row, column) == 1 && (corner || WeightAt(pattern, 1, 1) == 0);
+  });
+  return found == 0 ? Pattern() : patterns[static_cast<std::size_t>(found - 1)];
+}
+
+/// A random factor of the range other than 0, where there is one.
+int AnyButZero(const FactorRange& range, Random& random) {
+  if (range.Low == range.High) return 0;
+  const int factor = random.Between(range.Low, range.High - 1);
+  return factor < 0 ? factor : factor + 1;
+}
+
+/// The numbers 1..count in random order.
+std::vector<int> ShuffledLines(Random& random, int count) {
+  std::vector<int> lines(static_cast<std::size_t>(count));
+  std::iota(lines.begin(), lines.end(), 1);
+  Shuffle(std::span(lines), random);
+  return lines;
 }
 
 /// Moves a cell to `wanted` by one exchange where one is found that can go all the way, otherwise
 /// by as many as it takes.
-void MoveCell(Spreading& spreading, int row, int column, double wanted) {
+void MoveCell(PatternedSquare& square, int row, int column, double wanted) {
   constexpr int kDraws = 100;
   constexpr int kDrawsForAllTheWay = 50;
   for (int draw = 0; draw < kDraws; ++draw) {
-    const double way = wanted - spreading.BoardValues(row, column);
-    if (way == 0 || !BuildExchange(spreading, row, column)) return;
-    const FactorRange range = ExchangeRange(spreading);
+    const double way = wanted - square(row, column);
+    if (way == 0) return;
+    const Pattern pattern = ExchangeAt(square, row, column);
+    const FactorRange range = ExchangeRange(square, pattern);
     const double factor = std::clamp<double>(way, range.Low, range.High);
     if (factor == way || draw >= kDrawsForAllTheWay) {
-      spreading.ApplyPattern(static_cast<int>(factor));
+      square.Apply(pattern, static_cast<int>(factor));
     }
   }
 }
 
 }  // namespace
 
-bool BuildExchange(Spreading& spreading, int row, int column) {
-  const int n = spreading.BoardValues.Order();
-  spreading.ClearCellFlags();
-  bool built = AddRectangle(spreading, row, column, 1);
-  if (row == column) built = built && Compensate(spreading, row, [](int i) { return i; });
-  if (row + column == n + 1) {
-    built = built && Compensate(spreading, row, [n](int i) { return n + 1 - i; });
-  }
-  if (!built) spreading.ClearCellFlags();
-  return built;
+Pattern ExchangeAt(PatternedSquare& square, int row, int column) {
+  return square.Order() == 4 ? PatternOfOrder4At(square.TheRandom(), row, column)
+                             : RectanglesAt(square, row, column);
 }
 
-FactorRange ExchangeRange(const Spreading& spreading) {
+FactorRange ExchangeRange(const PatternedSquare& square, const Pattern& pattern) {
   double low = -32768;
   double high = 32767;
-  for (const FlaggedCell& cell : spreading.CellFlags) {
+  for (const FlaggedCell& cell : pattern) {
     if (cell.Weight == 0) continue;
-    const double toLowest = (kLowest - ValueOf(spreading, cell)) / cell.Weight;
+    const double value = square(cell.Row, cell.Column);
+    const double toLowest = (kLowest - value) / cell.Weight;
     (cell.Weight > 0 ? low : high) =
         cell.Weight > 0 ? std::max(low, toLowest) : std::min(high, toLowest);
-    if (!spreading.LimitToNine) continue;
-    const double toHighest = (kHighestLimited - ValueOf(spreading, cell)) / cell.Weight;
+    if (!square.LimitToNine()) continue;
+    const double toHighest = (kHighestLimited - value) / cell.Weight;
     (cell.Weight > 0 ? high : low) =
         cell.Weight > 0 ? std::min(high, toHighest) : std::max(low, toHighest);
   }
@@ -122,55 +184,52 @@ FactorRange ExchangeRange(const Spreading& spreading) {
           static_cast<int>(std::max(0.0, std::floor(high)))};
 }
 
-void VaryCell(Spreading& spreading, int row, int column) {
-  if (!BuildExchange(spreading, row, column)) return;
-  const FactorRange range = ExchangeRange(spreading);
+void VaryCell(PatternedSquare& square, int row, int column) {
+  const Pattern pattern = ExchangeAt(square, row, column);
+  if (pattern.begin() == pattern.end()) return;
+  const FactorRange range = ExchangeRange(square, pattern);
   const double eighth = (range.High - range.Low) / 8.0;
   const int low = static_cast<int>(std::ceil(range.Low + eighth));
   const int high = static_cast<int>(std::floor(range.High - eighth));
-  spreading.ApplyPattern(low < high ? spreading.Dice().Between(low, high) : 0);
+  square.Apply(pattern, low < high ? square.TheRandom().Between(low, high)
+                                   : AnyButZero(range, square.TheRandom()));
 }
 
-void OddSizePass(Spreading& spreading, ListBoy& order) {
-  const int n = spreading.BoardValues.Order();
+void OddSizePass(PatternedSquare& square) {
+  const int n = square.Order();
   const int middle = (n + 1) / 2;
-  ShuffleLines(spreading, order, n);
-  for (int place = 0; place < n; ++place) {
-    const int line = LineAt(order, place);
-    VaryCell(spreading, middle, line);
-    VaryCell(spreading, line, middle);
+  for (const int line : ShuffledLines(square.TheRandom(), n)) {
+    VaryCell(square, middle, line);
+    VaryCell(square, line, middle);
   }
 }
 
-void ThirdCornerPass(Spreading& spreading, ListBoy& order) {
-  const int n = spreading.BoardValues.Order();
-  ShuffleLines(spreading, order, n);
-  for (int place = 0; place < n; ++place) {
-    const int row = LineAt(order, place);
+void ThirdCornerPass(PatternedSquare& square, bool keepCorner) {
+  const int n = square.Order();
+  for (const int row : ShuffledLines(square.TheRandom(), n)) {
     for (int column = 1; column <= n; ++column) {
-      if (row != 1 || column != 1) VaryCell(spreading, row, column);
+      if (!keepCorner || row != 1 || column != 1) VaryCell(square, row, column);
     }
   }
 }
 
-void SeedCorner(Spreading& spreading, double base, double corner) {
+void SeedCorner(PatternedSquare& square, double base, double corner) {
   constexpr int kAttempts = 20;  // one in thousands fails at order 5, where cells are few
   constexpr double kTooLowToSpread = 3;
-  TurningSquare& square = spreading.BoardValues;
   const int n = square.Order();
   const double low = std::min(base, kTooLowToSpread);
   bool seeded = false;
   for (int attempt = 0; !seeded && attempt < kAttempts; ++attempt) {
-    square.Fill(base);
-    MoveCell(spreading, 1, 1, corner);
-    if (corner > kTooLowToSpread) MoveCell(spreading, n, n, low);
-    MoveCell(spreading, 1, n, low);
+    square.Square().Fill(base);
+    MoveCell(square, 1, 1, corner);
+    if (corner > kTooLowToSpread) MoveCell(square, n, n, low);
+    MoveCell(square, 1, n, low);
     seeded = square(1, 1) == corner && std::min(corner, square(n, n)) <= kTooLowToSpread &&
              square(1, n) == low;
   }
   const int turnsToCome = n / 2 - 1;
   for (int turn = 0; (turn + turnsToCome) % 4 != 0; ++turn)
-    square.RotateBoard90();
+    square.Square().RotateBoard90();
 }
 
 }  // namespace numorra

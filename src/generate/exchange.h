@@ -1,7 +1,6 @@
 #pragma once
 
-#include "generate/spreading.h"
-#include "listbox/list_boy.h"
+#include "generate/patterned_square.h"
 
 namespace numorra {
 
@@ -11,6 +10,13 @@ namespace numorra {
 /// keep their totals. With its other three corners off both diagonals it changes a diagonal only
 /// when (r, c) lies on one; then a second rectangle with the other sign, at another cell of that
 /// diagonal, puts it right.
+///
+/// A square of order 4 is too small for that on its diagonals. Its exchanges are taken from the
+/// list of all zero-sum patterns of -1, 0 and 1, found once by trying them.
+
+/// A random pattern that adds 1 to the cell (row, column). Never touches (1, 1) but when asked for
+/// it, at order 4 where that can be. Empty where no such pattern exists: below order 4.
+Pattern ExchangeAt(PatternedSquare& square, int row, int column);
 
 /// A range of whole numbers, Low <= 0 <= High.
 struct FactorRange {
@@ -18,31 +24,27 @@ struct FactorRange {
   int High;
 };
 
-/// Writes into CellFlags a pattern that adds 1 to the cell (row, column). Never touches (1, 1) but
-/// when asked for it. False, with CellFlags cleared, where no such pattern exists: on the diagonals
-/// of orders below 5.
-bool BuildExchange(Spreading& spreading, int row, int column);
-
-/// The multipliers that leave every flagged cell at 1 or more, and at 9 or less under the limit;
+/// The factors that leave every cell of the pattern at 1 or more, and at 9 or less under the limit;
 /// the cells are such before.
-FactorRange ExchangeRange(const Spreading& spreading);
+FactorRange ExchangeRange(const PatternedSquare& square, const Pattern& pattern);
 
-/// Changes the cell by an exchange with a random multiplier from the middle three quarters of its
-/// range. The full range would drive cells to 1 and starve later passes; the middle half leaves a
-/// quarter of the boards with half of their values repeated, three quarters one in two hundred.
-void VaryCell(Spreading& spreading, int row, int column);
+/// Changes the cell by an exchange with a random factor from the middle three quarters of its
+/// range: the full range would drive cells to 1 and starve later passes, the middle half leaves a
+/// quarter of the boards with half of their values repeated. Of a range so small that nothing would
+/// be left of it, any factor but 0 is taken.
+void VaryCell(PatternedSquare& square, int row, int column);
 
 /// Varies the middle row and the middle column of an odd order, line by line in random order; the
-/// passes of Spreading alone never change the centre. `order` is the work list for the order.
-void OddSizePass(Spreading& spreading, ListBoy& order);
+/// spreading passes alone never change the centre.
+void OddSizePass(PatternedSquare& square);
 
-/// Varies every cell but (1, 1), row by row in random order.
-void ThirdCornerPass(Spreading& spreading, ListBoy& order);
+/// Varies every cell, row by row in random order; with a corner to keep, every cell but (1, 1).
+void ThirdCornerPass(PatternedSquare& square, bool keepCorner);
 
 /// Prepares a flat square of `base` so that SpreadCornerDiagonals ends with `corner` at (1, 1):
 /// moves the corner there by exchanges, lowers the corners beside and opposite to 3 or less, so
-/// that every multiplier of that pass is 0, and turns the square so that the pass's quarter turns
-/// bring the corner home. A corner out of reach is approached as far as the other cells allow.
-void SeedCorner(Spreading& spreading, double base, double corner);
+/// that every factor of that pass is 0, and turns the square so that the pass's quarter turns bring
+/// the corner home. A corner out of reach is approached as far as the other cells allow.
+void SeedCorner(PatternedSquare& square, double base, double corner);
 
 }  // namespace numorra

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <numeric>
 #include <span>
-#include <utility>
 
 namespace numorra {
 namespace {
@@ -32,13 +31,6 @@ bool MeetsDiagonalsOnce(std::span<const int> column) {
     if (column[static_cast<std::size_t>(i)] == n - 1 - i) ++rising;
   }
   return falling == 1 && rising == 1;
-}
-
-void Shuffle(std::span<int> numbers, Random& random) {
-  for (std::size_t i = numbers.size() - 1; i > 0; --i) {
-    std::swap(numbers[i],
-              numbers[static_cast<std::size_t>(random.Between(0, static_cast<int>(i)))]);
-  }
 }
 
 }  // namespace

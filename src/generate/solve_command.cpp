@@ -3,29 +3,30 @@
 #include <string>
 
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 #include "app/board/totals_check.h"
+#include "generate/corner_choice.h"
+#include "generate/spreading.h"
 
 namespace numorra {
 namespace {
 
-constexpr int kTries = 10;
 constexpr int kLargestQuickSize = 20;
 constexpr int kLowestGoodBase = 4;
-constexpr const char* kTooSmall = "grid size should be 3x3 or bigger";
-constexpr const char* kTooLarge = "grid size should be 50x50 or smaller";
 
 }  // namespace
 
 SolveCommand::SolveCommand(const SolvePorts& ports)
     : ports_(ports),
-      normal_(ports.Dice, ports.Stage),
-      variable_(ports.Dice, ports.Stage, ports.List3) {}
+      normal_(ports.TheRandom, ports.Stage),
+      variable_(ports.TheRandom, ports.Stage) {}
 
 void SolveCommand::Auto() {
-  ports_.TheBoard.SetOverlay(OverlayKind::None);
+  ports_.TheBoard.SetOverlayShown(false);
+  ports_.Stage.ShowCount("");
   if (ports_.TheBoard.SolveMode == ModeNormal) {
     if (Val(ports_.Boxes.Size()) >= kMaxOrder + 1) {
-      ports_.Speech.Tell(kTooLarge);
+      ports_.TheDialogs.Tell(kOrderTooLarge);
     } else {
       BuildNormalSquare();
     }
@@ -64,8 +65,8 @@ bool SolveCommand::TenTries() {
   Grid& grid = ports_.TheBoard.grid;
   const bool visible = grid.Visible();
   grid.SetVisible(false);
-  const bool enough = !ports_.Speech.Ask("Could not solve in" + std::to_string(tries - 1) +
-                                         " tries\ngive another 10 tries?");
+  const bool enough = !ports_.TheDialogs.Ask("Could not solve in" + std::to_string(tries - 1) +
+                                             " tries\ngive another 10 tries?");
   grid.SetVisible(visible);
   return enough;
 }
@@ -74,26 +75,21 @@ bool SolveCommand::TenTries() {
 bool SolveCommand::ReadPlan() {
   ports_.List2.Clear();
   ports_.List3.Clear();
-  ports_.Stage.ShowCount("");
   const double size = Val(ports_.Boxes.Size());
   const double sum = Val(ports_.Boxes.Sum());
   if (ToInt16(size) < 1) {
-    ports_.Speech.Tell(kTooSmall);
+    ports_.TheDialogs.Tell(kOrderTooSmall);
     return false;
   }
   const VariablePlan plan = PlanVariableSquare(size, sum, ports_.Options.LimitToNine(),
                                                ports_.Options.Corner().has_value());
   if (plan.Sum != sum) ports_.Boxes.SetSum(Decimal(plan.Sum));
-  if (plan.GridSize < 3) {
-    ports_.Speech.Tell(kTooSmall);
-    return false;
-  }
-  if (plan.GridSize > kMaxOrder) {
-    ports_.Speech.Tell(kTooLarge);
+  if (const char* why = WhyNoBoardHas(plan.GridSize)) {
+    ports_.TheDialogs.Tell(why);
     return false;
   }
   if (plan.GridSize > kLargestQuickSize &&
-      !ports_.Speech.Ask("solution may take some time - continue?")) {
+      !ports_.TheDialogs.Ask("solution may take some time - continue?")) {
     return false;
   }
   lastPlan_ = plan;
@@ -118,17 +114,21 @@ SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
   const bool size3 = lastPlan_->GridSize == 3;
   if (corner && !size3) ports_.Options.UncheckLimit();
   if (build.Status == SolveStatus::CellValueTooSmall) {
-    ports_.Speech.Tell("Cell value too small");
+    ports_.TheDialogs.Tell("Cell value too small");
     return build.Status;
   }
-  if (build.LeftFlat) ports_.Speech.Tell("cannot create matrix");
+  if (build.LeftFlat) ports_.TheDialogs.Tell("cannot create matrix");
+  passCount_ = build.PassCount;
   const bool built = build.Status == SolveStatus::Built;
   if (built || showFailed) Show(build);
   if (built && lastPlan_->BaseValue < kLowestGoodBase) {
-    ports_.Speech.Tell("result may not look good\ntotal sum for this grid is too small");
+    ports_.TheDialogs.Tell("result may not look good\ntotal sum for this grid is too small");
   }
-  if (size3 && Val(ports_.Boxes.Sum()) != build.Total) {
-    ports_.Speech.Tell("Size 3 grid can be solved only for sums divisible by 3");
+  if (size3 && lastPlan_->Sum != build.Total) {
+    ports_.TheDialogs.Tell("Size 3 grid can be solved only for sums divisible by 3");
+  }
+  if (built && corner && build.Square(1, 1) != *corner) {
+    ports_.TheDialogs.Tell(CornerOutOfReach(*corner));
   }
   return build.Status;
 }
@@ -139,30 +139,31 @@ void SolveCommand::Show(const VariableBuild& build) {
   board.TotalsChecked = false;
   board.ShowSquare(lastPlan_->GridSize, build.Total, build.Square);
   ForEachCell(board.GridSize, [&](int r, int c) { board.CellFlags(r, c) = 0; });
-  for (const FlaggedCell& cell : build.LastFlags) {
+  for (const FlaggedCell& cell : build.LastPattern) {
     board.CellFlags(cell.Row, cell.Column) = cell.Weight;
   }
 }
 
-void SolveCommand::SpreadCornerDiagonals() {
-  Spread(&Spreading::SpreadCornerDiagonals);
+void SolveCommand::VaryCornerDiagonals() {
+  Spread(SpreadCornerDiagonals);
 }
 
-void SolveCommand::SpreadCornerEdges() {
-  Spread(&Spreading::SpreadCornerEdges);
+void SolveCommand::VaryCornerEdges() {
+  Spread(SpreadCornerEdges);
 }
 
-void SolveCommand::Spread(void (Spreading::*pass)()) {
+void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   Board& board = ports_.TheBoard;
   if (!board.Shown()) return;
   const BusyPointer busy(ports_.Stage);
-  ports_.Dice.Reseed();
-  board.TakeTypedCell();
-  Spreading spreading(TurningSquare(board.BoardValues, board.GridSize),
-                      lastPlan_ && lastPlan_->LimitToNine, variable_.PassCount, ports_.Dice,
-                      ports_.Stage);
-  (spreading.*pass)();
-  board.BoardValues = spreading.BoardValues.Settled();
+  ports_.TheRandom.Reseed();
+  board.ReadGrid();
+  PatternedSquare square(TurningSquare(board.BoardValues, board.GridSize),
+                         lastPlan_ && lastPlan_->LimitToNine, passCount_, ports_.TheRandom,
+                         ports_.Stage);
+  pass(square);
+  passCount_ = square.PassCount();
+  board.BoardValues = square.Square().Settled();
   board.ShowBoard();
   RefreshTotals(board);
 }

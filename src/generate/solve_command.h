@@ -8,7 +8,9 @@
 #include "app/ports/dialogs.h"
 #include "app/ports/square_boxes.h"
 #include "generate/normal_square.h"
+#include "generate/patterned_square.h"
 #include "generate/variable_square.h"
+#include "listbox/list_boy.h"
 
 namespace numorra {
 
@@ -17,11 +19,11 @@ struct SolvePorts {
   Board& TheBoard;
   SquareBoxes& Boxes;
   BuildOptions& Options;
-  Dialogs& Speech;
+  Dialogs& TheDialogs;
   BuildStage& Stage;
-  Random& Dice;
+  Random& TheRandom;
   ListBoy& List2;  ///< candidate corner values
-  ListBoy& List3;  ///< the order in which lines are varied
+  ListBoy& List3;  ///< a second work list, emptied with the first
 };
 
 /// The commands that build magic squares: "Auto", "Solve Again" and the two corner passes. New
@@ -43,8 +45,8 @@ class SolveCommand {
   bool CanSolveAgain() const { return lastPlan_.has_value(); }
 
   /// Varies the board on the screen by one of the two corner passes.
-  void SpreadCornerDiagonals();
-  void SpreadCornerEdges();
+  void VaryCornerDiagonals();
+  void VaryCornerEdges();
 
  private:
   void BuildNormalSquare();
@@ -52,12 +54,13 @@ class SolveCommand {
   bool ReadPlan();
   SolveStatus BuildVariableSquare(int tries, bool showFailed);
   void Show(const VariableBuild& build);
-  void Spread(void (Spreading::*pass)());
+  void Spread(void (*pass)(PatternedSquare&));
 
   SolvePorts ports_;
   NormalSquare normal_;
   VariableSquare variable_;
   std::optional<VariablePlan> lastPlan_;
+  std::int32_t passCount_ = 0;  ///< patterns added by the last build, and to its square since
 };
 
 }  // namespace numorra

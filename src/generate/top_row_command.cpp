@@ -1,8 +1,7 @@
 #include "generate/top_row_command.h"
 
-#include <algorithm>
-
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 
 namespace numorra {
 namespace {
@@ -11,28 +10,23 @@ constexpr const char* kPrompt = "Top row: four numbers, such as the parts of a d
 constexpr const char* kNotATopRow = "top row should be four whole numbers from 0 to 9999";
 constexpr const char* kNoSquare = "no 4x4 square has this top row";
 
-/// What a player should know about a square that is not of the best kind.
-const char* Remark(TopRowQuality quality) {
-  switch (quality) {
-    case TopRowQuality::AllDifferent:
-      return nullptr;
-    case TopRowQuality::Repeated:
-      return "no 4x4 square of different numbers has this top row\nsome numbers are repeated";
-    case TopRowQuality::WithZeros:
-      return "no 4x4 square of numbers from 1 on has this top row\nsome numbers are 0";
-  }
-  return nullptr;
+/// Why a square is not of the best kind, and what that means.
+std::string Explain(TopRowQuality quality) {
+  const char* const better =
+      quality == TopRowQuality::WithZeros ? "numbers from 1 on" : "different numbers";
+  return std::string("no 4x4 square of ") + better + " has this top row\n" + RemarkOn(quality);
 }
 
 }  // namespace
 
 bool TopRowCommand::Run() {
   std::optional<TopRow> top;
+  std::string text = Last4x4Preset;
   while (!top) {
-    const auto answer = dialogs_.AskText(kPrompt, Last4x4Preset);
+    const auto answer = dialogs_.AskText(kPrompt, text);
     if (!answer) return false;
-    Last4x4Preset = *answer;
-    top = ParseTopRow(*answer);
+    text = *answer;
+    top = ParseTopRow(text);
     if (!top) dialogs_.Tell(kNotATopRow);
   }
   std::optional<TopRowSquare> found;
@@ -44,13 +38,14 @@ bool TopRowCommand::Run() {
     dialogs_.Tell(kNoSquare);
     return false;
   }
+  Last4x4Preset = text;
   board_.SolveMode = ModeVariable;
-  board_.BaseValue = static_cast<std::int16_t>(std::max(2.0, Int(found->Total / 4)));
+  board_.BaseValue = ToInt16(BaseOf(found->Total, 4));
   board_.TotalsChecked = false;
   boxes_.SetSize("4");
   boxes_.SetSum(Decimal(found->Total));
   board_.ShowSquare(4, found->Total, found->Square);
-  if (const char* remark = Remark(found->Quality)) dialogs_.Tell(remark);
+  if (found->Quality != TopRowQuality::AllNew) dialogs_.Tell(Explain(found->Quality));
   return true;
 }
 

@@ -28,7 +28,8 @@ class TopRowCommand {
   BuildStage& stage_;
   Random& random_;
 
-  /// The top row that the next question starts with: a date makes a birthday square.
+  /// The top row of the last square, with which the next question starts: a date makes a birthday
+  /// square.
   std::string Last4x4Preset = "30,9,19,95";
 };
 

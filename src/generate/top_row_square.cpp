@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <numeric>
+#include <string_view>
+#include <vector>
 
 #include "app/board/board.h"
 
@@ -10,6 +13,7 @@ namespace numorra {
 namespace {
 
 constexpr int kHighest = 9999;
+constexpr std::string_view kSeparators = ",/.-";
 constexpr int kSteps = 4096;  // of the search between two yields
 
 /// The search for one quality. Cells are placed in an order in which each is decided as early as
@@ -19,18 +23,18 @@ class Search {
   Search(const TopRow& top, TopRowQuality quality, Random& random,
          const std::function<void()>& yield)
       : lowest_(quality == TopRowQuality::WithZeros ? 0 : 1),
-        different_(quality == TopRowQuality::AllDifferent),
+        different_(quality <= TopRowQuality::Different),
         random_(random),
-        yield_(yield) {
-    for (int i = 0; i < 4; ++i)
+        yield_(yield),
+        sum_(std::accumulate(top.begin(), top.end(), 0)),
+        used_(static_cast<std::size_t>(sum_) + 1) {
+    for (int i = 0; i < 4; ++i) {
       Cell(1, i + 1) = top[static_cast<std::size_t>(i)];
-    sum_ = top[0] + top[1] + top[2] + top[3];
+      if (quality == TopRowQuality::AllNew) used_[static_cast<std::size_t>(Cell(1, i + 1))] = 1;
+    }
   }
 
   std::optional<CellTable> Run() {
-    for (int column = 1; column <= 4; ++column) {
-      if (!Place(1, column, Cell(1, column))) return std::nullopt;
-    }
     if (!PlaceBottomRow()) return std::nullopt;
     CellTable square;
     ForEachCell(4, [&](int r, int c) { square(r, c) = Cell(r, c); });
@@ -108,19 +112,15 @@ class Search {
 
   template <class Next>
   bool With(int row, int column, int value, Next next) {
-    const std::size_t before = placed_;
-    if (Place(row, column, value) && next()) return true;
-    placed_ = before;
-    return false;
-  }
-
-  bool Place(int row, int column, int value) {
     if (value < lowest_) return false;
-    const auto end = values_.begin() + static_cast<std::ptrdiff_t>(placed_);
-    if (different_ && std::find(values_.begin(), end, value) != end) return false;
-    values_[placed_++] = value;
     Cell(row, column) = value;
-    return true;
+    if (!different_) return next();
+    char& used = used_[static_cast<std::size_t>(value)];
+    if (used) return false;
+    used = 1;
+    if (next()) return true;
+    used = 0;
+    return false;
   }
 
   int& Cell(int row, int column) { return cells_[static_cast<std::size_t>(4 * row + column - 5)]; }
@@ -129,14 +129,26 @@ class Search {
   bool different_;
   Random& random_;
   const std::function<void()>& yield_;
-  int sum_ = 0;
+  int sum_;
+  std::vector<char> used_;  ///< by number, up to the sum
   std::array<int, 16> cells_{};
-  std::array<int, 16> values_{};
-  std::size_t placed_ = 0;
   std::uint32_t steps_ = 0;
 };
 
 }  // namespace
+
+const char* RemarkOn(TopRowQuality quality) {
+  switch (quality) {
+    case TopRowQuality::AllNew:
+      return "";
+    case TopRowQuality::Different:
+    case TopRowQuality::Repeated:
+      return "some numbers are repeated";
+    case TopRowQuality::WithZeros:
+      return "some numbers are 0";
+  }
+  return "";
+}
 
 std::optional<TopRow> ParseTopRow(const std::string& text) {
   TopRow top{};
@@ -150,7 +162,7 @@ std::optional<TopRow> ParseTopRow(const std::string& text) {
   };
   for (std::size_t i = 0; i < top.size(); ++i) {
     bool separated = skipBlanks();
-    if (i > 0 && at != end && *at == ',') {
+    if (i > 0 && at != end && kSeparators.find(*at) != std::string_view::npos) {
       ++at;
       separated = true;
       skipBlanks();
@@ -167,8 +179,8 @@ std::optional<TopRow> ParseTopRow(const std::string& text) {
 std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,
                                              const std::function<void()>& yield) {
   const double total = top[0] + top[1] + top[2] + top[3];
-  for (const auto quality :
-       {TopRowQuality::AllDifferent, TopRowQuality::Repeated, TopRowQuality::WithZeros}) {
+  for (const auto quality : {TopRowQuality::AllNew, TopRowQuality::Different,
+                             TopRowQuality::Repeated, TopRowQuality::WithZeros}) {
     random.Reseed();
     if (auto square = Search(top, quality, random, yield).Run()) {
       return TopRowSquare{*square, total, quality};

@@ -10,27 +10,32 @@
 
 namespace numorra {
 
-/// What a 4 x 4 square with a given top row has to do without.
+/// How good a 4 x 4 square with a given top row is, from its twelve free cells; what was asked for
+/// in the top row, zeros and repeated numbers too, counts for nothing.
 enum class TopRowQuality {
-  AllDifferent,  ///< nothing: all cells different and 1 or more
-  Repeated,      ///< some numbers stand more than once
-  WithZeros,     ///< some numbers stand more than once and some may be 0
+  AllNew,     ///< all 1 or more, different from each other and from the top row
+  Different,  ///< all 1 or more and different from each other
+  Repeated,   ///< all 1 or more
+  WithZeros,  ///< some may be 0
 };
+
+/// What a player should know about a square that is not of the best kind; empty for those that are.
+const char* RemarkOn(TopRowQuality quality);
 
 struct TopRowSquare {
   CellTable Square;  ///< rows and columns 1..4
   double Total = 0;
-  TopRowQuality Quality = TopRowQuality::AllDifferent;
+  TopRowQuality Quality = TopRowQuality::AllNew;
 };
 
 using TopRow = std::array<int, 4>;
 
-/// Four whole numbers from 0 to 9999, separated by commas or blanks; nothing when the text is not
-/// that.
+/// Four whole numbers from 0 to 9999, separated as in a date by commas, slashes, points, hyphens or
+/// blanks; nothing when the text is not that.
 std::optional<TopRow> ParseTopRow(const std::string& text);
 
-/// A 4 x 4 magic square with the given top row (the birthday square of a date), the best that there
-/// is. Once the top row is given, four numbers are free:
+/// A 4 x 4 magic square with the given top row (the birthday square of a date), of the best quality
+/// that there is. Once the top row is given, four numbers are free:
 ///
 ///     a  b  c  d      The bottom corners add up to b + c and the cells between them to a + d;
 ///     e  f  g  h      with m, n, f and e chosen every other cell follows from a line.

@@ -3,6 +3,7 @@
 #include "generate/exchange.h"
 #include "generate/remainder.h"
 #include "generate/size3_square.h"
+#include "generate/spreading.h"
 
 namespace numorra {
 
@@ -16,33 +17,32 @@ VariableBuild VariableSquare::Build(const VariablePlan& plan, std::optional<doub
     return build;
   }
   random_.Reseed();
-  order_.Clear();
-  PassCount = 0;
   stage_.ShowCount("");
   TurningSquare flat(order);
   flat.Fill(plan.BaseValue);
-  Spreading spreading(flat, plan.LimitToNine && !corner, PassCount, random_, stage_);
+  PatternedSquare square(flat, plan.LimitToNine && !corner, 0, random_, stage_);
   if (size3) {
-    build.LeftFlat = !BuildSize3Square(spreading.BoardValues, plan.BaseValue, random_);
+    build.LeftFlat = !BuildSize3Square(square.Square(), plan.BaseValue, random_);
   } else if (corner) {
-    BringCorner(spreading, plan.BaseValue, *corner);
+    BringCorner(square, plan.BaseValue, *corner);
   } else {
-    SpreadAll(spreading, tries);
-    if (!SpreadRemainder(spreading.BoardValues, plan)) build.Status = SolveStatus::TryAgain;
+    SpreadAll(square, tries);
+    if (!SpreadRemainder(square.Square(), plan)) build.Status = SolveStatus::TryAgain;
   }
-  build.Square = spreading.BoardValues.Settled();
+  build.Square = square.Square().Settled();
   for (int column = 1; column <= order; ++column)
     build.Total += build.Square(1, column);
-  build.LastFlags = spreading.CellFlags;
+  build.LastPattern = square.LastPattern();
+  build.PassCount = square.PassCount();
   return build;
 }
 
-void VariableSquare::SpreadAll(Spreading& spreading, int tries) {
-  if (!IsEvenSize(spreading.BoardValues.Order())) OddSizePass(spreading, order_);
-  if (tries == 1) ThirdCornerPass(spreading, order_);
-  spreading.SpreadCornerDiagonals();
-  spreading.SpreadCornerEdges();
-  spreading.SpreadRings();
+void VariableSquare::SpreadAll(PatternedSquare& square, int tries) {
+  if (!IsEvenSize(square.Order())) OddSizePass(square);
+  if (tries == 1) ThirdCornerPass(square, false);
+  SpreadCornerDiagonals(square);
+  SpreadCornerEdges(square);
+  SpreadRings(square);
 }
 
 bool VariableSquare::SpreadRemainder(TurningSquare& square, const VariablePlan& plan) {
@@ -51,14 +51,14 @@ bool VariableSquare::SpreadRemainder(TurningSquare& square, const VariablePlan& 
   return SpreadRemainderOdd(square, plan.TotalRemainder, random_);
 }
 
-void VariableSquare::BringCorner(Spreading& spreading, double base, double corner) {
+void VariableSquare::BringCorner(PatternedSquare& square, double base, double corner) {
   constexpr int kMaxRounds = 100;
-  SeedCorner(spreading, base, corner);
+  SeedCorner(square, base, corner);
   int round = 0;
   do {
-    spreading.SpreadCornerDiagonals();
-  } while (++round < kMaxRounds && spreading.BoardValues(1, 1) != corner);
-  ThirdCornerPass(spreading, order_);
+    SpreadCornerDiagonals(square);
+  } while (++round < kMaxRounds && square(1, 1) != corner);
+  ThirdCornerPass(square, true);
 }
 
 }  // namespace numorra

@@ -3,13 +3,19 @@
 #include <cstdint>
 #include <optional>
 
+#include "app/board/cell_table.h"
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
-#include "generate/spreading.h"
+#include "generate/pattern.h"
 #include "generate/variable_plan.h"
-#include "listbox/list_boy.h"
 
 namespace numorra {
+
+class PatternedSquare;
+class TurningSquare;
+
+/// How often a plan is tried before the player is asked about more.
+inline constexpr int kTries = 10;
 
 /// How one build ended.
 enum class SolveStatus {
@@ -21,9 +27,10 @@ enum class SolveStatus {
 struct VariableBuild {
   SolveStatus Status = SolveStatus::Built;
   CellTable Square;
-  double Total = 0;       ///< what every line of the square adds up to
-  bool LeftFlat = false;  ///< a 3 x 3 square of a base too small to be varied
-  Pattern LastFlags;      ///< the pattern added last
+  double Total = 0;            ///< what every line of the square adds up to
+  bool LeftFlat = false;       ///< a 3 x 3 square of a base too small to be varied
+  Pattern LastPattern;         ///< the pattern added last
+  std::int32_t PassCount = 0;  ///< patterns added
 };
 
 /// Magic squares of any total: a flat board is varied by zero-sum patterns (Spreading, exchanges),
@@ -32,24 +39,19 @@ struct VariableBuild {
 /// number of 1 or more.
 class VariableSquare {
  public:
-  VariableSquare(Random& random, BuildStage& stage, ListBoy& order)
-      : random_(random), stage_(stage), order_(order) {}
+  VariableSquare(Random& random, BuildStage& stage) : random_(random), stage_(stage) {}
 
   /// `corner`: the value wanted at the top left, where there is one; the limit then does not apply.
   /// `tries`: 1 for the first of several builds of a plan, which is varied more than later ones.
   VariableBuild Build(const VariablePlan& plan, std::optional<double> corner, int tries);
 
-  /// Pattern applications in the current build, or since it.
-  std::int32_t PassCount = 0;
-
  private:
-  void SpreadAll(Spreading& spreading, int tries);
+  static void SpreadAll(PatternedSquare& square, int tries);
   bool SpreadRemainder(TurningSquare& square, const VariablePlan& plan);
-  void BringCorner(Spreading& spreading, double base, double corner);
+  static void BringCorner(PatternedSquare& square, double base, double corner);
 
   Random& random_;
   BuildStage& stage_;
-  ListBoy& order_;
 };
 
 inline bool IsEvenSize(int order) {

@@ -3,8 +3,8 @@
 #include <QEvent>
 #include <QGridLayout>
 
-#include "app/named.h"
-#include "app/program_icon.h"
+#include "toolkit/named.h"
+#include "toolkit/program_icon.h"
 
 namespace numorra {
 namespace {

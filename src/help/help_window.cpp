@@ -7,12 +7,13 @@
 #include <QHBoxLayout>
 
 #include "help/help_page.h"
+#include "toolkit/twips.h"
 
 namespace numorra {
 namespace {
 
-constexpr int kSideMargin = 4;  // pixels: 120 twips on both sides together
-constexpr qint64 kLargestFile = 4 << 20;
+constexpr int kSideMargin = 60;             // twips: 120 on both sides together
+constexpr qint64 kLargestFile = 256 << 10;  // a longer page would keep the window busy for seconds
 
 }  // namespace
 
@@ -49,7 +50,7 @@ HelpForm::HelpForm(const QString& folder, QWidget* parent)
   setAttribute(Qt::WA_DeleteOnClose);
   wb1->setObjectName("wb1");
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
+  row->setContentsMargins(PixelsOf(kSideMargin), 0, PixelsOf(kSideMargin), 0);
   row->addWidget(wb1);
   resize(760, 640);
 

@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "app/board/numbers.h"
-#include "app/named.h"
 #include "print/sheet.h"
+#include "toolkit/named.h"
 
 namespace numorra {
 
@@ -42,6 +42,11 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
   column->addLayout(buttons);
   resize(640, 480);
 
+  for (QPushButton* button : {PrintGridx, PrintSolx, Closex})
+    button->setAutoDefault(false);  // Enter prints nothing by accident
+  runner_.OnEnd = [this](const std::string&) {
+    if (closing_) QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+  };
   connect(PrintGridx, &QPushButton::clicked, this, [this] { Print(PuzzleSheet, "grid printed"); });
   connect(PrintSolx, &QPushButton::clicked, this,
           [this] { Print(SolutionSheet, "solution printed"); });
@@ -50,16 +55,25 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
 
 void PrintForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  runner_.Run(
-      [this] { Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total()))); });
+  runner_.Run("Preview", [this] {
+    Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total())));
+  });
 }
 
-void PrintForm::Print(Sheet sheet, const char* done) {
-  runner_.Run([this, sheet, done] {
+void PrintForm::Print(Sheet sheet, const char* message) {
+  runner_.Run("Print", [this, sheet, message] {
     if (!printer_.Choose(this)) return;
     printer_.Print(sheet(grid_, Total()));
-    dialogs_.Tell(done);
+    dialogs_.Tell(message);
   });
+}
+
+void PrintForm::done(int result) {
+  if (runner_.Running()) {
+    closing_ = true;
+  } else {
+    QDialog::done(result);
+  }
 }
 
 double PrintForm::Total() const {

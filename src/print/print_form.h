@@ -7,9 +7,9 @@
 #include <QPushButton>
 
 #include "app/board/grid.h"
-#include "app/command_runner.h"
 #include "app/ports/square_boxes.h"
 #include "print/sheet_printer.h"
+#include "toolkit/command_runner.h"
 
 namespace numorra {
 
@@ -26,12 +26,15 @@ class PrintForm : public QDialog {
   QPushButton* const PrintSolx;
   QPushButton* const Closex;
 
+  /// Closes the form; one that is printing, or speaks of it, as soon as that has come to its end.
+  void done(int result) override;
+
  protected:
   void showEvent(QShowEvent* event) override;
 
  private:
   using Sheet = std::string (*)(const Grid&, double);
-  void Print(Sheet sheet, const char* done);
+  void Print(Sheet sheet, const char* message);
   double Total() const;
 
   const Grid& grid_;
@@ -39,6 +42,7 @@ class PrintForm : public QDialog {
   SheetPrinter& printer_;
   Dialogs& dialogs_;
   CommandRunner runner_;
+  bool closing_ = false;
 };
 
 }  // namespace numorra

@@ -1,24 +1,52 @@
 #include "print/sheet_printer.h"
 
-#include <algorithm>
-
-#include <QFile>
-#include <QFileInfo>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
+#include <QSaveFile>
 
 #include "app/board/runtime_error.h"
 
 namespace numorra {
 namespace {
 
-/// A full disk shows only in what is left: a file without its last line.
-bool IsWholePdf(const QString& path) {
-  constexpr qint64 kTrailer = 16;
-  QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QFile::ReadOnly)) return false;
-  file.seek(std::max<qint64>(0, file.size() - kTrailer));
-  return file.read(kTrailer).contains("%%EOF");
+/// Paints the lines from the top of the first page on, on as many pages as they take.
+void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
+  QPainter painter;
+  if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+  QFont font("courier new", 8);
+  font.setStyleHint(QFont::Monospace);
+  font.setFixedPitch(true);
+  painter.setFont(font);
+  const int lineHeight = painter.fontMetrics().lineSpacing();
+  const int pageHeight = painter.viewport().height();
+  int top = 0;
+  for (const QString& line : QString::fromStdString(text).split("\r\n", Qt::KeepEmptyParts)) {
+    if (top + lineHeight > pageHeight && !line.isEmpty()) {
+      if (!device.newPage()) throw RuntimeError(Fault::PrinterError, "cannot go on to a new page");
+      top = 0;
+    }
+    painter.drawText(0, top + painter.fontMetrics().ascent(), line);
+    top += lineHeight;
+  }
+  if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
+}
+
+/// Writes beside the file and renames, so that one that is to be replaced is lost to no full disk.
+void PrintPdf(const QPrinter& device, const std::string& text) {
+  QSaveFile file(device.outputFileName());
+  const auto fail = [&file] {
+    throw RuntimeError(Fault::PrinterError, "cannot write " + file.fileName().toStdString());
+  };
+  if (!file.open(QIODevice::WriteOnly)) fail();
+  {
+    QPdfWriter writer(&file);
+    writer.setPageLayout(device.pageLayout());
+    writer.setResolution(device.resolution());
+    writer.setTitle(device.docName());
+    PaintSheet(writer, text);
+  }
+  if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit()) fail();
 }
 
 }  // namespace
@@ -45,29 +73,10 @@ void PaperPrinter::PrintTo(const QString& pdfFile) {
 
 void PaperPrinter::Print(const std::string& text) {
   QPrinter& device = Device();
-  QPainter painter;
-  if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
-  QFont font("courier new", 8);
-  font.setStyleHint(QFont::Monospace);
-  font.setFixedPitch(true);
-  painter.setFont(font);
-  const int lineHeight = painter.fontMetrics().lineSpacing();
-  const int pageHeight = painter.viewport().height();
-  int top = 0;
-  for (const QString& line : QString::fromStdString(text).split("\r\n", Qt::KeepEmptyParts)) {
-    if (top + lineHeight > pageHeight && !line.isEmpty()) {
-      if (!device.newPage()) throw RuntimeError(Fault::PrinterError, "cannot go on to a new page");
-      top = 0;
-    }
-    painter.drawText(0, top + painter.fontMetrics().ascent(), line);
-    top += lineHeight;
-  }
-  if (!painter.end() || device.printerState() == QPrinter::Error) {
+  if (!device.outputFileName().isEmpty()) return PrintPdf(device, text);
+  PaintSheet(device, text);
+  if (device.printerState() == QPrinter::Error) {
     throw RuntimeError(Fault::PrinterError, "the page could not be finished");
-  }
-  const QString file = device.outputFileName();
-  if (!file.isEmpty() && !IsWholePdf(file)) {
-    throw RuntimeError(Fault::PrinterError, "cannot write " + file.toStdString());
   }
 }
 

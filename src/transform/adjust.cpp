@@ -1,5 +1,6 @@
 #include "transform/adjust.h"
 
+#include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
 
 namespace numorra {
@@ -13,22 +14,25 @@ Adjustment AdjustToTotal(const Board& board, AdjustLine line) {
   const bool onOther = row + column == n + 1;
   if (line == AdjustLine::Diagonal && !onMain && !onOther) return {AdjustOutcome::NotOnDiagonal};
 
-  double sum = 0;
+  DecimalSum missing;
+  missing.Add(board.TargetTotal);
+  missing.Add(Val(grid.Text(row, column)));
   for (int i = 1; i <= n; ++i) {
     switch (line) {
       case AdjustLine::Row:
-        sum += Val(grid.Text(row, i));
+        missing.Subtract(Val(grid.Text(row, i)));
         break;
       case AdjustLine::Column:
-        sum += Val(grid.Text(i, column));
+        missing.Subtract(Val(grid.Text(i, column)));
         break;
       case AdjustLine::Diagonal:
-        sum += Val(grid.Text(i, onOther ? n + 1 - i : i));
+        missing.Subtract(Val(grid.Text(i, onOther ? n + 1 - i : i)));
         break;
     }
   }
-  const double value = board.TargetTotal + Val(grid.Text(row, column)) - sum;
+  const double value = missing.Total();
   if (value < 0) return {AdjustOutcome::BelowZero};
+  if (DigitsOf(Decimal(value)) > kMostCellDigits) return {AdjustOutcome::TooManyDigits};
   return {AdjustOutcome::Possible, value};
 }
 

@@ -51,36 +51,19 @@ void FlipBoardDiagonal2(CellTable& cells, int order) {
   }
 }
 
-void TurnBoard(Board& board, Symmetry symmetry) {
-  const int order = board.GridSize;
-  board.TakeTypedCell();
-  const auto quarterTurns = [&](int count) {
-    for (int turn = 0; turn < count; ++turn)
-      RotateBoard90(board.BoardValues, order);
-  };
-  switch (symmetry) {
-    case Symmetry::FlipVertical:
-      FlipBoardVertical(board.BoardValues, order);
-      break;
-    case Symmetry::FlipHorizontal:
-      FlipBoardHorizontal(board.BoardValues, order);
-      break;
-    case Symmetry::FlipDiagonal1:
-      FlipBoardDiagonal1(board.BoardValues, order);
-      break;
-    case Symmetry::FlipDiagonal2:
-      FlipBoardDiagonal2(board.BoardValues, order);
-      break;
-    case Symmetry::Rotate90:
-      quarterTurns(1);
-      break;
-    case Symmetry::Rotate180:
-      quarterTurns(2);
-      break;
-    case Symmetry::Rotate270:
-      quarterTurns(3);
-      break;
-  }
+void RotateBoard180(CellTable& cells, int order) {
+  RotateBoard90(cells, order);
+  RotateBoard90(cells, order);
+}
+
+void RotateBoard270(CellTable& cells, int order) {
+  RotateBoard180(cells, order);
+  RotateBoard90(cells, order);
+}
+
+void TurnBoard(Board& board, const Symmetry& symmetry) {
+  board.ReadGrid();
+  symmetry.Turn(board.BoardValues, board.GridSize);
   board.ShowBoard();
   RefreshTotals(board);
 }

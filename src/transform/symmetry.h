@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "app/board/board.h"
 
 namespace numorra {
@@ -12,14 +14,10 @@ namespace numorra {
 /// values of the half they walk over, those on the mirror line too, through a 16-bit whole number
 /// (halves to even); the values that come the other way arrive as they were. A value that does not
 /// fit throws Overflow, with the exchanges made so far kept.
-enum class Symmetry {
-  FlipVertical,
-  FlipHorizontal,
-  FlipDiagonal1,
-  FlipDiagonal2,
-  Rotate90,
-  Rotate180,
-  Rotate270,
+struct Symmetry {
+  const char* Name;     ///< of its menu item
+  const char* Caption;  ///< what the item says
+  void (*Turn)(CellTable& cells, int order);
 };
 
 /// (r, c) to (c, n + 1 - r): a clockwise quarter turn.
@@ -37,8 +35,24 @@ void FlipBoardDiagonal1(CellTable& cells, int order);
 /// (r, c) to (c, r): mirrored in the diagonal from top left to bottom right, the transpose.
 void FlipBoardDiagonal2(CellTable& cells, int order);
 
-/// The symmetry as a command: changes BoardValues, shows them, and judges the totals again where a
-/// check had judged them before.
-void TurnBoard(Board& board, Symmetry symmetry);
+/// Two quarter turns, and three.
+void RotateBoard180(CellTable& cells, int order);
+void RotateBoard270(CellTable& cells, int order);
+
+/// The seven that change a square, in the order of the menu.
+inline constexpr std::array kSymmetries = {
+    Symmetry{"flipvx", "Flip vertical", FlipBoardVertical},
+    Symmetry{"fliphx", "Flip horizontal", FlipBoardHorizontal},
+    Symmetry{"flipd1x", "Flip diagonal 1", FlipBoardDiagonal1},
+    Symmetry{"flipd2x", "Flip diagonal 2", FlipBoardDiagonal2},
+    Symmetry{"rot90x", "Rotate 90d", RotateBoard90},
+    Symmetry{"rot180x", "Rotate 180d", RotateBoard180},
+    Symmetry{"rot270x", "Rotate 270d", RotateBoard270},
+};
+
+/// The symmetry as a command: reads the grid, turns what it holds and shows it, and judges the
+/// totals again where a check had judged them before. When a value overflows, the grid is as it
+/// was.
+void TurnBoard(Board& board, const Symmetry& symmetry);
 
 }  // namespace numorra

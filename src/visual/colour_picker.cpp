@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "app/board/numbers.h"
-#include "app/named.h"
+#include "toolkit/named.h"
 
 namespace numorra {
 namespace {
@@ -66,7 +66,10 @@ ColourPicker::ColourPicker(QWidget* parent)
     layout->addWidget(PicRGB[channel], row, 0);
     layout->addWidget(bar, row, 1);
     layout->addWidget(degree, row, 2);
-    connect(bar, &QScrollBar::valueChanged, this, [this, channel] { ChangeBar(channel); });
+    connect(bar, &QScrollBar::valueChanged, this, [this, channel] {
+      ChangeBar(channel);
+      Q_EMIT Changed();
+    });
   }
   layout->setColumnStretch(1, 1);
   auto* bottom = new QHBoxLayout;

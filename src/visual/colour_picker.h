@@ -44,6 +44,11 @@ class ColourPicker : public QGroupBox {
   /// The mixed colour, as the labels have it.
   Colour Picked() const;
 
+ Q_SIGNALS:
+  /// A bar has moved.
+  void Changed();
+
+ public:
   static constexpr int kChannels = 3;  // red, green, blue
   std::array<QScrollBar*, kChannels> const Bars;
   std::array<QLabel*, kChannels> const Degrees;

@@ -2,23 +2,25 @@
 
 #include <QGridLayout>
 
-#include "app/named.h"
+#include "toolkit/named.h"
 
 namespace numorra {
 
 DrawFrame::DrawFrame(QWidget* parent)
-    : QGroupBox("Draw", parent),
-      Command1(Named("Command1", new QPushButton("Cric&les"))),
-      Command2(Named("Command2", new QPushButton("Vec&tors"))),
-      Command4(Named("Command4", new QPushButton("&Clear"))) {
+    : QGroupBox("Draw", parent), Command4(Named("Command4", new QPushButton("&Clear"))) {
+  constexpr int kColumns = 2;
   setObjectName("Frame8");
-  Command1->setToolTip("Draw each number as a circle of its size");
-  Command2->setToolTip("Draw the way from the smallest number to the largest");
   Command4->setToolTip("Show the board again");
   auto* layout = new QGridLayout(this);
-  layout->addWidget(Command1, 0, 0);
-  layout->addWidget(Command2, 0, 1);
-  layout->addWidget(Command4, 1, 0, 1, 2);
+  int place = 0;
+  for (const DrawingKind* kind : kDrawingKinds) {
+    auto* button = Named(kind->Button, new QPushButton(kind->Caption));
+    button->setToolTip(kind->ToolTip);
+    connect(button, &QPushButton::clicked, this, [this, kind] { Q_EMIT Chosen(kind); });
+    layout->addWidget(button, place / kColumns, place % kColumns);
+    ++place;
+  }
+  layout->addWidget(Command4, (place + 1) / kColumns, 0, 1, kColumns);
 }
 
 }  // namespace numorra

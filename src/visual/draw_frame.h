@@ -3,18 +3,21 @@
 #include <QGroupBox>
 #include <QPushButton>
 
+#include "visual/drawing_kind.h"
+
 namespace numorra {
 
-/// The "Draw" frame: two drawings of the board, and the command that takes them away.
+/// The "Draw" frame: a button for every drawing of the board, and the one that takes them away.
 class DrawFrame : public QGroupBox {
   Q_OBJECT
 
  public:
   explicit DrawFrame(QWidget* parent = nullptr);
 
-  QPushButton* const Command1;  ///< "Cricles"
-  QPushButton* const Command2;  ///< "Vectors"
   QPushButton* const Command4;  ///< "Clear"
+
+ Q_SIGNALS:
+  void Chosen(const DrawingKind* kind);
 };
 
 }  // namespace numorra

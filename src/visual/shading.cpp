@@ -52,12 +52,12 @@ Colour ReadableOn(Colour background) {
 
 void FillColours(Board& board, Colour picked) {
   if (!board.HasTotal()) return;
-  board.SetOverlay(OverlayKind::None);
+  board.SetOverlayShown(false);
   const RedrawLock lock(board.grid);
   const Shading shading(board, picked);
   ForEachCell(board.GridSize, [&](int row, int column) {
     const auto colour = shading.Of(Val(board.grid.Text(row, column)));
-    if (colour) board.grid.SetColours(row, column, *colour, ReadableOn(*colour));
+    if (colour) board.grid.Shade(row, column, *colour, ReadableOn(*colour));
   });
 }
 

@@ -40,14 +40,15 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
     double total;
     const char* remark;
   };
-  const Case cases[] = {{"--size 6 --sum 100", 100, ""},
-                        {"--size 50 --sum 32767", 32767, ""},
-                        {"--size 8 --sum 77 --limit-to-9", 40, "numorra-square: the total is 40\n"},
-                        {"--size 7 --corner 3", 175, ""},
-                        {"--size 5 --sum 50 --corner 900", 50,
-                         "numorra-square: the corner is out of reach with this size and sum\n"},
-                        {"--top-row 30,9,19,95", 153, ""},
-                        {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};
+  const Case cases[] = {
+      {"--size 6 --sum 100", 100, ""},
+      {"--size 50 --sum 32767", 32767, ""},
+      {"--size 8 --sum 77 --limit-to-9", 40, "numorra-square: the total is 40\n"},
+      {"--size 7 --corner 3", 175, ""},
+      {"--size 5 --sum 50 --corner 900", 50,
+       "numorra-square: corner value 900 is out of reach for this size and sum\n"},
+      {"--top-row 30,9,19,95", 153, ""},
+      {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};
   for (const Case& c : cases) {
     const Outcome run = RunWith(std::string("--format csv ") + c.line);
     EXPECT_EQ(run.Status, 0) << c.line;
@@ -55,22 +56,24 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
     EXPECT_EQ(slow::WhyNotMagic(ParseRows(run.Out, '\n'), c.total), "") << c.line;
   }
   EXPECT_EQ(RunWith("--size 10 --sum 25").Status, 1);
-  EXPECT_EQ(RunWith("--size 4 --sum 10").Status, 1);
 }
 
 TEST(SquareProgram, RepeatsARunFromItsSeed) {
   std::set<std::string> different;
-  for (const char* seed : {"7", "7", "8", "9", "10"})
-    different.insert(RunWith(std::string("--size 15 --seed ") + seed).Out);
-  EXPECT_GT(different.size(), 1U);
-  EXPECT_LT(different.size(), 5U);
+  for (const char* seed : {"7", "8", "9"}) {
+    const std::string line = std::string("--size 15 --sum 900 --seed ") + seed;
+    const std::string first = RunWith(line).Out;
+    EXPECT_EQ(RunWith(line).Out, first) << "the same seed, the same square";
+    different.insert(first);
+  }
+  EXPECT_EQ(different.size(), 3U) << "other seeds, other squares";
 }
 
 TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
   for (const char* line :
-       {"", "--size", "--size 2", "--size 51", "--size 8x", "--size 99999999999",
-        "--size=", "--size 8 --format xml", "--size 8 --sum 0", "--seed -1 --size 8", "--bogus",
-        "8", "--size 8 --help=x", "--format csv"}) {
+       {"", "--size 9 --limit-to-9 --corner 3", "--size", "--size 2", "--size 51", "--size 8x",
+        "--size 99999999999", "--size=", "--size 8 --format xml", "--size 8 --sum 0",
+        "--seed -1 --size 8", "--bogus", "8", "--size 8 --help=x", "--format csv"}) {
     const Outcome run = RunWith(line);
     EXPECT_EQ(run.Status, 2) << line;
     EXPECT_EQ(run.Out, "") << line;

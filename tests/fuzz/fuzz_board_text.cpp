@@ -1,4 +1,5 @@
 #include "app/play/board_text.h"
+#include "files/square_text.h"
 #include "fuzz/check.h"
 #include "support/stand_ins.h"
 
@@ -10,13 +11,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Board board;
   PlainBoxes boxes;
   const std::string text = TextOf(data, size);
-  const auto block = ParseBlock(text);
-  try {
-    const bool pasted = PasteBoard(board, boxes, dialogs, text);
-    Check(pasted == block.has_value() && dialogs.Take().size() == (pasted ? 0 : 1));
-  } catch (const RuntimeError& error) {
-    Check(block && error.Kind() == Fault::Overflow);
-  }
-  Check(!board.Shown() || ParseBlock(BoardText(board)) == block);
+  const auto read = ReadSquareText(text);
+  const auto* rows = std::get_if<NumberRows>(&read);
+  const bool pasted = PasteBoard(board, boxes, dialogs, text);
+  Check(pasted == (rows != nullptr) && dialogs.Take().size() == (pasted ? 0 : 1));
+  if (!pasted) return 0;
+  const auto again = ReadSquareText(BoardText(board));
+  Check(std::holds_alternative<NumberRows>(again) && std::get<NumberRows>(again) == *rows);
   return 0;
 }

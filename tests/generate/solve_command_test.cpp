@@ -1,10 +1,8 @@
 #include "generate/solve_command.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 #include "generate/corner_choice.h"
-#include "generate/top_row_command.h"
 #include "support/boards.h"
 #include "support/solve_harness.h"
 
@@ -18,6 +16,15 @@ class SolveCommandTest : public testing::Test, protected SolveHarness {
   std::string WhyNotMagicNow(double total) {
     return slow::WhyNotMagic(ShownRows(TheBoard.grid), total);
   }
+
+  /// Draws that vary nothing, so that a remainder finds no cell to take from.
+  void DullAuto(const std::string& size, const std::string& sum) {
+    Boxes = PlainBoxes(size, sum);
+    dull_.Auto();
+  }
+
+  ScriptedRandom halves_{{0.5}};
+  SolveCommand dull_{{TheBoard, Boxes, Options, TheDialogs, Stage, halves_, List2, List3}};
 
   void ExpectSettled() {
     EXPECT_FALSE(Stage.Busy);
@@ -48,7 +55,7 @@ TEST_F(SolveCommandTest, BuildsCorrectsAndTells) {
     Options.Limit = c.limit;
     TheBoard.TotalsChecked = true;
     Auto(c.size, c.sum);
-    EXPECT_EQ(Speech.Take(), c.said) << c.size << "/" << c.sum;
+    EXPECT_EQ(TheDialogs.Take(), c.said) << c.size << "/" << c.sum;
     EXPECT_EQ(WhyNotMagicNow(c.total), "") << c.size << "/" << c.sum;
     EXPECT_EQ(TheBoard.TargetTotal, c.total);
     EXPECT_EQ(Boxes.SumText, c.sumAfter);
@@ -71,7 +78,7 @@ TEST_F(SolveCommandTest, RefusesAndKeepsTheBoard) {
       {"21", "solution may take some time - continue?"}};
   for (const auto& [size, said] : cases) {
     Auto(size, "3000");
-    EXPECT_EQ(Speech.Take(), Messages{said}) << size;
+    EXPECT_EQ(TheDialogs.Take(), Messages{said}) << size;
     EXPECT_EQ(ShownRows(TheBoard.grid), before);
     EXPECT_EQ(std::tuple(TheBoard.GridSize, TheBoard.BaseValue, TheBoard.TargetTotal),
               std::tuple(std::int16_t{4}, std::int16_t{10}, 40.0));
@@ -81,23 +88,23 @@ TEST_F(SolveCommandTest, RefusesAndKeepsTheBoard) {
   Boxes.SumText = "1000000";
   EXPECT_THROW(Commands.Auto(), RuntimeError);
   EXPECT_EQ(ShownRows(TheBoard.grid), before);
-  Speech.Answers = {true};
+  TheDialogs.Answers = {true};
   Auto("21", "3000");
-  Speech.Take();
+  TheDialogs.Take();
   EXPECT_EQ(WhyNotMagicNow(3000), "");
 }
 
 TEST_F(SolveCommandTest, AsksAfterTenTriesAndGoesOnWhenTold) {
   const std::string question = "\ngive another 10 tries?";
   Auto("10", "25");
-  EXPECT_EQ(Speech.Take(),
+  EXPECT_EQ(TheDialogs.Take(),
             (Messages{"Cell value too small", "Could not solve in1 tries" + question}));
   EXPECT_FALSE(TheBoard.Shown()) << "no try helps where the remainder is larger than the cells";
   Auto("4", "40");
   const auto before = ShownRows(TheBoard.grid);
-  Speech.Answers = {true, true, false};
-  Auto("4", "10");
-  EXPECT_EQ(Speech.Take(), Messages(3, "Could not solve in10 tries" + question));
+  TheDialogs.Answers = {true, true, false};
+  DullAuto("4", "10");
+  EXPECT_EQ(TheDialogs.Take(), Messages(3, "Could not solve in10 tries" + question));
   EXPECT_EQ(ShownRows(TheBoard.grid), before) << "the board of before is back";
   EXPECT_TRUE(TheBoard.grid.Visible());
   ExpectSettled();
@@ -114,9 +121,9 @@ TEST_F(SolveCommandTest, SolveAgainFollowsTheLastPlanWhateverTheBoxesSay) {
   EXPECT_EQ(WhyNotMagicNow(100), "");
   Commands.Again();
   EXPECT_EQ(WhyNotMagicNow(100), "") << "the total is not spread twice";
-  Auto("4", "10");
-  Speech.Take();
-  Commands.Again();
+  DullAuto("4", "10");
+  TheDialogs.Take();
+  dull_.Again();
   EXPECT_EQ(WhyNotMagicNow(8), "") << "a failed try stands as it is, without a question";
   EXPECT_EQ(TheBoard.TargetTotal, 8);
 }
@@ -146,16 +153,16 @@ TEST_F(SolveCommandTest, ABuildThatIsCutShortLeavesNoTrace) {
 }
 
 TEST_F(SolveCommandTest, CornerPassesVaryTheBoardOnTheScreen) {
-  Commands.SpreadCornerEdges();
+  Commands.VaryCornerEdges();
   EXPECT_FALSE(TheBoard.Shown());
   Auto("9", "450");
   const auto before = ShownRows(TheBoard.grid);
   const std::string count = Stage.Count;
-  Commands.SpreadCornerDiagonals();
+  Commands.VaryCornerDiagonals();
   const auto once = ShownRows(TheBoard.grid);
   EXPECT_NE(once, before);
   EXPECT_EQ(std::stoi(Stage.Count), std::stoi(count) + 2 * 3) << "the count goes on";
-  Commands.SpreadCornerEdges();
+  Commands.VaryCornerEdges();
   EXPECT_NE(ShownRows(TheBoard.grid), once);
   EXPECT_EQ(WhyNotMagicNow(450), "");
 }
@@ -166,11 +173,10 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
     std::size_t entries;
     const char *second, *last, *sumAfter;
   };
-  const Case cases[] = {{"5", "25", 10, "1", "9", "25"},
-                        {"4", "40", 1, "any", "any", "40"},
-                        {"5", "3", 4, "1", "3", "10"},
-                        {"", "50", 1, "any", "any", "50"},
-                        {"5", "50000", 102, "1", "19801", "50000"}};
+  const Case cases[] = {
+      {"5", "25", 10, "1", "9", "25"},     {"4", "40", 1, "any", "any", "40"},
+      {"5", "3", 4, "1", "3", "10"},       {"", "50", 1, "any", "any", "50"},
+      {"5", "255", 53, "1", "100", "255"}, {"5", "50000", 101, "1", "19800", "50000"}};
   for (const Case& c : cases) {
     PlainListBox choice;
     Boxes.SizeText = c.size;
@@ -192,70 +198,31 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
   EXPECT_EQ(choice.Entries, Messages{"any"});
 }
 
-TEST_F(SolveCommandTest, ATopRowIsAskedForUntilItIsOneAndMadeASquare) {
-  TopRowCommand command(TheBoard, Boxes, Speech, Stage, Dice);
-  Speech.Texts = {"30,9,19", "30,9,19,95"};
-  EXPECT_TRUE(command.Run());
-  EXPECT_EQ(Speech.Take(),
-            (Messages{"Top row: four numbers, such as the parts of a date [30,9,19,95]",
-                      "top row should be four whole numbers from 0 to 9999",
-                      "Top row: four numbers, such as the parts of a date [30,9,19]"}));
-  EXPECT_EQ(WhyNotMagicNow(153), "");
-  EXPECT_EQ(ShownRows(TheBoard.grid)[0], (std::vector<double>{30, 9, 19, 95}));
-  EXPECT_EQ(Boxes.SizeText, "4");
-  EXPECT_EQ(Boxes.SumText, "153");
-  EXPECT_EQ(TheBoard.SolveMode, ModeVariable);
-  EXPECT_FALSE(command.Run()) << "left without an answer";
-  EXPECT_EQ(Speech.Take().size(), 1U);
-  EXPECT_EQ(WhyNotMagicNow(153), "");
-  const std::pair<const char*, std::size_t> remarks[] = {
-      {"1,1,19,70", 1}, {"0,0,0,0", 1}, {"5,0,0,0", 1}, {"31,12,19,99", 0}};
-  for (const auto& [row, count] : remarks) {
-    Speech.Texts = {row};
-    EXPECT_TRUE(command.Run()) << row;
-    EXPECT_EQ(Speech.Take().size(), 1 + count) << row << ": says when it had to step back";
-    EXPECT_EQ(WhyNotMagicNow(TheBoard.TargetTotal), "") << row;
-  }
-}
-
-TEST(TopRows, AreFourNumbersWithCommasOrBlanks) {
-  const TopRow row{30, 9, 19, 95};
-  for (const char* text : {"30,9,19,95", " 30 , 9 ,19, 95 ", "30 9 19 95", "30\t9,19 95"}) {
-    EXPECT_EQ(ParseTopRow(text), row) << text;
-  }
-  for (const char* text : {"", "1,2,3", "1,2,3,4,5", "1,2,3,x", "1,2,3,-4", "1,2,3,10000", "1,,2,3",
-                           "1;2;3;4", "1.5,2,3,4", "1,2,3,99999999999"}) {
-    EXPECT_EQ(ParseTopRow(text), std::nullopt) << text;
-  }
-}
-
-/// Every top row has an answer soon, large numbers and hopeless ones too; nearly all birthdays make
-/// squares of sixteen different numbers.
-TEST(TopRows, AreDecidedSoon) {
-  SeededRandom random(4);
-  int birthdays = 0, allDifferent = 0;
-  for (int time = 0; time < 3000; ++time) {
-    TopRow top{};
-    const bool birthday = time % 3 == 0;
-    for (int& number : top)
-      number = random.Between(0, random.Between(0, 1) ? 9 : 9999);
-    if (birthday) top = {random.Between(1, 31), random.Between(1, 12), 19, random.Between(50, 99)};
-    int yields = 0;
-    const auto found = FindTopRowSquare(top, random, [&] { ASSERT_LT(++yields, 20000); });
-    ASSERT_TRUE(found || !birthday);
-    if (!found) continue;
-    const auto rows = RowsOf(found->Square, 4);
-    ASSERT_EQ(slow::WhyNotMagic(rows, top[0] + top[1] + top[2] + top[3]), "");
-    std::set<double> values;
-    for (const auto& row : rows)
-      values.insert(row.begin(), row.end());
-    const bool best = values.size() == 16 && *values.begin() >= 1;
-    ASSERT_EQ(best, found->Quality == TopRowQuality::AllDifferent);
-    ASSERT_GE(*values.begin(), found->Quality == TopRowQuality::WithZeros ? 0 : 1);
-    birthdays += birthday;
-    allDifferent += birthday && best;
-  }
-  EXPECT_GT(allDifferent, birthdays * 8 / 10);
+/// The sum is that of the plan, whatever the box says since; a corner that is not met is told.
+TEST_F(SolveCommandTest, SpeaksOfThePlanThatWasBuilt) {
+  const Messages notDivisible{"Size 3 grid can be solved only for sums divisible by 3"};
+  Auto("3", "16");
+  EXPECT_EQ(TheDialogs.Take(), notDivisible);
+  Boxes.SumText = "15";
+  Commands.Again();
+  EXPECT_EQ(TheDialogs.Take(), notDivisible);
+  Auto("3", "15");
+  Boxes.SumText = "16";
+  Commands.Again();
+  EXPECT_EQ(TheDialogs.Take(), Messages{});
+  Options.WantedCorner = 7;
+  Auto("6", "60");
+  EXPECT_EQ(TheBoard.grid.Text(1, 1), "7");
+  EXPECT_EQ(TheDialogs.Take(), Messages{});
+  Boxes.SizeText = "3";
+  Options.WantedCorner = 90;
+  const Messages outOfReach{"corner value 90 is out of reach for this size and sum"};
+  Commands.Auto();
+  EXPECT_EQ(TheDialogs.Take(), outOfReach);
+  Auto("6", "60");
+  EXPECT_EQ(TheDialogs.Take(), outOfReach);
+  Commands.Again();
+  EXPECT_EQ(TheDialogs.Take(), outOfReach);
 }
 
 }  // namespace

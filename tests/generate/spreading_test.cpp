@@ -136,46 +136,52 @@ TEST(Spreading, IsThePlainMethodCellForCell) {
         const CellTable start = AnyBoard(order, base, ++seed);
         SeededRandom first(seed), second(seed);
         SilentStage stage;
-        std::int32_t passes = 0;
-        Spreading fast(TurningSquare(start, order), limit, passes, first, stage);
+        PatternedSquare fast(TurningSquare(start, order), limit, 0, first, stage);
         PlainSpreading plain(start, order, limit, second);
-        fast.SpreadCornerDiagonals();
+        SpreadCornerDiagonals(fast);
         plain.CornerDiagonals();
-        fast.SpreadCornerEdges();
+        SpreadCornerEdges(fast);
         plain.CornerEdges();
-        fast.SpreadRings();
+        SpreadRings(fast);
         plain.Rings();
-        ASSERT_EQ(RowsOf(fast.BoardValues.Settled(), order), RowsOf(plain.Values, order))
+        ASSERT_EQ(RowsOf(fast.Square().Settled(), order), RowsOf(plain.Values, order))
             << "order " << order << " base " << base << " limit " << limit;
-        ASSERT_EQ(passes, plain.Passes);
+        ASSERT_EQ(fast.PassCount(), plain.Passes);
       }
     }
   }
 }
 
+/// Every cell of every order has one; none touches (1, 1) but its own, nor asks more than the cells
+/// of a flat board can give, nor less.
 TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
   SeededRandom random(8);
   SilentStage stage;
-  std::int32_t passes = 0;
   for (const int order : {4, 5, 6, 7, 8, 13, 50}) {
-    Spreading spreading(TurningSquare(order), false, passes, random, stage);
-    ForEachCell(order, [&](int r, int c) {
-      const bool diagonal = r == c || r + c == order + 1;
-      for (int time = 0; time < 3; ++time) {
-        ASSERT_EQ(BuildExchange(spreading, r, c), order > 4 || !diagonal) << order << r << c;
+    TurningSquare flat(order);
+    flat.Fill(10);
+    for (const bool limit : {false, true}) {
+      const PatternedSquare start(flat, limit, 0, random, stage);
+      ForEachCell(order, [&](int r, int c) {
+        PatternedSquare square = start;
+        const Pattern pattern = ExchangeAt(square, r, c);
         CellTable sums;
-        for (const auto& cell : spreading.CellFlags) {
+        int highest = 0, lowest = 0;
+        for (const auto& cell : pattern)
           sums(cell.Row, cell.Column) += cell.Weight;
-          if (r != 1 || c != 1) {
-            EXPECT_FALSE(cell.Row == 1 && cell.Column == 1 && cell.Weight != 0);
-          }
-        }
+        ForEachCell(order, [&](int y, int x) {
+          highest = std::max(highest, static_cast<int>(sums(y, x)));
+          lowest = std::min(lowest, static_cast<int>(sums(y, x)));
+        });
         ASSERT_EQ(slow::WhyNotMagic(RowsOf(sums, order), 0), "");
-        if (order > 4) {
-          EXPECT_EQ(sums(r, c), 1);
-        }
-      }
-    });
+        ASSERT_EQ(sums(r, c), 1) << order << " " << r << " " << c;
+        ASSERT_TRUE(sums(1, 1) == 0 || (r == 1 && c == 1));
+        if (limit) return;
+        const FactorRange range = ExchangeRange(square, pattern);
+        ASSERT_EQ(range.Low, -(9 / highest)) << "no cell of 10 below 1";
+        ASSERT_EQ(range.High, 9 / -lowest);
+      });
+    }
   }
 }
 

@@ -1,7 +1,7 @@
 #include "generate/variable_square.h"
 
 #include <gtest/gtest.h>
-#include <set>
+#include <map>
 
 #include "generate/remainder.h"
 #include "generate/size3_square.h"
@@ -12,26 +12,37 @@
 namespace numorra {
 namespace {
 
+/// Every cell takes other numbers than the base, and no number fills the board, at small bases too.
 TEST(VariableSquares, AreVariedAllOver) {
   SeededRandom random(11);
   SilentStage stage;
-  ListBoy list(random);
-  VariableSquare generator(random, stage, list);
-  std::set<double> centres;
-  for (int time = 0; time < 10; ++time) {
-    const CellTable square =
-        generator.Build(PlanVariableSquare(10, 500, false, false), {}, 1).Square;
-    std::set<double> different;
-    int atBase = 0;
-    ForEachCell(10, [&](int r, int c) {
-      different.insert(square(r, c));
-      if (square(r, c) == 50) ++atBase;
+  VariableSquare generator(random, stage);
+  constexpr int kBuilds = 40;
+  struct Case {
+    int order, base, remainder;
+    double mostFrequent, atBase;  // shares that no board, and no cell, may be above
+  };
+  const Case cases[] = {{4, 2, 0, 0.9, 0.95}, {4, 10, 0, 0.5, 0.5},  {5, 3, 1, 0.7, 0.95},
+                        {9, 50, 0, 0.2, 0.3}, {10, 50, 5, 0.2, 0.3}, {20, 2, 0, 0.7, 0.95}};
+  for (const Case& c : cases) {
+    CellTable atBase;
+    const auto plan = PlanVariableSquare(c.order, c.order * c.base + c.remainder, false, false);
+    for (int time = 0; time < kBuilds; ++time) {
+      VariableBuild build;
+      for (int tries = 1; tries == 1 || build.Status != SolveStatus::Built; ++tries)
+        build = generator.Build(plan, {}, tries);
+      std::map<double, int> times;
+      ForEachCell(c.order, [&](int r, int col) {
+        ++times[build.Square(r, col)];
+        atBase(r, col) += build.Square(r, col) == c.base ? 1.0 / kBuilds : 0;
+      });
+      for (const auto& [number, count] : times)
+        EXPECT_LE(count, c.mostFrequent * c.order * c.order) << c.order << "/" << c.base;
+    }
+    ForEachCell(c.order, [&](int r, int col) {
+      EXPECT_LE(atBase(r, col), c.atBase) << c.order << "/" << c.base << " at " << r << col;
     });
-    EXPECT_GT(different.size(), 50U);
-    EXPECT_LT(atBase, 8);  // about two or three are by chance
-    centres.insert(generator.Build(PlanVariableSquare(9, 450, false, false), {}, 1).Square(5, 5));
   }
-  EXPECT_GT(centres.size(), 3U);
 }
 
 TEST(VariablePlan, CorrectsSumsByTheRules) {

@@ -156,7 +156,6 @@ void Monkey::AnswerBox() {
     Below(2) ? input->accept() : input->reject();
   } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
     ++BoxesAnswered;
-    if (box->text() == "Overflow") overflowed_ = true;
     const int answer = Below(6);
     if (answer == 0) QTest::keyClick(box, Qt::Key_Escape);
     if (answer == 1) box->close();
@@ -169,11 +168,8 @@ std::string Monkey::WhyWrong() {
   if (QGuiApplication::overrideCursor()) return "the busy pointer is left over";
   if (!window_.findChild<QPushButton*>("SolveAuto")->isVisibleTo(&window_)) return "Auto is hidden";
   if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return "a box is left open";
-  if (board.Shown() && board.grid.Visible() == board.OverlayShown()) return "nothing is in sight";
-  const std::string why = WhyInvalid(board);
-  if (why.empty()) overflowed_ = false;
-  // A mirror that overflows leaves its exchanges behind the grid until the next check or command.
-  return overflowed_ && why == kDisagreement ? "" : why;
+  if (board.Shown() && board.grid.Visible() == board.OverlayShown) return "nothing is in sight";
+  return WhyInvalid(board);
 }
 
 }  // namespace numorra

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 
 namespace numorra {
 
@@ -73,7 +73,6 @@ class Monkey {
   TickingClock clock_;
   MainWindow window_;
   QTimer answerer_;
-  bool overflowed_ = false;
 };
 
 }  // namespace numorra

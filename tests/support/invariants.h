@@ -4,13 +4,12 @@
 
 #include "app/board/board.h"
 #include "app/board/numbers.h"
-#include "support/slow_checker.h"
+#include "support/paper.h"
 
 namespace numorra {
 
-inline constexpr const char* kDisagreement = "grid and values disagree";
-
-/// What must hold for the board whatever has been done to it: empty, or what does not.
+/// What must hold for the board whatever has been done to it: empty, or what does not. Totals are
+/// added up on paper, from what is shown.
 inline std::string WhyInvalid(const Board& board) {
   const Grid& grid = board.grid;
   if (grid.RedrawLocked()) return "the redraw lock is left over";
@@ -21,39 +20,41 @@ inline std::string WhyInvalid(const Board& board) {
       grid.CurrentColumn() > n) {
     return "the current cell is outside the value block";
   }
-  const bool typed = board.TotalsChecked && !board.NewEntry;
-  slow::Rows rows;
-  for (int r = 1; r <= n; ++r) {
-    rows.emplace_back();
-    for (int c = 1; c <= n; ++c) {
-      const bool typedHere = typed && r == grid.CurrentRow() && c == grid.CurrentColumn();
-      const double shown = Val(grid.Text(r, c));
-      if (!typedHere && shown != board.BoardValues(r, c)) return kDisagreement;
-      rows.back().push_back(typedHere ? board.BoardValues(r, c) : shown);
-    }
-  }
-  const auto totals = slow::LineTotals(rows);
-  const auto judge = [&](int row, int column, double total) -> std::string {
-    const std::string where = " at " + std::to_string(row) + ", " + std::to_string(column);
-    if (Val(grid.Text(row, column)) != total) return "a total is not the sum" + where;
-    const Colour colour = grid.Background(row, column);
-    if (!board.TotalsChecked) {
-      return colour == kWindowBackground ? "" : "a colour before any check" + where;
-    }
-    // Totals of boards that a generator showed after a check stay uncoloured.
-    if (colour == kWindowBackground || board.UntouchedBase) return {};
-    const bool right = total == board.TargetTotal;
-    return colour == ColorTable[right ? kRightTotal : kWrongTotal] ? "" : "a wrong colour" + where;
+  // A number that is being typed counts when its cell is left.
+  const bool typing = board.TotalsChecked && !board.NewEntry;
+  const auto counted = [&](int r, int c) {
+    const bool here = typing && r == grid.CurrentRow() && c == grid.CurrentColumn();
+    return here ? Decimal(board.BoardValues(r, c)) : grid.Text(r, c);
   };
+  const bool judged = grid.VerdictOf(0, 0) != Verdict::Unjudged;
+  if (judged && !board.TotalsChecked) return "a verdict before any check";
+  const std::string target = Decimal(board.TargetTotal);
   std::string why;
+  const auto judge = [&](int row, int column, auto cellAt) {
+    std::vector<std::string> line;
+    for (int i = 1; i <= n; ++i)
+      line.push_back(cellAt(i));
+    const std::string where = " at " + std::to_string(row) + ", " + std::to_string(column);
+    const std::string sum = paper::Sum(line);
+    const bool exact = DigitsOf(sum) <= 15 || sum.find('.') == std::string::npos;
+    const std::string shown = grid.Text(row, column);
+    if (exact && shown != sum) why += "a total is " + shown + ", the sum " + sum + where;
+    const Verdict verdict = grid.VerdictOf(row, column);
+    const bool untouched = board.UntouchedBase && (row != 0 || column != 0);
+    const bool right = shown == target && !untouched;
+    if (judged && verdict != (right ? Verdict::Right : Verdict::Wrong)) why += "not judged" + where;
+    if (!judged && verdict != Verdict::Unjudged) why += "judged" + where;
+    const Colour colour =
+        !judged ? kWindowBackground : ColorTable[right ? kRightTotal : kWrongTotal];
+    if (grid.Background(row, column) != colour) why += "a wrong colour" + where;
+  };
   for (int i = 1; i <= n; ++i) {
-    why += judge(i, 0, totals[static_cast<std::size_t>(i - 1)]);
-    why += judge(0, i, totals[static_cast<std::size_t>(n + i - 1)]);
+    judge(i, 0, [&](int c) { return counted(i, c); });
+    judge(0, i, [&](int r) { return counted(r, i); });
   }
-  const auto size = static_cast<std::size_t>(n);
-  why += judge(0, 0, totals[2 * size]);
-  why += judge(0, n + 1, totals[2 * size + 1]);
-  why += judge(n + 1, 0, totals[2 * size + 1]);
+  judge(0, 0, [&](int k) { return counted(k, k); });
+  judge(0, n + 1, [&](int k) { return counted(k, n + 1 - k); });
+  judge(n + 1, 0, [&](int k) { return counted(k, n + 1 - k); });
   return why;
 }
 

@@ -24,6 +24,10 @@ class PlayTest : public testing::Test {
     board_.ReturnTo(1, 1);
   }
 
+  /// Runs a command of the menu.
+  void Do(const char* item) { edit_.Run(Command(item)); }
+  static const EditCommand& Command(const char* item) { return *FindEdit(std::string(item)); }
+
   void Go(int row, int column) { board_.grid.SetCurrent(row, column); }
 
   std::string At(int row, int column) { return board_.grid.Text(row, column); }

@@ -15,15 +15,15 @@ struct SolveHarness {
     Commands.Auto();
   }
 
-  SeededRandom Dice{17};
+  SeededRandom TheRandom{17};
   Board TheBoard;
   PlainBoxes Boxes;
   PlainOptions Options;
-  ScriptedDialogs Speech;
+  ScriptedDialogs TheDialogs;
   NotingStage Stage;
-  ListBoy List2{Dice};
-  ListBoy List3{Dice};
-  SolveCommand Commands{{TheBoard, Boxes, Options, Speech, Stage, Dice, List2, List3}};
+  ListBoy List2{TheRandom};
+  ListBoy List3{TheRandom};
+  SolveCommand Commands{{TheBoard, Boxes, Options, TheDialogs, Stage, TheRandom, List2, List3}};
 };
 
 }  // namespace numorra

@@ -23,7 +23,10 @@ class ScriptedDialogs : public Dialogs {
  public:
   ~ScriptedDialogs() override { EXPECT_EQ(Said, Messages{}) << "unexpected boxes"; }
 
-  void Tell(const std::string& message) override { Said.push_back(message); }
+  void Tell(const std::string& message) override {
+    Said.push_back(message);
+    if (OnTell) OnTell();
+  }
 
   bool Ask(const std::string& question) override {
     Said.push_back(question);
@@ -45,6 +48,7 @@ class ScriptedDialogs : public Dialogs {
   /// What has been said since the last look.
   Messages Take() { return std::exchange(Said, {}); }
 
+  std::function<void()> OnTell;  ///< while the box is open
   Messages Said;
   std::deque<bool> Answers;
   std::deque<std::string> Texts;

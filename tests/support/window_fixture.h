@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 #include "support/boards.h"
 #include "support/invariants.h"
 #include "support/stand_ins.h"
@@ -88,7 +88,7 @@ class WindowTest : public testing::Test {
 
   const World& Scripted(World& world) {
     world.TimeOfDay = &clock_;
-    world.Boxes = &dialogs_;
+    world.TheDialogs = &dialogs_;
     return world;
   }
 

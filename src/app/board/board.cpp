@@ -1,5 +1,6 @@
 #include "app/board/board.h"
 
+#include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
 #include "app/board/scoped_flag.h"
 
@@ -9,10 +10,10 @@ bool Board::HasTotal() const {
   return Shown() && Val(grid.Text(0, 0)) != 0;
 }
 
-void Board::SetOverlay(OverlayKind overlay) {
-  if (overlay == Overlay) return;
-  Overlay = overlay;
-  grid.SetVisible(overlay == OverlayKind::None);
+void Board::SetOverlayShown(bool shown) {
+  if (shown == OverlayShown) return;
+  OverlayShown = shown;
+  grid.SetVisible(!shown);
   if (OnOverlay) OnOverlay();
 }
 
@@ -41,12 +42,19 @@ void Board::ComputeTotals() {
 }
 
 void Board::ShowBoard() {
+  ForEachCell(GridSize, [this](int row, int column) {
+    grid.SetText(row, column, Decimal(BoardValues(row, column)));
+  });
+  ShowTotals();
+  SetOverlayShown(false);
+}
+
+void Board::ShowTotals() {
   ComputeTotals();
   const int last = GridSize + 1;
   const auto show = [this](int row, int column) {
     grid.SetText(row, column, Decimal(BoardValues(row, column)));
   };
-  ForEachCell(GridSize, show);
   for (int line = 1; line <= GridSize; ++line) {
     show(line, 0);
     show(0, line);
@@ -54,7 +62,6 @@ void Board::ShowBoard() {
   show(0, last);
   show(last, 0);
   show(0, 0);
-  SetOverlay(OverlayKind::None);
 }
 
 void Board::ShowSquare(std::int16_t order, double target, const CellTable& square) {
@@ -70,8 +77,8 @@ void Board::ShowSquare(std::int16_t order, double target, const CellTable& squar
 
 void Board::MarkAllTotalsWrong() {
   for (int line = 1; line <= GridSize + 1; ++line) {
-    grid.SetColours(line, 0, ColorTable[kWrongTotal], ColorTable[kTotalText]);
-    grid.SetColours(0, line, ColorTable[kWrongTotal], ColorTable[kTotalText]);
+    grid.Judge(line, 0, Verdict::Wrong);
+    grid.Judge(0, line, Verdict::Wrong);
   }
 }
 
@@ -93,32 +100,30 @@ void Board::ReturnTo(int row, int column) {
   }
 }
 
-void Board::TakeTypedCell() {
-  if (!TotalsChecked || NewEntry) return;
-  const int row = grid.CurrentRow();
-  const int column = grid.CurrentColumn();
-  BoardValues(row, column) = Val(grid.Text(row, column));
+void Board::ReadGrid() {
+  ForEachCell(GridSize, [this](int row, int column) {
+    BoardValues(row, column) = Val(grid.Text(row, column));
+  });
 }
 
 void ComputeTotals(CellTable& cells, int order) {
   const int last = order + 1;
-  double main = 0;
-  double other = 0;
+  DecimalSum main;
+  DecimalSum other;
   for (int i = 1; i <= order; ++i) {
-    double row = 0;
-    double column = 0;
+    DecimalSum row;
+    DecimalSum column;
     for (int j = 1; j <= order; ++j) {
-      row += cells(i, j);
-      column += cells(j, i);
+      row.Add(cells(i, j));
+      column.Add(cells(j, i));
     }
-    cells(i, 0) = row;
-    cells(0, i) = column;
-    main += cells(i, i);
-    other += cells(i, last - i);
+    cells(i, 0) = row.Total();
+    cells(0, i) = column.Total();
+    main.Add(cells(i, i));
+    other.Add(cells(i, last - i));
   }
-  cells(0, 0) = main;
-  cells(0, last) = other;
-  cells(last, 0) = other;
+  cells(0, 0) = main.Total();
+  cells(0, last) = cells(last, 0) = other.Total();
 }
 
 }  // namespace numorra

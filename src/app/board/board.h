@@ -11,9 +11,6 @@ namespace numorra {
 /// Which squares the program is asked for: the numbers 1 to n x n, or any numbers with a total.
 enum Mode : std::int16_t { ModeVariable = 0, ModeNormal = 1 };
 
-/// What covers the board instead of the grid.
-enum class OverlayKind { None, Circles, Vectors };
-
 /// The board that every command shares: an n x n block of numbers in a grid of n + 2 lines each
 /// way, with its totals around it.
 ///
@@ -44,11 +41,10 @@ struct Board {
   std::int16_t MarkedRow = -1;  ///< the cell, row or column remembered for a swap; -1 = none
   std::int16_t MarkedCol = -1;
 
-  /// The drawing over the board. The grid is invisible while there is one.
-  OverlayKind Overlay = OverlayKind::None;
-  bool OverlayShown() const { return Overlay != OverlayKind::None; }
+  /// Whether a drawing covers the board. The grid is invisible while one does.
+  bool OverlayShown = false;
 
-  /// Raised when the drawing has changed.
+  /// Raised when a drawing has come or gone.
   std::function<void()> OnOverlay;
 
   /// Whether a board of GridSize stands in the grid.
@@ -57,8 +53,8 @@ struct Board {
   /// Whether the main diagonal's total is other than 0: what can be shaded and drawn.
   bool HasTotal() const;
 
-  /// Covers the grid with a drawing, or shows the grid again.
-  void SetOverlay(OverlayKind overlay);
+  /// Lets a drawing cover the grid, or shows the grid again.
+  void SetOverlayShown(bool shown);
 
   /// Makes the grid that of an empty board of GridSize: empty value cells in their colours, the
   /// frame in the window's own; forgets the marks.
@@ -76,11 +72,14 @@ struct Board {
   /// changes no colours.
   void ShowBoard();
 
+  /// Computes the totals and writes them into the grid; changes no colours.
+  void ShowTotals();
+
   /// Puts a new board of order `order` with the values of `square` in the grid and in sight, its
   /// totals uncoloured, its first value cell current.
   void ShowSquare(std::int16_t order, double target, const CellTable& square);
 
-  /// Colours every total but (0, 0) as wrong.
+  /// Judges every total but (0, 0) wrong.
   void MarkAllTotalsWrong();
 
   /// Empties the grid and gives it the shape for GridSize, the bottom row in the window's colour.
@@ -90,8 +89,8 @@ struct Board {
   /// the frame. What was typed there counts as entered.
   void ReturnTo(int row, int column);
 
-  /// Takes what the player has typed into the current cell since the last check into BoardValues.
-  void TakeTypedCell();
+  /// Reads the value block of the grid into BoardValues: what a command works on is what is shown.
+  void ReadGrid();
 };
 
 /// Calls visit(row, column) for every cell of an n x n value block in reading order.

@@ -3,12 +3,10 @@
 #include <array>
 #include <cstddef>
 
+#include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 
 namespace numorra {
-
-/// The largest order a player can ask for.
-inline constexpr int kMaxOrder = 50;
 
 /// One number for each cell of the grid, addressed like the grid: the value block is rows and
 /// columns 1..n, its totals stand in row 0, column 0 and the corners. Both indices run from 0 to

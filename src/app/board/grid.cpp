@@ -26,10 +26,33 @@ void Grid::SetText(int row, int column, std::string text) {
   WantRepaint();
 }
 
+Colour Grid::Background(int row, int column) const {
+  const Cell& cell = At(row, column);
+  if (cell.Judged == Verdict::Unjudged) return cell.Background;
+  return ColorTable[cell.Judged == Verdict::Right ? kRightTotal : kWrongTotal];
+}
+
+Colour Grid::Foreground(int row, int column) const {
+  const Cell& cell = At(row, column);
+  return cell.Judged == Verdict::Unjudged ? cell.Foreground : ColorTable[kTotalText];
+}
+
 void Grid::SetColours(int row, int column, Colour background, Colour foreground) {
   Cell& cell = At(row, column);
   cell.Background = background;
   cell.Foreground = foreground;
+  cell.Shaded = false;
+  cell.Judged = Verdict::Unjudged;
+  WantRepaint();
+}
+
+void Grid::Shade(int row, int column, Colour shade, Colour ink) {
+  SetColours(row, column, shade, ink);
+  At(row, column).Shaded = true;
+}
+
+void Grid::Judge(int row, int column, Verdict verdict) {
+  At(row, column).Judged = verdict;
   WantRepaint();
 }
 

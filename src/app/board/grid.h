@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -7,6 +8,9 @@
 #include "app/board/colour.h"
 
 namespace numorra {
+
+/// What a totals check has found about a total.
+enum class Verdict : std::uint8_t { Unjudged, Right, Wrong };
 
 /// The table on the screen as plain data: what each cell shows, which cell is current, whether the
 /// table is visible. A widget paints it and feeds it; the board's logic fills it.
@@ -38,9 +42,20 @@ class Grid {
   const std::string& Text(int row, int column) const { return At(row, column).Text; }
   void SetText(int row, int column, std::string text);
 
-  Colour Background(int row, int column) const { return At(row, column).Background; }
-  Colour Foreground(int row, int column) const { return At(row, column).Foreground; }
+  /// The colours that a cell is shown in: those of its verdict, or else its own.
+  Colour Background(int row, int column) const;
+  Colour Foreground(int row, int column) const;
+
+  /// Gives a cell its plain colours; it is neither shaded nor judged then.
   void SetColours(int row, int column, Colour background, Colour foreground);
+
+  /// Shades a cell by its value, with text in `ink`.
+  void Shade(int row, int column, Colour shade, Colour ink);
+  bool Shaded(int row, int column) const { return At(row, column).Shaded; }
+
+  /// Whether a total is right, from which its colours follow.
+  void Judge(int row, int column, Verdict verdict);
+  Verdict VerdictOf(int row, int column) const { return At(row, column).Judged; }
 
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
@@ -62,6 +77,8 @@ class Grid {
     std::string Text;
     Colour Background = kWindowBackground;
     Colour Foreground = ColorTable[kCellText];
+    bool Shaded = false;
+    Verdict Judged = Verdict::Unjudged;
   };
 
   const Cell& At(int row, int column) const;

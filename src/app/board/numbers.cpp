@@ -1,5 +1,6 @@
 #include "app/board/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -71,12 +72,25 @@ double StrictVal(std::string_view text) {
   return ParseNumber(trimmed);
 }
 
-std::string Str(double value) {
+double AsShown(double value) {
+  constexpr double kLargestExact = 0x1p53;
+  constexpr int kDigitsAfterTheFirst = 14;
   if (!std::isfinite(value)) throw RuntimeError(Fault::Overflow);
-  if (value == 0) return " 0";  // also for the negative zero
+  if (value == std::trunc(value) && std::abs(value) <= kLargestExact) return value;
+  std::array<char, 32> digits{};
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                     std::chars_format::scientific, kDigitsAfterTheFirst);
+  double shown = 0;
+  std::from_chars(digits.data(), written.ptr, shown);
+  return shown;
+}
+
+std::string Str(double value) {
+  const double shown = AsShown(value);
+  if (shown == 0) return " 0";  // also for the negative zero
   std::array<char, 1 + 17 + 330> digits{};
   const auto result =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+      std::to_chars(digits.data(), digits.data() + digits.size(), shown, std::chars_format::fixed);
   const std::string text(digits.data(), result.ptr);
   return value < 0 ? text : " " + text;
 }
@@ -89,6 +103,14 @@ std::string Trim(std::string_view text) {
 
 std::string Decimal(double value) {
   return Trim(Str(value));
+}
+
+int DigitsOf(std::string_view number) {
+  number.remove_prefix(std::min(number.find_first_not_of("+-0"), number.size()));
+  if (number.find('.') != std::string_view::npos) {
+    number = number.substr(0, number.find_last_not_of('0') + 1);
+  }
+  return static_cast<int>(std::count_if(number.begin(), number.end(), IsDigit));
 }
 
 double Int(double value) {

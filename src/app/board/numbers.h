@@ -17,8 +17,13 @@ double Val(std::string_view text);
 /// else stands in it or nothing does.
 double StrictVal(std::string_view text);
 
-/// The shortest plain decimal that reads back as `value`, with one leading blank in the place of
-/// the sign when it is not negative: " 12", " 0.5", "-3". Throws Overflow when not finite.
+/// `value` as the program shows it: whole numbers up to 2^53 whole, any other number rounded to 15
+/// significant digits, the most that a double always keeps. What is judged is what is shown, so
+/// totals and targets are rounded so once, before they are compared.
+double AsShown(double value);
+
+/// AsShown(value) as the shortest plain decimal, with one leading blank in the place of the sign
+/// when it is not negative: " 12", " 0.5", "-3". Throws Overflow when not finite.
 std::string Str(double value);
 
 /// `text` without the blanks at its ends.
@@ -26,6 +31,14 @@ std::string Trim(std::string_view text);
 
 /// Str without its leading blank: the form in which numbers stand in the board.
 std::string Decimal(double value);
+
+/// The most digits that a number in a cell has, so that the totals of 50 such whole numbers are
+/// exact.
+inline constexpr int kMostCellDigits = 14;
+
+/// How many digits the plain decimal `number` has, zeros in front and behind its point's last digit
+/// left out: 3 for "-012.50".
+int DigitsOf(std::string_view number);
 
 /// The largest whole number not above `value`.
 double Int(double value);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
+#include <utility>
 
 namespace numorra {
 
@@ -42,6 +45,16 @@ class Random {
   /// A whole number, uniform in low..high.
   int Between(int low, int high) { return low + static_cast<int>(Next() * (high - low + 1)); }
 };
+
+/// Puts the numbers in random order, every order as likely as the others (Fisher and Yates 1938, in
+/// Durstenfeld's form).
+template <class Number>
+void Shuffle(std::span<Number> numbers, Random& random) {
+  for (std::size_t i = numbers.size(); i > 1; --i) {
+    std::swap(numbers[i - 1],
+              numbers[static_cast<std::size_t>(random.Between(0, static_cast<int>(i) - 1))]);
+  }
+}
 
 /// The splitmix64 generator (Steele, Lea and Flood 2014), seeded by the clock. The clock's reading
 /// passes through the same mixing before it seeds, as first draws from neighbouring seeds would

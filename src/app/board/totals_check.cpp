@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-Verdict Recount(Board& board) {
+Finding Recount(Board& board) {
   Grid& grid = board.grid;
   const int last = board.GridSize + 1;
   const double target = board.TargetTotal;
@@ -13,11 +13,10 @@ Verdict Recount(Board& board) {
   const ScopedFlag running(board.CheckRunning);
   const RedrawLock lock(grid);
 
+  board.ReadGrid();
   bool changed = false;
   ForEachCell(board.GridSize, [&](int row, int column) {
-    const double value = Val(grid.Text(row, column));
-    board.BoardValues(row, column) = value;
-    if (value != board.BaseValue) changed = true;
+    if (board.BoardValues(row, column) != board.BaseValue) changed = true;
   });
   board.ComputeTotals();
 
@@ -27,8 +26,7 @@ Verdict Recount(Board& board) {
     const bool right = total == target;
     if (!right) offTarget = true;
     grid.SetText(row, column, Decimal(total));
-    grid.SetColours(row, column, ColorTable[right ? kRightTotal : kWrongTotal],
-                    ColorTable[kTotalText]);
+    grid.Judge(row, column, right ? Verdict::Right : Verdict::Wrong);
   };
   for (int line = 1; line <= board.GridSize; ++line) {
     judge(line, 0);
@@ -43,15 +41,15 @@ Verdict Recount(Board& board) {
   board.UntouchedBase = !changed;
   if (!changed) {
     board.MarkAllTotalsWrong();
-    return Verdict::UntouchedBase;
+    return Finding::UntouchedBase;
   }
-  return offTarget ? Verdict::Wrong : Verdict::Right;
+  return offTarget ? Finding::Wrong : Finding::Right;
 }
 
-Verdict CheckTotals(Board& board, Dialogs& dialogs) {
-  const Verdict verdict = Recount(board);
-  if (verdict == Verdict::Right) dialogs.Tell("WELL DONE, YOU GOT IT");
-  return verdict;
+Finding CheckTotals(Board& board, Dialogs& dialogs) {
+  const Finding finding = Recount(board);
+  if (finding == Finding::Right) dialogs.Tell("WELL DONE, YOU GOT IT");
+  return finding;
 }
 
 void RefreshTotals(Board& board) {

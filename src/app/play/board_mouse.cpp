@@ -29,6 +29,7 @@ PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, Pre
   if (button == PressedButton::Left) {
     if (onCell) {
       grid.SetCurrent(row, column);
+      WipeMarks(board);
       board.MarkedRow = static_cast<std::int16_t>(row);
       board.MarkedCol = static_cast<std::int16_t>(column);
     } else if (onRowMark) {

@@ -17,10 +17,10 @@ enum class PressOutcome {
 
 /// The mouse rules of the board.
 ///
-/// Left: a value cell becomes current and is remembered for a swap; the frame's right column and
-/// bottom row mark a row or a column with an "X". Right: a value cell becomes current and asks for
-/// the menu; the frame's right column and bottom row swap their line with the marked one. Before
-/// the first check every press asks for the menu.
+/// Left: a value cell becomes current and is remembered for a swap, in the place of any marked
+/// line; the frame's right column and bottom row mark a row or a column with an "X". Right: a value
+/// cell becomes current and asks for the menu; the frame's right column and bottom row swap their
+/// line with the marked one. Before the first check every press asks for the menu.
 PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, PressedButton button);
 
 /// What can be marked by keys: the current cell, its row, or its column.

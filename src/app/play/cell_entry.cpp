@@ -1,5 +1,8 @@
 #include "app/play/cell_entry.h"
 
+#include <algorithm>
+
+#include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
 #include "app/board/scoped_flag.h"
 #include "app/board/totals_check.h"
@@ -28,7 +31,10 @@ void CellEntry::TypeCharacter(char32_t character) {
     text.pop_back();
   } else if (character >= U'0' && character <= U'9') {
     if (board_.NewEntry) text.clear();
-    if (text.size() < kMostDigits) text += static_cast<char>(character);
+    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
+    if (std::count_if(text.begin(), text.end(), digit) < kMostCellDigits) {
+      text += static_cast<char>(character);
+    }
   } else {
     return;
   }
@@ -54,10 +60,13 @@ void CellEntry::KeypadMinus() {
 
 void CellEntry::Step(double amount) {
   if (!board_.TotalsChecked || !board_.Shown() || board_.SolveMode != ModeVariable) return;
-  const double value =
-      Val(board_.grid.Text(board_.grid.CurrentRow(), board_.grid.CurrentColumn())) + amount;
+  DecimalSum sum;
+  sum.Add(Val(board_.grid.Text(board_.grid.CurrentRow(), board_.grid.CurrentColumn())));
+  sum.Add(amount);
+  const double value = sum.Total();
   const bool downToZero = amount < 0 && value == 0;
-  SetCurrentCell(board_, dialogs_, Decimal(downToZero ? 1 : value));
+  const std::string text = Decimal(downToZero ? 1 : value);
+  if (DigitsOf(text) <= kMostCellDigits) SetCurrentCell(board_, dialogs_, text);
 }
 
 void CellEntry::LeaveCell() {

@@ -11,21 +11,20 @@ namespace numorra {
 /// Keys do nothing before the first totals check and while one runs.
 class CellEntry {
  public:
-  /// The most digits that typing puts into a cell; more are swallowed.
-  static constexpr std::size_t kMostDigits = 15;
-
   /// Takes over the grid's hooks.
   CellEntry(Board& board, Dialogs& dialogs);
 
-  /// Digits build a number, Backspace (code 8) takes its last one away; neither checks. All else is
-  /// swallowed: signs, points and letters cannot be typed.
+  /// Digits build a number of at most kMostCellDigits, Backspace (code 8) takes its last one away
+  /// and counts as typing; neither checks. All else is swallowed: signs, points and letters cannot
+  /// be typed.
   void TypeCharacter(char32_t character);
 
   /// Checks, then goes to the next row; the check leaves the last column current.
   void PressEnter();
 
   /// The keypad's plus and minus: one more or less in the Variable mode, then a check. Minus makes
-  /// 1 of what would be exactly 0; a 0 becomes -1.
+  /// 1 of what would be exactly 0; a 0 becomes -1. A step to more digits than a cell takes is not
+  /// made.
   void KeypadPlus();
   void KeypadMinus();
 

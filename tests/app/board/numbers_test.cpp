@@ -4,7 +4,9 @@
 #include <numeric>
 #include <set>
 
+#include "app/board/decimal_sum.h"
 #include "app/board/runtime_error.h"
+#include "support/paper.h"
 #include "support/stand_ins.h"
 
 namespace numorra {
@@ -42,16 +44,56 @@ TEST(Numbers, StrictValTakesTheWholeTextOrNothing) {
 }
 
 TEST(Numbers, StrWritesAPlainDecimalThatReadsBack) {
-  const std::pair<double, const char*> cases[] = {
-      {12, " 12"},      {-3, "-3"},       {0, " 0"},     {-0.0, " 0"},
-      {0.5, " 0.5"},    {-0.25, "-0.25"}, {3.1, " 3.1"}, {1e21, " 1000000000000000000000"},
-      {62525, " 62525"}};
+  const std::pair<double, const char*> cases[] = {{12, " 12"},
+                                                  {-3, "-3"},
+                                                  {0, " 0"},
+                                                  {-0.0, " 0"},
+                                                  {0.5, " 0.5"},
+                                                  {-0.25, "-0.25"},
+                                                  {3.1, " 3.1"},
+                                                  {1e21, " 1000000000000000000000"},
+                                                  {62525, " 62525"},
+                                                  {0.1 + 0.2, " 0.3"},
+                                                  {1.0 / 3, " 0.333333333333333"},
+                                                  {0x1p53, " 9007199254740992"},
+                                                  {4e15 + 0.5, " 4000000000000000"}};
   for (const auto& [value, text] : cases)
     EXPECT_EQ(Str(value), text);
-  for (const double value : {0.1 + 0.2, 1.0 / 3, 1e-300, 1.7e308}) {
-    EXPECT_EQ(Val(Str(value)), value);
-  }
+  for (const double value : {0.1 + 0.2, 1.0 / 3, 1e-300, 1.7e308, 123456789.123456789})
+    EXPECT_EQ(Val(Str(value)), AsShown(value));
   EXPECT_EQ(FaultOf([] { Str(1e308 * 10); }), "Overflow");
+}
+
+TEST(Numbers, DigitsAreThoseThatCount) {
+  const std::pair<const char*, int> cases[] = {{"-012.50", 3}, {"0", 0},  {"0.02", 2}, {"+100", 3},
+                                               {"100.000", 3}, {".5", 1}, {"1.05", 3}, {"", 0}};
+  for (const auto& [number, digits] : cases)
+    EXPECT_EQ(DigitsOf(number), digits) << number;
+}
+
+/// Numbers of up to 14 digits, of every size and sign, added as on paper.
+TEST(DecimalSums, AreThoseOfPaper) {
+  SeededRandom random(6);
+  for (int time = 0; time < 3000; ++time) {
+    std::vector<std::string> numbers;
+    DecimalSum sum;
+    const int digits = random.Between(1, kMostCellDigits);
+    const int point = random.Between(0, digits);
+    for (int count = random.Between(1, 50); count > 0; --count) {
+      std::string number = random.Between(0, 3) == 0 ? "-" : "";
+      if (point == 0) number += "0";
+      for (int i = 0; i < digits; ++i) {
+        if (i == point) number += '.';
+        number += static_cast<char>('0' + random.Between(0, 9));
+      }
+      numbers.push_back(number);
+      sum.Add(Val(number));
+    }
+    const std::string paper = paper::Sum(numbers);
+    const bool whole = paper.find('.') == std::string::npos;
+    if (!whole && DigitsOf(paper) > 15) continue;  // shown rounded
+    ASSERT_EQ(Decimal(sum.Total()), paper);
+  }
 }
 
 TEST(Numbers, ConversionsRoundHalvesToEvenAndRaiseOverflow) {

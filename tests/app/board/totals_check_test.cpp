@@ -15,26 +15,26 @@ TEST(Recount, TellsBoardsApart) {
     const char* rows;
     double target;
     std::int16_t baseValue;
-    Verdict verdict;
+    Finding finding;
   };
   const Case cases[] = {
-      {kLoShu, 15, 5, Verdict::Right},
-      {kLoShu, 16, 5, Verdict::Wrong},
-      {"5 5 5 / 5 5 5 / 5 5 5", 15, 5, Verdict::UntouchedBase},
-      {"6 6 6 / 6 6 6 / 6 6 6", 18, 5, Verdict::Right},
-      {"5 5 5 / 5 6 5 / 5 5 5", 15, 5, Verdict::Wrong},
-      {"2.5 2.5 2.5 / 2.5 2.5 2.5 / 2.5 2.5 2.5", 7.5, 2, Verdict::Right},
+      {kLoShu, 15, 5, Finding::Right},
+      {kLoShu, 16, 5, Finding::Wrong},
+      {"5 5 5 / 5 5 5 / 5 5 5", 15, 5, Finding::UntouchedBase},
+      {"6 6 6 / 6 6 6 / 6 6 6", 18, 5, Finding::Right},
+      {"5 5 5 / 5 6 5 / 5 5 5", 15, 5, Finding::Wrong},
+      {"2.5 2.5 2.5 / 2.5 2.5 2.5 / 2.5 2.5 2.5", 7.5, 2, Finding::Right},
       // Only the columns wrong, only the one diagonal, only the other.
-      {"1 5 9 / 1 5 9 / 1 5 9", 15, 5, Verdict::Wrong},
-      {"3 2 1 / 1 3 2 / 2 1 3", 6, 2, Verdict::Wrong},
-      {"1 2 3 / 2 3 1 / 3 1 2", 6, 2, Verdict::Wrong},
+      {"1 5 9 / 1 5 9 / 1 5 9", 15, 5, Finding::Wrong},
+      {"3 2 1 / 1 3 2 / 2 1 3", 6, 2, Finding::Wrong},
+      {"1 2 3 / 2 3 1 / 3 1 2", 6, 2, Finding::Wrong},
   };
   for (const Case& c : cases) {
     Board board;
     ShowRows(board, c.rows, c.target, c.baseValue);
-    EXPECT_EQ(Recount(board), c.verdict) << c.rows;
+    EXPECT_EQ(Recount(board), c.finding) << c.rows;
     EXPECT_TRUE(board.TotalsChecked);
-    EXPECT_EQ(board.UntouchedBase, c.verdict == Verdict::UntouchedBase);
+    EXPECT_EQ(board.UntouchedBase, c.finding == Finding::UntouchedBase);
     EXPECT_EQ(std::pair(board.grid.CurrentRow(), board.grid.CurrentColumn()), (std::pair{0, 0}));
     board.ReturnTo(1, 1);
     EXPECT_EQ(WhyInvalid(board), "") << c.rows;

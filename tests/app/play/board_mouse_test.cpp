@@ -77,14 +77,25 @@ TEST_F(BoardMouseTest, KeysMarkAndSwapToo) {
   EXPECT_EQ(Where(), (std::pair{1, 3}));
 }
 
+TEST_F(BoardMouseTest, APressOnACellTakesTheMarksAway) {
+  Show("1 2 3 / 4 5 6 / 7 8 9");
+  Left(2, 4);
+  Left(4, 3);
+  EXPECT_EQ(At(4, 3), "X");
+  Left(1, 1);
+  EXPECT_EQ(At(2, 4) + At(4, 3), "");
+  Right(3, 4);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("7 8 9 / 4 5 6 / 1 2 3")) << "the cell's row";
+}
+
 TEST_F(BoardMouseTest, RememberedCellsSwapByTheMenu) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
-  history_.Record(RedoCode::Rotate90, "before");
-  edit_.SwapValue();
+  history_.Record(13, "before");
+  Do("swapvaluex");
   EXPECT_EQ(At(1, 1), "1") << "nothing remembered";
   Left(1, 1);
   Right(3, 2);
-  edit_.SwapValue();
+  Do("swapvaluex");
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 2 3 / 4 5 6 / 7 1 9"));
   EXPECT_EQ(Where(), (std::pair{3, 2}));
   EXPECT_EQ(history_.Caption, "before") << "a swap is not recorded";

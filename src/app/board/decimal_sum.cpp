@@ -1,0 +1,40 @@
+#include "app/board/decimal_sum.h"
+
+#include <cmath>
+
+#include "app/board/numbers.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kDecimals = 14;
+constexpr std::int64_t kUnits = 100'000'000'000'000;
+
+double PowerOfTen(int exponent) {
+  double power = 1;
+  for (; exponent > 0; --exponent)
+    power *= 10;
+  return power;
+}
+
+}  // namespace
+
+void DecimalSum::Add(double number) {
+  const double whole = std::trunc(number);
+  whole_ += whole;
+  if (number == whole) return;
+  // The decimals that are meant: those behind them are the double's own.
+  int decimals = kDecimals;
+  for (double left = std::abs(whole); left >= 10 && decimals > 0; left /= 10)
+    --decimals;
+  const double scaled = std::nearbyint((number - whole) * PowerOfTen(decimals));
+  fraction_ += static_cast<std::int64_t>(scaled * PowerOfTen(kDecimals - decimals));
+}
+
+double DecimalSum::Total() const {
+  const double whole = whole_ + static_cast<double>(fraction_ / kUnits);
+  const auto rest = static_cast<double>(fraction_ % kUnits) / static_cast<double>(kUnits);
+  return AsShown(whole + rest);
+}
+
+}  // namespace numorra

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <algorithm>
+
+#include "app/board/numbers.h"
+
+/// Which boards there are, said once for all commands.
+namespace numorra {
+
+/// The smallest and the largest order of a board that can be built and played.
+inline constexpr int kMinOrder = 3;
+inline constexpr int kMaxOrder = 50;
+
+inline constexpr const char* kOrderTooSmall = "grid size should be 3x3 or bigger";
+inline constexpr const char* kOrderTooLarge = "grid size should be 50x50 or smaller";
+
+/// Why no board has this order, in a sentence for the player; null for orders that boards have.
+inline const char* WhyNoBoardHas(int order) {
+  if (order < kMinOrder) return kOrderTooSmall;
+  return order > kMaxOrder ? kOrderTooLarge : nullptr;
+}
+
+/// The least that a cell of a base board may hold.
+inline constexpr int kLowestBase = 2;
+
+/// A cell's share of `sum` on a board of `order` > 0: what every cell of its base board holds.
+inline double BaseOf(double sum, double order) {
+  return std::max<double>(kLowestBase, Int(sum / order));
+}
+
+}  // namespace numorra

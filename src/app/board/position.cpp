@@ -1,0 +1,74 @@
+#include "app/board/position.h"
+
+#include <tuple>
+
+#include "app/board/totals_check.h"
+
+namespace numorra {
+namespace {
+
+/// Totals in the window's colours, as before any check.
+void UnjudgeTotals(Board& board) {
+  const int last = board.GridSize + 1;
+  for (int line = 0; line <= last; ++line) {
+    board.grid.Judge(line, 0, Verdict::Unjudged);
+    board.grid.Judge(0, line, Verdict::Unjudged);
+  }
+}
+
+}  // namespace
+
+Position PositionOf(const Board& board) {
+  Position position;
+  if (!board.Shown()) return position;
+  const Grid& grid = board.grid;
+  position.Order = board.GridSize;
+  position.Target = board.TargetTotal;
+  position.Base = board.BaseValue;
+  position.Texts.reserve(static_cast<std::size_t>(board.GridSize) *
+                         static_cast<std::size_t>(board.GridSize));
+  ForEachCell(board.GridSize,
+              [&](int row, int column) { position.Texts.push_back(grid.Text(row, column)); });
+  position.Checked = board.TotalsChecked;
+  position.Judged = grid.VerdictOf(0, 0) != Verdict::Unjudged;
+  position.Row = grid.CurrentRow();
+  position.Column = grid.CurrentColumn();
+  return position;
+}
+
+void Restore(Board& board, const Position& position) {
+  Grid& grid = board.grid;
+  const RedrawLock lock(grid);
+  if (position.Order == 0) {
+    board.SetOverlayShown(false);
+    grid.Reshape(0, 0);
+    grid.SetVisible(false);
+    return;
+  }
+  board.NewEntry = true;  // what was typed is gone, not to be checked
+  const bool reshaped = !board.Shown() || board.GridSize != position.Order;
+  board.GridSize = position.Order;
+  board.TargetTotal = position.Target;
+  board.BaseValue = position.Base;
+  if (reshaped) board.SetupBoard();
+  auto text = position.Texts.begin();
+  ForEachCell(board.GridSize, [&](int row, int column) { grid.SetText(row, column, *text++); });
+  board.ReadGrid();
+  board.ShowTotals();
+  if (position.Judged) {
+    Recount(board);
+  } else {
+    UnjudgeTotals(board);
+  }
+  board.TotalsChecked = position.Checked;
+  if (!board.HasTotal()) board.SetOverlayShown(false);
+  grid.SetVisible(!board.OverlayShown);
+  board.ReturnTo(position.Row, position.Column);
+}
+
+bool IsChange(const Position& before, const Position& after) {
+  const auto seen = [](const Position& p) { return std::tie(p.Order, p.Target, p.Texts); };
+  return seen(before) != seen(after);
+}
+
+}  // namespace numorra

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "app/board/board.h"
+
+namespace numorra {
+
+/// All of a board that a player would expect back, in one value: what undo keeps and a file holds.
+/// The marks, the boxes, the mode, a drawing and the menu's memory of one command are not in it.
+struct Position {
+  std::int16_t Order = 0;  ///< 0 where there is no board
+  double Target = 0;
+  std::int16_t Base = 0;
+  std::vector<std::string> Texts;  ///< of the value cells in reading order; a cell may be empty
+  bool Checked = false;            ///< a check has been made, so that keys reach the board
+  bool Judged = false;             ///< the totals are coloured
+  int Row = 0;                     ///< the current cell
+  int Column = 0;
+
+  bool operator==(const Position&) const = default;
+};
+
+/// The board as it stands.
+Position PositionOf(const Board& board);
+
+/// Shows the board as it stood, recounted without a word where its totals were judged; the current
+/// cell counts as freshly entered. Shades stay while the order does; a drawing stays where the
+/// board has a total to draw.
+void Restore(Board& board, const Position& position);
+
+/// Whether a player would call the second a change of the first: another order, target or text.
+bool IsChange(const Position& before, const Position& after);
+
+}  // namespace numorra

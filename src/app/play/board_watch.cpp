@@ -1,0 +1,13 @@
+#include "app/play/board_watch.h"
+
+#include <utility>
+
+namespace numorra {
+
+void BoardWatch::End(const std::string& name) {
+  const Deed deed{name, std::move(before_), PositionOf(board_)};
+  for (const Listener& listener : listeners_)
+    listener(deed);
+}
+
+}  // namespace numorra

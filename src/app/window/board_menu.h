@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMenu>
+
+#include "app/play/command_history.h"
+#include "app/play/edit_table.h"
+
+namespace numorra {
+
+/// The context menu of the board, made of the table of editing commands; `redox` shows the last
+/// recorded one.
+class BoardMenu : public QMenu {
+  Q_OBJECT
+
+ public:
+  explicit BoardMenu(QWidget* parent = nullptr);
+
+  /// Shows what a click on "Redo last command" repeats.
+  void ShowHistory(const CommandHistory& history);
+
+  /// Shows the base value, " 12" for 12, in the items that write it.
+  void ShowBaseValue(const std::string& value);
+
+  /// Whether the commands that need a checked board can be chosen.
+  void EnableEditing(bool enabled);
+
+  QAction* const redox;
+
+ Q_SIGNALS:
+  void Chosen(const EditCommand* command);
+  void RedoChosen();
+
+ private:
+  QMenu* MenuOf(EditMenu place);
+
+  QMenu* const setValue_;
+  QMenu* const adjustValue_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QStackedLayout>
+
+#include "app/board/board.h"
+#include "app/board/random.h"
+#include "app/play/board_watch.h"
+#include "app/play/cell_entry.h"
+#include "app/play/command_history.h"
+#include "app/play/edit_commands.h"
+#include "app/window/board_menu.h"
+#include "app/window/corners_frame.h"
+#include "app/window/grid_view.h"
+#include "app/window/limit_frame.h"
+#include "app/window/solve_frame.h"
+#include "app/window/square_frame.h"
+#include "app/window/window_stage.h"
+#include "generate/solve_command.h"
+#include "generate/top_row_command.h"
+#include "listbox/list_boy.h"
+#include "print/sheet_printer.h"
+#include "toolkit/command_runner.h"
+#include "toolkit/message_boxes.h"
+#include "visual/colour_picker.h"
+#include "visual/draw_frame.h"
+#include "visual/drawing.h"
+
+namespace numorra {
+
+/// What the window needs of the world; where something is missing it brings its own.
+struct World {
+  Clock* TimeOfDay = nullptr;
+  Dialogs* TheDialogs = nullptr;
+  SheetPrinter* Printer = nullptr;
+  int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
+};
+
+/// The main window: the controls on the left, the board on the right. It owns the board, hands what
+/// the player does to the commands and shows what they leave behind.
+class MainWindow : public QMainWindow, private BuildOptions {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(const World& world = {});
+  ~MainWindow() override;
+
+  const Board& TheBoard() const { return board_; }
+  GridView& View() { return *view_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void LayOut();
+  void BuildMenus();
+  void ConnectControls();
+  void StartUp();
+
+  bool LimitToNine() const override;
+  void UncheckLimit() override;
+  std::optional<double> Corner() const override;
+
+  void SetSolveMode(Mode mode);
+  void FollowSize();
+  void ConnectBoard();
+  void RunOnBoard(const std::string& name, CommandRunner::Command command);
+  void RunOnCurrentCell(const std::string& name, CommandRunner::Command command);
+  void Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition = {});
+  void Draw(const DrawingKind* kind);
+  void BringCurrentCellIntoView();
+  void ShowState();
+  void ShowOverlay();
+  void CopyBoard(bool withPicture);
+  void PasteFromClipboard();
+  void OpenPrintForm();
+
+  SystemClock systemClock_;
+  MessageBoxes messageBoxes_;
+  ClockSeededRandom random_;
+  PaperPrinter paperPrinter_;
+  Dialogs& dialogs_;
+  SheetPrinter& printer_;
+  CommandRunner runner_;
+  Board board_;
+  BoardWatch watch_{board_};
+  CommandHistory history_;
+
+  // The toolkit owns these through the window.
+  SolveFrame* solve_;
+  LimitFrame* limit_;
+  SquareFrame* square_;
+  CornersFrame* corners_;
+  ColourPicker* colours_;
+  DrawFrame* draw_;
+  QGroupBox* solution_;
+  GridView* view_;
+  Drawing* drawing_;
+  QStackedLayout* boardPlace_;
+  BoardMenu* menu_;
+
+  WindowStage stage_;
+  CellEntry cellEntry_;
+  EditCommands edit_;
+  ListBoy List2;
+  ListBoy List3;
+  SolveCommand solveCommand_;
+  TopRowCommand topRowCommand_;
+};
+
+}  // namespace numorra

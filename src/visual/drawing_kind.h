@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+
+#include <QPainter>
+#include <QPointF>
+#include <QRectF>
+
+#include "app/board/board.h"
+#include "app/board/colour.h"
+
+namespace numorra {
+
+/// Where a drawing stands in its widget: the value block in the middle, as large as it can be.
+struct DrawingArea {
+  const Board& TheBoard;
+  Colour Picked;  ///< the colour that shades
+  QRectF Block;   ///< the value block, a square
+  double Side;    ///< of a cell
+
+  /// The middle of the cell (row, column), both from 1.
+  QPointF Centre(int row, int column) const {
+    return Block.topLeft() + QPointF(column - 0.5, row - 0.5) * Side;
+  }
+
+  /// Fills the block and rules its cells.
+  void PaintCells(QPainter& painter, const QColor& ground, const QColor& rules) const;
+};
+
+/// One way to draw all values of a board at once.
+struct DrawingKind {
+  const char* Tag;  ///< what the drawing's tag says while it is shown
+  const char* Button;
+  const char* Caption;
+  const char* ToolTip;
+  void (*Paint)(QPainter& painter, const DrawingArea& area);
+};
+
+/// Circles whose areas are in proportion to the values, the largest filling its cell.
+extern const DrawingKind kCircles;
+
+/// The way from the smallest value to the largest.
+extern const DrawingKind kVectors;
+
+/// All drawings, in the order of their buttons.
+inline constexpr std::array kDrawingKinds = {&kCircles, &kVectors};
+
+}  // namespace numorra

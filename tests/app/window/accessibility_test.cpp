@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+#include <set>
+
+#include <QAccessible>
+#include <QMenuBar>
+#include <QSignalSpy>
+
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+class AccessibilityTest : public WindowTest {
+ protected:
+  QString Cell(int row, int column, QAccessible::Text kind = QAccessible::Name) {
+    auto* table = QAccessible::queryAccessibleInterface(&window_.View());
+    auto* cell = table->tableInterface()->cellAt(row, column);
+    return cell ? cell->text(kind) : "none";
+  }
+};
+
+TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
+  EXPECT_EQ(Cell(1, 1), "none");
+  Make("SolveManual", "3", "18");
+  const std::pair<std::pair<int, int>, const char*> cells[] = {
+      {{2, 3}, "row 2, column 3, value 7"},
+      {{2, 0}, "total of row 2, 21, wrong"},
+      {{0, 3}, "total of column 3, 21, wrong"},
+      {{0, 0}, "total of main diagonal, 21, wrong"},
+      {{4, 0}, "total of other diagonal, 21, wrong"},
+      {{0, 4}, "total of other diagonal, 21, wrong"},
+      {{4, 4}, "frame"},
+      {{5, 0}, "none"}};
+  for (const auto& [place, name] : cells)
+    EXPECT_EQ(Cell(place.first, place.second), name);
+  EXPECT_EQ(Cell(2, 3, QAccessible::Value), "7");
+  EXPECT_EQ(Cell(2, 3, QAccessible::Description),
+            "total of row 2, 21, wrong; total of column 3, 21, wrong");
+  Choose("correctrowx", 1, 1);
+  EXPECT_EQ(Cell(1, 0), "total of row 1, 18, right");
+  Click("SolveAuto");
+  EXPECT_EQ(Cell(1, 0), "total of row 1, 18");
+  auto* table = QAccessible::queryAccessibleInterface(&window_.View());
+  EXPECT_EQ(table->childCount(), 25);
+  EXPECT_EQ(table->child(8)->text(QAccessible::Name), Cell(1, 3));
+  EXPECT_EQ(table->indexOfChild(table->child(8)), 8);
+  const auto* cell = table->child(8)->tableCellInterface();
+  EXPECT_EQ(
+      std::tuple(cell->rowIndex(), cell->columnIndex(), cell->rowExtent(), cell->columnExtent()),
+      std::tuple(1, 3, 1, 1));
+}
+
+TEST_F(AccessibilityTest, TheMenusShowTheirKeys) {
+  std::string keys;
+  for (const char* action : {"PrintSol", "Exitx", "Copyx", "CopyNumbersx", "Pastex", "Helpx"})
+    keys += Find<QAction>(action).shortcut().toString().toStdString() + " ";
+  EXPECT_EQ(keys, "Ctrl+P Ctrl+Q Ctrl+C Ctrl+Shift+C Ctrl+V F1 ");
+}
+
+TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
+  Click("SolveManual");
+  QCoreApplication::processEvents();
+  QSignalSpy told(&window_.View(), &GridView::CurrentCellShown);
+  const std::pair<Qt::Key, QVariantList> keys[] = {
+      {Qt::Key_Right, {true}}, {Qt::Key_9, {false}}, {Qt::Key_Up, {true}}, {Qt::Key_Escape, {}}};
+  for (const auto& [key, another] : keys) {
+    QTest::keyClick(&window_.View(), key);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told.isEmpty() ? QVariantList() : told.takeFirst(), another) << key;
+    EXPECT_TRUE(told.isEmpty());
+  }
+}
+
+/// Whatever takes the keyboard has a name; no two mnemonics are the same, the menus' among them.
+TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
+  std::set<QString> mnemonics;
+  const auto note = [&](const QString& key, const QString& text) {
+    EXPECT_NE(key, "") << text.toStdString();
+    EXPECT_TRUE(mnemonics.insert(key).second) << key.toStdString() << " twice";
+  };
+  for (const QAction* menu : window_.menuBar()->actions())
+    note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
+  for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
+    if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      note(button->shortcut().toString(), button->text());
+    } else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) {
+      note(QKeySequence::mnemonic(label->text()).toString(), label->text());
+    }
+    if (!(widget->focusPolicy() & Qt::TabFocus)) continue;
+    const auto* interface = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(interface, nullptr);
+    EXPECT_NE(interface->text(QAccessible::Name), "") << widget->objectName().toStdString();
+  }
+  EXPECT_GT(mnemonics.size(), 15U);
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,73 @@
+#include "app/window/grid_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QScrollBar>
+
+#include "support/boards.h"
+
+namespace numorra {
+namespace {
+
+class GridViewTest : public testing::Test {
+ protected:
+  GridViewTest() {
+    ShowCounted(board_, 50);
+    board_.grid.SetVisible(true);
+    view_.resize(400, 300);
+    view_.show();
+    QCoreApplication::processEvents();
+  }
+
+  Board board_;
+  GridView view_{board_.grid};
+};
+
+TEST_F(GridViewTest, FindsTheCellThatIsDrawnScrolledOrNot) {
+  for (const int scrolled : {0, 1, 13, 26, 27, 500, 100000}) {
+    view_.horizontalScrollBar()->setValue(scrolled);
+    view_.verticalScrollBar()->setValue(scrolled / 2);
+    for (int x = 0; x < view_.viewport()->width(); x += 7) {
+      for (int y = 0; y < view_.viewport()->height(); y += 7) {
+        const auto cell = view_.CellAt({x, y});
+        ASSERT_TRUE(cell);
+        EXPECT_TRUE(view_.CellRect(cell->y(), cell->x()).contains(x, y)) << x << "," << y;
+      }
+    }
+  }
+  EXPECT_FALSE(view_.CellAt({-1, 5}));
+  board_.grid.SetVisible(false);
+  EXPECT_FALSE(view_.CellAt({5, 5}));
+}
+
+TEST_F(GridViewTest, BringsCellsIntoViewBesideTheFixedLines) {
+  for (const auto& [row, column] : {std::pair{50, 50}, {1, 1}, {25, 1}, {51, 0}, {1, 51}}) {
+    view_.BringIntoView(row, column);
+    const QRect cell = view_.CellRect(row, column);
+    EXPECT_TRUE(view_.viewport()->rect().contains(cell)) << row << "," << column;
+    EXPECT_EQ(view_.CellAt(cell.center()), QPoint(column, row));
+  }
+}
+
+TEST_F(GridViewTest, MarksTheCurrentCellWithoutHidingIt) {
+  board_.MarkAllTotalsWrong();
+  board_.grid.SetCurrent(2, 2);
+  const QImage image = view_.viewport()->grab().toImage();
+  const QRect cell = view_.CellRect(2, 2);
+  int dark = 0;
+  for (int i = 0; i < 18 * 18; ++i)
+    dark += image.pixelColor(cell.left() + 4 + i % 18, cell.top() + 4 + i / 18).lightness() < 100;
+  EXPECT_GT(dark, 5) << "the number is in sight";
+}
+
+TEST(CellTexts, ShrinkUntilTheyFitAndSayWhenTheyCannotBeRead) {
+  CellText texts(QFont(), 27);
+  for (const char* text : {"", "7", "250", "2500"})
+    EXPECT_TRUE(texts.Readable(text)) << text;
+  for (const char* text : {"12345678", "123456789012"})
+    EXPECT_FALSE(texts.Readable(text)) << text;
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+
+#include "support/window_fixture.h"
+#include "toolkit/colours.h"
+#include "visual/shading.h"
+
+namespace numorra {
+namespace {
+
+/// Looks at what is painted, at a few pixels of every cell in sight, whatever the font.
+class PaintingTest : public WindowTest {
+ protected:
+  /// The cell's own ground: beside its lower left corner, where neither text nor notch reaches.
+  QColor Ground(int row, int column) {
+    const QRect cell = window_.View().CellRect(row, column);
+    return image_.pixelColor(cell.left() + 3, cell.bottom() - 4);
+  }
+
+  /// Whether something is written in the middle of the cell, in roughly its text's colour.
+  bool HasInk(int row, int column, const QColor& ink) {
+    const QRect cell = window_.View().CellRect(row, column).adjusted(4, 6, -4, -6);
+    const QColor ground = Ground(row, column);
+    const bool darker = ink.lightness() < ground.lightness();
+    for (int y = cell.top(); y <= cell.bottom(); ++y) {
+      for (int x = cell.left(); x <= cell.right(); ++x) {
+        const int contrast = image_.pixelColor(x, y).lightness() - ground.lightness();
+        if (darker ? contrast < -60 : contrast > 60) return true;
+      }
+    }
+    return false;
+  }
+
+  bool InSight(int row, int column) {
+    const QRect cell = window_.View().CellRect(row, column);
+    const QRect shown = window_.View().viewport()->rect();
+    const int fixed = window_.View().CellRect(1, 1).width();
+    return shown.contains(cell) && (row == 0 || cell.top() >= fixed) &&
+           (column == 0 || cell.left() >= fixed);
+  }
+
+  /// Judges every cell in sight; the number of cells that were.
+  int LookOver() {
+    QCoreApplication::processEvents();
+    image_ = window_.View().viewport()->grab().toImage();
+    const Grid& grid = TheGrid();
+    const int last = grid.Rows() - 1;
+    const QPalette& theme = window_.View().palette();
+    int seen = 0;
+    for (int row = 0; row <= last; ++row) {
+      for (int column = 0; column <= last; ++column) {
+        if (!InSight(row, column)) continue;
+        ++seen;
+        const std::string where = std::to_string(row) + ", " + std::to_string(column);
+        const Colour own = grid.Background(row, column);
+        const bool total = row == 0 || column == 0 || row == last || column == last;
+        const bool line = row == grid.CurrentRow() || column == grid.CurrentColumn();
+        const bool current = row == grid.CurrentRow() && column == grid.CurrentColumn();
+        QColor expected = own.SeeThrough ? theme.color(QPalette::Window) : ToQColor(own);
+        if (!total && line && !current && !grid.Shaded(row, column)) expected = Tinted(expected);
+        const QColor ground = Ground(row, column);
+        EXPECT_TRUE(Near(ground, expected)) << where << ": " << ground.name().toStdString();
+        const QColor ink = own.SeeThrough ? theme.color(QPalette::WindowText)
+                                          : ToQColor(grid.Foreground(row, column));
+        EXPECT_EQ(HasInk(row, column, ink), !grid.Text(row, column).empty()) << where;
+        if (total && !own.SeeThrough) {
+          const QRect cell = window_.View().CellRect(row, column);
+          const bool notch = image_.pixelColor(cell.right() - 1, cell.top()).lightness() > 200;
+          EXPECT_EQ(notch, grid.VerdictOf(row, column) == Verdict::Wrong) << where;
+        }
+      }
+    }
+    return seen;
+  }
+
+  QColor Tinted(const QColor& colour) {
+    const QColor tint = window_.View().palette().color(QPalette::Highlight);
+    const auto mix = [](int ground, int over) { return (ground * 219 + over * 36) / 255; };
+    return {mix(colour.red(), tint.red()), mix(colour.green(), tint.green()),
+            mix(colour.blue(), tint.blue())};
+  }
+
+  static bool Near(const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) < 4 && std::abs(a.green() - b.green()) < 4 &&
+           std::abs(a.blue() - b.blue()) < 4;
+  }
+
+  void Darken() {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(40, 40, 44));
+    dark.setColor(QPalette::WindowText, QColor(235, 235, 235));
+    window_.setPalette(dark);
+  }
+
+  QImage image_;
+};
+
+TEST_F(PaintingTest, EveryCellHasItsColourAndItsInk) {
+  const std::pair<const char*, const char*> boards[] = {{"3", "18"}, {"11", "671"}, {"50", "5000"}};
+  for (const bool dark : {false, true}) {
+    if (dark) Darken();
+    for (const auto& [order, sum] : boards) {
+      const int lines = std::stoi(order) + 2;
+      Make("SolveAuto", order);
+      EXPECT_GE(LookOver(), std::min(lines * lines, 300)) << "in the window's colours";
+      Make("SolveManual", order, sum);
+      dialogs_.Take();
+      ClickCell(2, 2);
+      Choose("correctrowx", 2, 2);
+      LookOver();
+      Click("Command3");
+      LookOver();
+    }
+  }
+}
+
+TEST_F(PaintingTest, AScrolledBoardShowsItsOtherCells) {
+  Make("SolveManual", "50", "5000");
+  dialogs_.Take();
+  ClickCell(40, 45);
+  QTest::keyClick(&window_.View(), Qt::Key_7);
+  EXPECT_GT(window_.View().verticalScrollBar()->value(), 0);
+  EXPECT_GT(LookOver(), 200);
+  EXPECT_FALSE(InSight(1, 1));
+}
+
+/// A value cell that is shaded in the colour of wrong totals is none.
+TEST_F(PaintingTest, ShadesAreNoVerdicts) {
+  Make("SolveManual", "3", "15");
+  Find<QScrollBar>("hsrRed").setValue(128);
+  Find<QScrollBar>("hsrGreen").setValue(0);
+  Find<QScrollBar>("hsrBlue").setValue(0);
+  QTest::keyClick(&window_.View(), Qt::Key_0);
+  QTest::keyClick(&window_.View(), Qt::Key_Right);
+  Click("Command3");
+  EXPECT_EQ(TheGrid().Background(1, 1), Rgb(128, 0, 0));
+  LookOver();
+  const QRect cell = window_.View().CellRect(1, 1);
+  EXPECT_EQ(image_.pixelColor(cell.right() - 2, cell.top() + 1), QColor(128, 0, 0)) << "no notch";
+}
+
+TEST_F(PaintingTest, TheCurrentLinesTotalsAreFramed) {
+  Make("SolveManual", "5", "70");
+  ClickCell(2, 4);
+  LookOver();
+  for (int line = 1; line <= 5; ++line) {
+    const QRect row = window_.View().CellRect(line, 0), column = window_.View().CellRect(0, line);
+    const auto framed = [&](const QRect& cell) {
+      return image_.pixelColor(cell.left() + 1, cell.center().y()).lightness() > 200;
+    };
+    EXPECT_EQ(framed(row), line == 2) << line;
+    EXPECT_EQ(framed(column), line == 4) << line;
+  }
+}
+
+}  // namespace
+}  // namespace numorra

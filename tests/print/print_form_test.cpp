@@ -1,0 +1,168 @@
+#include "print/print_form.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "app/board/runtime_error.h"
+#include "print/sheet.h"
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+/// Keeps what is printed, or fails.
+struct KeepingPrinter : SheetPrinter {
+  bool Choose(QWidget*) override { return Chosen; }
+  void Print(const std::string& text) override {
+    if (Broken) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+    Printed.push_back(text);
+  }
+  bool Chosen = true;
+  bool Broken = false;
+  Messages Printed;
+};
+
+class PrintTest : public WindowTest {
+ protected:
+  PrintTest() : WindowTest({.Printer = &printer_}) {}
+  void Open() { Find<QAction>("PrintSol").trigger(); }
+  QDialog* Form() { return window_.findChild<QDialog*>("PrintSolution"); }
+
+  KeepingPrinter printer_;
+};
+
+TEST_F(PrintTest, OpensOnlyWhereThereIsSomethingToPrint) {
+  const auto said = [this](const char* message) {
+    Open();
+    EXPECT_EQ(dialogs_.Take(), Messages{message});
+    EXPECT_EQ(Form(), nullptr);
+  };
+  said("nothing to print");
+  Make("SolveAuto", "31");
+  said("cannot print larger than 30x30 grid");
+  Click("Command1");
+  said("nothing to print");
+  Make("SolveAuto", "30");
+  Open();
+  EXPECT_NE(Form(), nullptr);
+}
+
+TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
+  Make("SolveAuto", "3");
+  Open();
+  const Grid& grid = window_.TheBoard().grid;
+  auto* preview = Form()->findChild<QPlainTextEdit*>("preview");
+  EXPECT_EQ(preview->toPlainText().replace("\n", "\r\n").toStdString(), PreviewSheet(grid, 15));
+  const auto click = [this](const char* button) {
+    QTest::mouseClick(Form()->findChild<QPushButton*>(button), Qt::LeftButton);
+    return dialogs_.Take();
+  };
+  EXPECT_EQ(click("PrintGridx"), Messages{"grid printed"});
+  EXPECT_EQ(click("PrintSolx"), Messages{"solution printed"});
+  EXPECT_EQ(printer_.Printed, (Messages{PuzzleSheet(grid, 15), SolutionSheet(grid, 15)}));
+  printer_.Chosen = false;
+  EXPECT_EQ(click("PrintSolx"), Messages{});
+  printer_.Chosen = true;
+  printer_.Broken = true;
+  EXPECT_EQ(click("PrintGridx"), Messages{"Printer error: cannot begin to print"});
+  EXPECT_EQ(printer_.Printed.size(), 2U);
+  click("Closex");
+  EXPECT_FALSE(Form() && Form()->isVisible());
+  Find<QLineEdit>("Text4").setText(QString(400, '9'));
+  Open();
+  EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
+}
+
+/// An assistive tool may press what a box in front should keep from being pressed.
+TEST_F(PrintTest, ClosesWhenItsCommandHasEnded) {
+  Make("SolveAuto", "3");
+  Open();
+  for (const QPushButton* button : Form()->findChildren<QPushButton*>())
+    EXPECT_FALSE(button->isDefault() || button->autoDefault()) << "Enter prints nothing";
+  dialogs_.OnTell = [this] {
+    Form()->findChild<QPushButton*>("Closex")->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Form() && Form()->isVisible());
+  };
+  Form()->findChild<QPushButton*>("PrintSolx")->click();
+  EXPECT_EQ(dialogs_.Take(), Messages{"solution printed"});
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(Form() && Form()->isVisible());
+}
+
+TEST(PaperPrinters, AFullDiskKeepsTheFileThatWasThere) {
+  const QTemporaryDir folder;
+  QFile old(folder.filePath("sheet.pdf"));
+  ASSERT_TRUE(old.open(QFile::WriteOnly));
+  old.write("what was there");
+  old.close();
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit little{2000, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &little);
+  PaperPrinter printer;
+  printer.PrintTo(old.fileName());
+  EXPECT_THROW(printer.Print("text\r\n"), RuntimeError);
+  setrlimit(RLIMIT_FSIZE, &before);
+  ASSERT_TRUE(old.open(QFile::ReadOnly));
+  EXPECT_EQ(old.readAll(), "what was there");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
+}
+
+TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
+  const QTemporaryDir folder;
+  const QString pdf = folder.filePath("sheet.pdf");
+  Board board;
+  ShowCounted(board, 30);
+  const std::string sheet = SolutionSheet(board.grid, 13515);
+  PaperPrinter printer;
+  printer.PrintTo(pdf);
+  printer.Print(sheet);
+
+  QProcess reader;
+  reader.start("pdftotext", {"-fixed", "4.8", "-nopgbrk", pdf, "-"});
+  ASSERT_TRUE(reader.waitForFinished());
+  const auto lines = [](const QString& text) {
+    QStringList kept;
+    for (const QString& line : text.split('\n')) {
+      if (!line.trimmed().isEmpty()) kept << line.trimmed();
+    }
+    return kept;
+  };
+  EXPECT_EQ(lines(reader.readAllStandardOutput()),
+            lines(QString::fromStdString(sheet).remove('\r')));
+  reader.start("pdfinfo", {pdf});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QString info = reader.readAllStandardOutput();
+  EXPECT_TRUE(info.contains(QRegularExpression("Pages:\\s+1\\n"))) << info.toStdString();
+  EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+(841|842|792)")))
+      << info.toStdString();
+}
+
+TEST(PaperPrinters, FailWithARunTimeErrorAtTheBeginningInTheMiddleOrAtTheEnd) {
+  const QTemporaryDir folder;
+  const std::string full = folder.filePath("full.pdf").toStdString();
+  for (const std::string& file : {std::string("/nowhere/at/all.pdf"), std::string("/tmp"), full}) {
+    // A disk that is full after some bytes.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{2000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    PaperPrinter printer;
+    printer.PrintTo(QString::fromStdString(file));
+    EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << file;
+    setrlimit(RLIMIT_FSIZE, &before);
+  }
+}
+
+}  // namespace
+}  // namespace numorra

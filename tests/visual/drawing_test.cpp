@@ -1,0 +1,128 @@
+#include <cmath>
+#include <gtest/gtest.h>
+#include <map>
+
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+class VisualTest : public WindowTest {
+ protected:
+  QString Label(const char* name) { return Find<QLabel>(name).text(); }
+  QString Tag() { return Find<Drawing>("Picture1").property("tag").toString(); }
+  bool Drawn() { return Find<Drawing>("Picture1").isVisible(); }
+};
+
+TEST_F(VisualTest, BarsMixTheColourThatTheFillReadsFromTheLabels) {
+  EXPECT_EQ(Label("lblRedDegree").toInt(), Find<QScrollBar>("hsrRed").value());
+  Find<QScrollBar>("hsrRed").setValue(7);
+  Find<QScrollBar>("hsrBlue").setValue(9);
+  Find<QScrollBar>("hsrGreen").setValue(200);
+  const std::pair<const char*, QColor> swatches[] = {{"picColorToUse", QColor(7, 200, 9)},
+                                                     {"PicRGB0", QColor(7, 0, 0)},
+                                                     {"PicRGB1", QColor(0, 200, 0)},
+                                                     {"PicRGB2", QColor(0, 0, 9)}};
+  for (const auto& [swatch, colour] : swatches)
+    EXPECT_EQ(Find<Swatch>(swatch).Shown(), colour) << swatch;
+  EXPECT_EQ(Label("lblRedDegree") + Label("lblGreenDegree"), "7200");
+  Click("Command3");
+  Make("SolveAuto", "3");
+  Find<QLabel>("lblRedDegree").setText("0");
+  Click("Command3");
+  ForEachCell(3, [this](int r, int c) {
+    const int shade = qRound(256 / 9.0 * std::stod(TheGrid().Text(r, c)));
+    EXPECT_EQ(TheGrid().Background(r, c).Red, std::min(shade, 255));
+  });
+  Click("SolveAuto");
+  EXPECT_EQ(TheGrid().Background(1, 1), ColorTable[kCellBackground]) << "a new board starts afresh";
+}
+
+TEST_F(VisualTest, DrawingsCoverTheBoardUntilSomethingShowsIt) {
+  Click("Command1");
+  EXPECT_FALSE(Drawn()) << "nothing to draw";
+  Make("SolveAuto", "6", "120");
+  const std::function<void()> leave[] = {
+      [this] { Click("Command4"); },    [this] { Click("SolveAuto"); },
+      [this] { Click("SolveManual"); }, [this] { Click("Command3"); },
+      [this] { Click("DoCor1"); },      [this] { Find<QAction>("rot90x").trigger(); }};
+  for (const auto& taken : leave) {
+    Click("SolveAuto");
+    for (const auto& [button, tag] : {std::pair{"Command1", "C"}, {"Command2", "V"}}) {
+      Click(button);
+      EXPECT_TRUE(Drawn());
+      EXPECT_EQ(Tag(), tag);
+      EXPECT_FALSE(TheGrid().Visible() || window_.View().isVisible());
+    }
+    taken();
+    EXPECT_FALSE(Drawn());
+    EXPECT_EQ(Tag(), "");
+    EXPECT_TRUE(TheGrid().Visible() && window_.View().isVisible());
+  }
+  Click("Command2");
+  Type("Text1", "51");
+  Click("SolveAuto");
+  dialogs_.Take();
+  EXPECT_FALSE(Drawn()) << "Auto takes the drawing away even when it refuses";
+}
+
+TEST_F(VisualTest, DrawingsFollowTheColour) {
+  const auto middle = [this] {
+    auto& drawing = Find<Drawing>("Picture1");
+    return drawing.grab().toImage().pixelColor(drawing.rect().center());
+  };
+  Make("SolveAuto", "3");
+  for (const char* bar : {"hsrRed", "hsrGreen", "hsrBlue"})
+    Find<QScrollBar>(bar).setValue(0);
+  Click("Command1");
+  EXPECT_EQ(middle(), QColor(142, 142, 142)) << "5 of 9";
+  Find<QScrollBar>("hsrBlue").setValue(100);
+  EXPECT_EQ(middle(), QColor(142, 142, 242)) << "a bar moved under the drawing";
+  Find<QLabel>("lblRedDegree").setText("100");
+  Click("Command1");
+  EXPECT_EQ(middle(), QColor(242, 142, 242)) << "drawn again";
+}
+
+/// Each step of the way lies between the cells of two numbers that follow each other.
+TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
+  Type("Text1", "5");
+  Click("SolveAuto");
+  std::map<int, QPointF> centres;
+  ForEachCell(5, [&](int r, int c) {
+    centres[std::stoi(TheGrid().Text(r, c))] = QPointF(8 + 60 * c - 30, 8 + 60 * r - 30);
+  });
+  Click("Command2");
+  auto& drawing = Find<Drawing>("Picture1");
+  drawing.resize(316, 316);
+  const QImage image = drawing.grab().toImage();
+  for (int number = 1; number < 25; ++number) {
+    const QPointF from = centres[number], to = centres[number + 1];
+    for (const double share : {0.3, 0.7})
+      EXPECT_GT(image.pixelColor((from + (to - from) * share).toPoint()).hsvSaturation(), 100)
+          << number;
+  }
+  EXPECT_EQ(image.pixelColor(centres[1].toPoint()), QColor(Qt::white)) << "the ring at the start";
+  EXPECT_EQ(image.pixelColor(centres[25].toPoint()).hsvHue(), 0) << "the red square at the end";
+}
+
+TEST_F(VisualTest, TheLargestCircleFillsItsCellAndAreasAreInProportion) {
+  Type("Text1", "3");
+  Click("SolveAuto");
+  Find<QScrollBar>("hsrRed").setValue(255);
+  Find<QScrollBar>("hsrGreen").setValue(0);
+  Find<QScrollBar>("hsrBlue").setValue(0);
+  Click("Command1");
+  auto& drawing = Find<Drawing>("Picture1");
+  drawing.resize(316, 316);  // three cells of 100 pixels
+  const QImage image = drawing.grab().toImage();
+  ForEachCell(3, [&](int r, int c) {
+    const double radius = 49.5 * std::sqrt(std::stod(TheGrid().Text(r, c)) / 9);
+    const int x = 8 + 100 * c - 50, y = 8 + 100 * r - 50, edge = x + static_cast<int>(radius);
+    EXPECT_EQ(image.pixelColor(x, y).red(), 255);
+    EXPECT_EQ(image.pixelColor(edge - 3, y), image.pixelColor(x, y));
+    EXPECT_TRUE(radius > 45 || image.pixelColor(edge + 3, y) == QColor(104, 108, 114));
+  });
+}
+
+}  // namespace
+}  // namespace numorra
