@@ -6,17 +6,10 @@
 
 #include "app/board/board.h"
 #include "app/board/numbers.h"
+#include "files/stored_square.h"
 
 namespace numorra {
 namespace {
-
-void WriteRow(std::ostream& out, const CellTable& square, int order, int row, const char* between,
-              std::size_t width = 0) {
-  for (int column = 1; column <= order; ++column) {
-    out << (column > 1 ? between : "") << std::setw(static_cast<int>(width))
-        << Decimal(square(row, column));
-  }
-}
 
 std::size_t WidestNumber(const CellTable& square, int order) {
   std::size_t widest = 0;
@@ -28,25 +21,23 @@ std::size_t WidestNumber(const CellTable& square, int order) {
 
 }  // namespace
 
-void WriteSquare(std::ostream& out, const CellTable& square, int order, double total,
+void WriteSquare(std::ostream& out, const CellTable& square, int order, double total, Rules rules,
                  SquareFormat format) {
-  if (format == SquareFormat::Json) {
-    out << "{\"order\": " << order << ", \"total\": " << Decimal(total) << ", \"rows\": [";
-    for (int row = 1; row <= order; ++row) {
-      out << (row > 1 ? ", [" : "[");
-      WriteRow(out, square, order, row, ", ");
-      out << "]";
-    }
-    out << "]}\n";
+  if (format != SquareFormat::Text) {
+    StoredSquare stored{.Order = order, .Total = total, .Asked = rules};
+    ForEachCell(order, [&](int r, int c) { stored.Cells.emplace_back(square(r, c)); });
+    out << (format == SquareFormat::Json ? JsonOf(stored) : CsvOf(stored));
     return;
   }
-  const bool csv = format == SquareFormat::Csv;
-  const std::size_t width = csv ? 0 : WidestNumber(square, order);
+  const std::size_t width = WidestNumber(square, order);
   for (int row = 1; row <= order; ++row) {
-    WriteRow(out, square, order, row, csv ? "," : " ", width);
+    for (int column = 1; column <= order; ++column) {
+      out << (column > 1 ? " " : "") << std::setw(static_cast<int>(width))
+          << Decimal(square(row, column));
+    }
     out << "\n";
   }
-  if (!csv) out << "\ntotal " << Decimal(total) << "\n";
+  out << "\ntotal " << Decimal(total) << "\n";
 }
 
 }  // namespace numorra

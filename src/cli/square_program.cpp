@@ -22,6 +22,7 @@ struct Result {
   int Order = 0;
   double Total = 0;
   std::string Remark;
+  Rules Asked = Rules::Positive;
 };
 
 /// A request that no square can meet.
@@ -37,7 +38,7 @@ Result BuildTopRow(const TopRow& top, Random& random) {
 
 Result BuildNormal(int order, Random& random) {
   SilentStage stage;
-  return {NormalSquare(random, stage).Build(order), order, MagicConstant(order), ""};
+  return {NormalSquare(random, stage).Build(order), order, MagicConstant(order), "", Rules::Normal};
 }
 
 Result BuildVariable(const SquareRequest& request, Random& random) {
@@ -90,7 +91,7 @@ int RunSquareProgram(const std::vector<std::string>& words, std::ostream& out, s
       const auto& request = std::get<SquareRequest>(arguments);
       const Result result = BuildSquare(request);
       if (!result.Remark.empty()) err << "numorra-square: " << result.Remark << "\n";
-      WriteSquare(out, result.Square, result.Order, result.Total, request.Format);
+      WriteSquare(out, result.Square, result.Order, result.Total, result.Asked, request.Format);
     }
   } catch (const Unsolvable& unsolvable) {
     err << "numorra-square: " << unsolvable.Why << "\n";

@@ -46,24 +46,29 @@ std::string Plain(std::string text) {
   return text;
 }
 
+constexpr std::string_view kSeparators = "\t;,";
+
+/// Whether a line holds no field, not even an empty one.
+bool IsEmpty(const Line& line) {
+  return Trim(line.Text).empty() && line.Text.find_first_of(kSeparators) == std::string::npos;
+}
+
 /// The lines from the first that is written on to the last.
 std::vector<Line> Lines(const std::string& text) {
   std::vector<Line> lines;
   std::istringstream input(text);
   std::size_t number = 0;
-  for (std::string line; std::getline(input, line);) {
-    ++number;
-    if (!lines.empty() || !Trim(line).empty()) lines.push_back({number, line});
-  }
-  while (!lines.empty() && Trim(lines.back().Text).empty())
-    lines.pop_back();
+  for (std::string line; std::getline(input, line);)
+    lines.push_back({++number, line});
+  const auto last = std::find_if_not(lines.rbegin(), lines.rend(), IsEmpty).base();
+  lines.erase(last, lines.end());
+  lines.erase(lines.begin(), std::find_if_not(lines.begin(), lines.end(), IsEmpty));
   return lines;
 }
 
 /// The fields of a line. Blanks separate as many as they are, other separators each for itself.
 std::vector<std::string> Fields(const std::string& line) {
   std::vector<std::string> fields;
-  constexpr std::string_view kSeparators = "\t;,";
   const auto* const kind =
       std::find_if(kSeparators.begin(), kSeparators.end(),
                    [&](char separator) { return line.find(separator) != std::string::npos; });
@@ -81,15 +86,21 @@ std::vector<std::string> Fields(const std::string& line) {
 
 /// Takes the empty field at every line's end away that a separator leaves there.
 void DropTrailingSeparators(std::vector<std::vector<std::string>>& rows) {
-  const auto endsEmpty = [&](const std::vector<std::string>& fields) {
-    return fields.size() == rows.size() + 1 && fields.back().empty();
+  const auto tooLong = [&](const auto& fields) { return fields.size() > rows.size(); };
+  const auto endsEmpty = [](const auto& fields) {
+    return !fields.empty() && fields.back().empty();
   };
-  if (!std::all_of(rows.begin(), rows.end(), endsEmpty)) return;
+  if (!std::any_of(rows.begin(), rows.end(), tooLong) ||
+      !std::all_of(rows.begin(), rows.end(), endsEmpty)) {
+    return;
+  }
   for (auto& fields : rows)
     fields.pop_back();
 }
 
-double NumberIn(const std::string& field, std::size_t line) {
+/// The number in a field; nothing for a gap.
+std::optional<double> CellIn(const std::string& field, std::size_t line) {
+  if (field.empty() || field == "-" || field == "." || field == "_") return std::nullopt;
   const std::string where = "line " + std::to_string(line) + ": ";
   constexpr std::size_t kMostShown = 20;
   const std::string shown =
@@ -99,44 +110,44 @@ double NumberIn(const std::string& field, std::size_t line) {
     if (DigitsOf(field) <= kMostCellDigits) return number;
   } catch (const RuntimeError& error) {
     if (error.Kind() == Fault::TypeMismatch) {
-      throw Unreadable{where +
-                       (field.empty() ? "a number is missing" : "\"" + shown + "\" is no number")};
+      throw Unreadable{where + "\"" + shown + "\" is no number"};
     }
   }
   throw Unreadable{where + shown + " has more than " + std::to_string(kMostCellDigits) + " digits"};
 }
 
-NumberRows Read(const std::string& text) {
+StoredSquare Read(const std::string& text) {
   if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
   const std::vector<Line> lines = Lines(Plain(text));
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {
     throw Unreadable{
-        "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a "
-        "text"};
+        "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text"};
   }
-  std::vector<std::vector<std::string>> fields;
-  fields.reserve(order);
-  for (const Line& line : lines)
-    fields.push_back(Fields(line.Text));
-  DropTrailingSeparators(fields);
-  NumberRows rows;
+  std::vector<std::vector<std::string>> rows;
+  rows.reserve(order);
+  for (const Line& line : lines) {
+    if (IsEmpty(line)) throw Unreadable{"line " + std::to_string(line.Number) + " is empty"};
+    rows.push_back(Fields(line.Text));
+  }
+  DropTrailingSeparators(rows);
+  StoredSquare square{.Order = static_cast<int>(order)};
   for (std::size_t row = 0; row < order; ++row) {
-    if (fields[row].size() != order) {
+    if (rows[row].size() > order) {
       throw Unreadable{"line " + std::to_string(lines[row].Number) + " has " +
-                       std::to_string(fields[row].size()) + " numbers, not " +
-                       std::to_string(order) + " as there are lines"};
+                       std::to_string(rows[row].size()) + " numbers, not " + std::to_string(order) +
+                       " as there are lines"};
     }
-    rows.emplace_back();
-    for (const std::string& field : fields[row])
-      rows.back().push_back(NumberIn(field, lines[row].Number));
+    rows[row].resize(order);
+    for (const std::string& field : rows[row])
+      square.Cells.push_back(CellIn(field, lines[row].Number));
   }
-  return rows;
+  return square;
 }
 
 }  // namespace
 
-std::variant<NumberRows, Unreadable> ReadSquareText(const std::string& text) {
+std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text) {
   try {
     return Read(text);
   } catch (const Unreadable& unreadable) {

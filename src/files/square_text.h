@@ -3,7 +3,8 @@
 #include <cstddef>
 #include <string>
 #include <variant>
-#include <vector>
+
+#include "files/stored_square.h"
 
 namespace numorra {
 
@@ -13,22 +14,17 @@ inline constexpr std::size_t kMostTextBytes = 1 << 20;
 /// What is said of longer ones.
 inline constexpr const char* kTooLongForASquare = "this is too long for a square of numbers";
 
-/// Why a text is no square: one sentence for the player, with the line where there is one.
-struct Unreadable {
-  std::string Why;
-};
-
-/// The numbers of a square by row.
-using NumberRows = std::vector<std::vector<double>>;
-
-/// Reads a square of 3 x 3 to 50 x 50 numbers as people and programs write it.
+/// Reads a square of 3 x 3 to 50 x 50 cells as people and programs write it, without a total.
 ///
-/// - A line a row, ended by LF, CR or both; empty lines around the square do not count.
+/// - A line a row, ended by LF, CR or both; empty lines around the square do not count. The number
+/// of
+///   lines is the order, so that fields at a line's end may be missing.
 /// - Numbers separated by tabs, by semicolons, by commas, or by blanks, the first of these that the
 ///   line has. A separator at the end of every line counts for nothing.
 /// - A literal in brackets, with semicolons or line ends between the rows: [8 1 6; 3 5 7; 4 9 2].
 /// - UTF-8: a byte-order mark, unbreakable blanks and the sign U+2212 as minus are taken too.
+/// - A gap is nothing, or one of - . _ between separators.
 /// - A number has at most kMostCellDigits digits.
-std::variant<NumberRows, Unreadable> ReadSquareText(const std::string& text);
+std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text);
 
 }  // namespace numorra

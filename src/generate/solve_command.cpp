@@ -43,7 +43,7 @@ void SolveCommand::BuildNormalSquare() {
   const CellTable square = normal_.Build(order);
   const double total = order * (ToInt16(order * order + 1) / 2.0);
   ports_.Boxes.SetSum(Decimal(total));
-  ports_.TheBoard.ShowSquare(order, total, square);
+  ports_.TheBoard.ShowSquare(order, total, Rules::Normal, square);
 }
 
 /// True when the command is over: a square was built, the plan was refused, or the player has had
@@ -137,7 +137,7 @@ void SolveCommand::Show(const VariableBuild& build) {
   Board& board = ports_.TheBoard;
   board.BaseValue = lastPlan_->BaseValue;
   board.TotalsChecked = false;
-  board.ShowSquare(lastPlan_->GridSize, build.Total, build.Square);
+  board.ShowSquare(lastPlan_->GridSize, build.Total, Rules::Positive, build.Square);
   ForEachCell(board.GridSize, [&](int r, int c) { board.CellFlags(r, c) = 0; });
   for (const FlaggedCell& cell : build.LastPattern) {
     board.CellFlags(cell.Row, cell.Column) = cell.Weight;
@@ -155,6 +155,10 @@ void SolveCommand::VaryCornerEdges() {
 void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   Board& board = ports_.TheBoard;
   if (!board.Shown()) return;
+  if (board.HasGaps() || board.HasGivens()) {
+    ports_.TheDialogs.Tell("a board with gaps or given numbers cannot be varied");
+    return;
+  }
   const BusyPointer busy(ports_.Stage);
   ports_.TheRandom.Reseed();
   board.ReadGrid();

@@ -44,7 +44,7 @@ bool TopRowCommand::Run() {
   board_.TotalsChecked = false;
   boxes_.SetSize("4");
   boxes_.SetSum(Decimal(found->Total));
-  board_.ShowSquare(4, found->Total, found->Square);
+  board_.ShowSquare(4, found->Total, Rules::Positive, found->Square);
   if (found->Quality != TopRowQuality::AllNew) dialogs_.Tell(Explain(found->Quality));
   return true;
 }

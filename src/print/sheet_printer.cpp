@@ -1,11 +1,12 @@
 #include "print/sheet_printer.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
-#include <QSaveFile>
 
 #include "app/board/runtime_error.h"
+#include "toolkit/whole_file.h"
 
 namespace numorra {
 namespace {
@@ -32,13 +33,9 @@ void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
 }
 
-/// Writes beside the file and renames, so that one that is to be replaced is lost to no full disk.
 void PrintPdf(const QPrinter& device, const std::string& text) {
-  QSaveFile file(device.outputFileName());
-  const auto fail = [&file] {
-    throw RuntimeError(Fault::PrinterError, "cannot write " + file.fileName().toStdString());
-  };
-  if (!file.open(QIODevice::WriteOnly)) fail();
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
   {
     QPdfWriter writer(&file);
     writer.setPageLayout(device.pageLayout());
@@ -46,7 +43,7 @@ void PrintPdf(const QPrinter& device, const std::string& text) {
     writer.setTitle(device.docName());
     PaintSheet(writer, text);
   }
-  if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit()) fail();
+  WriteWholeFile(device.outputFileName(), file.data());
 }
 
 }  // namespace

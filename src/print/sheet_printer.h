@@ -16,7 +16,8 @@ class SheetPrinter {
   /// Lets the player choose where to print; false when nothing is to be printed.
   virtual bool Choose(QWidget* window) = 0;
 
-  /// Prints the text in one job. Throws PrinterError when that cannot begin or fails on the way.
+  /// Prints the text in one job. Throws PrinterError when that cannot begin or fails on the way,
+  /// FileError when a PDF cannot be written.
   virtual void Print(const std::string& text) = 0;
 };
 

@@ -63,8 +63,18 @@ void RotateBoard270(CellTable& cells, int order) {
 
 void TurnBoard(Board& board, const Symmetry& symmetry) {
   board.ReadGrid();
-  symmetry.Turn(board.BoardValues, board.GridSize);
+  CellTable gaps, givens;
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    gaps(r, c) = board.grid.Text(r, c).empty() ? 1 : 0;
+    givens(r, c) = board.grid.Given(r, c) ? 1 : 0;
+  });
+  for (CellTable* cells : {&board.BoardValues, &gaps, &givens})
+    symmetry.Turn(*cells, board.GridSize);
   board.ShowBoard();
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    if (gaps(r, c) != 0) board.grid.SetText(r, c, "");
+    board.grid.SetGiven(r, c, givens(r, c) != 0);
+  });
   RefreshTotals(board);
 }
 

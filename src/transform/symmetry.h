@@ -51,8 +51,8 @@ inline constexpr std::array kSymmetries = {
 };
 
 /// The symmetry as a command: reads the grid, turns what it holds and shows it, and judges the
-/// totals again where a check had judged them before. When a value overflows, the grid is as it
-/// was.
+/// totals again where a check had judged them before. Gaps stay gaps, and givens go with their
+/// numbers. When a value overflows, the grid is as it was.
 void TurnBoard(Board& board, const Symmetry& symmetry);
 
 }  // namespace numorra

@@ -41,6 +41,10 @@ void Drawing::SetColour(Colour picked) {
 void Drawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().window());
+  Paint(painter);
+}
+
+void Drawing::Paint(QPainter& painter) const {
   if (!kind_ || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const int order = board_.GridSize;

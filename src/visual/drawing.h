@@ -21,6 +21,9 @@ class Drawing : public QWidget {
   /// The colour that values are shaded with.
   void SetColour(Colour picked);
 
+  /// Paints what is shown over the painter's ground, which is as large as the widget.
+  void Paint(QPainter& painter) const;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

@@ -27,7 +27,8 @@ TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
   EXPECT_EQ(RunWith("--size=4").Out,
             " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
   EXPECT_EQ(RunWith("--size 4 --format=json").Out,
-            "{\"order\": 4, \"total\": 34, \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
+            "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 4, \"total\": 34, "
+            "\"rules\": \"normal\", \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
             "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
   EXPECT_EQ(RunWith("--size 4 --format csv").Out, "4,9,5,16\n14,7,11,2\n15,6,10,3\n1,12,8,13\n");
   EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);

@@ -6,7 +6,8 @@ namespace numorra {
 namespace {
 
 TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
-  const NumberRows loShu{{8, 1, 6}, {3, 5, 7}, {4, 9, 2}};
+  using Cells = std::vector<std::optional<double>>;
+  const Cells loShu{8, 1, 6, 3, 5, 7, 4, 9, 2};
   for (const char* text :
        {"8\t1\t6\n3\t5\t7\n4\t9\t2\n", "8\t1\t6\r\n3\t5\t7\r\n4\t9\t2",
         "8\t1\t6\r3\t5\t7\r4\t9\t2\r", "8\t1\t6\t\n3\t5\t7\t\n4\t9\t2\t", "8,1,6\n3,5,7\n4,9,2",
@@ -17,13 +18,22 @@ TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
         "5 7\n4 9\xE2\x80\xAF"
         "2"}) {
     const auto read = ReadSquareText(text);
-    ASSERT_TRUE(std::holds_alternative<NumberRows>(read)) << text;
-    EXPECT_EQ(std::get<NumberRows>(read), loShu) << text;
+    ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << text;
+    EXPECT_EQ(std::get<StoredSquare>(read).Cells, loShu) << text;
   }
   const auto signs = ReadSquareText(
       "\xE2\x88\x92"
       "1 -2.5 3\n4 5 6\n7 8 00000000000000000.5000");
-  EXPECT_EQ(std::get<NumberRows>(signs), (NumberRows{{-1, -2.5, 3}, {4, 5, 6}, {7, 8, 0.5}}));
+  EXPECT_EQ(std::get<StoredSquare>(signs).Cells, (Cells{-1, -2.5, 3, 4, 5, 6, 7, 8, 0.5}));
+  const Cells gaps{8, {}, 6, {}, 5, {}, 4, {}, {}};
+  for (const char* text : {"8 . 6\n- 5 _\n4", "8,,6\n,5,\n4,,", "8,,6\n,5\n4", "8\t\t6\n\t5\n4\n\n",
+                           "8;-;6;\n;5;;\n4;_;;", "8 - 6\n\xE2\x88\x92 5\n4 . ."}) {
+    const auto read = ReadSquareText(text);
+    ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << text;
+    EXPECT_EQ(std::get<StoredSquare>(read).Cells, gaps) << text;
+    const auto again = ReadSquareText(CsvOf(std::get<StoredSquare>(read)));
+    EXPECT_EQ(std::get<StoredSquare>(again), std::get<StoredSquare>(read));
+  }
 }
 
 TEST(SquareTexts, ThatAreNoneAreRefusedWithTheirLine) {
@@ -40,12 +50,11 @@ TEST(SquareTexts, ThatAreNoneAreRefusedWithTheirLine) {
       {wide, none},
       {std::string(2 << 20, '1'), kTooLongForASquare},
       {"1 2 3 4\n1 2 3 4\n1 2 3 4", "line 1 has 4 numbers, not 3 as there are lines"},
-      {"\n\n1 2 3\n4 5\n7 8 9", "line 4 has 2 numbers, not 3 as there are lines"},
-      {"1 2 3\n\n4 5 6\n7 8 9", "line 1 has 3 numbers, not 4 as there are lines"},
+      {"\n\n1 2 3\n4 5 6 7\n7 8 9", "line 4 has 4 numbers, not 3 as there are lines"},
+      {"1 2 3\n\n4 5 6\n7 8 9", "line 2 is empty"},
       {"1,2,3,\n4,5,6\n7,8,9", "line 1 has 4 numbers, not 3 as there are lines"},
       {"1 2 x\n4 5 6\n7 8 9", "line 1: \"x\" is no number"},
       {"1 2 3\n4 5 6\n1.2.3 8 9", "line 3: \"1.2.3\" is no number"},
-      {"1,2,3\n4,,6\n7,8,9", "line 2: a number is missing"},
       {"1 2 3\n4 5 6\n7 1e9 9", "line 3: \"1e9\" is no number"},
       {"1 2 3\n4 5 6\n123456789012345 8 9", "line 3: 123456789012345 has more than 14 digits"},
       {"1 2 3\n-999999999999999.5 5 6\n7 8 9",

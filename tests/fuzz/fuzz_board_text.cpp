@@ -12,11 +12,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   PlainBoxes boxes;
   const std::string text = TextOf(data, size);
   const auto read = ReadSquareText(text);
-  const auto* rows = std::get_if<NumberRows>(&read);
+  const auto* square = std::get_if<StoredSquare>(&read);
   const bool pasted = PasteBoard(board, boxes, dialogs, text);
-  Check(pasted == (rows != nullptr) && dialogs.Take().size() == (pasted ? 0 : 1));
+  Check(pasted == (square != nullptr) && dialogs.Take().size() == (pasted ? 0 : 1));
   if (!pasted) return 0;
-  const auto again = ReadSquareText(BoardText(board));
-  Check(std::holds_alternative<NumberRows>(again) && std::get<NumberRows>(again) == *rows);
+  for (const std::string& again : {BoardText(board), CsvOf(*square)}) {
+    const auto reread = ReadSquareText(again);
+    Check(std::get_if<StoredSquare>(&reread) && std::get<StoredSquare>(reread) == *square);
+  }
   return 0;
 }

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QTest>
 
+#include "app/board/position.h"
 #include "support/invariants.h"
 
 namespace numorra {
@@ -33,10 +34,18 @@ bool Monkey::Printer::Choose(QWidget*) {
   return TheMonkey.Below(4) != 0;
 }
 
+QString Monkey::Files::Any() {
+  const QString names[] = {"a.json", "a.json", "b.csv", "b.csv", "c.png", "d.pdf", "e", ""};
+  const QString name = TheMonkey.Any(names);
+  if (name.isEmpty()) return TheMonkey.Below(2) ? "" : "/nowhere/at.all";
+  return TheMonkey.folder_.filePath(name);
+}
+
 Monkey::Monkey(unsigned seed)
     : dice_(seed),
       clock_(seed),
-      window_({.TimeOfDay = &clock_, .Printer = &printer_, .FrameMilliseconds = 0}) {
+      window_(
+          {.TimeOfDay = &clock_, .Printer = &printer_, .Files = &files_, .FrameMilliseconds = 0}) {
   QObject::connect(&answerer_, &QTimer::timeout, [this] { AnswerBox(); });
   answerer_.start(0);
 }
@@ -161,6 +170,34 @@ void Monkey::AnswerBox() {
     if (answer == 1) box->close();
     if (answer > 1) Any(box->buttons())->click();
   }
+}
+
+std::string Monkey::UndoAndRedoEverything() {
+  while (QWidget* popup = QApplication::activePopupWidget())
+    popup->close();
+  while (Front() != &window_)
+    Front()->close();
+  auto* undo = window_.findChild<QAction*>("UndoMovex");
+  auto* redo = window_.findChild<QAction*>("RedoMovex");
+  std::vector<Position> positions{PositionOf(window_.TheBoard())};
+  std::string why;
+  while (undo->isEnabled() && why.empty()) {
+    undo->trigger();
+    positions.push_back(PositionOf(window_.TheBoard()));
+    why = WhyWrong();
+  }
+  if (positions.size() <= UndoHistory::kMostSteps && why.empty() &&
+      positions.back() != Position()) {
+    return "the first board is not there again";
+  }
+  for (; positions.size() > 1 && why.empty(); why += WhyWrong()) {
+    positions.pop_back();
+    redo->trigger();
+    const Position now = PositionOf(window_.TheBoard());
+    if (IsChange(now, positions.back())) return "another board than before";
+    if (positions.size() > 1 && now != positions.back()) return "another position than before";
+  }
+  return redo->isEnabled() ? "more is done again than was taken back" : why;
 }
 
 std::string Monkey::WhyWrong() {

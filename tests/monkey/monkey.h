@@ -21,6 +21,10 @@ class Monkey {
   /// Does one thing. Returns what does not hold afterwards, or nothing.
   std::string Step();
 
+  /// Takes everything back, as far as the history reaches, and does it again. Returns what does not
+  /// hold at any step, or nothing.
+  std::string UndoAndRedoEverything();
+
   /// What has been done so far.
   int Builds = 0;
   int BoxesAnswered = 0;
@@ -67,9 +71,20 @@ class Monkey {
     Monkey& TheMonkey;
   };
 
+  struct Files : FileChooser {
+    explicit Files(Monkey& monkey) : TheMonkey(monkey) {}
+    QString ToOpen(QWidget*, const QString&, const QString&) override { return Any(); }
+    QString ToSave(QWidget*, const QString&, const QString&, const QString&) override {
+      return Any();
+    }
+    QString Any();
+    Monkey& TheMonkey;
+  };
+
   std::mt19937 dice_;
   QTemporaryDir folder_;
   Printer printer_{*this};
+  Files files_{*this};
   TickingClock clock_;
   MainWindow window_;
   QTimer answerer_;

@@ -21,6 +21,7 @@ TEST(MonkeyTest, BreaksNothing) {
       const std::string wrong = monkey.Step();
       ASSERT_EQ(wrong, "") << "seed " << seed << ", step " << step << ": " << monkey.LastDone;
     }
+    ASSERT_EQ(monkey.UndoAndRedoEverything(), "") << "seed " << seed;
     builds += monkey.Builds;
     boxes += monkey.BoxesAnswered;
     ++seed;

@@ -6,6 +6,18 @@
 
 namespace numorra {
 
+bool Board::HasGaps() const {
+  bool gaps = false;
+  if (Shown()) ForEachCell(GridSize, [&](int r, int c) { gaps |= grid.Text(r, c).empty(); });
+  return gaps;
+}
+
+bool Board::HasGivens() const {
+  bool givens = false;
+  if (Shown()) ForEachCell(GridSize, [&](int r, int c) { givens |= grid.Given(r, c); });
+  return givens;
+}
+
 bool Board::HasTotal() const {
   return Shown() && Val(grid.Text(0, 0)) != 0;
 }
@@ -64,10 +76,11 @@ void Board::ShowTotals() {
   show(0, 0);
 }
 
-void Board::ShowSquare(std::int16_t order, double target, const CellTable& square) {
+void Board::ShowSquare(std::int16_t order, double target, Rules rules, const CellTable& square) {
   const RedrawLock lock(grid);
   GridSize = order;
   TargetTotal = target;
+  Asked = rules;
   SetupBoard();
   BoardValues = square;
   ShowBoard();

@@ -5,6 +5,7 @@
 
 #include "app/board/cell_table.h"
 #include "app/board/grid.h"
+#include "app/board/rules.h"
 
 namespace numorra {
 
@@ -28,6 +29,7 @@ struct Board {
   std::int16_t GridSize = 0;   ///< n: the order of the board in the grid
   std::int16_t BaseValue = 0;  ///< the cell value of the untouched base board
   Mode SolveMode = ModeNormal;
+  Rules Asked = Rules::Normal;  ///< what may stand in the board in the grid
   CellTable BoardValues;
   CellTable CellFlags;     ///< one number a cell, for the generators' patterns
   double TargetTotal = 0;  ///< what every line must add up to
@@ -49,6 +51,10 @@ struct Board {
 
   /// Whether a board of GridSize stands in the grid.
   bool Shown() const { return GridSize > 0 && grid.Rows() == GridSize + 2; }
+
+  /// Whether any cell is empty, or given.
+  bool HasGaps() const;
+  bool HasGivens() const;
 
   /// Whether the main diagonal's total is other than 0: what can be shaded and drawn.
   bool HasTotal() const;
@@ -77,7 +83,7 @@ struct Board {
 
   /// Puts a new board of order `order` with the values of `square` in the grid and in sight, its
   /// totals uncoloured, its first value cell current.
-  void ShowSquare(std::int16_t order, double target, const CellTable& square);
+  void ShowSquare(std::int16_t order, double target, Rules rules, const CellTable& square);
 
   /// Judges every total but (0, 0) wrong.
   void MarkAllTotalsWrong();

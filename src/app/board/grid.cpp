@@ -56,6 +56,11 @@ void Grid::Judge(int row, int column, Verdict verdict) {
   WantRepaint();
 }
 
+void Grid::SetGiven(int row, int column, bool given) {
+  At(row, column).Given = given;
+  WantRepaint();
+}
+
 void Grid::SetCurrent(int row, int column) {
   (void)At(row, column);
   if (row == currentRow_ && column == currentColumn_) return;

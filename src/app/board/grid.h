@@ -57,6 +57,10 @@ class Grid {
   void Judge(int row, int column, Verdict verdict);
   Verdict VerdictOf(int row, int column) const { return At(row, column).Judged; }
 
+  /// A fixed number, which the player cannot change.
+  void SetGiven(int row, int column, bool given);
+  bool Given(int row, int column) const { return At(row, column).Given; }
+
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
   void SetCurrent(int row, int column);
@@ -78,6 +82,7 @@ class Grid {
     Colour Background = kWindowBackground;
     Colour Foreground = ColorTable[kCellText];
     bool Shaded = false;
+    bool Given = false;
     Verdict Judged = Verdict::Unjudged;
   };
 

@@ -29,6 +29,12 @@ Position PositionOf(const Board& board) {
                          static_cast<std::size_t>(board.GridSize));
   ForEachCell(board.GridSize,
               [&](int row, int column) { position.Texts.push_back(grid.Text(row, column)); });
+  position.Asked = board.Asked;
+  if (board.HasGivens()) {
+    position.Givens.reserve(position.Texts.size());
+    ForEachCell(board.GridSize,
+                [&](int row, int column) { position.Givens.push_back(grid.Given(row, column)); });
+  }
   position.Checked = board.TotalsChecked;
   position.Judged = grid.VerdictOf(0, 0) != Verdict::Unjudged;
   position.Row = grid.CurrentRow();
@@ -43,6 +49,7 @@ void Restore(Board& board, const Position& position) {
     board.SetOverlayShown(false);
     grid.Reshape(0, 0);
     grid.SetVisible(false);
+    board.TotalsChecked = board.UntouchedBase = false;
     return;
   }
   board.NewEntry = true;  // what was typed is gone, not to be checked
@@ -51,8 +58,13 @@ void Restore(Board& board, const Position& position) {
   board.TargetTotal = position.Target;
   board.BaseValue = position.Base;
   if (reshaped) board.SetupBoard();
-  auto text = position.Texts.begin();
-  ForEachCell(board.GridSize, [&](int row, int column) { grid.SetText(row, column, *text++); });
+  board.Asked = position.Asked;
+  std::size_t cell = 0;
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    grid.SetText(row, column, position.Texts[cell]);
+    grid.SetGiven(row, column, !position.Givens.empty() && position.Givens[cell]);
+    ++cell;
+  });
   board.ReadGrid();
   board.ShowTotals();
   if (position.Judged) {
@@ -67,7 +79,9 @@ void Restore(Board& board, const Position& position) {
 }
 
 bool IsChange(const Position& before, const Position& after) {
-  const auto seen = [](const Position& p) { return std::tie(p.Order, p.Target, p.Texts); };
+  const auto seen = [](const Position& p) {
+    return std::tie(p.Order, p.Target, p.Texts, p.Givens);
+  };
   return seen(before) != seen(after);
 }
 

@@ -14,10 +14,13 @@ struct Position {
   std::int16_t Order = 0;  ///< 0 where there is no board
   double Target = 0;
   std::int16_t Base = 0;
-  std::vector<std::string> Texts;  ///< of the value cells in reading order; a cell may be empty
-  bool Checked = false;            ///< a check has been made, so that keys reach the board
-  bool Judged = false;             ///< the totals are coloured
-  int Row = 0;                     ///< the current cell
+  Rules Asked = Rules::Normal;
+  std::vector<std::string> Texts =
+      {};                         ///< of the value cells in reading order; an empty one is a gap
+  std::vector<bool> Givens = {};  ///< by cell; empty when there are none
+  bool Checked = false;           ///< a check has been made, so that keys reach the board
+  bool Judged = false;            ///< the totals are coloured
+  int Row = 0;                    ///< the current cell
   int Column = 0;
 
   bool operator==(const Position&) const = default;
@@ -31,7 +34,8 @@ Position PositionOf(const Board& board);
 /// board has a total to draw.
 void Restore(Board& board, const Position& position);
 
-/// Whether a player would call the second a change of the first: another order, target or text.
+/// Whether a player would call the second a change of the first: another order, target, text or
+/// given.
 bool IsChange(const Position& before, const Position& after);
 
 }  // namespace numorra

@@ -1,11 +1,6 @@
 #include "app/play/board_text.h"
 
-#include <algorithm>
-#include <limits>
-
-#include "app/board/decimal_sum.h"
-#include "app/board/numbers.h"
-#include "app/board/orders.h"
+#include "app/play/lay_out.h"
 #include "files/square_text.h"
 
 namespace numorra {
@@ -26,21 +21,7 @@ bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::s
     dialogs.Tell(unreadable->Why);
     return false;
   }
-  const auto& rows = std::get<NumberRows>(read);
-  const auto order = static_cast<std::int16_t>(rows.size());
-  DecimalSum sum;
-  for (const double number : rows.front())
-    sum.Add(number);
-  CellTable cells;
-  ForEachCell(order, [&](int r, int c) {
-    cells(r, c) = rows[static_cast<std::size_t>(r - 1)][static_cast<std::size_t>(c - 1)];
-  });
-  constexpr double kHighestBase = std::numeric_limits<std::int16_t>::max();
-  board.SolveMode = ModeVariable;
-  board.BaseValue = ToInt16(std::min(kHighestBase, BaseOf(sum.Total(), order)));
-  boxes.SetSize(Decimal(order));
-  boxes.SetSum(Decimal(sum.Total()));
-  board.ShowSquare(order, sum.Total(), cells);
+  LayOut(board, boxes, std::get<StoredSquare>(read));
   return true;
 }
 

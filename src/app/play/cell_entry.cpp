@@ -25,18 +25,18 @@ void CellEntry::TypeCharacter(char32_t character) {
   Grid& grid = board_.grid;
   const int row = grid.CurrentRow();
   const int column = grid.CurrentColumn();
+  const bool editing = character == kBackspace || (character >= U'0' && character <= U'9');
+  if (!editing || !MayChange(board_, dialogs_, row, column)) return;
   std::string text = Trim(grid.Text(row, column));
   if (character == kBackspace) {
     if (text.empty()) return;
     text.pop_back();
-  } else if (character >= U'0' && character <= U'9') {
+  } else {
     if (board_.NewEntry) text.clear();
     const auto digit = [](char c) { return c >= '0' && c <= '9'; };
     if (std::count_if(text.begin(), text.end(), digit) < kMostCellDigits) {
       text += static_cast<char>(character);
     }
-  } else {
-    return;
   }
   grid.SetText(row, column, text);
   board_.NewEntry = false;

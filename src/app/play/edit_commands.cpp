@@ -71,8 +71,9 @@ void EditCommands::SetRandomValue() {
 }
 
 void EditCommands::FillAtRandom() {
-  ForEachCell(board_.GridSize,
-              [&](int r, int c) { board_.grid.SetText(r, c, Decimal(RandomValue())); });
+  ForEachCell(board_.GridSize, [&](int r, int c) {
+    if (!board_.grid.Given(r, c)) board_.grid.SetText(r, c, Decimal(RandomValue()));
+  });
   CheckAndReturn(board_, dialogs_);
 }
 
@@ -80,8 +81,10 @@ void EditCommands::SetAllRem() {
   const int row = board_.grid.CurrentRow();
   const int column = board_.grid.CurrentColumn();
   const std::string base = Decimal(board_.BaseValue);
-  ForEachCell(board_.GridSize, [&](int r, int c) { board_.grid.SetText(r, c, base); });
-  board_.grid.SetText(row, column, Decimal(RandomValue()));
+  ForEachCell(board_.GridSize, [&](int r, int c) {
+    if (!board_.grid.Given(r, c)) board_.grid.SetText(r, c, base);
+  });
+  if (!board_.grid.Given(row, column)) board_.grid.SetText(row, column, Decimal(RandomValue()));
   CheckAndReturn(board_, dialogs_);
   const EditCommand& repeat = *FindEdit("Set2allran");
   history_.Record(repeat.Code, repeat.Caption);
@@ -99,16 +102,17 @@ void EditCommands::Adjust(AdjustLine line) {
 
 void EditCommands::SwapValue() {
   if (board_.MarkedRow == -1 || board_.MarkedCol == -1) return;
-  ExchangeTexts(board_.grid, board_.MarkedRow, board_.MarkedCol, board_.grid.CurrentRow(),
-                board_.grid.CurrentColumn());
-  CheckAndReturn(board_, dialogs_);
+  SwapCells(board_, dialogs_, board_.MarkedRow, board_.MarkedCol, board_.grid.CurrentRow(),
+            board_.grid.CurrentColumn());
 }
 
 void EditCommands::Turn(const Symmetry& symmetry) {
   TurnBoard(board_, symmetry);
 }
 
+/// A given cell is refused, which is then not recorded.
 void EditCommands::SetCell(double value) {
+  refused_ = board_.grid.Given(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
   SetCurrentCell(board_, dialogs_, Decimal(value));
 }
 

@@ -13,7 +13,8 @@ namespace numorra {
 /// The editing commands of the board's context menu. All of them act on the board on the screen.
 ///
 /// Values go into the current cell, followed by a totals check. A move that brings back the
-/// untouched base board is taken back, and recorded all the same.
+/// untouched base board is taken back, and recorded all the same. Given numbers stay: commands that
+/// write the whole board pass them by, every other one is refused on them.
 class EditCommands {
  public:
   EditCommands(Board& board, Dialogs& dialogs, Random& random, CommandHistory& history)

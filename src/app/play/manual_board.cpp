@@ -32,6 +32,7 @@ void BuildManualBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildS
     board.GridSize = order;
     board.BaseValue = base;
     board.TargetTotal = sum;
+    board.Asked = board.SolveMode == ModeNormal ? Rules::Normal : Rules::Positive;
     board.SetupBoard();
     board.FillBoard(base + 1.0);
     board.ShowBoard();

@@ -1,13 +1,33 @@
 #include "app/play/moves.h"
 
+#include <vector>
+
 #include "app/board/totals_check.h"
 
 namespace numorra {
-void ExchangeTexts(Grid& grid, int rowA, int columnA, int rowB, int columnB) {
-  std::string text = grid.Text(rowA, columnA);
-  grid.SetText(rowA, columnA, grid.Text(rowB, columnB));
-  grid.SetText(rowB, columnB, std::move(text));
+namespace {
+
+struct Place {
+  int Row;
+  int Column;
+};
+
+/// Exchanges the cells pairwise, unless one of them is given, and checks.
+void Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place, Place>>& pairs) {
+  for (const auto& [a, b] : pairs) {
+    if (!MayChange(board, dialogs, a.Row, a.Column)) return;
+    if (!MayChange(board, dialogs, b.Row, b.Column)) return;
+  }
+  Grid& grid = board.grid;
+  for (const auto& [a, b] : pairs) {
+    std::string text = grid.Text(a.Row, a.Column);
+    grid.SetText(a.Row, a.Column, grid.Text(b.Row, b.Column));
+    grid.SetText(b.Row, b.Column, std::move(text));
+  }
+  CheckAndReturn(board, dialogs);
 }
+
+}  // namespace
 
 void CheckAndReturn(Board& board, Dialogs& dialogs) {
   const int row = board.grid.CurrentRow();
@@ -16,9 +36,17 @@ void CheckAndReturn(Board& board, Dialogs& dialogs) {
   board.ReturnTo(row, column);
 }
 
+bool MayChange(const Board& board, Dialogs& dialogs, int row, int column) {
+  if (!board.grid.Given(row, column)) return true;
+  dialogs.Tell("the number in row " + std::to_string(row) + ", column " + std::to_string(column) +
+               " is given and cannot be changed");
+  return false;
+}
+
 void SetCurrentCell(Board& board, Dialogs& dialogs, const std::string& text) {
   const int row = board.grid.CurrentRow();
   const int column = board.grid.CurrentColumn();
+  if (!MayChange(board, dialogs, row, column)) return;
   const std::string old = board.grid.Text(row, column);
   board.grid.SetText(row, column, text);
   CheckAndReturn(board, dialogs);
@@ -27,18 +55,24 @@ void SetCurrentCell(Board& board, Dialogs& dialogs, const std::string& text) {
   CheckAndReturn(board, dialogs);
 }
 
+void SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB) {
+  Exchange(board, dialogs, {{{rowA, columnA}, {rowB, columnB}}});
+}
+
 void SwapRows(Board& board, Dialogs& dialogs, int a, int b) {
   if (a == b) return;
-  for (int j = 1; j <= board.GridSize; ++j)
-    ExchangeTexts(board.grid, a, j, b, j);
-  CheckAndReturn(board, dialogs);
+  std::vector<std::pair<Place, Place>> pairs;
+  for (int column = 1; column <= board.GridSize; ++column)
+    pairs.push_back({{a, column}, {b, column}});
+  Exchange(board, dialogs, pairs);
 }
 
 void SwapColumns(Board& board, Dialogs& dialogs, int a, int b) {
   if (a == b) return;
-  for (int i = 1; i <= board.GridSize; ++i)
-    ExchangeTexts(board.grid, i, a, i, b);
-  CheckAndReturn(board, dialogs);
+  std::vector<std::pair<Place, Place>> pairs;
+  for (int row = 1; row <= board.GridSize; ++row)
+    pairs.push_back({{row, a}, {row, b}});
+  Exchange(board, dialogs, pairs);
 }
 
 }  // namespace numorra

@@ -10,14 +10,16 @@ namespace numorra {
 /// Checks the totals after a move and makes the cell that was current so again.
 void CheckAndReturn(Board& board, Dialogs& dialogs);
 
+/// Whether the cell may be changed; of a given one the player is told that it may not.
+bool MayChange(const Board& board, Dialogs& dialogs, int row, int column);
+
 /// Writes `text` into the current cell and checks. A move that makes the board the untouched base
-/// board is taken back without a word.
+/// board is taken back without a word; a given cell is refused.
 void SetCurrentCell(Board& board, Dialogs& dialogs, const std::string& text);
 
-/// Exchanges the texts of two cells, without a check.
-void ExchangeTexts(Grid& grid, int rowA, int columnA, int rowB, int columnB);
-
-/// Exchange two rows or two columns of the board, then check; the same line twice does nothing.
+/// Exchange two cells, two rows or two columns of the board, then check; the same line twice does
+/// nothing. Refused where a given cell would move.
+void SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB);
 void SwapRows(Board& board, Dialogs& dialogs, int a, int b);
 void SwapColumns(Board& board, Dialogs& dialogs, int a, int b);
 

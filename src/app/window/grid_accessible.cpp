@@ -46,7 +46,11 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
     if (kind != QAccessible::Name) return {};
     if (!line.isEmpty()) return Total(row_, column_);
     if (row_ == last || column_ == last) return value.isEmpty() ? "frame" : "marked for a swap";
-    return QString("row %1, column %2, value %3").arg(row_).arg(column_).arg(value);
+    return QString("row %1, column %2, %3%4")
+        .arg(row_)
+        .arg(column_)
+        .arg(value.isEmpty() ? "empty" : "value " + value,
+             Cells().Given(row_, column_) ? ", given" : "");
   }
 
   QRect rect() const override {

@@ -16,9 +16,7 @@
 namespace numorra {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr int kGuideAlpha = 36;  // of 255
-constexpr int kLowestDpi = 24;   // below it a cell would be no more than a dot
 
 MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
   if (modifiers.testFlag(Qt::ShiftModifier)) return MarkedLine::Row;
@@ -28,7 +26,7 @@ MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
 }  // namespace
 
 GridView::GridView(Grid& grid, QWidget* parent)
-    : QAbstractScrollArea(parent), grid_(grid), dpi_(std::max(kLowestDpi, logicalDpiX())) {
+    : QAbstractScrollArea(parent), grid_(grid), painter_(grid, font(), logicalDpiX()) {
   setObjectName("grid");
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -41,16 +39,22 @@ GridView::GridView(Grid& grid, QWidget* parent)
 
 std::optional<QPoint> GridView::CellAt(QPoint point) const {
   if (!grid_.Visible()) return std::nullopt;
-  const int row = LineAt(point.y(), verticalScrollBar()->value(), grid_.Rows());
-  const int column = LineAt(point.x(), horizontalScrollBar()->value(), grid_.Columns());
+  const int row = painter_.LineAt(point.y(), verticalScrollBar()->value(), grid_.Rows());
+  const int column = painter_.LineAt(point.x(), horizontalScrollBar()->value(), grid_.Columns());
   if (row < 0 || column < 0) return std::nullopt;
   return QPoint(column, row);
 }
 
 QRect GridView::CellRect(int row, int column) const {
-  const int top = Scrolled(row, verticalScrollBar()->value());
-  const int left = Scrolled(column, horizontalScrollBar()->value());
-  return {left, top, Edge(column + 1) - Edge(column), Edge(row + 1) - Edge(row)};
+  return painter_.CellRect(row, column, Scrolled());
+}
+
+QPoint GridView::Scrolled() const {
+  return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+}
+
+GridPainter::Look GridView::Look() const {
+  return {Scrolled(), palette()};
 }
 
 QPoint GridView::CurrentCellPosition() const {
@@ -61,23 +65,24 @@ QPoint GridView::CurrentCellPosition() const {
 void GridView::BringIntoView(int row, int column) {
   UpdateScrollBars();
   const auto bring = [this](QScrollBar* bar, int line, int length) {
-    const int fixed = Edge(Grid::kFixedLines);
+    const int fixed = painter_.Edge(Grid::kFixedLines);
     if (line < Grid::kFixedLines) return;
-    bar->setValue(std::clamp(bar->value(), Edge(line + 1) - length, Edge(line) - fixed));
+    bar->setValue(
+        std::clamp(bar->value(), painter_.Edge(line + 1) - length, painter_.Edge(line) - fixed));
   };
   bring(verticalScrollBar(), row, viewport()->height());
   bring(horizontalScrollBar(), column, viewport()->width());
 }
 
 QSize GridView::sizeHint() const {
-  return {Edge(16), Edge(16)};
+  return {painter_.Edge(16), painter_.Edge(16)};
 }
 
 bool GridView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto cell = CellAt(help->pos());
-    if (cell && !Texts().Readable(grid_.Text(cell->y(), cell->x()))) {
+    if (cell && !painter_.Readable(cell->y(), cell->x())) {
       QToolTip::showText(help->globalPos(),
                          QString::fromStdString(grid_.Text(cell->y(), cell->x())), viewport());
     } else {
@@ -93,7 +98,7 @@ void GridView::paintEvent(QPaintEvent* event) {
   UpdateScrollBars();
   if (!grid_.Visible()) return;
   QPainter painter(viewport());
-  PaintCells(painter, viewport()->size(), event->rect());
+  painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
@@ -112,38 +117,21 @@ void GridView::TellCurrentCell() {
   Q_EMIT CurrentCellShown(another);
 }
 
-/// Paints the four blocks that scroll differently, as far as they lie in `dirty`.
-void GridView::PaintCells(QPainter& painter, QSize size, const QRect& dirty) {
-  constexpr int kFixed = Grid::kFixedLines;
-  const int fixed = Edge(kFixed);
-  const int rows = grid_.Rows();
-  const int columns = grid_.Columns();
-  const int width = size.width() - fixed;
-  const int height = size.height() - fixed;
-  const auto block = [&](const QRect& whole, int firstRow, int rowEnd, int firstColumn,
-                         int columnEnd) {
-    const QRect area = whole & dirty;
-    if (!area.isEmpty()) PaintBlock(painter, area, firstRow, rowEnd, firstColumn, columnEnd);
-  };
-  block({fixed, fixed, width, height}, kFixed, rows, kFixed, columns);
-  block({fixed, 0, width, fixed}, 0, kFixed, kFixed, columns);
-  block({0, fixed, fixed, height}, kFixed, rows, 0, kFixed);
-  block({0, 0, fixed, fixed}, 0, kFixed, 0, kFixed);
+QImage GridView::Picture() {
+  QImage picture(PictureSize(), QImage::Format_RGB32);
+  picture.fill(palette().color(QPalette::Window));
+  QPainter painter(&picture);
+  PaintPicture(painter, palette());
+  return picture;
 }
 
-QImage GridView::Picture() {
-  QImage picture(Edge(grid_.Columns()), Edge(grid_.Rows()), QImage::Format_RGB32);
-  picture.fill(palette().color(QPalette::Window));
-  const QSignalBlocker quietColumns(horizontalScrollBar());
-  const QSignalBlocker quietRows(verticalScrollBar());
-  const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
-  horizontalScrollBar()->setValue(0);
-  verticalScrollBar()->setValue(0);
-  QPainter painter(&picture);
-  PaintCells(painter, picture.size(), picture.rect());
-  horizontalScrollBar()->setValue(scrolled.x());
-  verticalScrollBar()->setValue(scrolled.y());
-  return picture;
+QSize GridView::PictureSize() const {
+  return {painter_.Edge(grid_.Columns()), painter_.Edge(grid_.Rows())};
+}
+
+void GridView::PaintPicture(QPainter& painter, const QPalette& palette) {
+  const QSize size = PictureSize();
+  painter_.PaintCells(painter, {QPoint(), palette}, size, QRect(QPoint(), size));
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -185,7 +173,7 @@ bool GridView::Navigate(int key, bool toTheVeryEnd) {
   const int column = grid_.CurrentColumn();
   const int lastRow = grid_.Rows() - 2;
   const int lastColumn = grid_.Columns() - 2;
-  const int page = std::max(1, viewport()->height() / Edge(1) - Grid::kFixedLines - 1);
+  const int page = std::max(1, viewport()->height() / painter_.Edge(1) - Grid::kFixedLines - 1);
   switch (key) {
     case Qt::Key_Up:
       Q_EMIT CellWanted(row - 1, column);
@@ -234,33 +222,10 @@ void GridView::resizeEvent(QResizeEvent* event) {
 }
 
 void GridView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) texts_.reset();
-  QAbstractScrollArea::changeEvent(event);
-}
-
-/// The pixel at which a line begins, unscrolled.
-int GridView::Edge(int line) const {
-  const auto index = static_cast<std::size_t>(line);
-  while (edges_.size() <= index) {
-    const auto next = static_cast<double>(edges_.size());
-    edges_.push_back(static_cast<int>(std::lround(next * Grid::kCellTwips * dpi_ / kTwipsPerInch)));
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    painter_.SetFont(font());
   }
-  return edges_[index];
-}
-
-/// The line drawn at a pixel; -1 beyond the last.
-int GridView::LineAt(int position, int scrolled, int lines) const {
-  if (position >= Edge(Grid::kFixedLines)) position += scrolled;
-  auto line = std::max(0, static_cast<int>(position * kTwipsPerInch / dpi_ / Grid::kCellTwips));
-  while (Edge(line + 1) <= position)
-    ++line;
-  while (line > 0 && Edge(line) > position)
-    --line;
-  return position >= 0 && line < lines ? line : -1;
-}
-
-int GridView::Scrolled(int line, int scrolled) const {
-  return line < Grid::kFixedLines ? Edge(line) : Edge(line) - scrolled;
+  QAbstractScrollArea::changeEvent(event);
 }
 
 void GridView::UpdateScrollBars() {
@@ -268,65 +233,12 @@ void GridView::UpdateScrollBars() {
   if (shape_ == shape) return;
   shape_ = shape;
   const auto set = [this](QScrollBar* bar, int lines, int length) {
-    bar->setRange(0, std::max(0, Edge(lines) - length));
-    bar->setPageStep(std::max(1, length - Edge(Grid::kFixedLines)));
-    bar->setSingleStep(Edge(1));
+    bar->setRange(0, std::max(0, painter_.Edge(lines) - length));
+    bar->setPageStep(std::max(1, length - painter_.Edge(Grid::kFixedLines)));
+    bar->setSingleStep(painter_.Edge(1));
   };
   set(horizontalScrollBar(), shape.width(), viewport()->width());
   set(verticalScrollBar(), shape.height(), viewport()->height());
-}
-
-/// Paints the cells of one of the four blocks that scroll differently, as far as they lie in
-/// `area`.
-void GridView::PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd,
-                          int firstColumn, int columnEnd) {
-  painter.setClipRect(area);
-  const auto from = [](int line, int first) { return line < 0 ? first : std::max(line, first); };
-  const auto upTo = [](int line, int end) { return line < 0 ? end : std::min(line + 1, end); };
-  const int scrolledX = horizontalScrollBar()->value();
-  const int scrolledY = verticalScrollBar()->value();
-  const int top = from(LineAt(area.top(), scrolledY, grid_.Rows()), firstRow);
-  const int bottom = upTo(LineAt(area.bottom(), scrolledY, grid_.Rows()), rowEnd);
-  const int left = from(LineAt(area.left(), scrolledX, grid_.Columns()), firstColumn);
-  const int right = upTo(LineAt(area.right(), scrolledX, grid_.Columns()), columnEnd);
-
-  const QColor line = palette().color(QPalette::Mid);
-  for (int row = top; row < bottom; ++row) {
-    for (int column = left; column < right; ++column) {
-      const QRect cell = CellRect(row, column);
-      const Colour background = grid_.Background(row, column);
-      if (!background.SeeThrough) {
-        painter.fillRect(cell, line);
-        painter.fillRect(cell.adjusted(0, 0, -1, -1), ToQColor(background));
-      } else {
-        PaintBlockEdge(painter, cell, row, column);
-      }
-      if (grid_.VerdictOf(row, column) == Verdict::Wrong) PaintWrongMark(painter, cell);
-      const std::string& text = grid_.Text(row, column);
-      if (text.empty()) continue;
-      painter.setPen(TextColour(row, column));
-      Texts().Draw(painter, cell, text);
-    }
-  }
-}
-
-/// A notch in the corner of a wrong total, for eyes that do not tell its colour from the right
-/// ones'.
-void GridView::PaintWrongMark(QPainter& painter, const QRect& cell) {
-  const int side = cell.width() / 4;
-  const QPoint corner = cell.topRight();
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(ToQColor(ColorTable[kTotalText]));
-  painter.drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner + QPoint(0, side)}));
-}
-
-/// The block's upper and left edge run along the cells of the fixed lines.
-void GridView::PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column) {
-  painter.setPen(palette().color(QPalette::Mid));
-  const bool above = row == 0 && column > 0 && column < grid_.Columns() - 1;
-  const bool before = column == 0 && row > 0 && row < grid_.Rows() - 1;
-  if (above) painter.drawLine(cell.bottomLeft(), cell.bottomRight());
-  if (before) painter.drawLine(cell.topRight(), cell.bottomRight());
 }
 
 bool GridView::CurrentInBlock() const {
@@ -343,8 +255,8 @@ void GridView::PaintGuides(QPainter& painter) {
   const int column = grid_.CurrentColumn();
   QColor tint = palette().color(QPalette::Highlight);
   tint.setAlpha(kGuideAlpha);
-  const QRect scrolling =
-      viewport()->rect().adjusted(Edge(Grid::kFixedLines), Edge(Grid::kFixedLines), 0, 0);
+  const QRect scrolling = viewport()->rect().adjusted(painter_.Edge(Grid::kFixedLines),
+                                                      painter_.Edge(Grid::kFixedLines), 0, 0);
   painter.setClipRect(scrolling);
   const auto tintCell = [&](int r, int c) {
     const QRect cell = CellRect(r, c);
@@ -358,7 +270,7 @@ void GridView::PaintGuides(QPainter& painter) {
   }
   painter.setBrush(Qt::NoBrush);
   const auto frameTotal = [&](int r, int c) {
-    painter.setPen(QPen(TextColour(r, c), 1));
+    painter.setPen(QPen(painter_.TextColour(Look(), r, c), 1));
     painter.drawRect(CellRect(r, c).adjusted(1, 1, -3, -3));
   };
   painter.setClipRect(QRect(0, scrolling.top(), scrolling.left(), scrolling.height()));
@@ -367,18 +279,12 @@ void GridView::PaintGuides(QPainter& painter) {
   frameTotal(0, column);
 }
 
-/// Cells of the window's background have its text colour too.
-QColor GridView::TextColour(int row, int column) const {
-  return grid_.Background(row, column).SeeThrough ? palette().color(QPalette::WindowText)
-                                                  : ToQColor(grid_.Foreground(row, column));
-}
-
 /// The current cell anew, in a ring of the theme's highlight with a light one inside, to be seen on
 /// every colour. The number lies over the rings, so that long ones stay readable.
 void GridView::PaintCurrentCell(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
-  const int fixed = Edge(Grid::kFixedLines) - 1;
+  const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
   const QRect cell = CellRect(row, column);
   const QRect edge = cell.adjusted(0, 0, -1, -1);
@@ -388,13 +294,7 @@ void GridView::PaintCurrentCell(QPainter& painter) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(Qt::white);
   painter.drawRect(edge.adjusted(1, 1, -2, -2));
-  painter.setPen(ToQColor(grid_.Foreground(row, column)));
-  Texts().Draw(painter, cell, grid_.Text(row, column));
-}
-
-CellText& GridView::Texts() {
-  if (!texts_) texts_.emplace(font(), Edge(1));
-  return *texts_;
+  painter_.PaintText(painter, Look(), row, column);
 }
 
 }  // namespace numorra

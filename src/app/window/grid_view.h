@@ -8,12 +8,11 @@
 
 #include "app/board/grid.h"
 #include "app/play/board_mouse.h"
-#include "app/window/cell_text.h"
+#include "app/window/grid_painter.h"
 
 namespace numorra {
 
-/// Paints a Grid and reports mouse and keys; it decides nothing. The fixed row and column stay in
-/// sight while the rest scrolls. Cell edges lie on whole pixels, so cells may differ by one pixel.
+/// Shows a Grid, scrolled where it is too large, and reports mouse and keys; it decides nothing.
 class GridView : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -36,6 +35,10 @@ class GridView : public QAbstractScrollArea {
 
   /// The whole table, in sight or not, without the current cell's marks.
   QImage Picture();
+
+  /// The same on any painter, in other colours of the window's, and how large it is.
+  void PaintPicture(QPainter& painter, const QPalette& palette);
+  QSize PictureSize() const;
 
   QSize sizeHint() const override;
 
@@ -73,22 +76,14 @@ class GridView : public QAbstractScrollArea {
   void changeEvent(QEvent* event) override;
 
  private:
-  int Edge(int line) const;
-  int LineAt(int position, int scrolled, int lines) const;
-  int Scrolled(int line, int scrolled) const;
+  QPoint Scrolled() const;
+  GridPainter::Look Look() const;
   void UpdateScrollBars();
-  void PaintCells(QPainter& painter, QSize size, const QRect& dirty);
-  void PaintBlock(QPainter& painter, const QRect& area, int firstRow, int rowEnd, int firstColumn,
-                  int columnEnd);
-  static void PaintWrongMark(QPainter& painter, const QRect& cell);
-  void PaintBlockEdge(QPainter& painter, const QRect& cell, int row, int column);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);
-  QColor TextColour(int row, int column) const;
   void PaintCurrentCell(QPainter& painter);
   bool Navigate(int key, bool toTheVeryEnd);
   void TellCurrentCell();
-  CellText& Texts();
 
   struct ShownCell {
     int Row;
@@ -97,9 +92,7 @@ class GridView : public QAbstractScrollArea {
   };
 
   Grid& grid_;
-  int dpi_;
-  mutable std::vector<int> edges_;  ///< by line, as far as they have been asked for
-  std::optional<CellText> texts_;
+  GridPainter painter_;
   std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
   std::optional<ShownCell> told_;  ///< the current cell as it was last told of
 };

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMimeData>
@@ -11,10 +13,12 @@
 #include "app/board/numbers.h"
 #include "app/play/board_mouse.h"
 #include "app/play/board_text.h"
+#include "app/play/lay_out.h"
 #include "app/play/manual_board.h"
 #include "app/play/moves.h"
 #include "app/window/column_scroller.h"
 #include "app/window/grid_accessible.h"
+#include "app/window/square_files.h"
 #include "files/square_text.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
@@ -62,6 +66,7 @@ MainWindow::MainWindow(const World& world)
       random_(world.TimeOfDay ? *world.TimeOfDay : systemClock_),
       dialogs_(world.TheDialogs ? *world.TheDialogs : messageBoxes_),
       printer_(world.Printer ? *world.Printer : paperPrinter_),
+      files_(world.Files ? *world.Files : fileDialogs_),
       runner_(dialogs_, world.FrameMilliseconds),
       solve_(new SolveFrame),
       limit_(new LimitFrame),
@@ -82,9 +87,10 @@ MainWindow::MainWindow(const World& world)
       solveCommand_({board_, *square_, *this, dialogs_, stage_, random_, List2, List3}),
       topRowCommand_(board_, *square_, dialogs_, stage_, random_) {
   setObjectName("Form1");
+  setAcceptDrops(true);
   view_->setAccessibleName("Board");
   setWindowTitle(kApplicationTitle);
-  LayOut();
+  ArrangeFrames();
   BuildMenus();
   ConnectControls();
   ConnectBoard();
@@ -96,7 +102,7 @@ MainWindow::~MainWindow() {
   board_.grid.OnRepaint = nullptr;
 }
 
-void MainWindow::LayOut() {
+void MainWindow::ArrangeFrames() {
   const int gap = PixelsOf(kGap);
   const int inside = PixelsOf(kInside);
   const int margin = PixelsOf(kMargin);
@@ -136,14 +142,30 @@ void MainWindow::BuildMenus() {
     return [this, body] { runner_.RunBeside([body] { body(); }); };
   };
   const QList<QKeySequence> none;
+  const QList<QKeySequence> redo{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y};
   AddMenu(menuBar(), "&File",
-          {{"PrintSol", "&Print Solution...", QKeySequence::keyBindings(QKeySequence::Print),
+          {{"Openx", "&Open...", QKeySequence::keyBindings(QKeySequence::Open), beside([this] {
+              const QString name = files_.ToOpen(this, "Open", kReadableKinds);
+              if (!name.isEmpty()) Open(name);
+            })},
+           {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
+            beside([this] { Save(); })},
+           {"ExportPicturex", "&Export Picture...", none, beside([this] { Export(); })},
+           {},
+           {"PrintSol", "&Print Solution...", QKeySequence::keyBindings(QKeySequence::Print),
             beside([this] { OpenPrintForm(); })},
            {},
            // Not every desktop names a standard key for it.
            {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }}});
   AddMenu(menuBar(), "&Edit",
-          {{"Copyx", "&Copy Board", QKeySequence::keyBindings(QKeySequence::Copy),
+          {{"UndoMovex",
+            "&Undo",
+            {Qt::CTRL | Qt::Key_Z},
+            [this] { runner_.Run("Undo", [this] { undo_.Undo(board_); }); }},
+           {"RedoMovex", "&Redo", redo,
+            [this] { runner_.Run("Redo", [this] { undo_.Redo(board_); }); }},
+           {},
+           {"Copyx", "&Copy Board", QKeySequence::keyBindings(QKeySequence::Copy),
             beside([this] { CopyBoard(true); })},
            {"CopyNumbersx", "Copy &Numbers", {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, beside([this] {
               CopyBoard(false);
@@ -182,11 +204,54 @@ void MainWindow::PasteFromClipboard() {
       return;
     }
     if (!PasteBoard(board_, *square_, dialogs_, text.toStdString())) return;
-    SetSolveMode(ModeVariable);
-    view_->setFocus();
-    BringCurrentCellIntoView();
+    ShowLaidOut();
     CheckAndReturn(board_, dialogs_);
   });
+}
+
+void MainWindow::Open(const QString& name) {
+  runner_.Run("Open", [this, name] {
+    const auto read = OpenSquare(name);
+    if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
+      dialogs_.Tell(unreadable->Why);
+      return;
+    }
+    LayOut(board_, *square_, std::get<StoredSquare>(read));
+    ShowLaidOut();
+  });
+}
+
+/// A board that came from elsewhere is one of the Variable mode, and has the keyboard.
+void MainWindow::ShowLaidOut() {
+  SetSolveMode(ModeVariable);
+  view_->setFocus();
+  BringCurrentCellIntoView();
+}
+
+void MainWindow::Save() {
+  const QString name = files_.ToSave(this, "Save As", kSquareKinds, "json");
+  if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(board_));
+}
+
+void MainWindow::Export() {
+  const QString name = files_.ToSave(this, "Export Picture", kPictureKinds, "png");
+  if (name.isEmpty()) return;
+  if (board_.OverlayShown) {
+    ExportDrawing(name, *drawing_);
+  } else {
+    ExportBoard(name, *view_);
+  }
+}
+
+/// A single file that is dropped onto the window opens.
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.size() == 1 && urls.front().isLocalFile()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  Open(event->mimeData()->urls().front().toLocalFile());
 }
 
 /// The print form, where there is a board in sight that fits on a page.
@@ -255,6 +320,7 @@ void MainWindow::ConnectControls() {
 void MainWindow::ConnectBoard() {
   runner_.OnBegin = [this] { watch_.Begin(); };
   runner_.OnEnd = [this](const std::string& name) { watch_.End(name); };
+  watch_.Tell([this](const Deed& deed) { undo_.Note(deed); });
   watch_.Tell([this](const Deed&) { ShowState(); });
   board_.OnOverlay = [this] { ShowOverlay(); };
   connect(view_, &GridView::CellPressed, this,
@@ -280,13 +346,12 @@ void MainWindow::ConnectBoard() {
     RunOnCurrentCell("move", [this, row, column] { board_.grid.SetCurrent(row, column); });
   });
   connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
-    RunOnCurrentCell("typing", [this, character] {
-      if (character == U'\r') {
-        cellEntry_.PressEnter();
-      } else {
-        cellEntry_.TypeCharacter(character);
-      }
-    });
+    if (character == U'\r') {
+      RunOnCurrentCell("check", [this] { cellEntry_.PressEnter(); });
+    } else {
+      RunOnCurrentCell(UndoHistory::kTyping,
+                       [this, character] { cellEntry_.TypeCharacter(character); });
+    }
   });
   connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
     RunOnCurrentCell(
@@ -350,8 +415,19 @@ void MainWindow::ShowState() {
   solve_->SolveManual->setProperty("tag", board_.UntouchedBase ? "X" : "");
   menu_->ShowHistory(history_);
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
-  corners_->DoCor1->setEnabled(board_.Shown());
-  corners_->DoCor2->setEnabled(board_.Shown());
+  for (QWidget* button : {corners_->DoCor1, corners_->DoCor2})
+    button->setEnabled(board_.Shown());
+  for (const char* name : {"SaveAsx", "ExportPicturex"})
+    findChild<QAction*>(name)->setEnabled(board_.Shown());
+  const auto showStep = [this](const char* name, const QString& caption, bool can,
+                               const std::string& step) {
+    auto* action = findChild<QAction*>(name);
+    action->setEnabled(can);
+    action->setText(can ? caption + " " + QString::fromStdString(step) : caption);
+  };
+  showStep("UndoMovex", "&Undo", undo_.CanUndo(), undo_.CanUndo() ? undo_.UndoName() : "");
+  showStep("RedoMovex", "&Redo", undo_.CanRedo(), undo_.CanRedo() ? undo_.RedoName() : "");
+  if (board_.OverlayShown) drawing_->update();
 }
 
 /// Covers the board with a drawing of it, where there is something to draw.

@@ -9,6 +9,7 @@
 #include "app/play/cell_entry.h"
 #include "app/play/command_history.h"
 #include "app/play/edit_commands.h"
+#include "app/play/undo_history.h"
 #include "app/window/board_menu.h"
 #include "app/window/corners_frame.h"
 #include "app/window/grid_view.h"
@@ -21,6 +22,7 @@
 #include "listbox/list_boy.h"
 #include "print/sheet_printer.h"
 #include "toolkit/command_runner.h"
+#include "toolkit/file_chooser.h"
 #include "toolkit/message_boxes.h"
 #include "visual/colour_picker.h"
 #include "visual/draw_frame.h"
@@ -33,6 +35,7 @@ struct World {
   Clock* TimeOfDay = nullptr;
   Dialogs* TheDialogs = nullptr;
   SheetPrinter* Printer = nullptr;
+  FileChooser* Files = nullptr;
   int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
 };
 
@@ -50,9 +53,11 @@ class MainWindow : public QMainWindow, private BuildOptions {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
-  void LayOut();
+  void ArrangeFrames();
   void BuildMenus();
   void ConnectControls();
   void StartUp();
@@ -73,6 +78,10 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void ShowOverlay();
   void CopyBoard(bool withPicture);
   void PasteFromClipboard();
+  void Open(const QString& name);
+  void Save();
+  void Export();
+  void ShowLaidOut();
   void OpenPrintForm();
 
   SystemClock systemClock_;
@@ -81,10 +90,13 @@ class MainWindow : public QMainWindow, private BuildOptions {
   PaperPrinter paperPrinter_;
   Dialogs& dialogs_;
   SheetPrinter& printer_;
+  FileDialogs fileDialogs_;
+  FileChooser& files_;
   CommandRunner runner_;
   Board board_;
   BoardWatch watch_{board_};
   CommandHistory history_;
+  UndoHistory undo_;
 
   // The toolkit owns these through the window.
   SolveFrame* solve_;

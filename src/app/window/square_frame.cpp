@@ -1,6 +1,7 @@
 #include "app/window/square_frame.h"
 
 #include <QFormLayout>
+#include <QKeyEvent>
 
 #include "toolkit/named.h"
 
@@ -19,6 +20,7 @@ SquareFrame::SquareFrame(QWidget* parent)
   Set4x4->setToolTip("Build a 4x4 square from its top row, such as a date");
   for (QLineEdit* box : {Text1, Text4}) {
     box->setAlignment(Qt::AlignRight);
+    box->installEventFilter(this);
     box->setMinimumWidth(box->fontMetrics().horizontalAdvance("0") * 9);
   }
 
@@ -28,6 +30,14 @@ SquareFrame::SquareFrame(QWidget* parent)
   form->addRow("s&um", Text4);
   form->addRow(Set4x4);
   form->addRow(SolveRandum);
+}
+
+bool SquareFrame::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) return true;
+  }
+  return QGroupBox::eventFilter(watched, event);
 }
 
 std::string SquareFrame::Size() const {

@@ -20,6 +20,9 @@ class SquareFrame : public QGroupBox, public SquareBoxes {
   void SetSize(const std::string& text) override;
   void SetSum(const std::string& text) override;
 
+  /// Leaves the keys of undo and redo to the board, wherever the keyboard is.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
   QLineEdit* const Text1;  ///< size
   QLineEdit* const Text4;  ///< sum
   QPushButton* const Set4x4;

@@ -1,0 +1,43 @@
+#include "app/play/undo_history.h"
+
+#include <utility>
+
+namespace numorra {
+
+void UndoHistory::Note(const Deed& deed) {
+  const bool walked = std::exchange(walking_, false);
+  const bool typed = deed.Name == kTyping;
+  if (!typed || walked) typing_ = false;
+  if (walked || !deed.ChangedTheBoard()) return;
+  if (typing_) {
+    positions_.back() = deed.After;
+    return;
+  }
+  typing_ = typed;
+  names_.resize(now_);
+  positions_.resize(now_);
+  names_.push_back(deed.Name);
+  positions_.push_back(deed.Before);
+  positions_.push_back(deed.After);
+  if (names_.size() > kMostSteps) {
+    names_.pop_front();
+    positions_.pop_front();
+  }
+  now_ = names_.size();
+}
+
+void UndoHistory::Undo(Board& board) {
+  if (CanUndo()) Walk(board, now_ - 1);
+}
+
+void UndoHistory::Redo(Board& board) {
+  if (CanRedo()) Walk(board, now_ + 1);
+}
+
+void UndoHistory::Walk(Board& board, std::size_t to) {
+  walking_ = true;
+  Restore(board, positions_[to]);
+  now_ = to;
+}
+
+}  // namespace numorra

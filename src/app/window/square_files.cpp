@@ -1,0 +1,73 @@
+#include "app/window/square_files.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include "app/window/square_json.h"
+#include "files/square_text.h"
+#include "toolkit/whole_file.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kPictureScale = 2;
+
+QPalette OnWhite() {
+  QPalette palette;
+  palette.setColor(QPalette::Window, Qt::white);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::Mid, QColor(160, 160, 160));
+  return palette;
+}
+
+bool EndsIn(const QString& name, const char* ending) {
+  return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+}
+
+/// Writes what `paint` paints in an area of `size` pixels, `dpi` to the inch.
+void Export(const QString& name, QSize size, int dpi, const std::function<void(QPainter&)>& paint) {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  if (EndsIn(name, ".pdf")) {
+    constexpr double kPointsPerInch = 72;
+    QPdfWriter writer(&file);
+    writer.setResolution(dpi);
+    writer.setPageMargins({});
+    writer.setPageSize(QPageSize(QSizeF(size) * kPointsPerInch / dpi, QPageSize::Point));
+    QPainter painter(&writer);
+    paint(painter);
+  } else {
+    QImage picture(size * kPictureScale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(kPictureScale);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    paint(painter);
+    painter.end();
+    picture.save(&file, "PNG");
+  }
+  WriteWholeFile(name, file.data());
+}
+
+}  // namespace
+
+std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
+  const QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
+  return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareText(bytes.toStdString());
+}
+
+void SaveSquare(const QString& name, const StoredSquare& square) {
+  const std::string text = EndsIn(name, ".csv") ? CsvOf(square) : JsonOf(square);
+  WriteWholeFile(name, QByteArray::fromStdString(text));
+}
+
+void ExportBoard(const QString& name, GridView& view) {
+  Export(name, view.PictureSize(), view.logicalDpiX(),
+         [&view](QPainter& painter) { view.PaintPicture(painter, OnWhite()); });
+}
+
+void ExportDrawing(const QString& name, Drawing& drawing) {
+  Export(name, drawing.size(), drawing.logicalDpiX(),
+         [&drawing](QPainter& painter) { drawing.Paint(painter); });
+}
+
+}  // namespace numorra

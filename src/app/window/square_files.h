@@ -1,0 +1,30 @@
+#pragma once
+
+#include <variant>
+
+#include <QString>
+
+#include "app/window/grid_view.h"
+#include "files/stored_square.h"
+#include "visual/drawing.h"
+
+namespace numorra {
+
+/// What files the window reads and writes, as the dialogs for their names have it.
+inline constexpr const char* kSquareKinds = "Squares (*.json);;Numbers alone (*.csv)";
+inline constexpr const char* kReadableKinds = "Squares (*.json *.csv *.txt);;All files (*)";
+inline constexpr const char* kPictureKinds = "Pictures (*.png);;Documents (*.pdf)";
+
+/// Reads a square from a regular file of at most kMostTextBytes, JSON or text as its content says.
+/// Throws FileError where the file cannot be read.
+std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name);
+
+/// Writes it: numbers alone where the name ends in .csv, JSON otherwise. Throws FileError.
+void SaveSquare(const QString& name, const StoredSquare& square);
+
+/// Writes what the board's place shows, on white: as a PDF page of its size where the name ends in
+/// .pdf, otherwise as a PNG of twice the size. Throws FileError.
+void ExportBoard(const QString& name, GridView& view);
+void ExportDrawing(const QString& name, Drawing& drawing);
+
+}  // namespace numorra

@@ -1,0 +1,28 @@
+#include "toolkit/file_chooser.h"
+
+#include <QFileDialog>
+
+namespace numorra {
+namespace {
+
+QString Choose(QFileDialog& dialog) {
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+}  // namespace
+
+QString FileDialogs::ToOpen(QWidget* window, const QString& title, const QString& kinds) {
+  QFileDialog dialog(window, title, QString(), kinds);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return Choose(dialog);
+}
+
+QString FileDialogs::ToSave(QWidget* window, const QString& title, const QString& kinds,
+                            const QString& suffix) {
+  QFileDialog dialog(window, title, QString(), kinds);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(suffix);
+  return Choose(dialog);
+}
+
+}  // namespace numorra

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace numorra {
+
+/// Reads a regular file. Throws FileError with a sentence for the player where it is none, is
+/// larger than `mostBytes`, which is seen before it is read, or cannot be read.
+QByteArray ReadWholeFile(const QString& name, qint64 mostBytes);
+
+/// Writes a new file beside `name` and puts it in its place when all is written: a full disk leaves
+/// what was there. Throws FileError.
+void WriteWholeFile(const QString& name, const QByteArray& bytes);
+
+}  // namespace numorra

@@ -1,0 +1,206 @@
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPdfWriter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "app/board/position.h"
+#include "app/window/square_files.h"
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+/// Chooses the names that it is told.
+struct ScriptedFiles : FileChooser {
+  QString ToOpen(QWidget*, const QString&, const QString&) override { return Name; }
+  QString ToSave(QWidget*, const QString&, const QString&, const QString&) override { return Name; }
+  QString Name;
+};
+
+class FilesTest : public WindowTest {
+ protected:
+  FilesTest() : WindowTest({.Files = &files_}) {}
+
+  QString In(const char* name) { return folder_.filePath(name); }
+
+  void Trigger(const char* action, const QString& name) {
+    files_.Name = name;
+    Find<QAction>(action).trigger();
+  }
+
+  QString Written(const char* name, const QByteArray& bytes) {
+    QFile file(In(name));
+    EXPECT_TRUE(file.open(QFile::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+
+  QByteArray Read(const char* name) {
+    QFile file(In(name));
+    return file.open(QFile::ReadOnly) ? file.readAll() : "no file";
+  }
+
+  Position Now() { return PositionOf(window_.TheBoard()); }
+
+  ScriptedFiles files_;
+  QTemporaryDir folder_;
+};
+
+constexpr const char* kPuzzle =
+    "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, "
+    "\"rules\": \"normal\", \"rows\": [[8, null, 6], [3, 5, 7], [4, 9, 2]], "
+    "\"givens\": [[true, false, true], [false, false, false], [false, false, false]]}\n";
+
+TEST_F(FilesTest, WhatIsSavedOpensAgainWhole) {
+  EXPECT_FALSE(Find<QAction>("SaveAsx").isEnabled() || Find<QAction>("ExportPicturex").isEnabled());
+  Trigger("Openx", Written("puzzle", kPuzzle));
+  EXPECT_EQ(TheGrid().Text(1, 2), "");
+  EXPECT_TRUE(TheGrid().Given(1, 1) && TheGrid().Given(1, 3) && !TheGrid().Given(2, 2));
+  EXPECT_EQ(window_.TheBoard().Asked, Rules::Normal);
+  EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked() && window_.TheBoard().TotalsChecked);
+  Trigger("SaveAsx", In("again.json"));
+  EXPECT_EQ(Read("again.json"), kPuzzle);
+  const std::function<void()> boards[] = {[this] {
+                                            Make("SolveManual", "5", "70.5"),
+                                                QTest::keyClick(&window_.View(), Qt::Key_Backspace,
+                                                                Qt::NoModifier);
+                                          },
+                                          [this] { Trigger("Openx", Written("puzzle", kPuzzle)); },
+                                          [this] { Make("SolveManual", "50", "5003"); }};
+  for (const auto& board : boards) {
+    board();
+    dialogs_.Take();
+    const Position before = Now();
+    Trigger("SaveAsx", In("board"));
+    Make("SolveAuto", "4");
+    Trigger("Openx", In("board"));
+    EXPECT_EQ(Now(), before);
+    Trigger("SaveAsx", In("board.CSV"));
+    Make("SolveAuto", "4");
+    Trigger("Openx", In("board.CSV"));
+    EXPECT_EQ(Now().Texts, before.Texts);
+    EXPECT_EQ(dialogs_.Take(), Messages{}) << "silently";
+    ExpectSettled();
+  }
+}
+
+TEST_F(FilesTest, TheCompanionsSquaresOpen) {
+  QProcess companion;
+  companion.start(QCoreApplication::applicationDirPath() + "/numorra-square",
+                  {"--size", "7", "--format", "json"});
+  ASSERT_TRUE(companion.waitForFinished());
+  Trigger("Openx", Written("square.txt", companion.readAllStandardOutput()));
+  EXPECT_EQ(slow::WhyNotNormal(Rows()), "");
+  EXPECT_EQ(window_.TheBoard().Asked, Rules::Normal);
+  EXPECT_EQ(TheGrid().VerdictOf(0, 0), Verdict::Right);
+}
+
+TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
+  Make("SolveManual", "3", "15");
+  const Position before = Now();
+  const QString fifo = In("fifo");
+  mkfifo(fifo.toUtf8().constData(), 0600);
+  const QString json = "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3";
+  const std::pair<QString, QString> cases[] = {
+      {In("none"), "File error: there is no file " + In("none")},
+      {fifo, "File error: " + fifo + " is no regular file"},
+      {"/dev/zero", "File error: /dev/zero is no regular file"},
+      {folder_.path(), "File error: " + folder_.path() + " is no regular file"},
+      {Written("large", QByteArray((1 << 20) + 1, '1')),
+       "File error: " + In("large") + " is too large to be a square"},
+      {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is no number"},
+      {Written("a", "{\n\n\"a\": [}"), "line 3: object is missing after a comma"},
+      {Written("b", "{}"), "this file holds no square of Numorra"},
+      {Written("c", "{\"format\": \"numorra-square\", \"version\": 2}"),
+       "this square was written by a later version of Numorra"},
+      {Written("d", (json + "000}").toUtf8()), "\"order\" is no whole number from 3 to 50"},
+      {Written("e", (json + ", \"rows\": [[1, 2, 3], [4, 5], [7, 8, 9]]}").toUtf8()),
+       "row 2 of \"rows\" has 2 cells, not 3"},
+      {Written("f", (json + ", \"rows\": [[1, 2, 3], [4, \"x\", 6], [7, 8, 9]]}").toUtf8()),
+       "row 2, column 2: this is no number"},
+      {Written("g",
+               (json + ", \"rows\": [[1, 2, 3], [4, 123456789012345, 6], [7, 8, 9]]}").toUtf8()),
+       "row 2, column 2: the number has more than 14 digits"},
+      {Written("h", QByteArray(kPuzzle).replace("[[true, false", "[[true, true")),
+       "row 1, column 2: a gap cannot be given"},
+      {Written("i", QByteArray(kPuzzle).replace("\"normal\"", "\"odd\"")),
+       "\"rules\" is neither normal nor positive"}};
+  for (const auto& [name, said] : cases) {
+    Trigger("Openx", name);
+    EXPECT_EQ(dialogs_.Take(), Messages{said.toStdString()});
+    EXPECT_EQ(Now(), before);
+  }
+  Trigger("Openx", "");
+  EXPECT_EQ(dialogs_.Take(), Messages{}) << "nothing was chosen";
+}
+
+TEST_F(FilesTest, AFullDiskLosesNothing) {
+  Make("SolveManual", "50", "5003");
+  dialogs_.Take();
+  for (const auto& [action, name] :
+       {std::pair{"SaveAsx", "a.json"}, {"ExportPicturex", "a.png"}, {"ExportPicturex", "a.pdf"}}) {
+    Written(name, "what was there");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{1000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    Trigger(action, In(name));
+    setrlimit(RLIMIT_FSIZE, &before);
+    const Messages said = dialogs_.Take();
+    ASSERT_EQ(said.size(), 1U) << name;
+    EXPECT_NE(said[0].find("cannot write " + In(name).toStdString()), std::string::npos) << said[0];
+    EXPECT_EQ(Read(name), "what was there");
+  }
+  Trigger("SaveAsx", "/nowhere/at/all.json");
+  EXPECT_EQ(dialogs_.Take().size(), 1U);
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
+}
+
+TEST_F(FilesTest, AFileDroppedOntoTheWindowOpens) {
+  const auto drop = [this](const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&window_, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window_, &event);
+    return true;
+  };
+  const QUrl puzzle = QUrl::fromLocalFile(Written("puzzle", kPuzzle));
+  EXPECT_FALSE(drop({puzzle, puzzle}) || drop({}) || drop({QUrl("https://example.org/a.json")}));
+  EXPECT_TRUE(drop({puzzle}));
+  EXPECT_EQ(TheGrid().Text(3, 3), "2");
+}
+
+TEST_F(FilesTest, PicturesAreTwiceAsLargeAndOnWhite) {
+  Make("SolveAuto", "5");
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::black);
+  window_.setPalette(dark);
+  Trigger("ExportPicturex", In("board.png"));
+  QImage picture(In("board.png"));
+  EXPECT_EQ(picture.size(), window_.View().Picture().size() * 2);
+  EXPECT_EQ(picture.pixelColor(picture.width() - 3, picture.height() - 3), QColor(Qt::white));
+  Click("Command2");
+  Trigger("ExportPicturex", In("drawing.png"));
+  picture.load(In("drawing.png"));
+  EXPECT_EQ(picture.size(), Find<Drawing>("Picture1").size() * 2);
+  EXPECT_EQ(picture.pixelColor(2, 2), QColor(Qt::white));
+  Trigger("ExportPicturex", In("drawing.pdf"));
+  QProcess reader;
+  reader.start("pdfinfo", {In("drawing.pdf")});
+  ASSERT_TRUE(reader.waitForFinished());
+  EXPECT_TRUE(reader.readAllStandardOutput().contains("Pages:           1\n"));
+}
+
+}  // namespace
+}  // namespace numorra
