@@ -2,6 +2,7 @@
 #include "benches.h"
 #include "generate/normal_square.h"
 #include "generate/variable_square.h"
+#include "transform/turning_square.h"
 
 namespace numorra::bench {
 namespace {

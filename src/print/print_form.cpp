@@ -5,14 +5,18 @@
 
 #include "app/board/numbers.h"
 #include "print/sheet.h"
+#include "print/sheet_doubts.h"
 #include "toolkit/named.h"
 
 namespace numorra {
 
-PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer,
-                     Dialogs& dialogs, QWidget* parent)
+PrintForm::PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
+                     QWidget* parent)
     : QDialog(parent),
       Text1(new QPlainTextEdit),
+      TotalDoubt(Named("TotalDoubt", new QLabel)),
+      UseTotalx(Named("UseTotalx", new QPushButton)),
+      WidthDoubt(Named("WidthDoubt", new QLabel)),
       PrintGridx(Named("PrintGridx", new QPushButton("Print &Puzzle Sheet"))),
       PrintSolx(Named("PrintSolx", new QPushButton("Print &Solution"))),
       Closex(Named("Closex", new QPushButton("&Close"))),
@@ -38,15 +42,31 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
   buttons->addStretch();
   buttons->addWidget(Closex);
   auto* column = new QVBoxLayout(this);
+  auto* doubt = new QHBoxLayout;
+  doubt->addWidget(TotalDoubt, 1);
+  doubt->addWidget(UseTotalx);
   column->addWidget(Text1);
+  column->addLayout(doubt);
+  column->addWidget(WidthDoubt);
   column->addLayout(buttons);
   resize(640, 480);
 
-  for (QPushButton* button : {PrintGridx, PrintSolx, Closex})
+  for (QLabel* label : {TotalDoubt, WidthDoubt}) {
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+  }
+  for (QPushButton* button : {UseTotalx, PrintGridx, PrintSolx, Closex})
     button->setAutoDefault(false);  // Enter prints nothing by accident
   runner_.OnEnd = [this](const std::string&) {
     if (closing_) QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
   };
+  connect(UseTotalx, &QPushButton::clicked, this, [this] {
+    runner_.Run("Use total", [this] {
+      const SheetDoubts doubts = DoubtsOf(grid_, Total());
+      if (doubts.TheLines) boxes_.SetSum(Decimal(*doubts.TheLines));
+      Preview();
+    });
+  });
   connect(PrintGridx, &QPushButton::clicked, this, [this] { Print(PuzzleSheet, "grid printed"); });
   connect(PrintSolx, &QPushButton::clicked, this,
           [this] { Print(SolutionSheet, "solution printed"); });
@@ -55,9 +75,23 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
 
 void PrintForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  runner_.Run("Preview", [this] {
-    Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, Total())));
-  });
+  runner_.Run("Preview", [this] { Preview(); });
+}
+
+/// The sheet as it will be, and what may be wrong with it.
+void PrintForm::Preview() {
+  const double total = Total();
+  Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, total)));
+  const SheetDoubts doubts = DoubtsOf(grid_, total);
+  const auto show = [](QLabel* label, const std::string& text) {
+    label->setText(QString::fromStdString(text));
+    label->setVisible(!text.empty());
+  };
+  show(TotalDoubt, doubts.Total);
+  show(WidthDoubt, doubts.Width);
+  UseTotalx->setVisible(doubts.TheLines.has_value());
+  if (!doubts.TheLines) return;
+  UseTotalx->setText("&Use " + QString::fromStdString(Decimal(*doubts.TheLines)));
 }
 
 void PrintForm::Print(Sheet sheet, const char* message) {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include <QDialog>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -18,10 +19,13 @@ class PrintForm : public QDialog {
   Q_OBJECT
 
  public:
-  PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
+  PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
             QWidget* parent);
 
   QPlainTextEdit* const Text1;
+  QLabel* const TotalDoubt;  ///< that the caption's total is not the square's
+  QPushButton* const UseTotalx;
+  QLabel* const WidthDoubt;  ///< that numbers run into each other
   QPushButton* const PrintGridx;
   QPushButton* const PrintSolx;
   QPushButton* const Closex;
@@ -36,9 +40,10 @@ class PrintForm : public QDialog {
   using Sheet = std::string (*)(const Grid&, double);
   void Print(Sheet sheet, const char* message);
   double Total() const;
+  void Preview();
 
   const Grid& grid_;
-  const SquareBoxes& boxes_;
+  SquareBoxes& boxes_;
   SheetPrinter& printer_;
   Dialogs& dialogs_;
   CommandRunner runner_;

@@ -7,7 +7,6 @@
 namespace numorra {
 namespace {
 
-constexpr int kPlaces = 3;
 constexpr int kPageWidth = 128;
 constexpr const char* kFilledCaption =
     "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS ADD TO";
@@ -33,8 +32,7 @@ std::string Rule(int order, char joint) {
 }
 
 std::string Places(const std::string& text) {
-  const auto places = static_cast<std::size_t>(kPlaces);
-  return text.size() < places ? std::string(places - text.size(), ' ') + text : text;
+  return text.size() < kSheetPlaces ? std::string(kSheetPlaces - text.size(), ' ') + text : text;
 }
 
 template <class TextAt>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "app/board/grid.h"
@@ -8,6 +9,9 @@ namespace numorra {
 
 /// The largest board that fits on a printed line.
 inline constexpr int kMaxPrintedOrder = 30;
+
+/// The places that a number has on a sheet.
+inline constexpr std::size_t kSheetPlaces = 3;
 
 /// The board as monospaced text, every line ended by CR LF. `total` is what the lines add up to.
 ///

@@ -15,6 +15,7 @@ QMenu* AddMenu(QMenuBar* bar, const char* caption, std::initializer_list<MenuIte
     }
     QAction* action = Named(item.Name, menu->addAction(item.Caption));
     action->setShortcuts(item.Keys);
+    action->setCheckable(item.Checkable);
     QObject::connect(action, &QAction::triggered, bar, item.Act);
   }
   return menu;

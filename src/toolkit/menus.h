@@ -14,6 +14,7 @@ struct MenuItem {
   const char* Caption = nullptr;
   QList<QKeySequence> Keys;
   std::function<void()> Act;
+  bool Checkable = false;
 };
 
 /// Adds a menu with its items to the bar.

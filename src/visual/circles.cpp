@@ -27,6 +27,21 @@ QPolygonF UnitCircle(double radius) {
   return circle;
 }
 
+/// The numbers over the circles, each on a plate of its circle's shade, so that it can be read
+/// where it is wider than its circle.
+void PaintNumbers(QPainter& painter, const DrawingArea& area, const std::vector<ValuedCell>& path,
+                  const Shading& shading) {
+  const QSizeF size(area.Side * 0.8, area.Side * 0.36);
+  for (const ValuedCell& cell : path) {
+    QRectF place(QPointF(), size);
+    place.moveCenter(area.Centre(cell.Row, cell.Column));
+    const Colour shade = shading.Of(cell.Value).value_or(area.Picked);
+    painter.fillRect(place, ToQColor(shade));
+    area.PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place,
+                     ToQColor(ReadableOn(shade)));
+  }
+}
+
 void PaintCircles(QPainter& painter, const DrawingArea& area) {
   area.PaintCells(painter, kGround, kRules);
   const auto path = ValuePath(area.TheBoard);
@@ -46,6 +61,7 @@ void PaintCircles(QPainter& painter, const DrawingArea& area) {
     painter.setBrush(ToQColor(shading.Of(cell.Value).value_or(area.Picked)));
     painter.drawConvexPolygon(circle);
   }
+  if (area.Numbers) PaintNumbers(painter, area, path, shading);
 }
 
 }  // namespace

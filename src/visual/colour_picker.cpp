@@ -63,19 +63,20 @@ ColourPicker::ColourPicker(QWidget* parent)
     degree->setMinimumWidth(degree->fontMetrics().horizontalAdvance("000"));
     const int row = static_cast<int>(channel);
     PicRGB[channel]->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    layout->addWidget(PicRGB[channel], row, 0);
-    layout->addWidget(bar, row, 1);
-    layout->addWidget(degree, row, 2);
+    layout->addWidget(new QLabel(QString(kChannelNames[channel]).left(1).toUpper()), row, 0);
+    layout->addWidget(PicRGB[channel], row, 1);
+    layout->addWidget(bar, row, 2);
+    layout->addWidget(degree, row, 3);
     connect(bar, &QScrollBar::valueChanged, this, [this, channel] {
       ChangeBar(channel);
       Q_EMIT Changed();
     });
   }
-  layout->setColumnStretch(1, 1);
+  layout->setColumnStretch(2, 1);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(picColorToUse, 1);
   bottom->addWidget(Command3, 1);
-  layout->addLayout(bottom, kChannels, 0, 1, 3);
+  layout->addLayout(bottom, kChannels, 0, 1, 4);
 }
 
 void ColourPicker::ShowBars() {

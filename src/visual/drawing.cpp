@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QFontMetricsF>
+
 namespace numorra {
 namespace {
 
@@ -18,6 +20,20 @@ void DrawingArea::PaintCells(QPainter& painter, const QColor& ground, const QCol
     painter.drawLine(Block.topLeft() + down, Block.topRight() + down);
     painter.drawLine(Block.topLeft() + across, Block.bottomLeft() + across);
   }
+}
+
+void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
+                              const QColor& ink) const {
+  const QString text = QString::fromStdString(number);
+  QFont font = painter.font();
+  font.setPixelSize(std::max(1, static_cast<int>(place.height())));
+  const double width = QFontMetricsF(font).horizontalAdvance(text);
+  if (width > place.width()) {
+    font.setPixelSize(std::max(1, static_cast<int>(place.height() * place.width() / width)));
+  }
+  painter.setFont(font);
+  painter.setPen(ink);
+  painter.drawText(place, Qt::AlignCenter, text);
 }
 
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {
@@ -38,20 +54,25 @@ void Drawing::SetColour(Colour picked) {
   update();
 }
 
+void Drawing::SetNumbers(bool shown) {
+  numbers_ = shown;
+  update();
+}
+
 void Drawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().window());
-  Paint(painter);
+  Paint(painter, palette());
 }
 
-void Drawing::Paint(QPainter& painter) const {
+void Drawing::Paint(QPainter& painter, const QPalette& palette) const {
   if (!kind_ || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const int order = board_.GridSize;
   const double side = std::max(1.0, (std::min(width(), height()) - 2 * kMargin) / order);
   QRectF block(0, 0, order * side, order * side);
   block.moveCenter(QRectF(rect()).center());
-  kind_->Paint(painter, {board_, picked_, block, side});
+  kind_->Paint(painter, {board_, picked_, palette, numbers_, block, side});
 }
 
 }  // namespace numorra

@@ -21,8 +21,12 @@ class Drawing : public QWidget {
   /// The colour that values are shaded with.
   void SetColour(Colour picked);
 
-  /// Paints what is shown over the painter's ground, which is as large as the widget.
-  void Paint(QPainter& painter) const;
+  /// Whether the numbers are written into the drawing.
+  void SetNumbers(bool shown);
+
+  /// Paints what is shown, in the colours of the palette, over the painter's ground, which is as
+  /// large as the widget.
+  void Paint(QPainter& painter, const QPalette& palette) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -31,6 +35,7 @@ class Drawing : public QWidget {
   const Board& board_;
   const DrawingKind* kind_ = nullptr;
   Colour picked_;
+  bool numbers_ = false;
 };
 
 }  // namespace numorra

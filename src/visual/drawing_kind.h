@@ -3,6 +3,7 @@
 #include <array>
 
 #include <QPainter>
+#include <QPalette>
 #include <QPointF>
 #include <QRectF>
 
@@ -14,14 +15,20 @@ namespace numorra {
 /// Where a drawing stands in its widget: the value block in the middle, as large as it can be.
 struct DrawingArea {
   const Board& TheBoard;
-  Colour Picked;  ///< the colour that shades
-  QRectF Block;   ///< the value block, a square
-  double Side;    ///< of a cell
+  Colour Picked;     ///< the colour that shades
+  QPalette Palette;  ///< the theme's colours
+  bool Numbers;      ///< whether the numbers are to be read
+  QRectF Block;      ///< the value block, a square
+  double Side;       ///< of a cell
 
   /// The middle of the cell (row, column), both from 1.
   QPointF Centre(int row, int column) const {
     return Block.topLeft() + QPointF(column - 0.5, row - 0.5) * Side;
   }
+
+  /// Writes a number in the middle of `place`, as large as that lets it be.
+  void PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
+                   const QColor& ink) const;
 
   /// Fills the block and rules its cells.
   void PaintCells(QPainter& painter, const QColor& ground, const QColor& rules) const;

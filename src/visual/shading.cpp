@@ -18,7 +18,18 @@ double Linear(std::uint8_t channel) {
   return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
+double Luminance(Colour colour) {
+  return 0.2126 * Linear(colour.Red) + 0.7152 * Linear(colour.Green) + 0.0722 * Linear(colour.Blue);
+}
+
 }  // namespace
+
+double Contrast(Colour a, Colour b) {
+  constexpr double kGlare = 0.05;
+  const double one = Luminance(a) + kGlare;
+  const double other = Luminance(b) + kGlare;
+  return std::max(one, other) / std::min(one, other);
+}
 
 Shading::Shading(const Board& board, Colour picked) : picked_(picked) {
   std::int32_t highest = kNoHighest;
@@ -45,9 +56,7 @@ std::optional<Colour> Shading::Of(double value) const {
 Colour ReadableOn(Colour background) {
   // Black and white are equally far from this luminance.
   constexpr double kMiddle = 0.1791;
-  const double luminance = 0.2126 * Linear(background.Red) + 0.7152 * Linear(background.Green) +
-                           0.0722 * Linear(background.Blue);
-  return luminance > kMiddle ? Rgb(0, 0, 0) : Rgb(255, 255, 255);
+  return Luminance(background) > kMiddle ? Rgb(0, 0, 0) : Rgb(255, 255, 255);
 }
 
 void FillColours(Board& board, Colour picked) {

@@ -23,8 +23,11 @@ class Shading {
   float scale_ = 0;
 };
 
-/// Black or white, whichever can be read better on the colour: always at a contrast of 4.5 : 1 or
-/// more, as the web content accessibility guidelines 2.1 reckon it.
+/// How well two colours stand out from each other, 1 (not at all) to 21, as the web content
+/// accessibility guidelines 2.1 reckon it: texts ask for 4.5, marks for 3.
+double Contrast(Colour a, Colour b);
+
+/// Black or white, whichever can be read better on the colour: always at a contrast of 4.5 or more.
 Colour ReadableOn(Colour background);
 
 /// The colour fill: shades every value cell, with its text in a readable colour. Totals are left

@@ -1,21 +1,48 @@
 #include <algorithm>
+#include <array>
 #include <cmath>
 
-#include "toolkit/colours.h"
 #include "visual/drawing_kind.h"
+#include "visual/shading.h"
 #include "visual/value_path.h"
 
 namespace numorra {
 namespace {
 
 constexpr double kSmallestArrowed = 30;  // the cells' side from which steps have arrow heads
-const QColor kRules(205, 205, 205);
-constexpr double kFirstHue = 0.68;  // blue, going to red
+constexpr double kFirstHue = 0.68;       // blue, going to red
 
-/// The colour of a share, 0 to 1, of the way.
-QColor HueAt(double share) {
-  return QColor::fromHsvF(static_cast<float>(kFirstHue * (1 - share)), 0.85F, 0.85F);
-}
+/// The colours of the way from its start to its end, each so dark or so light that it stands out
+/// from the ground.
+class Hues {
+ public:
+  explicit Hues(const QColor& ground) {
+    const Colour behind = Rgb(ground.red(), ground.green(), ground.blue());
+    const bool darker = ReadableOn(behind) == Rgb(0, 0, 0);
+    for (std::size_t i = 0; i < hues_.size(); ++i) {
+      const auto hue = static_cast<float>(kFirstHue * (1 - static_cast<double>(i) / kLast));
+      float saturation = kSaturation;
+      float value = kValue;
+      do {
+        hues_[i] = QColor::fromHsvF(hue, saturation, value);
+        darker ? value -= kStep : (value < 1 - kStep ? value += kStep : saturation -= kStep);
+      } while (saturation > 0 && value > 0 &&
+               Contrast(Rgb(hues_[i].red(), hues_[i].green(), hues_[i].blue()), behind) < kEnough);
+    }
+  }
+
+  /// The colour of a share, 0 to 1, of the way.
+  const QColor& At(double share) const { return hues_[static_cast<std::size_t>(share * kLast)]; }
+
+ private:
+  static constexpr int kLast = 127;
+  static constexpr float kSaturation = 0.85F;
+  static constexpr float kValue = 0.85F;
+  static constexpr float kStep = 0.03F;
+  static constexpr double kEnough = 3;
+
+  std::array<QColor, kLast + 1> hues_;
+};
 
 /// An arrow head half way from one point to another.
 void PaintArrowHead(QPainter& painter, QPointF from, QPointF to, double size) {
@@ -30,29 +57,41 @@ void PaintArrowHead(QPainter& painter, QPointF from, QPointF to, double size) {
 
 /// Its hue runs from blue to red; a ring stands where it starts, a square where it ends.
 void PaintVectors(QPainter& painter, const DrawingArea& area) {
-  area.PaintCells(painter, ToQColor(ColorTable[kCellBackground]), kRules);
+  const QColor ground = area.Palette.color(QPalette::Base);
+  const QColor ink = area.Palette.color(QPalette::Text);
+  const Hues hues(ground);
+  area.PaintCells(painter, ground, area.Palette.color(QPalette::Mid));
   const auto path = ValuePath(area.TheBoard);
-  const double pen = std::clamp(area.Side / 12, 0.8, 3.0);
+  const double side = area.Side;
+  const double pen = std::clamp(side / 12, 0.8, 3.0);
   const auto steps = static_cast<double>(path.size() - 1);
   for (std::size_t i = 1; i < path.size(); ++i) {
     const QPointF from = area.Centre(path[i - 1].Row, path[i - 1].Column);
     const QPointF to = area.Centre(path[i].Row, path[i].Column);
-    const QColor hue = HueAt(static_cast<double>(i) / steps);
+    const QColor& hue = hues.At(static_cast<double>(i) / steps);
     painter.setPen(QPen(hue, pen, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(from, to);
-    if (area.Side < kSmallestArrowed) continue;
+    if (side < kSmallestArrowed) continue;
     painter.setPen(Qt::NoPen);
     painter.setBrush(hue);
-    PaintArrowHead(painter, from, to, std::min(area.Side / 3, 14.0));
+    PaintArrowHead(painter, from, to, std::min(side / 3, 14.0));
   }
-  const double mark = std::clamp(area.Side / 4, 4.0, 12.0);
+  const double mark = std::clamp(side / 4, 4.0, 12.0);
   const QPointF start = area.Centre(path.front().Row, path.front().Column);
   const QPointF end = area.Centre(path.back().Row, path.back().Column);
-  painter.setPen(QPen(Qt::black, pen));
-  painter.setBrush(Qt::white);
+  painter.setPen(QPen(ink, pen));
+  painter.setBrush(ground);
   painter.drawEllipse(start, mark, mark);
-  painter.setBrush(HueAt(1));
+  painter.setBrush(hues.At(1));
   painter.drawRect(QRectF(end.x() - mark, end.y() - mark, 2 * mark, 2 * mark));
+  if (!area.Numbers) return;
+  // Each in the upper left of its cell, beside the way.
+  for (const ValuedCell& cell : path) {
+    const QPointF corner = area.Centre(cell.Row, cell.Column) - QPointF(side, side) / 2;
+    const QRectF place(corner + QPointF(1, 1), QSizeF(side * 0.48, side * 0.3));
+    painter.fillRect(place, ground);
+    area.PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place, ink);
+  }
 }
 
 }  // namespace

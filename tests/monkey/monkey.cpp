@@ -1,5 +1,8 @@
 #include "monkey/monkey.h"
 
+#include <map>
+#include <sstream>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QInputDialog>
@@ -25,6 +28,47 @@ const Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left, Qt::Key_Ri
                          Qt::Key_Home,  Qt::Key_End,    Qt::Key_Tab,  Qt::Key_PageUp,
                          Qt::Key_Space, Qt::Key_Return, Qt::Key_Menu, Qt::Key_Backspace,
                          Qt::Key_0,     Qt::Key_5,      Qt::Key_9,    Qt::Key_Escape};
+
+/// What the state line has to say, by the slow checker.
+std::string StateByHand(const Board& board) {
+  if (!board.Shown()) return "";
+  const Grid& grid = board.grid;
+  const int n = board.GridSize;
+  std::map<std::string, int> numbers;
+  std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(2 * n + 2));
+  int gaps = 0;
+  ForEachCell(n, [&](int r, int c) {
+    const std::string& text = grid.Text(r, c);
+    gaps += text.empty();
+    const std::string number = Decimal(Val(text));
+    ++numbers[number];
+    lines[static_cast<std::size_t>(r - 1)].push_back(number);
+    lines[static_cast<std::size_t>(n + c - 1)].push_back(number);
+    if (r == c) lines[static_cast<std::size_t>(2 * n)].push_back(number);
+    if (r + c == n + 1) lines[static_cast<std::size_t>(2 * n + 1)].push_back(number);
+  });
+  std::ostringstream state;
+  state << n << " x " << n << ", sum " << Decimal(board.TargetTotal) << ": ";
+  const auto right = std::count_if(lines.begin(), lines.end(), [&](const auto& line) {
+    return Decimal(Val(paper::Sum(line))) == Decimal(board.TargetTotal);
+  });
+  const auto repeated = std::count_if(numbers.begin(), numbers.end(),
+                                      [](const auto& number) { return number.second > 1; });
+  if (gaps > 0) {
+    state << gaps << (gaps == 1 ? " cell to fill" : " cells to fill");
+  } else if (right < 2 * n + 2) {
+    state << right << " of " << 2 * n + 2 << " lines right";
+  } else if (numbers.size() == 1 && numbers.begin()->first == Decimal(board.BaseValue)) {
+    state << "all cells are still equal";
+  } else {
+    state << "magic";
+    if (repeated > 0) {
+      state << ", " << repeated << (repeated == 1 ? " number" : " numbers") << " more than once";
+    }
+  }
+  if (!board.TotalsChecked) state << ", F9 to play";
+  return state.str();
+}
 
 }  // namespace
 
@@ -157,6 +201,9 @@ void Monkey::CopyText() {
 }
 
 void Monkey::AnswerBox() {
+  // A button's own menu holds everything up until it is closed.
+  QWidget* popup = QApplication::activePopupWidget();
+  if (popup && popup->objectName() != "ManualMenux") popup->close();
   QWidget* modal = QApplication::activeModalWidget();
   if (auto* input = qobject_cast<QInputDialog*>(modal)) {
     ++BoxesAnswered;
@@ -179,6 +226,8 @@ std::string Monkey::UndoAndRedoEverything() {
     Front()->close();
   auto* undo = window_.findChild<QAction*>("UndoMovex");
   auto* redo = window_.findChild<QAction*>("RedoMovex");
+  while (redo->isEnabled())
+    redo->trigger();
   std::vector<Position> positions{PositionOf(window_.TheBoard())};
   std::string why;
   while (undo->isEnabled() && why.empty()) {
@@ -203,9 +252,13 @@ std::string Monkey::UndoAndRedoEverything() {
 std::string Monkey::WhyWrong() {
   const Board& board = window_.TheBoard();
   if (QGuiApplication::overrideCursor()) return "the busy pointer is left over";
-  if (!window_.findChild<QPushButton*>("SolveAuto")->isVisibleTo(&window_)) return "Auto is hidden";
+  const auto* frame = window_.findChild<QWidget*>("Frame3");  // full screen hides it as a whole
+  if (!window_.findChild<QPushButton*>("SolveAuto")->isVisibleTo(frame)) return "Auto is hidden";
   if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return "a box is left open";
   if (board.Shown() && board.grid.Visible() == board.OverlayShown) return "nothing is in sight";
+  const QString state = window_.findChild<QWidget*>("BoardState")->accessibleName();
+  if (state.toStdString() != StateByHand(board))
+    return "the state line says " + state.toStdString();
   return WhyInvalid(board);
 }
 

@@ -79,6 +79,33 @@ TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
   EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
 }
 
+TEST_F(PrintTest, SaysWhatIsWrongWithASheetBeforeItIsPrinted) {
+  const auto doubts = [this] {
+    std::string shown;
+    for (const char* name : {"TotalDoubt", "UseTotalx", "WidthDoubt"}) {
+      const auto* widget = Form()->findChild<QWidget*>(name);
+      if (widget->isVisible()) shown += widget->property("text").toString().toStdString() + "|";
+    }
+    return shown;
+  };
+  Make("SolveAuto", "4", "40");
+  Type("Text4", "77");
+  Open();
+  EXPECT_EQ(doubts(), "The sum box says 77, but the lines of this square add up to 40.|&Use 40|");
+  Form()->findChild<QPushButton*>("UseTotalx")->click();
+  EXPECT_EQ(doubts(), "");
+  EXPECT_EQ(SumBox(), "40");
+  EXPECT_TRUE(Form()->findChild<QPlainTextEdit*>()->toPlainText().contains("DIAGONALS ADD TO 40"));
+  Form()->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  Make("SolveManual", "3", "9000");
+  QTest::keyClicks(&window_.View(), "1");
+  Open();
+  EXPECT_EQ(doubts(),
+            "The lines of this square do not all add up to 9000.|"
+            "Numbers of more than 3 places run into their neighbors on the sheet.|");
+}
+
 /// An assistive tool may press what a box in front should keep from being pressed.
 TEST_F(PrintTest, ClosesWhenItsCommandHasEnded) {
   Make("SolveAuto", "3");

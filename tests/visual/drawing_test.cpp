@@ -3,6 +3,7 @@
 #include <map>
 
 #include "support/window_fixture.h"
+#include "visual/shading.h"
 
 namespace numorra {
 namespace {
@@ -103,6 +104,59 @@ TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   }
   EXPECT_EQ(image.pixelColor(centres[1].toPoint()), QColor(Qt::white)) << "the ring at the start";
   EXPECT_EQ(image.pixelColor(centres[25].toPoint()).hsvHue(), 0) << "the red square at the end";
+}
+
+/// Every cell of a drawing has more ink, or other, when its number is shown.
+TEST_F(VisualTest, NumbersAreWrittenIntoDrawings) {
+  Make("SolveAuto", "4");
+  auto& drawing = Find<Drawing>("Picture1");
+  for (const char* button : {"Command1", "Command2"}) {
+    Click(button);
+    drawing.resize(416, 416);
+    const QImage without = drawing.grab().toImage();
+    Find<QAction>("DrawingNumbersx").trigger();
+    const QImage with = drawing.grab().toImage();
+    Find<QAction>("DrawingNumbersx").trigger();
+    EXPECT_EQ(drawing.grab().toImage(), without);
+    for (int cell = 0; cell < 16; ++cell) {
+      const QRect place(8 + 100 * (cell % 4), 8 + 100 * (cell / 4), 100, 100);
+      EXPECT_NE(with.copy(place), without.copy(place)) << button << cell;
+    }
+  }
+}
+
+/// Texts stand out by 4.5 and marks by 3, on both themes: the totals, their notch and frame, and
+/// every step of the way.
+TEST_F(VisualTest, EverythingStandsOut) {
+  for (const ColourUse total : {kWrongTotal, kRightTotal})
+    EXPECT_GE(Contrast(ColorTable[total], ColorTable[kTotalText]), 4.5);
+  EXPECT_GE(Contrast(ColorTable[kCellBackground], ColorTable[kCellText]), 4.5);
+  Type("Text1", "7");
+  Click("SolveAuto");
+  Click("Command2");
+  auto& drawing = Find<Drawing>("Picture1");
+  drawing.resize(436, 436);
+  const auto toColour = [](QColor c) { return Rgb(c.red(), c.green(), c.blue()); };
+  for (const QColor& ground : {QColor(Qt::white), QColor(35, 38, 41)}) {
+    QPalette theme;
+    theme.setColor(QPalette::Base, ground);
+    drawing.setPalette(theme);
+    const QImage image = drawing.grab().toImage();
+    int looked = 0;
+    for (int x = 10; x < 426; ++x) {
+      for (int y = 10; y < 426; ++y) {
+        const QColor pixel = image.pixelColor(x, y);
+        // The middle of a stroke, not its smoothed edge.
+        if (pixel.hsvSaturation() < 60 || image.pixelColor(x + 1, y) != pixel ||
+            image.pixelColor(x, y + 1) != pixel) {
+          continue;
+        }
+        ++looked;
+        ASSERT_GE(Contrast(toColour(pixel), toColour(ground)), 2.95) << pixel.name().toStdString();
+      }
+    }
+    EXPECT_GT(looked, 200);
+  }
 }
 
 TEST_F(VisualTest, TheLargestCircleFillsItsCellAndAreasAreInProportion) {

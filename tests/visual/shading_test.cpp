@@ -17,7 +17,7 @@ double Luminance(Colour c) {
   return 0.2126 * parts[0] + 0.7152 * parts[1] + 0.0722 * parts[2];
 }
 
-double Contrast(Colour a, Colour b) {
+double ContrastByHand(Colour a, Colour b) {
   const double la = Luminance(a) + 0.05, lb = Luminance(b) + 0.05;
   return std::max(la, lb) / std::min(la, lb);
 }
@@ -56,7 +56,7 @@ TEST(FillColours, ShadesInProportionToTheValues) {
 TEST(ReadableText, HasContrastOnEveryColour) {
   for (int code = 0; code < 1 << 12; ++code) {
     const Colour colour = Rgb(code / 256 * 17, code / 16 % 16 * 17, code % 16 * 17);
-    ASSERT_GE(Contrast(colour, ReadableOn(colour)), 4.5) << code;
+    ASSERT_GE(ContrastByHand(colour, ReadableOn(colour)), 4.5) << code;
   }
 }
 

@@ -22,25 +22,23 @@ void Grid::Reshape(int rows, int columns) {
 }
 
 void Grid::SetText(int row, int column, std::string text) {
-  At(row, column).Text = std::move(text);
+  Changed(row, column).Text = std::move(text);
   WantRepaint();
 }
 
-Colour Grid::Background(int row, int column) const {
-  const Cell& cell = At(row, column);
-  if (cell.Judged == Verdict::Unjudged) return cell.Background;
-  return ColorTable[cell.Judged == Verdict::Right ? kRightTotal : kWrongTotal];
+Colour Grid::Cell::Background() const {
+  if (Judged == Verdict::Unjudged) return OwnBackground;
+  return ColorTable[Judged == Verdict::Right ? kRightTotal : kWrongTotal];
 }
 
-Colour Grid::Foreground(int row, int column) const {
-  const Cell& cell = At(row, column);
-  return cell.Judged == Verdict::Unjudged ? cell.Foreground : ColorTable[kTotalText];
+Colour Grid::Cell::Foreground() const {
+  return Judged == Verdict::Unjudged ? OwnForeground : ColorTable[kTotalText];
 }
 
 void Grid::SetColours(int row, int column, Colour background, Colour foreground) {
-  Cell& cell = At(row, column);
-  cell.Background = background;
-  cell.Foreground = foreground;
+  Cell& cell = Changed(row, column);
+  cell.OwnBackground = background;
+  cell.OwnForeground = foreground;
   cell.Shaded = false;
   cell.Judged = Verdict::Unjudged;
   WantRepaint();
@@ -48,16 +46,16 @@ void Grid::SetColours(int row, int column, Colour background, Colour foreground)
 
 void Grid::Shade(int row, int column, Colour shade, Colour ink) {
   SetColours(row, column, shade, ink);
-  At(row, column).Shaded = true;
+  Changed(row, column).Shaded = true;
 }
 
 void Grid::Judge(int row, int column, Verdict verdict) {
-  At(row, column).Judged = verdict;
+  Changed(row, column).Judged = verdict;
   WantRepaint();
 }
 
 void Grid::SetGiven(int row, int column, bool given) {
-  At(row, column).Given = given;
+  Changed(row, column).Given = given;
   WantRepaint();
 }
 
@@ -89,8 +87,8 @@ const Grid::Cell& Grid::At(int row, int column) const {
                 static_cast<std::size_t>(column)];
 }
 
-Grid::Cell& Grid::At(int row, int column) {
-  return const_cast<Cell&>(std::as_const(*this).At(row, column));
+Grid::Cell& Grid::Changed(int row, int column) {
+  return const_cast<Cell&>(At(row, column));
 }
 
 void Grid::WantRepaint() {

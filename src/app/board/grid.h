@@ -23,7 +23,23 @@ class Grid {
   static constexpr int kCellTwips = 400;  // 1/1440 inch
   static constexpr int kFixedLines = 1;
 
+  /// What one cell is and shows.
+  struct Cell {
+    std::string Text;
+    Colour OwnBackground = kWindowBackground;
+    Colour OwnForeground = ColorTable[kCellText];
+    bool Shaded = false;  ///< by its value
+    bool Given = false;   ///< a fixed number, which the player cannot change
+    Verdict Judged = Verdict::Unjudged;
+
+    /// The colours that it is shown in: those of its verdict, or else its own.
+    Colour Background() const;
+    Colour Foreground() const;
+  };
+
   Grid();
+
+  const Cell& At(int row, int column) const;
 
   /// Raised before the current cell changes, and after it has, whoever changes it.
   std::function<void()> OnLeaveCell;
@@ -42,9 +58,8 @@ class Grid {
   const std::string& Text(int row, int column) const { return At(row, column).Text; }
   void SetText(int row, int column, std::string text);
 
-  /// The colours that a cell is shown in: those of its verdict, or else its own.
-  Colour Background(int row, int column) const;
-  Colour Foreground(int row, int column) const;
+  Colour Background(int row, int column) const { return At(row, column).Background(); }
+  Colour Foreground(int row, int column) const { return At(row, column).Foreground(); }
 
   /// Gives a cell its plain colours; it is neither shaded nor judged then.
   void SetColours(int row, int column, Colour background, Colour foreground);
@@ -57,7 +72,6 @@ class Grid {
   void Judge(int row, int column, Verdict verdict);
   Verdict VerdictOf(int row, int column) const { return At(row, column).Judged; }
 
-  /// A fixed number, which the player cannot change.
   void SetGiven(int row, int column, bool given);
   bool Given(int row, int column) const { return At(row, column).Given; }
 
@@ -77,17 +91,7 @@ class Grid {
   void TakeRepaint() { repaintWanted_ = false; }
 
  private:
-  struct Cell {
-    std::string Text;
-    Colour Background = kWindowBackground;
-    Colour Foreground = ColorTable[kCellText];
-    bool Shaded = false;
-    bool Given = false;
-    Verdict Judged = Verdict::Unjudged;
-  };
-
-  const Cell& At(int row, int column) const;
-  Cell& At(int row, int column);
+  Cell& Changed(int row, int column);
   void WantRepaint();
 
   std::vector<Cell> cells_;

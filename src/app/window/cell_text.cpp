@@ -17,26 +17,42 @@ CellText::CellText(const QFont& font, int side) : room_(side - 2) {
   const int wished = std::max(kSmallestPixels, static_cast<int>(side * kTextHeight));
   QFont plain = font;
   plain.setPixelSize(wished);
-  fonts_.push_back(plain);
+  fonts_.emplace_back(plain);
   for (int pixels = wished; pixels >= kSmallestPixels; --pixels) {
     QFont narrow = plain;
     narrow.setPixelSize(pixels);
     narrow.setStretch(kNarrowPercent);
-    fonts_.push_back(narrow);
+    fonts_.emplace_back(narrow);
   }
+}
+
+CellText::Measured::Measured(const QFont& font) : Font(font), Metrics(font) {
+  for (std::size_t c = 0; c < Advances.size(); ++c)
+    Advances[c] = Metrics.horizontalAdvance(QChar(static_cast<char16_t>(c)));
+}
+
+qreal CellText::Measured::WidthOf(const std::string& text) const {
+  qreal width = 0;
+  for (const char c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    width += code < Advances.size() ? Advances[code]
+                                    : Metrics.horizontalAdvance(QString::fromStdString(text));
+  }
+  return width;
 }
 
 void CellText::Draw(QPainter& painter, const QRect& cell, const std::string& text) {
   const Prepared& prepared = Prepare(text);
-  if (painter.font() != fonts_[prepared.Font]) painter.setFont(fonts_[prepared.Font]);
-  const qreal left = prepared.Fits ? (cell.width() - 1 - prepared.Size.width()) / 2 : 1;
-  const qreal top = (cell.height() - 1 - prepared.Size.height()) / 2;
+  const Measured& font = fonts_[prepared.Font];
+  if (painter.font() != font.Font) painter.setFont(font.Font);
+  const qreal left = prepared.Fits ? (cell.width() - 1 - prepared.Width) / 2 : 1;
+  const qreal top = (cell.height() - 1 - font.Metrics.height()) / 2;
   painter.drawStaticText(QPointF(cell.left() + left, cell.top() + top), prepared.Text);
 }
 
 bool CellText::Readable(const std::string& text) {
   const Prepared& prepared = Prepare(text);
-  return prepared.Fits && fonts_[prepared.Font].pixelSize() >= kSmallestReadable;
+  return prepared.Fits && fonts_[prepared.Font].Font.pixelSize() >= kSmallestReadable;
 }
 
 const CellText::Prepared& CellText::Prepare(const std::string& text) {
@@ -45,23 +61,16 @@ const CellText::Prepared& CellText::Prepare(const std::string& text) {
   if (prepared_.size() >= kKeptTexts) prepared_.clear();
 
   const QString shown = QString::fromStdString(text);
-  const auto fits = [&](const QFont& font) {
-    return QFontMetricsF(font).horizontalAdvance(shown) <= room_;
-  };
+  const auto fits = [&](const Measured& font) { return font.WidthOf(text) <= room_; };
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), fits);
   const bool found = font != fonts_.end();
-  const auto index =
-      static_cast<std::size_t>(found ? font - fonts_.begin() : std::ssize(fonts_) - 1);
+  const Measured& used = found ? *font : fonts_.back();
   Prepared prepared{
-      QStaticText(found ? shown
-                        : QFontMetricsF(fonts_[index]).elidedText(shown, Qt::ElideRight, room_)),
-      {},
-      index,
-      found};
+      QStaticText(found ? shown : used.Metrics.elidedText(shown, Qt::ElideRight, room_)),
+      used.WidthOf(text), static_cast<std::size_t>(&used - fonts_.data()), found};
   prepared.Text.setTextFormat(Qt::PlainText);
   prepared.Text.setPerformanceHint(QStaticText::AggressiveCaching);
-  prepared.Text.prepare({}, fonts_[index]);
-  prepared.Size = prepared.Text.size();
+  prepared.Text.prepare({}, used.Font);
   return prepared_.emplace(text, std::move(prepared)).first->second;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QStaticText>
 
@@ -31,15 +33,26 @@ class CellText {
  private:
   struct Prepared {
     QStaticText Text;
-    QSizeF Size;
+    qreal Width;
     std::size_t Font;
     bool Fits;
   };
 
+  /// A font with the widths of its characters: numbers are measured by the thousand, and their
+  /// digits stand side by side as they are.
+  struct Measured {
+    explicit Measured(const QFont& font);
+    qreal WidthOf(const std::string& text) const;
+
+    QFont Font;
+    QFontMetricsF Metrics;
+    std::array<qreal, 128> Advances;  ///< by character code
+  };
+
   const Prepared& Prepare(const std::string& text);
 
-  std::vector<QFont> fonts_;  ///< from the one wished for to the smallest
-  qreal room_;                ///< the widest a text may be, in pixels
+  std::vector<Measured> fonts_;  ///< from the one wished for to the smallest
+  qreal room_;                   ///< the widest a text may be, in pixels
   std::unordered_map<std::string, Prepared> prepared_;
 };
 

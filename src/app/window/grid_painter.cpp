@@ -19,19 +19,35 @@ QFont Heavier(QFont font) {
 
 GridPainter::GridPainter(const Grid& grid, const QFont& font, int dpi)
     : grid_(grid),
+      font_(font),
       dpi_(std::max(kLowestDpi, dpi)),
       texts_(font, Edge(1)),
       givens_(Heavier(font), Edge(1)) {}
 
 void GridPainter::SetFont(const QFont& font) {
+  font_ = font;
   texts_ = CellText(font, Edge(1));
   givens_ = CellText(Heavier(font), Edge(1));
+}
+
+void GridPainter::SetZoom(double zoom) {
+  const double smallest = 1.0 / PixelsOf(Grid::kCellTwips, dpi_);
+  const int before = Edge(1);
+  zoom_ = std::max(smallest, zoom);
+  edges_.clear();
+  if (Edge(1) != before) SetFont(font_);
+}
+
+double GridPainter::ZoomThatFits(int lines, int pixels) const {
+  constexpr double kRoundedUp = 0.51;  // what rounding may add to the last edge
+  constexpr double kTwipsPerInch = 1440;
+  return (pixels - kRoundedUp) * kTwipsPerInch / (lines * Grid::kCellTwips * dpi_);
 }
 
 int GridPainter::Edge(int line) const {
   const auto index = static_cast<std::size_t>(line);
   while (edges_.size() <= index)
-    edges_.push_back(PixelsOf(static_cast<int>(edges_.size()) * Grid::kCellTwips, dpi_));
+    edges_.push_back(PixelsOf(static_cast<int>(edges_.size()) * Grid::kCellTwips, dpi_ * zoom_));
   return edges_[index];
 }
 
@@ -53,8 +69,8 @@ QRect GridPainter::CellRect(int row, int column, QPoint scrolled) const {
           Edge(row + 1) - Edge(row)};
 }
 
-bool GridPainter::Readable(int row, int column) {
-  return TextsFor(row, column).Readable(grid_.Text(row, column));
+bool GridPainter::Readable(const Grid::Cell& cell) {
+  return TextsFor(cell).Readable(cell.Text);
 }
 
 /// The four blocks that scroll differently.
@@ -90,30 +106,31 @@ void GridPainter::PaintBlock(QPainter& painter, const Look& look, const QRect& a
   const QColor line = look.Palette.color(QPalette::Mid);
   for (int row = top; row < bottom; ++row) {
     for (int column = left; column < right; ++column) {
-      const QRect cell = CellRect(row, column, scrolled);
-      const Colour background = grid_.Background(row, column);
+      const QRect place = CellRect(row, column, scrolled);
+      const Grid::Cell& cell = grid_.At(row, column);
+      const Colour background = cell.Background();
       if (!background.SeeThrough) {
-        painter.fillRect(cell, line);
-        painter.fillRect(cell.adjusted(0, 0, -1, -1), ToQColor(background));
+        painter.fillRect(place, line);
+        painter.fillRect(place.adjusted(0, 0, -1, -1), ToQColor(background));
       } else {
-        PaintBlockEdge(painter, look, cell, row, column);
+        PaintBlockEdge(painter, look, place, row, column);
       }
-      if (grid_.VerdictOf(row, column) == Verdict::Wrong) PaintWrongMark(painter, cell);
-      PaintText(painter, look, row, column);
+      if (cell.Judged == Verdict::Wrong) PaintWrongMark(painter, place);
+      PaintText(painter, look, place, cell);
     }
   }
 }
 
-void GridPainter::PaintText(QPainter& painter, const Look& look, int row, int column) {
-  const std::string& text = grid_.Text(row, column);
-  if (text.empty()) return;
-  painter.setPen(TextColour(look, row, column));
-  TextsFor(row, column).Draw(painter, CellRect(row, column, look.Scrolled), text);
+void GridPainter::PaintText(QPainter& painter, const Look& look, const QRect& place,
+                            const Grid::Cell& cell) {
+  if (cell.Text.empty()) return;
+  painter.setPen(TextColour(look, cell));
+  TextsFor(cell).Draw(painter, place, cell.Text);
 }
 
-QColor GridPainter::TextColour(const Look& look, int row, int column) const {
-  return grid_.Background(row, column).SeeThrough ? look.Palette.color(QPalette::WindowText)
-                                                  : ToQColor(grid_.Foreground(row, column));
+QColor GridPainter::TextColour(const Look& look, const Grid::Cell& cell) {
+  return cell.Background().SeeThrough ? look.Palette.color(QPalette::WindowText)
+                                      : ToQColor(cell.Foreground());
 }
 
 /// A notch in the corner of a wrong total, for eyes that do not tell its colour from the right

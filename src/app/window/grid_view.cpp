@@ -17,6 +17,7 @@ namespace numorra {
 namespace {
 
 constexpr int kGuideAlpha = 36;  // of 255
+constexpr double kLargestZoom = 8;
 
 MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
   if (modifiers.testFlag(Qt::ShiftModifier)) return MarkedLine::Row;
@@ -62,6 +63,34 @@ QPoint GridView::CurrentCellPosition() const {
   return viewport()->mapToGlobal(cell.center());
 }
 
+void GridView::SetZoom(double zoom, QPoint fixed) {
+  fitting_ = false;
+  const double grown = zoom / painter_.Zoom();
+  const QPoint scrolled = Scrolled();
+  painter_.SetZoom(zoom);
+  shape_.reset();
+  UpdateScrollBars();
+  horizontalScrollBar()->setValue(qRound((scrolled.x() + fixed.x()) * grown) - fixed.x());
+  verticalScrollBar()->setValue(qRound((scrolled.y() + fixed.y()) * grown) - fixed.y());
+  viewport()->update();
+}
+
+void GridView::SetFitting(bool fitting) {
+  fitting_ = fitting;
+  shape_.reset();
+  UpdateScrollBars();
+  viewport()->update();
+}
+
+/// The largest zoom at which the last line still ends inside the view.
+void GridView::Fit() {
+  const int lines = std::max(grid_.Rows(), grid_.Columns());
+  if (lines == 0) return;
+  const QSize room = maximumViewportSize();
+  const int side = std::min(room.width(), room.height());
+  painter_.SetZoom(std::min(kLargestZoom, painter_.ZoomThatFits(lines, side)));
+}
+
 void GridView::BringIntoView(int row, int column) {
   UpdateScrollBars();
   const auto bring = [this](QScrollBar* bar, int line, int length) {
@@ -82,7 +111,7 @@ bool GridView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto cell = CellAt(help->pos());
-    if (cell && !painter_.Readable(cell->y(), cell->x())) {
+    if (cell && !painter_.Readable(grid_.At(cell->y(), cell->x()))) {
       QToolTip::showText(help->globalPos(),
                          QString::fromStdString(grid_.Text(cell->y(), cell->x())), viewport());
     } else {
@@ -96,14 +125,22 @@ bool GridView::viewportEvent(QEvent* event) {
 void GridView::paintEvent(QPaintEvent* event) {
   grid_.TakeRepaint();
   UpdateScrollBars();
-  if (!grid_.Visible()) return;
   QPainter painter(viewport());
+  if (!grid_.Visible()) return PaintInvitation(painter);
   painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
     TellCurrentCell();
   }
+}
+
+/// An empty view says what fills it.
+void GridView::PaintInvitation(QPainter& painter) {
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                   "Auto builds a magic square.\nManual lays out a board for you to solve.\n"
+                   "F1 explains everything.");
 }
 
 /// What is told is what is painted, so once a repaint at most.
@@ -117,7 +154,7 @@ void GridView::TellCurrentCell() {
   Q_EMIT CurrentCellShown(another);
 }
 
-QImage GridView::Picture() {
+QImage GridView::Picture() const {
   QImage picture(PictureSize(), QImage::Format_RGB32);
   picture.fill(palette().color(QPalette::Window));
   QPainter painter(&picture);
@@ -126,12 +163,14 @@ QImage GridView::Picture() {
 }
 
 QSize GridView::PictureSize() const {
-  return {painter_.Edge(grid_.Columns()), painter_.Edge(grid_.Rows())};
+  const GridPainter plain(grid_, font(), logicalDpiX());
+  return {plain.Edge(grid_.Columns()), plain.Edge(grid_.Rows())};
 }
 
-void GridView::PaintPicture(QPainter& painter, const QPalette& palette) {
+void GridView::PaintPicture(QPainter& painter, const QPalette& palette) const {
+  GridPainter plain(grid_, font(), logicalDpiX());
   const QSize size = PictureSize();
-  painter_.PaintCells(painter, {QPoint(), palette}, size, QRect(QPoint(), size));
+  plain.PaintCells(painter, {QPoint(), palette}, size, QRect(QPoint(), size));
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -144,8 +183,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers();
   const bool command =
       modifiers.testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  // Keyboards without a keypad step with Ctrl, and those without a menu key have Shift+F10.
-  const bool steps = modifiers.testAnyFlags(Qt::KeypadModifier | Qt::ControlModifier);
+  // Keyboards without a keypad step with Alt, and those without a menu key have Shift+F10.
+  const bool steps = modifiers.testFlag(Qt::KeypadModifier);
+  const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
   const bool menu = event->key() == Qt::Key_F10 && modifiers.testFlag(Qt::ShiftModifier);
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const QString text = enter ? QString('\r') : event->text();
@@ -153,6 +193,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
                      event->key() != Qt::Key_Delete;
   const bool board = grid_.Visible() && grid_.Rows() >= 3;
   event->accept();
+  if (board && arrow && modifiers.testFlag(Qt::AltModifier)) {
+    Q_EMIT KeypadPressed(event->key() == Qt::Key_Up ? 1 : -1);
+    return;
+  }
   if (board && Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) return;
   if (board && event->key() == Qt::Key_Space) {
     Q_EMIT MarkWanted(LineMarkedWith(modifiers));
@@ -204,6 +248,15 @@ bool GridView::Navigate(int key, bool toTheVeryEnd) {
   }
 }
 
+void GridView::wheelEvent(QWheelEvent* event) {
+  const int turned = event->angleDelta().y();
+  if (!event->modifiers().testFlag(Qt::ControlModifier) || turned == 0) {
+    return QAbstractScrollArea::wheelEvent(event);
+  }
+  event->accept();
+  Q_EMIT ZoomWanted(turned > 0 ? 1 : -1, event->position().toPoint());
+}
+
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() != QContextMenuEvent::Keyboard || !grid_.Visible()) return;
   Q_EMIT MenuWanted();
@@ -232,6 +285,7 @@ void GridView::UpdateScrollBars() {
   const QSize shape = grid_.Visible() ? QSize(grid_.Columns(), grid_.Rows()) : QSize(0, 0);
   if (shape_ == shape) return;
   shape_ = shape;
+  if (fitting_) Fit();
   const auto set = [this](QScrollBar* bar, int lines, int length) {
     bar->setRange(0, std::max(0, painter_.Edge(lines) - length));
     bar->setPageStep(std::max(1, length - painter_.Edge(Grid::kFixedLines)));
@@ -270,8 +324,11 @@ void GridView::PaintGuides(QPainter& painter) {
   }
   painter.setBrush(Qt::NoBrush);
   const auto frameTotal = [&](int r, int c) {
-    painter.setPen(QPen(painter_.TextColour(Look(), r, c), 1));
-    painter.drawRect(CellRect(r, c).adjusted(1, 1, -3, -3));
+    const int width = std::max(1, painter_.Edge(1) / 24);
+    painter.setPen(QPen(GridPainter::TextColour(Look(), grid_.At(r, c)), width, Qt::SolidLine,
+                        Qt::SquareCap, Qt::MiterJoin));
+    const int inside = (width + 1) / 2;
+    painter.drawRect(CellRect(r, c).adjusted(inside, inside, -inside - 2, -inside - 2));
   };
   painter.setClipRect(QRect(0, scrolling.top(), scrolling.left(), scrolling.height()));
   frameTotal(row, 0);
@@ -289,12 +346,15 @@ void GridView::PaintCurrentCell(QPainter& painter) {
   const QRect cell = CellRect(row, column);
   const QRect edge = cell.adjusted(0, 0, -1, -1);
   painter.setBrush(ToQColor(grid_.Background(row, column)));
-  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-  painter.drawRect(edge);
+  const int ring = std::max(2, painter_.Edge(1) / 16);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), ring, Qt::SolidLine, Qt::SquareCap,
+                      Qt::MiterJoin));
+  const int moved = ring / 2 - 1;
+  painter.drawRect(edge.adjusted(moved, moved, -moved, -moved));
   painter.setBrush(Qt::NoBrush);
   painter.setPen(Qt::white);
-  painter.drawRect(edge.adjusted(1, 1, -2, -2));
-  painter_.PaintText(painter, Look(), row, column);
+  painter.drawRect(edge.adjusted(ring - 1, ring - 1, -ring, -ring));
+  painter_.PaintText(painter, Look(), cell, grid_.At(row, column));
 }
 
 }  // namespace numorra

@@ -30,14 +30,23 @@ class GridView : public QAbstractScrollArea {
   /// The middle of the current cell on the screen: where the keyboard opens a menu.
   QPoint CurrentCellPosition() const;
 
+  /// How much larger than at 100 % cells are drawn; what is drawn at `fixed` stays there. Leaves
+  /// the fitting.
+  void SetZoom(double zoom, QPoint fixed);
+  double Zoom() const { return painter_.Zoom(); }
+
+  /// Draws the whole board as large as the view lets it be, whatever size the view takes on.
+  void SetFitting(bool fitting);
+  bool Fitting() const { return fitting_; }
+
   /// Scrolls until the cell is in sight.
   void BringIntoView(int row, int column);
 
-  /// The whole table, in sight or not, without the current cell's marks.
-  QImage Picture();
+  /// The whole table at 100 %, in sight or not, without the current cell's marks.
+  QImage Picture() const;
 
   /// The same on any painter, in other colours of the window's, and how large it is.
-  void PaintPicture(QPainter& painter, const QPalette& palette);
+  void PaintPicture(QPainter& painter, const QPalette& palette) const;
   QSize PictureSize() const;
 
   QSize sizeHint() const override;
@@ -52,8 +61,11 @@ class GridView : public QAbstractScrollArea {
   /// A character was typed, Backspace (8) and Enter (13) among them.
   void CharacterTyped(char32_t character);
 
-  /// The keypad's plus (1) or minus (-1), or any with Ctrl.
+  /// The keypad's plus (1) or minus (-1), or Alt with an arrow up or down.
   void KeypadPressed(int sign);
+
+  /// The wheel was turned with Ctrl at a point of the view: larger (1) or smaller (-1).
+  void ZoomWanted(int steps, QPoint at);
 
   /// Space marks the current cell, with Shift its row, with Ctrl its column.
   void MarkWanted(MarkedLine line);
@@ -70,6 +82,7 @@ class GridView : public QAbstractScrollArea {
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -79,6 +92,8 @@ class GridView : public QAbstractScrollArea {
   QPoint Scrolled() const;
   GridPainter::Look Look() const;
   void UpdateScrollBars();
+  void Fit();
+  void PaintInvitation(QPainter& painter);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);
   void PaintCurrentCell(QPainter& painter);
@@ -93,6 +108,7 @@ class GridView : public QAbstractScrollArea {
 
   Grid& grid_;
   GridPainter painter_;
+  bool fitting_ = false;
   std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
   std::optional<ShownCell> told_;  ///< the current cell as it was last told of
 };

@@ -9,8 +9,10 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 
 #include "app/board/numbers.h"
+#include "app/board/totals_check.h"
 #include "app/play/board_mouse.h"
 #include "app/play/board_text.h"
 #include "app/play/lay_out.h"
@@ -19,6 +21,7 @@
 #include "app/window/column_scroller.h"
 #include "app/window/grid_accessible.h"
 #include "app/window/square_files.h"
+#include "app/window/zoom.h"
 #include "files/square_text.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
@@ -79,6 +82,7 @@ MainWindow::MainWindow(const World& world)
       drawing_(new Drawing(board_)),
       boardPlace_(new QStackedLayout),
       menu_(new BoardMenu(this)),
+      state_(new StateLine),
       stage_(*solve_, runner_),
       cellEntry_(board_, dialogs_),
       edit_(board_, dialogs_, random_, history_),
@@ -124,7 +128,8 @@ void MainWindow::ArrangeFrames() {
     frames->addWidget(frame);
   }
   frames->addStretch();
-  columns->addWidget(new ColumnScroller(left));
+  leftColumn_ = new ColumnScroller(left);
+  columns->addWidget(leftColumn_);
 
   // The board's distance is to the frame's own edge, which the style has moved inwards.
   auto* board = new QVBoxLayout(solution_);
@@ -171,16 +176,49 @@ void MainWindow::BuildMenus() {
               CopyBoard(false);
             })},
            {"Pastex", "&Paste Board", QKeySequence::keyBindings(QKeySequence::Paste),
-            [this] { PasteFromClipboard(); }}});
-  AddMenu(menuBar(), "&View", {{"Maximx", "&Maximize", none, beside([this] {
-                                  move(0, 0);
-                                  showMaximized();
-                                })}});
+            [this] { PasteFromClipboard(); }},
+           {},
+           {"CheckTotalsx", "Check &Totals", {Qt::Key_F9}, [this] { CheckTheTotals(); }}});
+  const auto zoom = [&](int direction) {
+    return beside([this, direction] { Zoom(direction, view_->viewport()->rect().center()); });
+  };
+  AddMenu(
+      menuBar(), "&View",
+      {{"ZoomInx", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)},
+       {"ZoomOutx", "Zoom &Out", {Qt::CTRL | Qt::Key_Minus}, zoom(-1)},
+       {"NormalSizex", "&Normal Size", {Qt::CTRL | Qt::Key_0}, zoom(0)},
+       {"FitBoardx", "&Fit Board", none, beside([this] {
+          view_->SetFitting(!view_->Fitting());
+          ShowZoom();
+        }),
+        true},
+       {"FullScreenx", "Full &Screen", {Qt::Key_F11}, beside([this] { ToggleFullScreen(); }), true},
+       {"Maximx", "&Maximize", none, beside([this] {
+          move(0, 0);
+          showMaximized();
+        })},
+       {},
+       {"DrawingNumbersx", "Numbers in &Drawings", none, beside([this] {
+          drawing_->SetNumbers(findChild<QAction*>("DrawingNumbersx")->isChecked());
+        }),
+        true}});
   AddMenu(menuBar(), "&Help",
           {{"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents), beside([this] {
               (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();
             })},
            {"Aboutx", "&About", none, beside([this] { (new AboutForm(this))->open(); })}});
+  menuBar()->setCornerWidget(state_);
+  undoItem_ = findChild<QAction*>("UndoMovex");
+  redoItem_ = findChild<QAction*>("RedoMovex");
+  saveItem_ = findChild<QAction*>("SaveAsx");
+  exportItem_ = findChild<QAction*>("ExportPicturex");
+  checkItem_ = findChild<QAction*>("CheckTotalsx");
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setObjectName("LeaveFullScreen");
+  escape->setEnabled(false);
+  connect(escape, &QShortcut::activated, this, beside([this] {
+            if (beforeFullScreen_) ToggleFullScreen();
+          }));
 }
 
 /// The board as text for tables and texts, and as a picture for drawings.
@@ -241,6 +279,46 @@ void MainWindow::Export() {
   } else {
     ExportBoard(name, *view_);
   }
+}
+
+/// Counts and colours whatever board is shown, without a word: from then on it can be played.
+void MainWindow::CheckTheTotals() {
+  RunOnCurrentCell("Check Totals", [this] {
+    const int row = board_.grid.CurrentRow();
+    const int column = board_.grid.CurrentColumn();
+    Recount(board_);
+    board_.ReturnTo(row, column);
+    menu_->EnableEditing(true);
+  });
+}
+
+/// A step larger (1) or smaller (-1), or back to 100 % (0).
+void MainWindow::Zoom(int direction, QPoint fixed) {
+  view_->SetZoom(direction == 0 ? 1 : NextZoom(view_->Zoom(), direction), fixed);
+  ShowZoom();
+}
+
+void MainWindow::ShowZoom() {
+  findChild<QAction*>("FitBoardx")->setChecked(view_->Fitting());
+}
+
+/// The board and the menu bar alone, fitted; leaving brings back what there was.
+void MainWindow::ToggleFullScreen() {
+  const bool entering = !beforeFullScreen_;
+  leftColumn_->setVisible(!entering);
+  if (entering) {
+    beforeFullScreen_ = {view_->Zoom(), view_->Fitting(), windowState()};
+    showFullScreen();
+    view_->SetFitting(true);
+  } else {
+    const Before before = *std::exchange(beforeFullScreen_, std::nullopt);
+    setWindowState(before.Window);
+    view_->SetZoom(before.Zoom, {});
+    view_->SetFitting(before.Fitting);
+  }
+  findChild<QAction*>("FullScreenx")->setChecked(entering);
+  findChild<QShortcut*>("LeaveFullScreen")->setEnabled(entering);
+  ShowZoom();
 }
 
 /// A single file that is dropped onto the window opens.
@@ -353,6 +431,9 @@ void MainWindow::ConnectBoard() {
                        [this, character] { cellEntry_.TypeCharacter(character); });
     }
   });
+  connect(view_, &GridView::ZoomWanted, this, [this](int direction, QPoint at) {
+    runner_.RunBeside([this, direction, at] { Zoom(direction, at); });
+  });
   connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
     RunOnCurrentCell(
         "step", [this, sign] { sign > 0 ? cellEntry_.KeypadPlus() : cellEntry_.KeypadMinus(); });
@@ -417,17 +498,17 @@ void MainWindow::ShowState() {
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
   for (QWidget* button : {corners_->DoCor1, corners_->DoCor2})
     button->setEnabled(board_.Shown());
-  for (const char* name : {"SaveAsx", "ExportPicturex"})
-    findChild<QAction*>(name)->setEnabled(board_.Shown());
-  const auto showStep = [this](const char* name, const QString& caption, bool can,
-                               const std::string& step) {
-    auto* action = findChild<QAction*>(name);
-    action->setEnabled(can);
-    action->setText(can ? caption + " " + QString::fromStdString(step) : caption);
+  for (QAction* item : {saveItem_, exportItem_, checkItem_})
+    item->setEnabled(board_.Shown());
+  const auto showStep = [](QAction* item, const QString& caption, bool can,
+                           const std::string& step) {
+    item->setEnabled(can);
+    item->setText(can ? caption + " " + QString::fromStdString(step) : caption);
   };
-  showStep("UndoMovex", "&Undo", undo_.CanUndo(), undo_.CanUndo() ? undo_.UndoName() : "");
-  showStep("RedoMovex", "&Redo", undo_.CanRedo(), undo_.CanRedo() ? undo_.RedoName() : "");
+  showStep(undoItem_, "&Undo", undo_.CanUndo(), undo_.CanUndo() ? undo_.UndoName() : "");
+  showStep(redoItem_, "&Redo", undo_.CanRedo(), undo_.CanRedo() ? undo_.RedoName() : "");
   if (board_.OverlayShown) drawing_->update();
+  state_->Show(board_);
 }
 
 /// Covers the board with a drawing of it, where there is something to draw.

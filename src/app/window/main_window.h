@@ -16,6 +16,7 @@
 #include "app/window/limit_frame.h"
 #include "app/window/solve_frame.h"
 #include "app/window/square_frame.h"
+#include "app/window/state_line.h"
 #include "app/window/window_stage.h"
 #include "generate/solve_command.h"
 #include "generate/top_row_command.h"
@@ -81,6 +82,10 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void Open(const QString& name);
   void Save();
   void Export();
+  void CheckTheTotals();
+  void Zoom(int direction, QPoint fixed);
+  void ShowZoom();
+  void ToggleFullScreen();
   void ShowLaidOut();
   void OpenPrintForm();
 
@@ -110,6 +115,21 @@ class MainWindow : public QMainWindow, private BuildOptions {
   Drawing* drawing_;
   QStackedLayout* boardPlace_;
   BoardMenu* menu_;
+  StateLine* state_;
+  QWidget* leftColumn_ = nullptr;
+  QAction* undoItem_ = nullptr;
+  QAction* redoItem_ = nullptr;
+  QAction* saveItem_ = nullptr;
+  QAction* exportItem_ = nullptr;
+  QAction* checkItem_ = nullptr;
+
+  /// What full screen took away.
+  struct Before {
+    double Zoom;
+    bool Fitting;
+    Qt::WindowStates Window;
+  };
+  std::optional<Before> beforeFullScreen_;
 
   WindowStage stage_;
   CellEntry cellEntry_;

@@ -67,7 +67,7 @@ void ExportBoard(const QString& name, GridView& view) {
 
 void ExportDrawing(const QString& name, Drawing& drawing) {
   Export(name, drawing.size(), drawing.logicalDpiX(),
-         [&drawing](QPainter& painter) { drawing.Paint(painter); });
+         [&drawing](QPainter& painter) { drawing.Paint(painter, OnWhite()); });
 }
 
 }  // namespace numorra

@@ -62,6 +62,32 @@ TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
   EXPECT_EQ(Where(), (std::pair{3, 3}));
 }
 
+/// A square by Auto is made another one by keys alone, once F9 has made it alive.
+TEST_F(PlayerTest, AGeneratedSquareIsPlayedOn) {
+  Make("SolveAuto", "3");
+  auto& state = Find<QWidget>("BoardState");
+  EXPECT_EQ(state.accessibleName(), "3 x 3, sum 15: magic, F9 to play");
+  window_.View().setFocus();
+  QTest::keyClicks(&window_.View(), "7");
+  const auto before = Rows();
+  Find<QAction>("CheckTotalsx").trigger();
+  EXPECT_EQ(dialogs_.Take(), Messages{}) << "silently";
+  EXPECT_EQ(state.accessibleName(), "3 x 3, sum 15: magic");
+  EXPECT_EQ(TheGrid().VerdictOf(1, 0), Verdict::Right);
+  const char* const rows[] = {"294", "753", "618"};
+  for (const char* row : rows) {
+    for (const char* digit = row; *digit; ++digit) {
+      QTest::keyClicks(&window_.View(), QString(QChar(*digit)));
+      Key(Qt::Key_Right);
+    }
+    Key(Qt::Key_Down);
+  }
+  EXPECT_EQ(Rows() == before, before == ParseRows("2 9 4 / 7 5 3 / 6 1 8"));
+  EXPECT_FALSE(dialogs_.Take().empty());
+  EXPECT_EQ(state.accessibleName(), "3 x 3, sum 15: magic");
+  EXPECT_TRUE(state.toolTip().endsWith("row 1, column 1: 2"));
+}
+
 TEST_F(PlayerTest, AnUncheckedBoardOpensTheShortMenu) {
   Click("SolveAuto");
   ClickCell(1, 1);
@@ -103,8 +129,8 @@ TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
   Key(Qt::Key_PageUp);
   Key(Qt::Key_Plus, Qt::KeypadModifier);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102");
-  Key(Qt::Key_Minus, Qt::ControlModifier);
-  Key(Qt::Key_Plus, Qt::ControlModifier);
+  Key(Qt::Key_Down, Qt::AltModifier);
+  Key(Qt::Key_Up, Qt::AltModifier);
   Key(Qt::Key_Plus);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102") << "not the keypad's";
   Click("SolveManual");

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "app/board/board.h"
+
+namespace numorra {
+
+/// What is true of the board on the screen, in one line for the player: its order, the target that
+/// it is judged by, and how far it is. Counted from what the cells show now, checked or not.
+///
+///     4 x 4, sum 34: 5 cells to fill
+///     4 x 4, sum 34: 3 of 10 lines right
+///     4 x 4, sum 34: magic, 7 numbers more than once
+///     4 x 4, sum 34: magic, F9 to play
+///
+/// Empty without a board. A board whose cells all hold the base value is not magic, though its
+/// lines are right.
+std::string StateOf(const Board& board);
+
+}  // namespace numorra

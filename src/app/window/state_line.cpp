@@ -1,0 +1,65 @@
+#include "app/window/state_line.h"
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QMenuBar>
+#include <QPainter>
+
+#include "app/play/board_state.h"
+#include "toolkit/twips.h"
+
+namespace numorra {
+namespace {
+
+// Twips.
+constexpr int kWidth = 6600;       // what six menus leave free at the opening size
+constexpr int kAroundMenu = 330;   // a menu's own edges
+constexpr int kAroundMenus = 240;  // those of all menus
+
+}  // namespace
+
+StateLine::StateLine(QWidget* parent) : QWidget(parent) {
+  setObjectName("BoardState");
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void StateLine::Show(const Board& board) {
+  const QString state = QString::fromStdString(StateOf(board));
+  QString tip = state;
+  if (board.Shown()) {
+    const Grid& grid = board.grid;
+    tip += QString("\nrow %1, column %2: %3")
+               .arg(grid.CurrentRow())
+               .arg(grid.CurrentColumn())
+               .arg(QString::fromStdString(grid.Text(grid.CurrentRow(), grid.CurrentColumn())));
+  }
+  setToolTip(tip);
+  if (state == state_) return;
+  state_ = state;
+  setAccessibleName(state);
+  update();
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+QSize StateLine::sizeHint() const {
+  int free = PixelsOf(kWidth);
+  if (const auto* bar = qobject_cast<const QMenuBar*>(parentWidget())) {
+    int menus = PixelsOf(kAroundMenus);
+    for (const QAction* menu : bar->actions())
+      menus += fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
+    free = std::clamp(bar->width() - menus, 0, free);
+  }
+  return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};
+}
+
+void StateLine::paintEvent(QPaintEvent*) {
+  const QRect place = rect().adjusted(0, 0, -PixelsOf(kAroundMenus) / 2, 0);
+  QPainter painter(this);
+  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter,
+                   fontMetrics().elidedText(state_, Qt::ElideRight, place.width()));
+}
+
+}  // namespace numorra

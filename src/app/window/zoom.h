@@ -1,0 +1,25 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+namespace numorra {
+
+/// The steps of the zoom: 50 % to 800 % in equal factors, two steps for each doubling, so that 100
+/// and 200 are among them.
+inline constexpr int kSmallestZoomStep = -2;
+inline constexpr int kLargestZoomStep = 6;
+
+inline double ZoomAtStep(int step) {
+  return std::exp2(step / 2.0);
+}
+
+/// The next step larger (1) or smaller (-1) than any zoom; the last one beyond the ends.
+inline double NextZoom(double zoom, int direction) {
+  constexpr double kAlmost = 0.01;  // so much from a step is on it
+  const double at = 2 * std::log2(zoom);
+  const double next = direction > 0 ? std::floor(at + kAlmost) + 1 : std::ceil(at - kAlmost) - 1;
+  return ZoomAtStep(std::clamp(static_cast<int>(next), kSmallestZoomStep, kLargestZoomStep));
+}
+
+}  // namespace numorra

@@ -1,0 +1,37 @@
+#include "print/sheet_doubts.h"
+
+#include "app/board/board.h"
+#include "app/board/numbers.h"
+#include "print/sheet.h"
+
+namespace numorra {
+
+SheetDoubts DoubtsOf(const Grid& grid, double total) {
+  const int order = grid.Rows() - 2;
+  SheetDoubts doubts;
+  CellTable cells;
+  bool wide = false;
+  ForEachCell(order, [&](int r, int c) {
+    cells(r, c) = Val(grid.Text(r, c));
+    wide = wide || grid.Text(r, c).size() > kSheetPlaces;
+  });
+  ComputeTotals(cells, order);
+  bool agree = cells(0, 0) == cells(0, order + 1);
+  for (int line = 1; line <= order; ++line)
+    agree = agree && cells(line, 0) == cells(0, 0) && cells(0, line) == cells(0, 0);
+  const std::string sum = Decimal(total);
+  if (!agree) {
+    doubts.Total = "The lines of this square do not all add up to " + sum + ".";
+  } else if (cells(0, 0) != AsShown(total)) {
+    doubts.TheLines = cells(0, 0);
+    doubts.Total = "The sum box says " + sum + ", but the lines of this square add up to " +
+                   Decimal(cells(0, 0)) + ".";
+  }
+  if (wide) {
+    doubts.Width = "Numbers of more than " + std::to_string(kSheetPlaces) +
+                   " places run into their neighbors on the sheet.";
+  }
+  return doubts;
+}
+
+}  // namespace numorra

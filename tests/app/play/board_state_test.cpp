@@ -1,0 +1,37 @@
+#include "app/play/board_state.h"
+
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+using BoardStateTest = PlayTest;
+
+TEST_F(BoardStateTest, SaysWhatIsTrueOfTheBoard) {
+  EXPECT_EQ(StateOf(board_), "");
+  struct Case {
+    const char* rows;
+    double target;
+    const char* state;
+  };
+  const Case cases[] = {
+      {"8 1 6 / 3 5 7 / 4 9 2", 15, "3 x 3, sum 15: magic"},
+      {"8 1 6 / 3 5 7 / 4 9 2", 16, "3 x 3, sum 16: 0 of 8 lines right"},
+      {"8 1 6 / 3 5 7 / 4 9 3", 15, "3 x 3, sum 15: 5 of 8 lines right"},
+      {"6 6 6 / 6 6 6 / 6 6 6", 18, "3 x 3, sum 18: magic, 1 number more than once"},
+      {"5 5 5 / 5 5 5 / 5 5 5", 15, "3 x 3, sum 15: all cells are still equal"},
+      {"0.2 0.7 0.6 / 0.9 0.5 0.1 / 0.4 0.3 0.8", 1.5, "3 x 3, sum 1.5: magic"},
+      {"4 1 4 / 3 3 3 / 2 5 2", 9, "3 x 3, sum 9: magic, 3 numbers more than once"}};
+  for (const Case& c : cases) {
+    Show(c.rows, c.target);
+    EXPECT_EQ(StateOf(board_), c.state);
+  }
+  board_.grid.SetText(2, 2, "");
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill");
+  ShowRows(board_, "8 1 6 / 3 5 7 / 4 9 2", 15);
+  board_.TotalsChecked = false;
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic, F9 to play");
+}
+
+}  // namespace
+}  // namespace numorra

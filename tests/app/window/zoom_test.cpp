@@ -1,0 +1,106 @@
+#include "app/window/zoom.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+class ZoomTest : public WindowTest {
+ protected:
+  void Trigger(const char* action) {
+    Find<QAction>(action).trigger();
+    QCoreApplication::processEvents();
+  }
+  int Side() { return window_.View().CellRect(1, 1).width(); }
+  bool Scrolls() {
+    return window_.View().verticalScrollBar()->maximum() > 0 ||
+           window_.View().horizontalScrollBar()->maximum() > 0;
+  }
+};
+
+TEST(ZoomSteps, AreEqualFactorsWithOneAndTwoAmongThem) {
+  double zoom = 0.01;
+  std::vector<int> percents;
+  for (int step = 0; step < 10; ++step)
+    percents.push_back(static_cast<int>(100 * (zoom = NextZoom(zoom, 1)) + 0.5));
+  EXPECT_EQ(percents, (std::vector<int>{50, 71, 100, 141, 200, 283, 400, 566, 800, 800}));
+  EXPECT_EQ(NextZoom(1.2, 1), ZoomAtStep(1));
+  EXPECT_EQ(NextZoom(1.2, -1), 1);
+  EXPECT_EQ(NextZoom(0.3, -1), 0.5);
+}
+
+TEST_F(ZoomTest, CellsAndNumbersGrowAndTheMouseStillFindsThem) {
+  Make("SolveManual", "11", "671");
+  EXPECT_EQ(Side(), 26);
+  const QImage plain = window_.View().Picture();
+  Trigger("ZoomInx");
+  Trigger("ZoomInx");
+  EXPECT_NEAR(Side(), 53, 1);
+  EXPECT_EQ(window_.View().Picture(), plain) << "copied at 100 %";
+  EXPECT_TRUE(Scrolls());
+  ClickCell(9, 10);
+  EXPECT_EQ(TheGrid().CurrentRow() * 100 + TheGrid().CurrentColumn(), 910);
+  QWheelEvent wheel({50, 50}, {50, 50}, {}, {0, -120}, Qt::NoButton, Qt::ControlModifier,
+                    Qt::NoScrollPhase, false);
+  for (int turn = 0; turn < 3; ++turn)
+    QCoreApplication::sendEvent(window_.View().viewport(), &wheel);
+  EXPECT_NEAR(Side(), 19, 1);
+  Trigger("NormalSizex");
+  EXPECT_EQ(Side(), 26);
+}
+
+TEST_F(ZoomTest, WhatIsUnderTheMouseStaysThere) {
+  Make("SolveAuto", "50");
+  window_.View().BringIntoView(25, 25);
+  const QPoint at = window_.View().CellRect(20, 20).center();
+  for (const double zoom : {2.0, 0.5, 1.0}) {
+    if (zoom < 1) window_.View().BringIntoView(50, 50);
+    const auto before = window_.View().CellAt(at);
+    window_.View().SetZoom(zoom, at);
+    const auto after = window_.View().CellAt(at);
+    if (zoom > 1) {
+      EXPECT_EQ(after, before);
+    }
+  }
+}
+
+TEST_F(ZoomTest, FittingShowsTheWholeBoardAtEverySize) {
+  for (const char* order : {"3", "11", "50"}) {
+    Make("SolveAuto", order);
+    if (!Find<QAction>("FitBoardx").isChecked()) Trigger("FitBoardx");
+    for (const QSize size :
+         {QSize(740, 700), QSize(1920, 1080), QSize(911, 517), QSize(400, 300)}) {
+      window_.resize(size);
+      QCoreApplication::processEvents();
+      EXPECT_FALSE(Scrolls()) << order;
+      const QRect last = window_.View().CellRect(TheGrid().Rows() - 1, TheGrid().Columns() - 1);
+      EXPECT_TRUE(window_.View().viewport()->rect().contains(last));
+      const int room = std::min(window_.View().width(), window_.View().height());
+      EXPECT_GE(std::max(last.right(), last.bottom()), room - 4) << "as large as it can be";
+    }
+  }
+  Trigger("ZoomInx");
+  EXPECT_FALSE(Find<QAction>("FitBoardx").isChecked()) << "a manual zoom leaves it";
+}
+
+TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
+  Make("SolveManual", "5", "70");
+  Trigger("ZoomInx");
+  const int side = Side();
+  Trigger("FullScreenx");
+  EXPECT_FALSE(Find<QPushButton>("SolveAuto").isVisible());
+  EXPECT_TRUE(window_.View().Fitting() && window_.View().isVisible());
+  EXPECT_TRUE(Find<QWidget>("BoardState").isVisible());
+  QTest::keyClick(&window_.View(), Qt::Key_Escape);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisible());
+  EXPECT_EQ(Side(), side);
+  EXPECT_FALSE(window_.View().Fitting() || Find<QAction>("FullScreenx").isChecked());
+}
+
+}  // namespace
+}  // namespace numorra
