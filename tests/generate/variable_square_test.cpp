@@ -45,29 +45,6 @@ TEST(VariableSquares, AreVariedAllOver) {
   }
 }
 
-TEST(VariablePlan, CorrectsSumsByTheRules) {
-  struct Case {
-    double size, sum;
-    bool limit, corner;
-    int base, remainder;
-    double correctedSum;
-  };
-  const Case cases[] = {{6, 100, false, false, 16, 4, 100}, {3, 16, false, false, 5, 1, 16},
-                        {5, 7, false, false, 2, 0, 10},     {10, 100, true, false, 5, 0, 50},
-                        {10, 44, true, false, 4, 0, 44},    {10, 107, false, true, 10, 0, 107},
-                        {10, 107, true, true, 10, 0, 107},  {5, 0, false, false, 2, 0, 10},
-                        {5, -9, true, false, 2, 0, 10},     {4, 33.5, false, false, 8, 2, 33.5}};
-  for (const Case& c : cases) {
-    const VariablePlan plan = PlanVariableSquare(c.size, c.sum, c.limit, c.corner);
-    EXPECT_EQ(plan.BaseValue, c.base) << c.size << "/" << c.sum;
-    EXPECT_EQ(plan.TotalRemainder, c.remainder) << c.size << "/" << c.sum;
-    EXPECT_EQ(plan.Sum, c.correctedSum);
-    EXPECT_EQ(plan.LimitToNine, c.limit && !c.corner);
-  }
-  EXPECT_THROW(PlanVariableSquare(3, 1e6, false, false), RuntimeError);
-  EXPECT_THROW(PlanVariableSquare(40000, 1e6, false, false), RuntimeError);
-}
-
 TEST(RemainderEven, RaisesEveryLineOrComesBackTurned) {
   for (const int order : {4, 6, 10, 50}) {
     TurningSquare square(order);

@@ -1,8 +1,6 @@
 #include "print/print_form.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -11,6 +9,7 @@
 
 #include "app/board/runtime_error.h"
 #include "print/sheet.h"
+#include "support/full_disk.h"
 #include "support/window_fixture.h"
 
 namespace numorra {
@@ -124,26 +123,6 @@ TEST_F(PrintTest, ClosesWhenItsCommandHasEnded) {
   EXPECT_FALSE(Form() && Form()->isVisible());
 }
 
-TEST(PaperPrinters, AFullDiskKeepsTheFileThatWasThere) {
-  const QTemporaryDir folder;
-  QFile old(folder.filePath("sheet.pdf"));
-  ASSERT_TRUE(old.open(QFile::WriteOnly));
-  old.write("what was there");
-  old.close();
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit little{2000, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &little);
-  PaperPrinter printer;
-  printer.PrintTo(old.fileName());
-  EXPECT_THROW(printer.Print("text\r\n"), RuntimeError);
-  setrlimit(RLIMIT_FSIZE, &before);
-  ASSERT_TRUE(old.open(QFile::ReadOnly));
-  EXPECT_EQ(old.readAll(), "what was there");
-  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
-}
-
 TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
   const QTemporaryDir folder;
   const QString pdf = folder.filePath("sheet.pdf");
@@ -174,21 +153,21 @@ TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
       << info.toStdString();
 }
 
-TEST(PaperPrinters, FailWithARunTimeErrorAtTheBeginningInTheMiddleOrAtTheEnd) {
+TEST(PaperPrinters, FailWithARunTimeErrorAndKeepTheFileThatWasThere) {
   const QTemporaryDir folder;
-  const std::string full = folder.filePath("full.pdf").toStdString();
-  for (const std::string& file : {std::string("/nowhere/at/all.pdf"), std::string("/tmp"), full}) {
-    // A disk that is full after some bytes.
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit little{2000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &little);
+  QFile old(folder.filePath("sheet.pdf"));
+  ASSERT_TRUE(old.open(QFile::WriteOnly));
+  old.write("what was there");
+  old.close();
+  for (const QString& name : {QString("/nowhere/at/all.pdf"), QString("/tmp"), old.fileName()}) {
+    const FullDisk full(2000);
     PaperPrinter printer;
-    printer.PrintTo(QString::fromStdString(file));
-    EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << file;
-    setrlimit(RLIMIT_FSIZE, &before);
+    printer.PrintTo(name);
+    EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << name.toStdString();
   }
+  ASSERT_TRUE(old.open(QFile::ReadOnly));
+  EXPECT_EQ(old.readAll(), "what was there");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
 }
 
 }  // namespace

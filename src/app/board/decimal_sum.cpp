@@ -32,7 +32,8 @@ void DecimalSum::Add(double number) {
 }
 
 double DecimalSum::Total() const {
-  const double whole = whole_ + static_cast<double>(fraction_ / kUnits);
+  const std::int64_t carried = fraction_ / kUnits;
+  const double whole = whole_ + static_cast<double>(carried);
   const auto rest = static_cast<double>(fraction_ % kUnits) / static_cast<double>(kUnits);
   return AsShown(whole + rest);
 }

@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 
 #include "app/board/numbers.h"
 #include "app/board/totals_check.h"
@@ -21,15 +20,11 @@
 #include "app/window/column_scroller.h"
 #include "app/window/grid_accessible.h"
 #include "app/window/square_files.h"
-#include "app/window/zoom.h"
 #include "files/square_text.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
-#include "help/about_window.h"
-#include "help/help_window.h"
 #include "print/print_form.h"
 #include "print/sheet.h"
-#include "toolkit/menus.h"
 #include "toolkit/named.h"
 #include "toolkit/twips.h"
 #include "visual/shading.h"
@@ -142,85 +137,6 @@ void MainWindow::ArrangeFrames() {
   columns->addWidget(solution_, 1);
 }
 
-void MainWindow::BuildMenus() {
-  const auto beside = [this](auto body) {
-    return [this, body] { runner_.RunBeside([body] { body(); }); };
-  };
-  const QList<QKeySequence> none;
-  const QList<QKeySequence> redo{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y};
-  AddMenu(menuBar(), "&File",
-          {{"Openx", "&Open...", QKeySequence::keyBindings(QKeySequence::Open), beside([this] {
-              const QString name = files_.ToOpen(this, "Open", kReadableKinds);
-              if (!name.isEmpty()) Open(name);
-            })},
-           {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
-            beside([this] { Save(); })},
-           {"ExportPicturex", "&Export Picture...", none, beside([this] { Export(); })},
-           {},
-           {"PrintSol", "&Print Solution...", QKeySequence::keyBindings(QKeySequence::Print),
-            beside([this] { OpenPrintForm(); })},
-           {},
-           // Not every desktop names a standard key for it.
-           {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }}});
-  AddMenu(menuBar(), "&Edit",
-          {{"UndoMovex",
-            "&Undo",
-            {Qt::CTRL | Qt::Key_Z},
-            [this] { runner_.Run("Undo", [this] { undo_.Undo(board_); }); }},
-           {"RedoMovex", "&Redo", redo,
-            [this] { runner_.Run("Redo", [this] { undo_.Redo(board_); }); }},
-           {},
-           {"Copyx", "&Copy Board", QKeySequence::keyBindings(QKeySequence::Copy),
-            beside([this] { CopyBoard(true); })},
-           {"CopyNumbersx", "Copy &Numbers", {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, beside([this] {
-              CopyBoard(false);
-            })},
-           {"Pastex", "&Paste Board", QKeySequence::keyBindings(QKeySequence::Paste),
-            [this] { PasteFromClipboard(); }},
-           {},
-           {"CheckTotalsx", "Check &Totals", {Qt::Key_F9}, [this] { CheckTheTotals(); }}});
-  const auto zoom = [&](int direction) {
-    return beside([this, direction] { Zoom(direction, view_->viewport()->rect().center()); });
-  };
-  AddMenu(
-      menuBar(), "&View",
-      {{"ZoomInx", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)},
-       {"ZoomOutx", "Zoom &Out", {Qt::CTRL | Qt::Key_Minus}, zoom(-1)},
-       {"NormalSizex", "&Normal Size", {Qt::CTRL | Qt::Key_0}, zoom(0)},
-       {"FitBoardx", "&Fit Board", none, beside([this] {
-          view_->SetFitting(!view_->Fitting());
-          ShowZoom();
-        }),
-        true},
-       {"FullScreenx", "Full &Screen", {Qt::Key_F11}, beside([this] { ToggleFullScreen(); }), true},
-       {"Maximx", "&Maximize", none, beside([this] {
-          move(0, 0);
-          showMaximized();
-        })},
-       {},
-       {"DrawingNumbersx", "Numbers in &Drawings", none, beside([this] {
-          drawing_->SetNumbers(findChild<QAction*>("DrawingNumbersx")->isChecked());
-        }),
-        true}});
-  AddMenu(menuBar(), "&Help",
-          {{"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents), beside([this] {
-              (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();
-            })},
-           {"Aboutx", "&About", none, beside([this] { (new AboutForm(this))->open(); })}});
-  menuBar()->setCornerWidget(state_);
-  undoItem_ = findChild<QAction*>("UndoMovex");
-  redoItem_ = findChild<QAction*>("RedoMovex");
-  saveItem_ = findChild<QAction*>("SaveAsx");
-  exportItem_ = findChild<QAction*>("ExportPicturex");
-  checkItem_ = findChild<QAction*>("CheckTotalsx");
-  auto* escape = new QShortcut(Qt::Key_Escape, this);
-  escape->setObjectName("LeaveFullScreen");
-  escape->setEnabled(false);
-  connect(escape, &QShortcut::activated, this, beside([this] {
-            if (beforeFullScreen_) ToggleFullScreen();
-          }));
-}
-
 /// The board as text for tables and texts, and as a picture for drawings.
 void MainWindow::CopyBoard(bool withPicture) {
   if (!board_.Shown()) return;
@@ -290,35 +206,6 @@ void MainWindow::CheckTheTotals() {
     board_.ReturnTo(row, column);
     menu_->EnableEditing(true);
   });
-}
-
-/// A step larger (1) or smaller (-1), or back to 100 % (0).
-void MainWindow::Zoom(int direction, QPoint fixed) {
-  view_->SetZoom(direction == 0 ? 1 : NextZoom(view_->Zoom(), direction), fixed);
-  ShowZoom();
-}
-
-void MainWindow::ShowZoom() {
-  findChild<QAction*>("FitBoardx")->setChecked(view_->Fitting());
-}
-
-/// The board and the menu bar alone, fitted; leaving brings back what there was.
-void MainWindow::ToggleFullScreen() {
-  const bool entering = !beforeFullScreen_;
-  leftColumn_->setVisible(!entering);
-  if (entering) {
-    beforeFullScreen_ = {view_->Zoom(), view_->Fitting(), windowState()};
-    showFullScreen();
-    view_->SetFitting(true);
-  } else {
-    const Before before = *std::exchange(beforeFullScreen_, std::nullopt);
-    setWindowState(before.Window);
-    view_->SetZoom(before.Zoom, {});
-    view_->SetFitting(before.Fitting);
-  }
-  findChild<QAction*>("FullScreenx")->setChecked(entering);
-  findChild<QShortcut*>("LeaveFullScreen")->setEnabled(entering);
-  ShowZoom();
 }
 
 /// A single file that is dropped onto the window opens.
@@ -432,7 +319,7 @@ void MainWindow::ConnectBoard() {
     }
   });
   connect(view_, &GridView::ZoomWanted, this, [this](int direction, QPoint at) {
-    runner_.RunBeside([this, direction, at] { Zoom(direction, at); });
+    runner_.RunBeside([this, direction, at] { size_->Zoom(direction, at); });
   });
   connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
     RunOnCurrentCell(

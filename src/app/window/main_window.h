@@ -17,6 +17,7 @@
 #include "app/window/solve_frame.h"
 #include "app/window/square_frame.h"
 #include "app/window/state_line.h"
+#include "app/window/view_control.h"
 #include "app/window/window_stage.h"
 #include "generate/solve_command.h"
 #include "generate/top_row_command.h"
@@ -83,9 +84,6 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void Save();
   void Export();
   void CheckTheTotals();
-  void Zoom(int direction, QPoint fixed);
-  void ShowZoom();
-  void ToggleFullScreen();
   void ShowLaidOut();
   void OpenPrintForm();
 
@@ -117,19 +115,12 @@ class MainWindow : public QMainWindow, private BuildOptions {
   BoardMenu* menu_;
   StateLine* state_;
   QWidget* leftColumn_ = nullptr;
+  ViewControl* size_ = nullptr;
   QAction* undoItem_ = nullptr;
   QAction* redoItem_ = nullptr;
   QAction* saveItem_ = nullptr;
   QAction* exportItem_ = nullptr;
   QAction* checkItem_ = nullptr;
-
-  /// What full screen took away.
-  struct Before {
-    double Zoom;
-    bool Fitting;
-    Qt::WindowStates Window;
-  };
-  std::optional<Before> beforeFullScreen_;
 
   WindowStage stage_;
   CellEntry cellEntry_;

@@ -1,16 +1,14 @@
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QDropEvent>
 #include <QMimeData>
-#include <QPdfWriter>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include "app/board/position.h"
 #include "app/window/square_files.h"
+#include "support/full_disk.h"
 #include "support/window_fixture.h"
 
 namespace numorra {
@@ -146,13 +144,10 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   for (const auto& [action, name] :
        {std::pair{"SaveAsx", "a.json"}, {"ExportPicturex", "a.png"}, {"ExportPicturex", "a.pdf"}}) {
     Written(name, "what was there");
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit little{1000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &little);
-    Trigger(action, In(name));
-    setrlimit(RLIMIT_FSIZE, &before);
+    {
+      const FullDisk full(1000);
+      Trigger(action, In(name));
+    }
     const Messages said = dialogs_.Take();
     ASSERT_EQ(said.size(), 1U) << name;
     EXPECT_NE(said[0].find("cannot write " + In(name).toStdString()), std::string::npos) << said[0];

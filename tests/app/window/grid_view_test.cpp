@@ -50,17 +50,6 @@ TEST_F(GridViewTest, BringsCellsIntoViewBesideTheFixedLines) {
   }
 }
 
-TEST_F(GridViewTest, MarksTheCurrentCellWithoutHidingIt) {
-  board_.MarkAllTotalsWrong();
-  board_.grid.SetCurrent(2, 2);
-  const QImage image = view_.viewport()->grab().toImage();
-  const QRect cell = view_.CellRect(2, 2);
-  int dark = 0;
-  for (int i = 0; i < 18 * 18; ++i)
-    dark += image.pixelColor(cell.left() + 4 + i % 18, cell.top() + 4 + i / 18).lightness() < 100;
-  EXPECT_GT(dark, 5) << "the number is in sight";
-}
-
 TEST(CellTexts, ShrinkUntilTheyFitAndSayWhenTheyCannotBeRead) {
   CellText texts(QFont(), 27);
   for (const char* text : {"", "7", "250", "2500"})

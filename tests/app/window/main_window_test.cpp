@@ -48,15 +48,6 @@ TEST_F(WindowTest, TheBoardFillsItsFrameUpToTheGivenDistances) {
   }
 }
 
-TEST_F(WindowTest, AutoShowsANormalSquareOfEverySize) {
-  for (int size = 3; size <= 50; ++size) {
-    Make("SolveAuto", std::to_string(size));
-    ASSERT_EQ(slow::WhyNotNormal(Rows()), "") << size;
-    EXPECT_EQ(SumBox(), std::to_string(size * (size * size + 1) / 2));
-    ExpectSettled();
-  }
-}
-
 TEST_F(WindowTest, AutoRefusesSizesItCannotBuildAndKeepsTheBoard) {
   Make("SolveAuto", "5");
   const auto before = Rows();

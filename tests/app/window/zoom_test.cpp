@@ -53,21 +53,6 @@ TEST_F(ZoomTest, CellsAndNumbersGrowAndTheMouseStillFindsThem) {
   EXPECT_EQ(Side(), 26);
 }
 
-TEST_F(ZoomTest, WhatIsUnderTheMouseStaysThere) {
-  Make("SolveAuto", "50");
-  window_.View().BringIntoView(25, 25);
-  const QPoint at = window_.View().CellRect(20, 20).center();
-  for (const double zoom : {2.0, 0.5, 1.0}) {
-    if (zoom < 1) window_.View().BringIntoView(50, 50);
-    const auto before = window_.View().CellAt(at);
-    window_.View().SetZoom(zoom, at);
-    const auto after = window_.View().CellAt(at);
-    if (zoom > 1) {
-      EXPECT_EQ(after, before);
-    }
-  }
-}
-
 TEST_F(ZoomTest, FittingShowsTheWholeBoardAtEverySize) {
   for (const char* order : {"3", "11", "50"}) {
     Make("SolveAuto", order);

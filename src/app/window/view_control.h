@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+
+#include <QAction>
+#include <QMainWindow>
+#include <QShortcut>
+
+#include "app/window/grid_view.h"
+
+namespace numorra {
+
+/// How large the board is shown: zoom, fitting, full screen. It keeps the check marks of the menu.
+class ViewControl : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `beside`: what full screen takes away. `fit` and `full`: the menu's items.
+  ViewControl(QMainWindow* window, GridView* view, QWidget* beside, QAction* fit, QAction* full);
+
+  /// A step larger (1) or smaller (-1), or back to 100 % (0); what is drawn at `fixed` stays there.
+  void Zoom(int direction, QPoint fixed);
+
+  /// Draws the board as large as its place, or as it is.
+  void ToggleFitting();
+
+  /// The board and the menu bar alone, fitted; leaving brings back what there was.
+  void ToggleFullScreen();
+
+ private:
+  void ShowMarks();
+
+  /// What full screen took away.
+  struct Before {
+    double Zoom;
+    bool Fitting;
+    Qt::WindowStates State;
+  };
+
+  QMainWindow* window_;
+  GridView* view_;
+  QWidget* beside_;
+  QAction* fit_;
+  QAction* full_;
+  QShortcut* leave_;
+  std::optional<Before> before_;
+};
+
+}  // namespace numorra
