@@ -35,16 +35,15 @@ const char* NameOf(Rules rules) {
 }
 
 std::string JsonOf(const StoredSquare& square) {
-  std::string json = std::string("{\"format\": \"") + kJsonFormat +
-                     "\", \"version\": " + std::to_string(kJsonVersion) +
-                     ", \"order\": " + std::to_string(square.Order);
-  if (square.Total) json += ", \"total\": " + Decimal(*square.Total);
-  json += std::string(", \"rules\": \"") + NameOf(square.Asked) + "\", \"rows\": ";
+  std::string json = R"({"format": ")" + std::string(kJsonFormat) + R"(", "version": )" +
+                     std::to_string(kJsonVersion) + R"(, "order": )" + std::to_string(square.Order);
+  if (square.Total) json += R"(, "total": )" + Decimal(*square.Total);
+  json += R"(, "rules": ")" + std::string(NameOf(square.Asked)) + R"(", "rows": )";
   json += JsonRows(square.Order, [&](std::size_t cell) {
     return square.Cells[cell] ? Decimal(*square.Cells[cell]) : "null";
   });
   if (!square.Givens.empty()) {
-    json += ", \"givens\": " + JsonRows(square.Order, [&](std::size_t cell) {
+    json += R"(, "givens": )" + JsonRows(square.Order, [&](std::size_t cell) {
               return std::string(square.Givens[cell] ? "true" : "false");
             });
   }

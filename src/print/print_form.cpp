@@ -1,6 +1,7 @@
 #include "print/print_form.h"
 
 #include <QHBoxLayout>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "app/board/numbers.h"
@@ -58,7 +59,7 @@ PrintForm::PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer
   for (QPushButton* button : {UseTotalx, PrintGridx, PrintSolx, Closex})
     button->setAutoDefault(false);  // Enter prints nothing by accident
   runner_.OnEnd = [this](const std::string&) {
-    if (closing_) QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    if (closing_) QTimer::singleShot(0, this, &QWidget::close);
   };
   connect(UseTotalx, &QPushButton::clicked, this, [this] {
     runner_.Run("Use total", [this] {
@@ -96,6 +97,7 @@ void PrintForm::Preview() {
 
 void PrintForm::Print(Sheet sheet, const char* message) {
   runner_.Run("Print", [this, sheet, message] {
+    Preview();  // a build behind the form may have changed the board
     if (!printer_.Choose(this)) return;
     printer_.Print(sheet(grid_, Total()));
     dialogs_.Tell(message);

@@ -17,11 +17,14 @@ QString FileDialogs::ToOpen(QWidget* window, const QString& title, const QString
   return Choose(dialog);
 }
 
-QString FileDialogs::ToSave(QWidget* window, const QString& title, const QString& kinds,
-                            const QString& suffix) {
+QString FileDialogs::ToSave(QWidget* window, const QString& title, const QString& kinds) {
   QFileDialog dialog(window, title, QString(), kinds);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(suffix);
+  const auto takeSuffix = [&dialog](const QString& kind) {
+    dialog.setDefaultSuffix(kind.section("*.", 1).section(')', 0, 0));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
+  takeSuffix(dialog.selectedNameFilter());
   return Choose(dialog);
 }
 

@@ -14,18 +14,16 @@ class FileChooser {
   /// *.csv)".
   virtual QString ToOpen(QWidget* window, const QString& title, const QString& kinds) = 0;
 
-  /// A name to write to, with `suffix` where the player gives none; what is there is to be
-  /// replaced.
-  virtual QString ToSave(QWidget* window, const QString& title, const QString& kinds,
-                         const QString& suffix) = 0;
+  /// A name to write to, with the suffix of the chosen kind where the player gives none; what is
+  /// there is to be replaced.
+  virtual QString ToSave(QWidget* window, const QString& title, const QString& kinds) = 0;
 };
 
 /// The toolkit's own dialogs.
 class FileDialogs : public FileChooser {
  public:
   QString ToOpen(QWidget* window, const QString& title, const QString& kinds) override;
-  QString ToSave(QWidget* window, const QString& title, const QString& kinds,
-                 const QString& suffix) override;
+  QString ToSave(QWidget* window, const QString& title, const QString& kinds) override;
 };
 
 }  // namespace numorra

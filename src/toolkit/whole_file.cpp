@@ -23,7 +23,7 @@ QByteArray ReadWholeFile(const QString& name, qint64 mostBytes) {
   QFile file(name);
   if (!file.open(QFile::ReadOnly)) Fail("cannot read " + name + ": " + file.errorString());
   // One byte more than is taken, so that a file that grows meanwhile is noticed.
-  const QByteArray bytes = file.read(mostBytes + 1);
+  QByteArray bytes = file.read(mostBytes + 1);
   if (file.error() != QFile::NoError) Fail("cannot read " + name + ": " + file.errorString());
   if (bytes.size() > mostBytes) Fail(name + " is too large to be a square");
   return bytes;

@@ -37,8 +37,8 @@ void PaintNumbers(QPainter& painter, const DrawingArea& area, const std::vector<
     place.moveCenter(area.Centre(cell.Row, cell.Column));
     const Colour shade = shading.Of(cell.Value).value_or(area.Picked);
     painter.fillRect(place, ToQColor(shade));
-    area.PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place,
-                     ToQColor(ReadableOn(shade)));
+    DrawingArea::PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place,
+                             ToQColor(ReadableOn(shade)));
   }
 }
 

@@ -23,7 +23,7 @@ void DrawingArea::PaintCells(QPainter& painter, const QColor& ground, const QCol
 }
 
 void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
-                              const QColor& ink) const {
+                              const QColor& ink) {
   const QString text = QString::fromStdString(number);
   QFont font = painter.font();
   font.setPixelSize(std::max(1, static_cast<int>(place.height())));

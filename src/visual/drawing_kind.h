@@ -27,8 +27,8 @@ struct DrawingArea {
   }
 
   /// Writes a number in the middle of `place`, as large as that lets it be.
-  void PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
-                   const QColor& ink) const;
+  static void PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
+                          const QColor& ink);
 
   /// Fills the block and rules its cells.
   void PaintCells(QPainter& painter, const QColor& ground, const QColor& rules) const;

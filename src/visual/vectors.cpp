@@ -90,7 +90,7 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
     const QPointF corner = area.Centre(cell.Row, cell.Column) - QPointF(side, side) / 2;
     const QRectF place(corner + QPointF(1, 1), QSizeF(side * 0.48, side * 0.3));
     painter.fillRect(place, ground);
-    area.PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place, ink);
+    DrawingArea::PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place, ink);
   }
 }
 

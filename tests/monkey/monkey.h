@@ -74,9 +74,7 @@ class Monkey {
   struct Files : FileChooser {
     explicit Files(Monkey& monkey) : TheMonkey(monkey) {}
     QString ToOpen(QWidget*, const QString&, const QString&) override { return Any(); }
-    QString ToSave(QWidget*, const QString&, const QString&, const QString&) override {
-      return Any();
-    }
+    QString ToSave(QWidget*, const QString&, const QString&) override { return Any(); }
     QString Any();
     Monkey& TheMonkey;
   };

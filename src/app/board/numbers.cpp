@@ -81,8 +81,9 @@ double AsShown(double value) {
   const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                      std::chars_format::scientific, kDigitsAfterTheFirst);
   double shown = 0;
-  std::from_chars(digits.data(), written.ptr, shown);
-  return shown;
+  // The largest numbers of all are rounded up beyond the last one.
+  if (std::from_chars(digits.data(), written.ptr, shown).ec == std::errc()) return shown;
+  throw RuntimeError(Fault::Overflow);
 }
 
 std::string Str(double value) {

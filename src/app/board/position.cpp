@@ -71,6 +71,7 @@ void Restore(Board& board, const Position& position) {
     Recount(board);
   } else {
     UnjudgeTotals(board);
+    board.UntouchedBase = false;
   }
   board.TotalsChecked = position.Checked;
   if (!board.HasTotal()) board.SetOverlayShown(false);

@@ -8,7 +8,7 @@
 
 namespace numorra {
 
-/// All of a board that a player would expect back, in one value: what undo keeps and a file holds.
+/// All of a board that a player would expect back, in one value: what undo keeps.
 /// The marks, the boxes, the mode, a drawing and the menu's memory of one command are not in it.
 struct Position {
   std::int16_t Order = 0;  ///< 0 where there is no board

@@ -47,11 +47,11 @@ PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, Pre
       return PressOutcome::OpenMenu;
     }
     if (onRowMark && board.MarkedRow != -1) {
-      SwapRows(board, dialogs, row, board.MarkedRow);
+      if (!SwapRows(board, dialogs, row, board.MarkedRow)) return PressOutcome::Done;
       grid.SetText(board.MarkedRow, last, "");
       board.MarkedRow = -1;
     } else if (onColumnMark && board.MarkedCol != -1) {
-      SwapColumns(board, dialogs, column, board.MarkedCol);
+      if (!SwapColumns(board, dialogs, column, board.MarkedCol)) return PressOutcome::Done;
       grid.SetText(last, board.MarkedCol, "");
       board.MarkedCol = -1;
     }

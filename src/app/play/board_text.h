@@ -13,7 +13,7 @@ namespace numorra {
 std::string BoardText(const Board& board);
 
 /// Shows a text as ReadSquareText takes it as a board of the Variable mode, to be checked and
-/// played: the boxes follow, the sum is that of the first row. False, with a message that says what
+/// played, as LayOut does. False, with a message that says what
 /// is wrong and nothing changed, for any other text.
 bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text);
 

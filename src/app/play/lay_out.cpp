@@ -43,7 +43,8 @@ bool MayBeNormal(const StoredSquare& square) {
 std::optional<double> FirstFullLine(const StoredSquare& square) {
   const int n = square.Order;
   const auto at = [&](int row, int column) {
-    return square.Cells[static_cast<std::size_t>(row * n + column)];
+    return square.Cells[static_cast<std::size_t>(row) * static_cast<std::size_t>(n) +
+                        static_cast<std::size_t>(column)];
   };
   if (auto sum = FirstFullSum(n, n, at)) return sum;
   if (auto sum = FirstFullSum(n, n, [&](int column, int row) { return at(row, column); })) {

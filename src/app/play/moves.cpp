@@ -12,11 +12,11 @@ struct Place {
   int Column;
 };
 
-/// Exchanges the cells pairwise, unless one of them is given, and checks.
-void Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place, Place>>& pairs) {
+/// Exchanges the cells pairwise and checks; false, with nothing done, when one of them is given.
+bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place, Place>>& pairs) {
   for (const auto& [a, b] : pairs) {
-    if (!MayChange(board, dialogs, a.Row, a.Column)) return;
-    if (!MayChange(board, dialogs, b.Row, b.Column)) return;
+    if (!MayChange(board, dialogs, a.Row, a.Column)) return false;
+    if (!MayChange(board, dialogs, b.Row, b.Column)) return false;
   }
   Grid& grid = board.grid;
   for (const auto& [a, b] : pairs) {
@@ -25,6 +25,7 @@ void Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place,
     grid.SetText(b.Row, b.Column, std::move(text));
   }
   CheckAndReturn(board, dialogs);
+  return true;
 }
 
 }  // namespace
@@ -55,24 +56,24 @@ void SetCurrentCell(Board& board, Dialogs& dialogs, const std::string& text) {
   CheckAndReturn(board, dialogs);
 }
 
-void SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB) {
-  Exchange(board, dialogs, {{{rowA, columnA}, {rowB, columnB}}});
+bool SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB) {
+  return Exchange(board, dialogs, {{{rowA, columnA}, {rowB, columnB}}});
 }
 
-void SwapRows(Board& board, Dialogs& dialogs, int a, int b) {
-  if (a == b) return;
+bool SwapRows(Board& board, Dialogs& dialogs, int a, int b) {
+  if (a == b) return true;
   std::vector<std::pair<Place, Place>> pairs;
   for (int column = 1; column <= board.GridSize; ++column)
     pairs.push_back({{a, column}, {b, column}});
-  Exchange(board, dialogs, pairs);
+  return Exchange(board, dialogs, pairs);
 }
 
-void SwapColumns(Board& board, Dialogs& dialogs, int a, int b) {
-  if (a == b) return;
+bool SwapColumns(Board& board, Dialogs& dialogs, int a, int b) {
+  if (a == b) return true;
   std::vector<std::pair<Place, Place>> pairs;
   for (int row = 1; row <= board.GridSize; ++row)
     pairs.push_back({{row, a}, {row, b}});
-  Exchange(board, dialogs, pairs);
+  return Exchange(board, dialogs, pairs);
 }
 
 }  // namespace numorra

@@ -18,9 +18,9 @@ bool MayChange(const Board& board, Dialogs& dialogs, int row, int column);
 void SetCurrentCell(Board& board, Dialogs& dialogs, const std::string& text);
 
 /// Exchange two cells, two rows or two columns of the board, then check; the same line twice does
-/// nothing. Refused where a given cell would move.
-void SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB);
-void SwapRows(Board& board, Dialogs& dialogs, int a, int b);
-void SwapColumns(Board& board, Dialogs& dialogs, int a, int b);
+/// nothing. False where a given cell would move, which is refused.
+bool SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, int columnB);
+bool SwapRows(Board& board, Dialogs& dialogs, int a, int b);
+bool SwapColumns(Board& board, Dialogs& dialogs, int a, int b);
 
 }  // namespace numorra

@@ -11,6 +11,7 @@ void UndoHistory::Note(const Deed& deed) {
   if (walked || !deed.ChangedTheBoard()) return;
   if (typing_) {
     positions_.back() = deed.After;
+    if (!IsChange(positions_[now_ - 1], positions_[now_])) ForgetLastStep();
     return;
   }
   typing_ = typed;
@@ -26,6 +27,14 @@ void UndoHistory::Note(const Deed& deed) {
   now_ = names_.size();
 }
 
+/// What was typed has come back to what was there.
+void UndoHistory::ForgetLastStep() {
+  names_.pop_back();
+  positions_.pop_back();
+  now_ = names_.size();
+  typing_ = false;
+}
+
 void UndoHistory::Undo(Board& board) {
   if (CanUndo()) Walk(board, now_ - 1);
 }
@@ -36,6 +45,7 @@ void UndoHistory::Redo(Board& board) {
 
 void UndoHistory::Walk(Board& board, std::size_t to) {
   walking_ = true;
+  positions_[now_] = PositionOf(board);  // checks and moves since are no steps, but come back too
   Restore(board, positions_[to]);
   now_ = to;
 }

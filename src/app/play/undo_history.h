@@ -39,6 +39,7 @@ class UndoHistory {
 
  private:
   void Walk(Board& board, std::size_t to);
+  void ForgetLastStep();
 
   std::deque<std::string> names_;   ///< of the steps, the oldest first
   std::deque<Position> positions_;  ///< names_[i] led from positions_[i] to positions_[i + 1]

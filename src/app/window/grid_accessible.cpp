@@ -60,7 +60,8 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
 
   QAccessible::State state() const override {
     QAccessible::State state;
-    state.readOnly = LineName(row_, column_, Cells().Rows() - 1).size() > 0;
+    state.readOnly = isValid() && (!LineName(row_, column_, Cells().Rows() - 1).isEmpty() ||
+                                   Cells().Given(row_, column_));
     state.selectable = state.focusable = true;
     state.selected = isSelected();
     state.focused = isSelected() && view_.hasFocus();

@@ -39,9 +39,9 @@ void GridPainter::SetZoom(double zoom) {
 }
 
 double GridPainter::ZoomThatFits(int lines, int pixels) const {
-  constexpr double kRoundedUp = 0.51;  // what rounding may add to the last edge
+  constexpr double kRoundedDown = 0.49;  // what rounding takes from the last edge
   constexpr double kTwipsPerInch = 1440;
-  return (pixels - kRoundedUp) * kTwipsPerInch / (lines * Grid::kCellTwips * dpi_);
+  return (pixels + kRoundedDown) * kTwipsPerInch / (lines * Grid::kCellTwips * dpi_);
 }
 
 int GridPainter::Edge(int line) const {

@@ -54,6 +54,11 @@ QPoint GridView::Scrolled() const {
   return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
 }
 
+void GridView::ScrollTo(QPoint scrolled) {
+  horizontalScrollBar()->setValue(scrolled.x());
+  verticalScrollBar()->setValue(scrolled.y());
+}
+
 GridPainter::Look GridView::Look() const {
   return {Scrolled(), palette()};
 }
@@ -70,8 +75,8 @@ void GridView::SetZoom(double zoom, QPoint fixed) {
   painter_.SetZoom(zoom);
   shape_.reset();
   UpdateScrollBars();
-  horizontalScrollBar()->setValue(qRound((scrolled.x() + fixed.x()) * grown) - fixed.x());
-  verticalScrollBar()->setValue(qRound((scrolled.y() + fixed.y()) * grown) - fixed.y());
+  ScrollTo({qRound((scrolled.x() + fixed.x()) * grown) - fixed.x(),
+            qRound((scrolled.y() + fixed.y()) * grown) - fixed.y()});
   viewport()->update();
 }
 
@@ -96,8 +101,9 @@ void GridView::BringIntoView(int row, int column) {
   const auto bring = [this](QScrollBar* bar, int line, int length) {
     const int fixed = painter_.Edge(Grid::kFixedLines);
     if (line < Grid::kFixedLines) return;
-    bar->setValue(
-        std::clamp(bar->value(), painter_.Edge(line + 1) - length, painter_.Edge(line) - fixed));
+    const int last = painter_.Edge(line + 1) - length;  // above `first` where no cell fits in
+    const int first = painter_.Edge(line) - fixed;
+    bar->setValue(std::min(std::max(bar->value(), last), first));
   };
   bring(verticalScrollBar(), row, viewport()->height());
   bring(horizontalScrollBar(), column, viewport()->width());
@@ -254,7 +260,12 @@ void GridView::wheelEvent(QWheelEvent* event) {
     return QAbstractScrollArea::wheelEvent(event);
   }
   event->accept();
-  Q_EMIT ZoomWanted(turned > 0 ? 1 : -1, event->position().toPoint());
+  turned_ += turned;
+  for (constexpr int kNotch = 120; std::abs(turned_) >= kNotch;) {
+    const int direction = turned_ > 0 ? 1 : -1;
+    turned_ -= direction * kNotch;
+    Q_EMIT ZoomWanted(direction, event->position().toPoint());
+  }
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {

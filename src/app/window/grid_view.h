@@ -39,6 +39,10 @@ class GridView : public QAbstractScrollArea {
   void SetFitting(bool fitting);
   bool Fitting() const { return fitting_; }
 
+  /// How far the table is scrolled, in pixels.
+  QPoint Scrolled() const;
+  void ScrollTo(QPoint scrolled);
+
   /// Scrolls until the cell is in sight.
   void BringIntoView(int row, int column);
 
@@ -89,7 +93,6 @@ class GridView : public QAbstractScrollArea {
   void changeEvent(QEvent* event) override;
 
  private:
-  QPoint Scrolled() const;
   GridPainter::Look Look() const;
   void UpdateScrollBars();
   void Fit();
@@ -109,6 +112,7 @@ class GridView : public QAbstractScrollArea {
   Grid& grid_;
   GridPainter painter_;
   bool fitting_ = false;
+  int turned_ = 0;  ///< of the wheel with Ctrl, since the last step, in eighths of a degree
   std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
   std::optional<ShownCell> told_;  ///< the current cell as it was last told of
 };

@@ -183,12 +183,12 @@ void MainWindow::ShowLaidOut() {
 }
 
 void MainWindow::Save() {
-  const QString name = files_.ToSave(this, "Save As", kSquareKinds, "json");
+  const QString name = files_.ToSave(this, "Save As", kSquareKinds);
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(board_));
 }
 
 void MainWindow::Export() {
-  const QString name = files_.ToSave(this, "Export Picture", kPictureKinds, "png");
+  const QString name = files_.ToSave(this, "Export Picture", kPictureKinds);
   if (name.isEmpty()) return;
   if (board_.OverlayShown) {
     ExportDrawing(name, *drawing_);
@@ -211,11 +211,14 @@ void MainWindow::CheckTheTotals() {
 /// A single file that is dropped onto the window opens.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
-  if (urls.size() == 1 && urls.front().isLocalFile()) event->acceptProposedAction();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return;
+  event->setDropAction(Qt::CopyAction);  // the file stays where it is
+  event->accept();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   Open(event->mimeData()->urls().front().toLocalFile());
 }
 

@@ -33,7 +33,8 @@ void Export(const QString& name, QSize size, int dpi, const std::function<void(Q
     QPdfWriter writer(&file);
     writer.setResolution(dpi);
     writer.setPageMargins({});
-    writer.setPageSize(QPageSize(QSizeF(size) * kPointsPerInch / dpi, QPageSize::Point));
+    writer.setPageSize(QPageSize(QSizeF(size) * kPointsPerInch / dpi, QPageSize::Point, QString(),
+                                 QPageSize::ExactMatch));
     QPainter painter(&writer);
     paint(painter);
   } else {
@@ -51,7 +52,8 @@ void Export(const QString& name, QSize size, int dpi, const std::function<void(Q
 }  // namespace
 
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
-  const QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
+  QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
+  if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
   return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareText(bytes.toStdString());
 }
 

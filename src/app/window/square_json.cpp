@@ -42,8 +42,8 @@ std::vector<QJsonValue> CellsIn(const QJsonObject& object, const char* member, i
                .arg(entries.size())
                .arg(order));
     }
-    for (const QJsonValue& entry : entries)
-      cells.push_back(entry);
+    for (const auto& entry : entries)
+      cells.emplace_back(entry);
   }
   return cells;
 }
@@ -55,8 +55,11 @@ QString Place(std::size_t cell, int order) {
 
 StoredSquare Read(const QByteArray& bytes) {
   const QJsonObject object = ObjectIn(bytes);
-  if (object["format"].toString() != kJsonFormat) Fail("this file holds no square of Numorra");
-  if (object["version"].toInt(-1) != kJsonVersion) {
+  const int version = object["version"].toInt(-1);
+  if (object["format"].toString() != kJsonFormat || version < 1) {
+    Fail("this file holds no square of Numorra");
+  }
+  if (version > kJsonVersion) {
     Fail("this square was written by a later version of Numorra");
   }
   const double order = object["order"].toDouble(-1);

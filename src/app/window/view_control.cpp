@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QEvent>
+
 #include "app/window/zoom.h"
 
 namespace numorra {
@@ -16,6 +18,7 @@ ViewControl::ViewControl(QMainWindow* window, GridView* view, QWidget* beside, Q
       full_(full),
       leave_(new QShortcut(Qt::Key_Escape, window)) {
   leave_->setEnabled(false);
+  window_->installEventFilter(this);
   connect(leave_, &QShortcut::activated, this, &ViewControl::ToggleFullScreen);
 }
 
@@ -30,19 +33,35 @@ void ViewControl::ToggleFitting() {
 }
 
 void ViewControl::ToggleFullScreen() {
-  const bool entering = !before_;
-  beside_->setVisible(!entering);
-  if (entering) {
-    before_ = {view_->Zoom(), view_->Fitting(), window_->windowState()};
-    window_->showFullScreen();
-    view_->SetFitting(true);
-  } else {
-    const Before before = *std::exchange(before_, std::nullopt);
-    window_->setWindowState(before.State);
-    view_->SetZoom(before.Zoom, {});
-    view_->SetFitting(before.Fitting);
+  if (before_) {
+    const Qt::WindowStates state = before_->State;
+    GiveBack();
+    window_->setWindowState(state);
+    return;
   }
+  const Before before{view_->Zoom(), view_->Fitting(), view_->Scrolled(), window_->windowState()};
+  beside_->hide();
+  window_->showFullScreen();
+  view_->SetFitting(true);
+  before_ = before;
   ShowMarks();
+}
+
+bool ViewControl::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && before_ && !window_->isFullScreen()) GiveBack();
+  return QObject::eventFilter(watched, event);
+}
+
+/// All that was there before but the window's own state.
+void ViewControl::GiveBack() {
+  const Before before = *std::exchange(before_, std::nullopt);
+  beside_->show();
+  view_->SetZoom(before.Zoom, {});
+  view_->SetFitting(before.Fitting);
+  ShowMarks();
+  // When the window has its size again.
+  QMetaObject::invokeMethod(
+      view_, [this, before] { view_->ScrollTo(before.Scrolled); }, Qt::QueuedConnection);
 }
 
 void ViewControl::ShowMarks() {

@@ -27,13 +27,18 @@ class ViewControl : public QObject {
   /// The board and the menu bar alone, fitted; leaving brings back what there was.
   void ToggleFullScreen();
 
+  /// Notices when the desktop, or another command, has ended the full screen.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void GiveBack();
   void ShowMarks();
 
   /// What full screen took away.
   struct Before {
     double Zoom;
     bool Fitting;
+    QPoint Scrolled;
     Qt::WindowStates State;
   };
 

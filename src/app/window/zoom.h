@@ -14,12 +14,15 @@ inline double ZoomAtStep(int step) {
   return std::exp2(step / 2.0);
 }
 
-/// The next step larger (1) or smaller (-1) than any zoom; the last one beyond the ends.
+/// The next step larger (1) or smaller (-1) than any zoom; a zoom beyond the ends stays as it is
+/// rather than turn back.
 inline double NextZoom(double zoom, int direction) {
   constexpr double kAlmost = 0.01;  // so much from a step is on it
   const double at = 2 * std::log2(zoom);
   const double next = direction > 0 ? std::floor(at + kAlmost) + 1 : std::ceil(at - kAlmost) - 1;
-  return ZoomAtStep(std::clamp(static_cast<int>(next), kSmallestZoomStep, kLargestZoomStep));
+  const double step =
+      ZoomAtStep(std::clamp(static_cast<int>(next), kSmallestZoomStep, kLargestZoomStep));
+  return direction > 0 ? std::max(zoom, step) : std::min(zoom, step);
 }
 
 }  // namespace numorra

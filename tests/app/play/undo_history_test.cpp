@@ -69,7 +69,7 @@ TEST_F(UndoHistoryTest, TakesDigitsOfOneCellTogetherAndNothingElse) {
   EXPECT_EQ(At(1, 1), "7") << "not taken together with what was undone";
 }
 
-TEST_F(UndoHistoryTest, ChecksMovesAndRefusalsAreNoSteps) {
+TEST_F(UndoHistoryTest, ChecksMovesAndRefusalsAreNoStepsButComeBack) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   Run("check", [this] { entry_.PressEnter(); });
   Run("move", [this] { Go(2, 2); });
@@ -79,6 +79,15 @@ TEST_F(UndoHistoryTest, ChecksMovesAndRefusalsAreNoSteps) {
   Undo();
   Redo();
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
+  Run("move", [this] { Go(1, 1); });
+  Type("2\b1");
+  EXPECT_EQ(Names(), "-/-") << "typed back to what was there";
+  Run("Rotate 90d", [this] { Do("rot90x"); });
+  Run("move", [this] { Go(3, 3); });
+  Undo();
+  EXPECT_EQ(Where(), (std::pair{1, 1}));
+  Redo();
+  EXPECT_EQ(Where(), (std::pair{3, 3}));
 }
 
 TEST_F(UndoHistoryTest, KeepsTheLastFiveHundredSteps) {

@@ -17,7 +17,7 @@ namespace {
 /// Chooses the names that it is told.
 struct ScriptedFiles : FileChooser {
   QString ToOpen(QWidget*, const QString&, const QString&) override { return Name; }
-  QString ToSave(QWidget*, const QString&, const QString&, const QString&) override { return Name; }
+  QString ToSave(QWidget*, const QString&, const QString&) override { return Name; }
   QString Name;
 };
 
@@ -115,6 +115,7 @@ TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
       {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is no number"},
       {Written("a", "{\n\n\"a\": [}"), "line 3: object is missing after a comma"},
       {Written("b", "{}"), "this file holds no square of Numorra"},
+      {Written("j", "\xEF\xBB\xBF{}"), "this file holds no square of Numorra"},
       {Written("c", "{\"format\": \"numorra-square\", \"version\": 2}"),
        "this square was written by a later version of Numorra"},
       {Written("d", (json + "000}").toUtf8()), "\"order\" is no whole number from 3 to 50"},

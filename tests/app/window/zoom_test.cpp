@@ -23,14 +23,14 @@ class ZoomTest : public WindowTest {
 };
 
 TEST(ZoomSteps, AreEqualFactorsWithOneAndTwoAmongThem) {
-  double zoom = 0.01;
+  double zoom = 0.4;
   std::vector<int> percents;
   for (int step = 0; step < 10; ++step)
     percents.push_back(static_cast<int>(100 * (zoom = NextZoom(zoom, 1)) + 0.5));
   EXPECT_EQ(percents, (std::vector<int>{50, 71, 100, 141, 200, 283, 400, 566, 800, 800}));
   EXPECT_EQ(NextZoom(1.2, 1), ZoomAtStep(1));
   EXPECT_EQ(NextZoom(1.2, -1), 1);
-  EXPECT_EQ(NextZoom(0.3, -1), 0.5);
+  EXPECT_EQ(NextZoom(0.3, -1), 0.3) << "not larger";
 }
 
 TEST_F(ZoomTest, CellsAndNumbersGrowAndTheMouseStillFindsThem) {
@@ -85,6 +85,19 @@ TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
   EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisible());
   EXPECT_EQ(Side(), side);
   EXPECT_FALSE(window_.View().Fitting() || Find<QAction>("FullScreenx").isChecked());
+}
+
+/// The desktop, or another command, may end the full screen too.
+TEST_F(ZoomTest, FullScreenThatEndsByItselfGivesEverythingBack) {
+  Make("SolveAuto", "50");
+  window_.View().ScrollTo({120, 90});
+  Trigger("FullScreenx");
+  EXPECT_EQ(window_.View().Scrolled(), QPoint());
+  window_.setWindowState(Qt::WindowMaximized);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(Find<QAction>("FullScreenx").isChecked());
+  EXPECT_TRUE(window_.isMaximized() && Find<QPushButton>("SolveAuto").isVisible());
+  EXPECT_FALSE(window_.View().Fitting());
 }
 
 }  // namespace
