@@ -27,16 +27,15 @@ CellText::CellText(const QFont& font, int side) : room_(side - 2) {
 }
 
 CellText::Measured::Measured(const QFont& font) : Font(font), Metrics(font) {
-  for (std::size_t c = 0; c < Advances.size(); ++c)
-    Advances[c] = Metrics.horizontalAdvance(QChar(static_cast<char16_t>(c)));
+  advances_.fill(kUnknown);
 }
 
-qreal CellText::Measured::WidthOf(const std::string& text) const {
+qreal CellText::Measured::WidthOf(const std::string& text) {
   qreal width = 0;
   for (const char c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    width += code < Advances.size() ? Advances[code]
-                                    : Metrics.horizontalAdvance(QString::fromStdString(text));
+    qreal& advance = advances_[static_cast<unsigned char>(c)];
+    if (advance == kUnknown) advance = Metrics.horizontalAdvance(QLatin1Char(c));
+    width += advance;
   }
   return width;
 }
@@ -61,10 +60,10 @@ const CellText::Prepared& CellText::Prepare(const std::string& text) {
   if (prepared_.size() >= kKeptTexts) prepared_.clear();
 
   const QString shown = QString::fromStdString(text);
-  const auto fits = [&](const Measured& font) { return font.WidthOf(text) <= room_; };
+  const auto fits = [&](Measured& font) { return font.WidthOf(text) <= room_; };
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), fits);
   const bool found = font != fonts_.end();
-  const Measured& used = found ? *font : fonts_.back();
+  Measured& used = found ? *font : fonts_.back();
   Prepared prepared{
       QStaticText(found ? shown : used.Metrics.elidedText(shown, Qt::ElideRight, room_)),
       used.WidthOf(text), static_cast<std::size_t>(&used - fonts_.data()), found};

@@ -38,15 +38,19 @@ class CellText {
     bool Fits;
   };
 
-  /// A font with the widths of its characters: numbers are measured by the thousand, and their
-  /// digits stand side by side as they are.
-  struct Measured {
+  /// A font with the widths of the characters that have been asked for: numbers are measured by the
+  /// thousand, and their digits stand side by side as they are.
+  class Measured {
+   public:
     explicit Measured(const QFont& font);
-    qreal WidthOf(const std::string& text) const;
+    qreal WidthOf(const std::string& text);
 
     QFont Font;
     QFontMetricsF Metrics;
-    std::array<qreal, 128> Advances;  ///< by character code
+
+   private:
+    static constexpr qreal kUnknown = -1;
+    std::array<qreal, 256> advances_{};  ///< by character code
   };
 
   const Prepared& Prepare(const std::string& text);
