@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/board/totals_check.h"
 #include "support/boards.h"
 
 namespace numorra {
@@ -71,17 +70,6 @@ TEST(Symmetries, StopAtAValueThatDoesNotFitWithTheExchangesSoFarKept) {
   ShowRows(board, "1 2 3 / 4 5 40000 / 7 8 9");
   TurnBoard(board, SymmetryNamed("flipvx"));
   EXPECT_EQ(board.grid.Text(2, 1), "40000") << "values of the other half travel as they are";
-}
-
-TEST(TurnBoard, JudgesTotalsAgainOnceTheyWereJudged) {
-  Board board;
-  ShowRows(board, "2 7 6 / 9 5 1 / 4 3 9");
-  Recount(board);
-  board.grid.SetCurrent(2, 2);
-  TurnBoard(board, SymmetryNamed("rot90x"));
-  EXPECT_EQ(board.grid.Background(0, 1), ColorTable[kWrongTotal]);
-  EXPECT_EQ(board.grid.Background(0, 3), ColorTable[kRightTotal]);
-  EXPECT_EQ(board.grid.CurrentRow(), 2);
 }
 
 }  // namespace

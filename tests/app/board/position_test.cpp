@@ -62,16 +62,5 @@ TEST(Positions, KeepShadesWhileTheOrderStaysAndDrawingsWhileThereIsATotal) {
   EXPECT_TRUE(!board.OverlayShown && board.grid.Visible());
 }
 
-TEST(Positions, AChangeIsWhatAPlayerWouldCallOne) {
-  Board board;
-  ShowChecked(board, "8 1 6 / 3 5 7 / 4 9 2", 15);
-  const Position before = PositionOf(board);
-  board.ReturnTo(3, 3);
-  board.TotalsChecked = false;
-  EXPECT_FALSE(IsChange(before, PositionOf(board))) << "a moved current cell and a check are none";
-  board.grid.SetText(3, 3, "02");
-  EXPECT_TRUE(IsChange(before, PositionOf(board)));
-}
-
 }  // namespace
 }  // namespace numorra

@@ -41,15 +41,5 @@ TEST(Recount, TellsBoardsApart) {
   }
 }
 
-TEST(Recount, MarksTheUntouchedBoardWrongButForItsCorner) {
-  Board board;
-  ShowRows(board, "5 5 5 / 5 5 5 / 5 5 5");
-  Recount(board);
-  EXPECT_EQ(board.grid.Background(0, 0), ColorTable[kRightTotal]);
-  for (const auto& [r, c] : {std::pair{1, 0}, {4, 0}, {0, 1}, {0, 4}}) {
-    EXPECT_EQ(board.grid.Background(r, c), ColorTable[kWrongTotal]);
-  }
-}
-
 }  // namespace
 }  // namespace numorra

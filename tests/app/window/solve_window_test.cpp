@@ -7,19 +7,6 @@
 namespace numorra {
 namespace {
 
-TEST_F(WindowTest, AutoReachesAnySumInTheVariableMode) {
-  for (int size = 3; size <= 50; ++size) {
-    for (const int sum : {60 * size, 60 * size + 1}) {
-      if (size > 20) dialogs_.Answers = {true};
-      Make("SolveAuto", std::to_string(size), std::to_string(sum));
-      ASSERT_EQ(slow::WhyNotMagic(Rows(), size == 3 ? 180 : sum), "") << size;
-      EXPECT_EQ(dialogs_.Take().size(), size > 20 || (size == 3 && sum > 180) ? 1U : 0U);
-      ExpectSettled();
-    }
-  }
-  EXPECT_NE(Find<QLabel>("IterationCount").text(), "");
-}
-
 TEST_F(WindowTest, EnterInABoxPressesAutoAndARefusalClearsTheCount) {
   Click("Option4");
   Type("Text4", "70");
