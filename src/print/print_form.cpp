@@ -1,7 +1,6 @@
 #include "print/print_form.h"
 
 #include <QHBoxLayout>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "app/board/numbers.h"
@@ -59,7 +58,7 @@ PrintForm::PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer
   for (QPushButton* button : {UseTotalx, PrintGridx, PrintSolx, Closex})
     button->setAutoDefault(false);  // Enter prints nothing by accident
   runner_.OnEnd = [this](const std::string&) {
-    if (closing_) QTimer::singleShot(0, this, &QWidget::close);
+    if (closing_) QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
   };
   connect(UseTotalx, &QPushButton::clicked, this, [this] {
     runner_.Run("Use total", [this] {

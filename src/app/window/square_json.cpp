@@ -48,6 +48,11 @@ std::vector<QJsonValue> CellsIn(const QJsonObject& object, const char* member, i
   return cells;
 }
 
+/// Whether more digits were written than a cell takes; of more than 15 a double keeps some.
+bool HasTooManyDigits(double number) {
+  return AsShown(number) != number || DigitsOf(Decimal(number)) > kMostCellDigits;
+}
+
 QString Place(std::size_t cell, int order) {
   const int index = static_cast<int>(cell);
   return QString("row %1, column %2: ").arg(index / order + 1).arg(index % order + 1);
@@ -71,7 +76,7 @@ StoredSquare Read(const QByteArray& bytes) {
   for (std::size_t cell = 0; cell < cells.size(); ++cell) {
     const QJsonValue& value = cells[cell];
     if (!value.isNull() && !value.isDouble()) Fail(Place(cell, square.Order) + "this is no number");
-    if (value.isDouble() && DigitsOf(Decimal(value.toDouble())) > kMostCellDigits) {
+    if (value.isDouble() && HasTooManyDigits(value.toDouble())) {
       Fail(Place(cell, square.Order) +
            QString("the number has more than %1 digits").arg(kMostCellDigits));
     }

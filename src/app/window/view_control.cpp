@@ -59,9 +59,12 @@ void ViewControl::GiveBack() {
   view_->SetZoom(before.Zoom, {});
   view_->SetFitting(before.Fitting);
   ShowMarks();
-  // When the window has its size again.
-  QMetaObject::invokeMethod(
-      view_, [this, before] { view_->ScrollTo(before.Scrolled); }, Qt::QueuedConnection);
+  scrolled_ = before.Scrolled;
+  QMetaObject::invokeMethod(this, "ScrollBack", Qt::QueuedConnection);
+}
+
+void ViewControl::ScrollBack() {
+  view_->ScrollTo(scrolled_);
 }
 
 void ViewControl::ShowMarks() {

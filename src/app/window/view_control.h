@@ -34,6 +34,9 @@ class ViewControl : public QObject {
   void GiveBack();
   void ShowMarks();
 
+  /// When the window has its size again.
+  Q_SLOT void ScrollBack();
+
   /// What full screen took away.
   struct Before {
     double Zoom;
@@ -49,6 +52,7 @@ class ViewControl : public QObject {
   QAction* full_;
   QShortcut* leave_;
   std::optional<Before> before_;
+  QPoint scrolled_;  ///< where the view is to be again
 };
 
 }  // namespace numorra
