@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QMenuBar>
-#include <QPainter>
 
 #include "app/play/board_state.h"
 #include "toolkit/twips.h"
@@ -19,8 +18,11 @@ constexpr int kAroundMenus = 240;  // those of all menus
 
 }  // namespace
 
-StateLine::StateLine(QWidget* parent) : QWidget(parent) {
+StateLine::StateLine(QWidget* parent) : QLabel(parent) {
   setObjectName("BoardState");
+  setTextFormat(Qt::PlainText);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setContentsMargins(0, 0, PixelsOf(kAroundMenus) / 2, 0);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }
 
@@ -38,7 +40,7 @@ void StateLine::Show(const Board& board) {
   if (state == state_) return;
   state_ = state;
   setAccessibleName(state);
-  update();
+  Cut();
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
@@ -55,11 +57,13 @@ QSize StateLine::sizeHint() const {
   return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};
 }
 
-void StateLine::paintEvent(QPaintEvent*) {
-  const QRect place = rect().adjusted(0, 0, -PixelsOf(kAroundMenus) / 2, 0);
-  QPainter painter(this);
-  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter,
-                   fontMetrics().elidedText(state_, Qt::ElideRight, place.width()));
+void StateLine::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  Cut();
+}
+
+void StateLine::Cut() {
+  setText(fontMetrics().elidedText(state_, Qt::ElideRight, contentsRect().width()));
 }
 
 }  // namespace numorra

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
 #include "app/board/board.h"
 
@@ -8,9 +8,8 @@ namespace numorra {
 
 /// The line in the menu bar's corner (`BoardState`) that says what is true of the board: of a width
 /// that never changes with it, smaller only where the menus need the room, cut with dots when it
-/// must be, whole in its tool-tip and for screen readers. It paints itself: a label would have the
-/// whole window laid out anew at every change.
-class StateLine : public QWidget {
+/// must be, whole in its tool-tip and for screen readers.
+class StateLine : public QLabel {
   Q_OBJECT
 
  public:
@@ -22,9 +21,11 @@ class StateLine : public QWidget {
   QSize sizeHint() const override;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Cut();
+
   QString state_;
 };
 
