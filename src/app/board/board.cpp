@@ -5,17 +5,26 @@
 #include "app/board/scoped_flag.h"
 
 namespace numorra {
+namespace {
+
+/// Whether a value cell of the shown board is such.
+template <class Is>
+bool AnyCell(const Board& board, Is is) {
+  bool any = false;
+  if (board.Shown()) {
+    ForEachCell(board.GridSize, [&](int r, int c) { any = any || is(board.grid.At(r, c)); });
+  }
+  return any;
+}
+
+}  // namespace
 
 bool Board::HasGaps() const {
-  bool gaps = false;
-  if (Shown()) ForEachCell(GridSize, [&](int r, int c) { gaps |= grid.Text(r, c).empty(); });
-  return gaps;
+  return AnyCell(*this, [](const Grid::Cell& cell) { return cell.Text.empty(); });
 }
 
 bool Board::HasGivens() const {
-  bool givens = false;
-  if (Shown()) ForEachCell(GridSize, [&](int r, int c) { givens |= grid.Given(r, c); });
-  return givens;
+  return AnyCell(*this, [](const Grid::Cell& cell) { return cell.Given; });
 }
 
 bool Board::HasTotal() const {

@@ -28,6 +28,16 @@ bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place,
   return true;
 }
 
+/// The same for two lines, whose cells placeOf(line, i) gives; one line with itself stays as it is.
+template <class PlaceOf>
+bool ExchangeLines(Board& board, Dialogs& dialogs, int a, int b, PlaceOf placeOf) {
+  if (a == b) return true;
+  std::vector<std::pair<Place, Place>> pairs;
+  for (int i = 1; i <= board.GridSize; ++i)
+    pairs.push_back({placeOf(a, i), placeOf(b, i)});
+  return Exchange(board, dialogs, pairs);
+}
+
 }  // namespace
 
 void CheckAndReturn(Board& board, Dialogs& dialogs) {
@@ -61,19 +71,15 @@ bool SwapCells(Board& board, Dialogs& dialogs, int rowA, int columnA, int rowB, 
 }
 
 bool SwapRows(Board& board, Dialogs& dialogs, int a, int b) {
-  if (a == b) return true;
-  std::vector<std::pair<Place, Place>> pairs;
-  for (int column = 1; column <= board.GridSize; ++column)
-    pairs.push_back({{a, column}, {b, column}});
-  return Exchange(board, dialogs, pairs);
+  return ExchangeLines(board, dialogs, a, b, [](int row, int column) {
+    return Place{row, column};
+  });
 }
 
 bool SwapColumns(Board& board, Dialogs& dialogs, int a, int b) {
-  if (a == b) return true;
-  std::vector<std::pair<Place, Place>> pairs;
-  for (int row = 1; row <= board.GridSize; ++row)
-    pairs.push_back({{row, a}, {row, b}});
-  return Exchange(board, dialogs, pairs);
+  return ExchangeLines(board, dialogs, a, b, [](int column, int row) {
+    return Place{row, column};
+  });
 }
 
 }  // namespace numorra
