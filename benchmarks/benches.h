@@ -18,6 +18,13 @@ inline constexpr const char* kArithmetic = "the patterns' own arithmetic";
 /// repaints that it is held against. Returns the commands' names.
 std::vector<std::string> RegisterWindowBenches();
 
+/// Work without a window, and how many repaints of a window with a board of order 50 it may take.
+struct Road {
+  const char* Name;
+  double Goal;
+};
+std::vector<Road> RegisterRoadBenches();
+
 /// Registers the generators without a window.
 void RegisterGeneratorBenches();
 

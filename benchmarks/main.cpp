@@ -50,6 +50,15 @@ void PrintCommands(const Results& results, const std::vector<std::string>& names
   }
 }
 
+void PrintRoads(const Results& results, const std::vector<Road>& roads) {
+  std::printf("\nWithout a window, against %s of order 50\n", kRepaint);
+  for (const auto& [name, goal] : roads) {
+    const Ratio ratio = Between(results.Of(name), results.Of(At(kRepaint, 50)));
+    std::printf("%-52s %8.4f  +-%3.0f %%   goal: at most %g\n", name, ratio.Value,
+                100 * ratio.Spread, goal);
+  }
+}
+
 double Growth(const Results& results, const char* name) {
   std::map<int, double> times;
   for (const int order : kOrders)
@@ -80,11 +89,13 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, words.data());
 
   RegisterGeneratorBenches();
+  const auto roads = RegisterRoadBenches();
   const auto names = RegisterWindowBenches();
   Results results;
   benchmark::RunSpecifiedBenchmarks(&results);
 
   PrintCommands(results, names);
+  PrintRoads(results, roads);
   if (argc > 1) return 0;  // a selection: the whole processes are left out
   std::printf("\n");
   PrintLine("the toolkit's table view / our board, order 50",

@@ -73,6 +73,7 @@ class Stand {
   /// A checked board of the Variable mode, and nothing left to paint.
   void Prepare(int order) {
     Trigger("NormalSizex");
+    Find<QWidget>("PropertiesPanel").hide();
     Resize(0);
     Find<QRadioButton>("Option4").setChecked(true);
     Find<QCheckBox>("Option1").setChecked(false);
@@ -168,6 +169,10 @@ std::vector<Command> Commands() {
       {"Undo", [](Stand& s, int) { s.Trigger("rot90x"); },
        [](Stand& s) { s.Trigger("UndoMovex"); }},
       Item("Check Totals", "CheckTotalsx"),
+      {"Vary", [](Stand& s, int) { s.Trigger("Set2allran"); },
+       [](Stand& s) { s.Trigger("Varyx"); }},
+      {"Rotate 90d, panel open", [](Stand& s, int) { s.Find<QWidget>("PropertiesPanel").show(); },
+       [](Stand& s) { s.Trigger("rot90x"); }},
       {"Zoom Out", [](Stand& s, int) { s.Trigger("NormalSizex"); },
        [](Stand& s) { s.Trigger("ZoomOutx"); }},
       {"a resize, fitted",

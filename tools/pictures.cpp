@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QMenu>
+#include <QTreeWidget>
 
 #include "app/window/main_window.h"
 
@@ -69,6 +70,15 @@ void ShowManualBoard(MainWindow& window) {
   }
 }
 
+/// The panel, on why Duerer's square is not ultramagic.
+void ShowPanel(MainWindow& window) {
+  window.findChild<QAction*>("Propertiesx")->trigger();
+  window.findChild<QAction*>("Melencoliax")->trigger();
+  auto* tree = window.findChild<QTreeWidget*>("PropertyTree");
+  tree->setCurrentItem(
+      tree->findItems("ultramagic", Qt::MatchExactly | Qt::MatchRecursive).front());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -112,6 +122,10 @@ int main(int argc, char** argv) {
   menu->popup(QPoint(0, 0));
   help.Save(*menu, "menu");
   menu->close();
+  ShowPanel(window);
+  documents.Save(window, "properties");
+  help.Save(window, "properties", 560);
+  window.findChild<QAction*>("Propertiesx")->trigger();
   Click(window, "SolveManual");
   window.findChild<QAction*>("PrintSol")->trigger();
   documents.Save(*window.findChild<QDialog*>("PrintSolution"), "print");

@@ -1,6 +1,8 @@
 #include "cli/arguments.h"
 
+#include <algorithm>
 #include <charconv>
+#include <initializer_list>
 #include <utility>
 
 #include "app/board/orders.h"
@@ -10,21 +12,32 @@ namespace numorra {
 const char* const kUsage =
     R"(usage: numorra-square --size N [options]
        numorra-square --top-row A,B,C,D [options]
+       numorra-square --kind TERM --size N [options]
+       numorra-square study [FILE|-] [--format text|json]
 
-Prints a magic square and the total of its lines: of the numbers 1 to N x N, of
-any total, or 4 x 4 with a top row of your choice.
+Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
+any total, 4 x 4 with a top row of your choice, or of a special kind.
 
   --size N                 how many cells a side has, 3 to 50
   --sum T                  the total wanted instead of that of 1 to N x N
   --limit-to-9             no number above 9; the total is then at most 5 x N
   --corner V               the number wanted at the top left
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
+  --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
+                           bordered
+  --vary                   another square of the family of the one that is built
+  --count M                so many squares, 1 to 1000000
   --format text|csv|json   aligned columns and the total (the default), rows of
                            comma-separated numbers, or an object with both
+                           on one line
   --seed N                 start random numbers from N, so that a run can be
                            repeated
   --help                   this page
   --version                the program's version
+
+study says what squares are, and why. It reads rows of numbers from a file or
+from the standard input, squares separated by empty lines; a JSON object a line
+says the same to programs.
 )";
 
 namespace {
@@ -38,13 +51,18 @@ std::optional<Number> Whole(const std::string& text) {
   return number;
 }
 
-/// Takes one option after the other from the words; `Error` says what went wrong.
+/// Takes one word after the other; the first thing that is wrong is told.
 class Reader {
  public:
   explicit Reader(const std::vector<std::string>& words) : words_(words) {}
 
   Arguments Read() {
+    TakeCommand();
     while (next_ < words_.size() && error_.empty()) {
+      if (IsFile(words_[next_])) {
+        TakeFile();
+        continue;
+      }
       TakeOption();
       if (const auto handler = Handler()) {
         (this->*handler)();
@@ -61,14 +79,38 @@ class Reader {
 
  private:
   using Member = void (Reader::*)();
+  using Command = SquareCommand;
+
+  void TakeCommand() {
+    if (words_.empty() || words_[0] != "study") return;
+    request_.Command = Command::Study;
+    ++next_;
+  }
+
+  bool IsFile(const std::string& word) const {
+    return request_.Command != Command::Build && (word == "-" || !word.starts_with("-"));
+  }
+
+  void TakeFile() {
+    if (fileNamed_) Fail("one file at a time, not '" + words_[next_] + "' too");
+    fileNamed_ = true;
+    request_.File = words_[next_++];
+  }
 
   void CheckTogether() {
+    if (request_.Command != Command::Build) {
+      if (request_.Format == SquareFormat::Csv) Fail("the format is text or json");
+      return;
+    }
     const bool variable = request_.Sum || request_.LimitToNine || request_.Corner;
     if (request_.Top) {
-      if (request_.Size != 0 || variable) Fail("a top row goes with no other wish");
+      if (request_.Size != 0 || variable || request_.Kind) {
+        Fail("a top row goes with no other wish");
+      }
     } else if (request_.Size == 0) {
       Fail("the size is missing");
     }
+    if (request_.Kind && variable) Fail("a kind goes with a size alone");
     if (request_.Corner && request_.LimitToNine) Fail("the limit does not go with a corner");
   }
 
@@ -80,20 +122,33 @@ class Reader {
     if (equals != std::string::npos) attached_ = word.substr(equals + 1);
   }
 
+  /// What takes the option, where the command has it.
   Member Handler() const {
-    static constexpr std::pair<const char*, Member> kHandlers[] = {
-        {"--size", &Reader::Size},
-        {"--sum", &Reader::Sum},
-        {"--limit-to-9", &Reader::LimitToNine},
-        {"--corner", &Reader::Corner},
-        {"--top-row", &Reader::TopRowOption},
-        {"--format", &Reader::Format},
-        {"--seed", &Reader::Seed},
-        {"--help", &Reader::Help},
-        {"--version", &Reader::Version},
+    struct Option {
+      const char* Name;
+      Member Take;
+      std::initializer_list<Command> Of;
     };
-    for (const auto& [name, handler] : kHandlers) {
-      if (option_ == name) return handler;
+    constexpr auto kBuild = Command::Build;
+    constexpr auto kStudy = Command::Study;
+    static const Option kOptions[] = {
+        {"--size", &Reader::Size, {kBuild}},
+        {"--sum", &Reader::Sum, {kBuild}},
+        {"--limit-to-9", &Reader::LimitToNine, {kBuild}},
+        {"--corner", &Reader::Corner, {kBuild}},
+        {"--top-row", &Reader::TopRowOption, {kBuild}},
+        {"--kind", &Reader::Kind, {kBuild}},
+        {"--vary", &Reader::Vary, {kBuild}},
+        {"--count", &Reader::Count, {kBuild}},
+        {"--seed", &Reader::Seed, {kBuild}},
+        {"--format", &Reader::Format, {kBuild, kStudy}},
+        {"--help", &Reader::Help, {kBuild, kStudy}},
+        {"--version", &Reader::Version, {kBuild, kStudy}},
+    };
+    for (const Option& option : kOptions) {
+      const bool has =
+          std::find(option.Of.begin(), option.Of.end(), request_.Command) != option.Of.end();
+      if (has && option_ == option.Name) return option.Take;
     }
     return nullptr;
   }
@@ -131,6 +186,25 @@ class Reader {
     if (!request_.Top) Fail("the top row is four whole numbers from 0 to 9999");
   }
 
+  void Kind() {
+    request_.Kind = FindSpecialKind(Value());
+    if (request_.Kind) return;
+    std::string kinds;
+    for (const SpecialKind& kind : kSpecialKinds)
+      kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
+    Fail("the kind is one of " + kinds);
+  }
+
+  void Vary() { request_.Vary = true; }
+
+  void Count() {
+    constexpr int kMost = 1'000'000;
+    const auto count = Whole<int>(Value());
+    if (!count || *count < 1 || *count > kMost)
+      Fail("the count is a whole number from 1 to 1000000");
+    request_.Count = count.value_or(1);
+  }
+
   void Format() {
     const std::string name = Value();
     if (name == "text") {
@@ -158,6 +232,7 @@ class Reader {
 
   const std::vector<std::string>& words_;
   std::size_t next_ = 0;
+  bool fileNamed_ = false;
   std::string option_;
   std::optional<std::string> attached_;
   SquareRequest request_;

@@ -7,21 +7,34 @@
 #include <vector>
 
 #include "generate/top_row_square.h"
+#include "study/special.h"
 
 namespace numorra {
 
 enum class SquareFormat { Text, Csv, Json };
 
-/// The square that a command line asks for: a normal one, one of any total when a sum, the limit or
-/// a corner is given, or a 4 x 4 one with a top row.
+/// What the first word asks for: squares to be built, when it is none of the others.
+enum class SquareCommand : std::uint8_t { Build, Study };
+
+/// What a command line asks for. Which of the options there are is up to the command.
 struct SquareRequest {
+  SquareCommand Command = SquareCommand::Build;
+  SquareFormat Format = SquareFormat::Text;
+
+  /// Squares to be built: normal ones, ones of any total when a sum, the limit or a corner is
+  /// given, 4 x 4 ones with a top row, or ones of a special kind.
   int Size = 0;
   std::optional<int> Sum;
   bool LimitToNine = false;
   std::optional<int> Corner;
   std::optional<TopRow> Top;
-  SquareFormat Format = SquareFormat::Text;
+  const SpecialKind* Kind = nullptr;
+  bool Vary = false;
+  int Count = 1;
   std::optional<std::uint64_t> Seed;
+
+  /// Where squares are to be read from; "-" is the standard input.
+  std::string File = "-";
 };
 
 struct HelpRequest {};

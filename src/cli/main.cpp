@@ -3,5 +3,5 @@
 #include "cli/square_program.h"
 
 int main(int argc, char** argv) {
-  return numorra::RunSquareProgram({argv + 1, argv + argc}, std::cout, std::cerr);
+  return numorra::RunSquareProgram({argv + 1, argv + argc}, {std::cin, std::cout, std::cerr});
 }

@@ -53,13 +53,18 @@ bool IsEmpty(const Line& line) {
   return Trim(line.Text).empty() && line.Text.find_first_of(kSeparators) == std::string::npos;
 }
 
-/// The lines from the first that is written on to the last.
-std::vector<Line> Lines(const std::string& text) {
+/// All lines, the first of which has the number `first`.
+std::vector<Line> AllLines(const std::string& text, std::size_t first = 1) {
   std::vector<Line> lines;
   std::istringstream input(text);
-  std::size_t number = 0;
   for (std::string line; std::getline(input, line);)
-    lines.push_back({++number, line});
+    lines.push_back({first++, line});
+  return lines;
+}
+
+/// The lines from the first that is written on to the last.
+std::vector<Line> Lines(const std::string& text, std::size_t first) {
+  std::vector<Line> lines = AllLines(text, first);
   const auto last = std::find_if_not(lines.rbegin(), lines.rend(), IsEmpty).base();
   lines.erase(last, lines.end());
   lines.erase(lines.begin(), std::find_if_not(lines.begin(), lines.end(), IsEmpty));
@@ -116,9 +121,10 @@ std::optional<double> CellIn(const std::string& field, std::size_t line) {
   throw Unreadable{where + shown + " has more than " + std::to_string(kMostCellDigits) + " digits"};
 }
 
-StoredSquare Read(const std::string& text) {
+/// The square in a text of which the first line has the number `firstLine`.
+StoredSquare Read(const std::string& text, std::size_t firstLine) {
   if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
-  const std::vector<Line> lines = Lines(Plain(text));
+  const std::vector<Line> lines = Lines(Plain(text), firstLine);
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {
     throw Unreadable{
@@ -145,14 +151,45 @@ StoredSquare Read(const std::string& text) {
   return square;
 }
 
-}  // namespace
-
-std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text) {
+std::variant<StoredSquare, Unreadable> ReadFrom(const std::string& text, std::size_t firstLine) {
   try {
-    return Read(text);
+    return Read(text, firstLine);
   } catch (const Unreadable& unreadable) {
     return unreadable;
   }
+}
+
+bool SaysTotal(const Line& line) {
+  return line.Text.starts_with("total ");
+}
+
+}  // namespace
+
+std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text) {
+  return ReadFrom(text, 1);
+}
+
+std::vector<std::variant<StoredSquare, Unreadable>> ReadSquareTexts(const std::string& text) {
+  std::string plain = text;
+  ReplaceAll(plain, "\r\n", "\n");
+  ReplaceAll(plain, "\r", "\n");
+  std::vector<std::variant<StoredSquare, Unreadable>> squares;
+  std::string block;
+  std::size_t firstLine = 0;
+  const auto endBlock = [&] {
+    if (!block.empty()) squares.push_back(ReadFrom(block, firstLine));
+    block.clear();
+  };
+  for (const Line& line : AllLines(plain)) {
+    if (IsEmpty(line) || SaysTotal(line)) {
+      endBlock();
+      continue;
+    }
+    if (block.empty()) firstLine = line.Number;
+    block += line.Text + "\n";
+  }
+  endBlock();
+  return squares;
 }
 
 }  // namespace numorra

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "files/stored_square.h"
 
@@ -26,5 +27,10 @@ inline constexpr const char* kTooLongForASquare = "this is too long for a square
 /// - A gap is nothing, or one of - . _ between separators.
 /// - A number has at most kMostCellDigits digits.
 std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text);
+
+/// Reads squares one below the other, with empty lines between them. Lines are named by their
+/// number in the whole text. A line that says "total 34", as this program's own texts do, belongs
+/// to no square.
+std::vector<std::variant<StoredSquare, Unreadable>> ReadSquareTexts(const std::string& text);
 
 }  // namespace numorra

@@ -4,6 +4,8 @@
 
 #include <QFontMetricsF>
 
+#include "visual/outline.h"
+
 namespace numorra {
 namespace {
 
@@ -73,6 +75,10 @@ void Drawing::Paint(QPainter& painter, const QPalette& palette) const {
   QRectF block(0, 0, order * side, order * side);
   block.moveCenter(QRectF(rect()).center());
   kind_->Paint(painter, {board_, picked_, palette, numbers_, block, side});
+  PaintOutline(painter, board_.grid.Outlined(), [&](Place place) {
+    const QPointF corner = block.topLeft() + QPointF(place.Column - 1, place.Row - 1) * side;
+    return QRectF(corner, QSizeF(side, side));
+  });
 }
 
 }  // namespace numorra

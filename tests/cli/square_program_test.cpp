@@ -15,11 +15,12 @@ struct Outcome {
   std::string Err;
 };
 
-Outcome RunWith(const std::string& line) {
+Outcome RunWith(const std::string& line, const std::string& input = "") {
   std::istringstream words(line);
   const std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+  std::istringstream in(input);
   std::ostringstream out, err;
-  const int status = RunSquareProgram(arguments, out, err);
+  const int status = RunSquareProgram(arguments, {in, out, err});
   return {status, out.str(), err.str()};
 }
 
@@ -80,6 +81,60 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
     EXPECT_EQ(run.Out, "") << line;
     EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 1) << line;
   }
+}
+
+TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
+  const Outcome run = RunWith("--kind pandiagonal --size 9 --seed 4 --count 3 --vary --format csv");
+  EXPECT_EQ(run.Err, "");
+  std::set<std::string> different;
+  std::istringstream blocks(run.Out);
+  for (int square = 0; square < 3; ++square) {
+    std::string rows;
+    for (std::string line; std::getline(blocks, line) && !line.empty();)
+      rows += line + "\n";
+    EXPECT_EQ(slow::WhyNotNormal(ParseRows(rows, '\n')), "");
+    different.insert(rows);
+  }
+  EXPECT_EQ(different.size(), 3U);
+  EXPECT_EQ(RunWith("--kind pandiagonal --size 9 --seed 4 --count 3 --vary --format csv").Out,
+            run.Out);
+  const Outcome none = RunWith("--kind most-perfect --size 6");
+  EXPECT_EQ(none.Status, 1);
+  EXPECT_EQ(none.Err,
+            "numorra-square: no most-perfect normal square has order 6: such squares have an order "
+            "that is a multiple of 4\n");
+}
+
+TEST(SquareProgram, StudiesWhatItReads) {
+  const std::string squares = RunWith("--size 4 --count 2").Out;
+  const Outcome text = RunWith("study", squares);
+  EXPECT_EQ(text.Status, 0);
+  EXPECT_NE(
+      text.Out.find("\nmagic: holds, all rows, columns and both main diagonals add up to 34\n"),
+      std::string::npos);
+  EXPECT_NE(text.Out.find("\n\n4 x 4\n"), std::string::npos);
+  const Outcome json = RunWith("study - --format json", "8;1;6\r\n3;5;7\r\n4;9;2\r\n\r\n1,2\n");
+  EXPECT_EQ(json.Status, 1);
+  EXPECT_EQ(json.Err,
+            "numorra-square: this is no square of numbers\n"
+            "copy 3x3 to 50x50 numbers from a table or a text\n");
+  EXPECT_EQ(json.Out.find("{\"order\": 3, \"total\": 15, \"properties\": {\"semi-magic\": true, "),
+            0U);
+  EXPECT_NE(json.Out.find("\"compact\": null"), std::string::npos);
+  EXPECT_NE(
+      json.Out.find("\"prime\": false}, \"evidence\": {\"semi-magic\": \"all rows and columns "
+                    "add up to 15\""),
+      std::string::npos);
+  EXPECT_NE(json.Out.find("\"standard-form\": [[2, 7, 6], [9, 5, 1], [4, 3, 8]]}\n"),
+            std::string::npos);
+  EXPECT_EQ(RunWith("study", "1 2 3\n4 x 6\n7 8 9\n\n1 2 3\n4 5 6\n7 y 9\n").Err,
+            "numorra-square: line 2: \"x\" is no number\n"
+            "numorra-square: line 7: \"y\" is no number\n");
+  EXPECT_EQ(RunWith("study", "1 2 3\n4 _ 6\n7 8 9\n").Err,
+            "numorra-square: a square with gaps cannot be studied\n");
+  EXPECT_EQ(RunWith("study", "\n").Err, "numorra-square: there is no square to read\n");
+  EXPECT_EQ(RunWith("study /no/such/file").Err, "numorra-square: '/no/such/file' cannot be read\n");
+  EXPECT_EQ(RunWith("study /").Status, 1);
 }
 
 }  // namespace

@@ -18,6 +18,7 @@ void Grid::Reshape(int rows, int columns) {
   columns_ = columns;
   currentRow_ = 0;
   currentColumn_ = 0;
+  outlined_.clear();
   WantRepaint();
 }
 
@@ -56,6 +57,12 @@ void Grid::Judge(int row, int column, Verdict verdict) {
 
 void Grid::SetGiven(int row, int column, bool given) {
   Changed(row, column).Given = given;
+  WantRepaint();
+}
+
+void Grid::SetOutlined(std::vector<Place> cells) {
+  if (cells == outlined_) return;
+  outlined_ = std::move(cells);
   WantRepaint();
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/board/colour.h"
+#include "app/board/place.h"
 
 namespace numorra {
 
@@ -75,6 +76,11 @@ class Grid {
   void SetGiven(int row, int column, bool given);
   bool Given(int row, int column) const { return At(row, column).Given; }
 
+  /// The value cells that are pointed at, such as what shows that a square is not magic. A new
+  /// shape forgets them.
+  void SetOutlined(std::vector<Place> cells);
+  const std::vector<Place>& Outlined() const { return outlined_; }
+
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
   void SetCurrent(int row, int column);
@@ -95,6 +101,7 @@ class Grid {
   void WantRepaint();
 
   std::vector<Cell> cells_;
+  std::vector<Place> outlined_;
   int rows_ = 0;
   int columns_ = 0;
   int currentRow_ = 0;

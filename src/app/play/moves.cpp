@@ -7,11 +7,6 @@
 namespace numorra {
 namespace {
 
-struct Place {
-  int Row;
-  int Column;
-};
-
 /// Exchanges the cells pairwise and checks; false, with nothing done, when one of them is given.
 bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place, Place>>& pairs) {
   for (const auto& [a, b] : pairs) {
@@ -49,8 +44,7 @@ void CheckAndReturn(Board& board, Dialogs& dialogs) {
 
 bool MayChange(const Board& board, Dialogs& dialogs, int row, int column) {
   if (!board.grid.Given(row, column)) return true;
-  dialogs.Tell("the number in row " + std::to_string(row) + ", column " + std::to_string(column) +
-               " is given and cannot be changed");
+  dialogs.Tell("the number in " + NameOf(Place{row, column}) + " is given and cannot be changed");
   return false;
 }
 

@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include "toolkit/colours.h"
+#include "visual/outline.h"
 
 namespace numorra {
 namespace {
@@ -137,6 +138,7 @@ void GridView::paintEvent(QPaintEvent* event) {
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
+    PaintOutlined(painter);
     TellCurrentCell();
   }
 }
@@ -345,6 +347,14 @@ void GridView::PaintGuides(QPainter& painter) {
   frameTotal(row, 0);
   painter.setClipRect(QRect(scrolling.left(), 0, scrolling.width(), scrolling.top()));
   frameTotal(0, column);
+}
+
+void GridView::PaintOutlined(QPainter& painter) {
+  const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
+  painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
+  PaintOutline(painter, grid_.Outlined(), [this](Place place) {
+    return QRectF(CellRect(place.Row, place.Column).adjusted(0, 0, -1, -1));
+  });
 }
 
 /// The current cell anew, in a ring of the theme's highlight with a light one inside, to be seen on

@@ -100,6 +100,7 @@ class GridView : public QAbstractScrollArea {
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);
   void PaintCurrentCell(QPainter& painter);
+  void PaintOutlined(QPainter& painter);
   bool Navigate(int key, bool toTheVeryEnd);
   void TellCurrentCell();
 

@@ -80,7 +80,13 @@ void MainWindow::BuildMenus() {
            {"DrawingNumbersx", "Numbers in &Drawings", none, beside([this] {
               drawing_->SetNumbers(findChild<QAction*>("DrawingNumbersx")->isChecked());
             }),
+            true},
+           {"Propertiesx",
+            "&Properties",
+            {Qt::CTRL | Qt::Key_I},
+            beside([this] { properties_->setVisible(properties_->isHidden()); }),
             true}});
+  BuildStudyMenu();
   AddMenu(menuBar(), "&Help",
           {{"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents), beside([this] {
               (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();
@@ -92,7 +98,7 @@ void MainWindow::BuildMenus() {
   saveItem_ = findChild<QAction*>("SaveAsx");
   exportItem_ = findChild<QAction*>("ExportPicturex");
   checkItem_ = findChild<QAction*>("CheckTotalsx");
-  size_ = new ViewControl(this, view_, leftColumn_, findChild<QAction*>("FitBoardx"),
+  size_ = new ViewControl(this, view_, {leftColumn_, properties_}, findChild<QAction*>("FitBoardx"),
                           findChild<QAction*>("FullScreenx"));
 }
 

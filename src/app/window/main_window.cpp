@@ -90,6 +90,7 @@ MainWindow::MainWindow(const World& world)
   view_->setAccessibleName("Board");
   setWindowTitle(kApplicationTitle);
   ArrangeFrames();
+  BuildPropertiesPanel();
   BuildMenus();
   ConnectControls();
   ConnectBoard();
@@ -99,6 +100,7 @@ MainWindow::MainWindow(const World& world)
 
 MainWindow::~MainWindow() {
   board_.grid.OnRepaint = nullptr;
+  properties_->disconnect(this);
 }
 
 void MainWindow::ArrangeFrames() {
@@ -388,7 +390,7 @@ void MainWindow::ShowState() {
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
   for (QWidget* button : {corners_->DoCor1, corners_->DoCor2})
     button->setEnabled(board_.Shown());
-  for (QAction* item : {saveItem_, exportItem_, checkItem_})
+  for (QAction* item : QList<QAction*>{saveItem_, exportItem_, checkItem_} + relatives_)
     item->setEnabled(board_.Shown());
   const auto showStep = [](QAction* item, const QString& caption, bool can,
                            const std::string& step) {

@@ -14,6 +14,7 @@
 #include "app/window/corners_frame.h"
 #include "app/window/grid_view.h"
 #include "app/window/limit_frame.h"
+#include "app/window/properties_panel.h"
 #include "app/window/solve_frame.h"
 #include "app/window/square_frame.h"
 #include "app/window/state_line.h"
@@ -61,6 +62,10 @@ class MainWindow : public QMainWindow, private BuildOptions {
  private:
   void ArrangeFrames();
   void BuildMenus();
+  void BuildStudyMenu();
+  void BuildPropertiesPanel();
+  void FollowProperties();
+  void StudyBoard();
   void ConnectControls();
   void StartUp();
 
@@ -116,6 +121,10 @@ class MainWindow : public QMainWindow, private BuildOptions {
   StateLine* state_;
   QWidget* leftColumn_ = nullptr;
   ViewControl* size_ = nullptr;
+  PropertiesPanel* properties_ = nullptr;
+  std::optional<int> widenedBy_;  ///< by so many pixels for the panel; nothing while it is hidden
+  bool studied_ = false;          ///< the panel shows what the board is now
+  QList<QAction*> relatives_;     ///< the menu items that need a board
   QAction* undoItem_ = nullptr;
   QAction* redoItem_ = nullptr;
   QAction* saveItem_ = nullptr;

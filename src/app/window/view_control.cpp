@@ -8,12 +8,12 @@
 
 namespace numorra {
 
-ViewControl::ViewControl(QMainWindow* window, GridView* view, QWidget* beside, QAction* fit,
-                         QAction* full)
+ViewControl::ViewControl(QMainWindow* window, GridView* view, std::vector<QWidget*> beside,
+                         QAction* fit, QAction* full)
     : QObject(window),
       window_(window),
       view_(view),
-      beside_(beside),
+      beside_(std::move(beside)),
       fit_(fit),
       full_(full),
       leave_(new QShortcut(Qt::Key_Escape, window)) {
@@ -39,11 +39,15 @@ void ViewControl::ToggleFullScreen() {
     window_->setWindowState(state);
     return;
   }
-  const Before before{view_->Zoom(), view_->Fitting(), view_->Scrolled(), window_->windowState()};
-  beside_->hide();
+  Before before{view_->Zoom(), view_->Fitting(), view_->Scrolled(), window_->windowState(), {}};
+  for (QWidget* widget : beside_) {
+    if (widget->isHidden()) continue;
+    before.Hidden.push_back(widget);
+    widget->hide();
+  }
   window_->showFullScreen();
   view_->SetFitting(true);
-  before_ = before;
+  before_ = std::move(before);
   ShowMarks();
 }
 
@@ -55,7 +59,8 @@ bool ViewControl::eventFilter(QObject* watched, QEvent* event) {
 /// All that was there before but the window's own state.
 void ViewControl::GiveBack() {
   const Before before = *std::exchange(before_, std::nullopt);
-  beside_->show();
+  for (QWidget* widget : before.Hidden)
+    widget->show();
   view_->SetZoom(before.Zoom, {});
   view_->SetFitting(before.Fitting);
   ShowMarks();

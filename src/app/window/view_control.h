@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QAction>
 #include <QMainWindow>
@@ -16,7 +17,8 @@ class ViewControl : public QObject {
 
  public:
   /// `beside`: what full screen takes away. `fit` and `full`: the menu's items.
-  ViewControl(QMainWindow* window, GridView* view, QWidget* beside, QAction* fit, QAction* full);
+  ViewControl(QMainWindow* window, GridView* view, std::vector<QWidget*> beside, QAction* fit,
+              QAction* full);
 
   /// A step larger (1) or smaller (-1), or back to 100 % (0); what is drawn at `fixed` stays there.
   void Zoom(int direction, QPoint fixed);
@@ -43,11 +45,12 @@ class ViewControl : public QObject {
     bool Fitting;
     QPoint Scrolled;
     Qt::WindowStates State;
+    std::vector<QWidget*> Hidden;  ///< of what stands beside the board
   };
 
   QMainWindow* window_;
   GridView* view_;
-  QWidget* beside_;
+  std::vector<QWidget*> beside_;
   QAction* fit_;
   QAction* full_;
   QShortcut* leave_;

@@ -1,0 +1,148 @@
+#include "app/window/properties_panel.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "toolkit/named.h"
+
+namespace numorra {
+namespace {
+
+constexpr const char* kSquareGroup = "The square";
+constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",     "largest",
+                                    "repeated", "standard form", "census number"};
+
+QString MarkFor(Answer answer) {
+  switch (answer) {
+    case Answer::Holds:
+      return QString(QChar(0x2713));
+    case Answer::Fails:
+      return QString(QChar(0x2717));
+    case Answer::DoesNotApply:
+      return QString(QChar(0x2013));
+    case Answer::TooLarge:
+      break;
+  }
+  return "?";
+}
+
+QTreeWidgetItem* GroupNamed(QTreeWidget* tree, const QString& name) {
+  for (int i = 0; i < tree->topLevelItemCount(); ++i) {
+    if (tree->topLevelItem(i)->text(0) == name) return tree->topLevelItem(i);
+  }
+  auto* group = new QTreeWidgetItem(tree, {name});
+  group->setFlags(Qt::ItemIsEnabled);
+  group->setFirstColumnSpanned(true);
+  group->setExpanded(true);
+  return group;
+}
+
+}  // namespace
+
+PropertiesPanel::PropertiesPanel(QWidget* parent)
+    : QDockWidget("Properties", parent),
+      tree_(Named("PropertyTree", new QTreeWidget)),
+      explained_(Named("PropertyEvidence", new QLabel)) {
+  setObjectName("PropertiesPanel");
+  setFeatures(DockWidgetClosable | DockWidgetMovable);
+  setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+  tree_->setAccessibleName("Properties of the square");
+  tree_->setColumnCount(2);
+  tree_->setHeaderHidden(true);
+  tree_->setIndentation(tree_->indentation() / 2);
+  tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  tree_->header()->setStretchLastSection(true);
+  explained_->setWordWrap(true);
+  explained_->setTextFormat(Qt::PlainText);
+  explained_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  explained_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  explained_->setMinimumHeight(explained_->fontMetrics().lineSpacing() * 6);
+  auto* copy = Named("CopyPropertiesx", new QPushButton("Copy Text"));
+
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->addWidget(tree_, 1);
+  column->addWidget(explained_);
+  column->addWidget(copy, 0, Qt::AlignLeft);
+  setWidget(content);
+  for (const char* name : kDetails)
+    details_.push_back(AddEntry(name, kSquareGroup));
+  for (const Term& term : Terms())
+    terms_.push_back(AddEntry(term.Name, term.Group));
+  connect(tree_, &QTreeWidget::currentItemChanged, this, &PropertiesPanel::ShowChosen);
+  connect(copy, &QPushButton::clicked, this, &PropertiesPanel::Copy);
+}
+
+QTreeWidgetItem* PropertiesPanel::AddEntry(const char* name, const QString& group) {
+  return new QTreeWidgetItem(GroupNamed(tree_, group), {QString(name)});
+}
+
+void PropertiesPanel::ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
+  const QString spoken = entry->text(0) + ": " + why;
+  if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
+  entry->setText(1, value);
+  entry->setData(0, Qt::AccessibleTextRole, spoken);
+  entry->setToolTip(1, why);
+}
+
+void PropertiesPanel::Show(const Report& report) {
+  report_ = report;
+  for (QTreeWidgetItem* entry : details_) {
+    const auto detail = std::find_if(
+        report.Details.begin(), report.Details.end(),
+        [&](const Detail& known) { return entry->text(0) == QLatin1String(known.first.c_str()); });
+    const bool known = detail != report.Details.end();
+    entry->setHidden(!known);
+    if (known) ShowEntry(entry, detail->second.c_str(), detail->second.c_str());
+  }
+  for (std::size_t i = 0; i < terms_.size(); ++i) {
+    const Judgement& found = report.Properties[i].Found;
+    const QString word = WordFor(found.Says);
+    ShowEntry(terms_[i], MarkFor(found.Says) + " " + word,
+              word + ", " + QString::fromStdString(found.Why));
+  }
+  tree_->setEnabled(true);
+  ShowChosen();
+}
+
+void PropertiesPanel::ShowNone(const QString& why) {
+  report_.reset();
+  for (const auto& entries : {details_, terms_}) {
+    for (QTreeWidgetItem* entry : entries)
+      ShowEntry(entry, "", why);
+  }
+  tree_->setEnabled(false);
+  ShowChosen();
+  explained_->setText(why);
+}
+
+/// The chosen entry in words, and its cells to whoever points at them.
+void PropertiesPanel::ShowChosen() {
+  std::vector<Place> cells;
+  QString text = "Choose an entry to see why.";
+  const QTreeWidgetItem* chosen = tree_->currentItem();
+  const auto term = std::find(terms_.begin(), terms_.end(), chosen);
+  if (report_ && term != terms_.end()) {
+    const Property& property = report_->Properties[static_cast<std::size_t>(term - terms_.begin())];
+    cells = property.Found.Cells;
+    text = QString("%1: %2.\n\nIt %3: %4.")
+               .arg(property.What->Name, property.What->Definition, WordFor(property.Found.Says),
+                    QString::fromStdString(property.Found.Why));
+  } else if (report_ && chosen && chosen->parent()) {
+    text = chosen->text(0) + ": " + chosen->text(1);
+    text.replace(" / ", "\n");
+  }
+  if (report_) explained_->setText(text);
+  Q_EMIT EvidenceChosen(cells);
+}
+
+void PropertiesPanel::Copy() {
+  if (report_) QApplication::clipboard()->setText(QString::fromStdString(TextOf(*report_)));
+}
+
+}  // namespace numorra

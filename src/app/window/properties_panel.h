@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QTreeWidget>
+
+#include "app/board/place.h"
+#include "study/report.h"
+
+namespace numorra {
+
+/// The panel (`PropertiesPanel`) that says what the square on the board is: facts and terms in
+/// groups, each with a mark and a word. The entry that is chosen is explained below, and its cells
+/// are pointed at.
+class PropertiesPanel : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  explicit PropertiesPanel(QWidget* parent = nullptr);
+
+  /// Shows what a square is; without a report, `why` there is none.
+  void Show(const Report& report);
+  void ShowNone(const QString& why);
+
+ Q_SIGNALS:
+  /// The cells that the chosen entry is about; none when there is no such entry.
+  void EvidenceChosen(const std::vector<Place>& cells);
+
+ private:
+  QTreeWidgetItem* AddEntry(const char* name, const QString& group);
+  void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why);
+  void ShowChosen();
+  void Copy();
+
+  QTreeWidget* tree_;
+  QLabel* explained_;
+  std::vector<QTreeWidgetItem*> details_;
+  std::vector<QTreeWidgetItem*> terms_;  ///< by Terms()
+  std::optional<Report> report_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,109 @@
+#include <algorithm>
+
+#include <QMenu>
+#include <QScreen>
+
+#include "app/play/study_commands.h"
+#include "app/window/main_window.h"
+#include "study/report.h"
+#include "toolkit/menus.h"
+#include "toolkit/named.h"
+
+namespace numorra {
+
+/// What a square is, and what leads from it to others.
+void MainWindow::BuildStudyMenu() {
+  const auto onBoard = [this](const char* name, auto body) {
+    return [this, name, body] { RunOnCurrentCell(name, body); };
+  };
+  QMenu* menu =
+      AddMenu(menuBar(), "Stud&y",
+              {{"Varyx",
+                "&Vary",
+                {Qt::CTRL | Qt::Key_R},
+                onBoard("Vary", [this] { VaryBoard(board_, dialogs_, random_); })},
+               {"Complementx",
+                "&Complement",
+                {},
+                onBoard("Complement", [this] { ComplementBoard(board_, *square_, dialogs_); })},
+               {"StandardFormx",
+                "&Standard Form",
+                {},
+                onBoard("Standard Form", [this] { BringToStandardForm(board_, dialogs_); })},
+               {}});
+  relatives_ = menu->actions().first(3);
+  const auto add = [this](QMenu* to, const auto& square, auto layOut) {
+    QAction* item = Named(square.Name, to->addAction(square.Caption));
+    connect(item, &QAction::triggered, this, [this, &square, layOut] {
+      runner_.Run(QString(square.Caption).remove('&').toStdString(), [this, &square, layOut] {
+        if (layOut(square)) ShowLaidOut();
+      });
+    });
+    return item;
+  };
+  QMenu* special = Named("Specialx", menu->addMenu("S&pecial"));
+  for (const SpecialKind& kind : kSpecialKinds) {
+    add(special, kind, [this](const SpecialKind& chosen) {
+      return LayOutSpecial(chosen, board_, *square_, dialogs_, random_);
+    });
+  }
+  QMenu* famous = Named("Famousx", menu->addMenu("&Famous"));
+  famous->setToolTipsVisible(true);
+  for (const FamousSquare& square : FamousSquares()) {
+    add(famous, square, [this](const FamousSquare& chosen) {
+      LayOutFamous(chosen, board_, *square_);
+      return true;
+    })->setToolTip(square.Story);
+  }
+}
+
+/// The panel beside the board, which the window makes room for.
+void MainWindow::BuildPropertiesPanel() {
+  properties_ = new PropertiesPanel(this);
+  addDockWidget(Qt::RightDockWidgetArea, properties_);
+  properties_->hide();
+  connect(properties_, &PropertiesPanel::EvidenceChosen, this,
+          [this](const std::vector<Place>& cells) {
+            board_.grid.SetOutlined(cells);
+            drawing_->update();
+          });
+  connect(properties_, &QDockWidget::visibilityChanged, this, &MainWindow::FollowProperties);
+  watch_.Tell([this](const Deed& deed) {
+    studied_ = studied_ && !deed.ChangedTheBoard();
+    StudyBoard();
+  });
+}
+
+/// When the panel has come or gone.
+void MainWindow::FollowProperties() {
+  const bool shown = !properties_->isHidden();
+  QAction* item = findChild<QAction*>("Propertiesx");
+  if (item->isChecked() == shown && widenedBy_.has_value() == shown) return;
+  item->setChecked(shown);
+  const int room = screen()->availableSize().width() - width();
+  const int change = shown ? std::clamp(properties_->sizeHint().width(), 0, std::max(0, room))
+                           : -widenedBy_.value_or(0);
+  widenedBy_ = shown ? std::optional(change) : std::nullopt;
+  if (!isMaximized() && !isFullScreen()) resize(width() + change, height());
+  if (shown) {
+    StudyBoard();
+  } else {
+    studied_ = false;
+    board_.grid.SetOutlined({});
+  }
+}
+
+/// What the panel shows is what stands on the board.
+void MainWindow::StudyBoard() {
+  if (studied_ || properties_->isHidden()) return;
+  studied_ = true;
+  if (auto square = SquareOn(board_)) {
+    properties_->Show(Study(std::move(*square)));
+  } else {
+    properties_->ShowNone(board_.Shown() ? "The board has empty cells: what it is can be told "
+                                           "when it is full."
+                                         : "There is no board to study.");
+  }
+}
+
+}  // namespace numorra

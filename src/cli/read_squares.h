@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "cli/streams.h"
+#include "files/stored_square.h"
+
+namespace numorra {
+
+/// Calls visit for each square in the file of this name, or in the standard input for "-", and
+/// tells of those that cannot be read; true when there is none. Throws Impossible for a file that
+/// cannot be read and for a text without a square.
+bool ReadSquares(const std::string& file, const Streams& streams,
+                 const std::function<void(const StoredSquare&)>& visit);
+
+}  // namespace numorra

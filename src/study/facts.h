@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "study/judgement.h"
+#include "study/line.h"
+#include "study/number_square.h"
+
+namespace numorra {
+
+/// What several terms need of a square, gathered once.
+struct Facts {
+  explicit Facts(NumberSquare square);
+
+  NumberSquare Square;
+  std::vector<Line> Lines;         ///< MagicLines
+  std::vector<std::int64_t> Sums;  ///< of the lines, in units; empty without units
+  std::int64_t Total = 0;          ///< which most lines share; among equals the first row's
+  int LinesOfTotal = 0;            ///< how many do
+  std::vector<std::size_t> Order;  ///< the cells from the smallest number to the largest
+
+  int N() const { return Square.Order(); }
+  double Smallest() const { return Square.Numbers()[Order.front()]; }
+  double Largest() const { return Square.Numbers()[Order.back()]; }
+
+  /// "34", a sum as it is shown.
+  std::string Shown(std::int64_t units) const { return Square.Shown(units); }
+
+  /// The number in a cell as it is shown, and where it stands: "7 in row 1, column 2".
+  std::string NumberIn(std::size_t cell) const;
+  std::string NumberAndPlace(std::size_t cell) const;
+};
+
+}  // namespace numorra

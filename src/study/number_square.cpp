@@ -1,0 +1,52 @@
+#include "study/number_square.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace numorra {
+namespace {
+
+constexpr int kMostDecimals = 13;
+
+/// The whole number of units of 1 / `one` that `number` is; false when it is none.
+/// Both are exact as doubles, so their quotient is the double nearest to the decimal.
+bool ToUnits(double number, std::int64_t one, std::int64_t& units) {
+  const double scaled = std::nearbyint(number * static_cast<double>(one));
+  if (!(std::abs(scaled) <= static_cast<double>(NumberSquare::kMostUnits))) return false;
+  units = static_cast<std::int64_t>(scaled);
+  return scaled / static_cast<double>(one) == number;
+}
+
+}  // namespace
+
+NumberSquare::NumberSquare(int order, std::vector<double> numbers)
+    : order_(order), numbers_(std::move(numbers)), units_(numbers_.size()) {
+  const auto allAreWhole = [this] {
+    for (std::size_t cell = 0; cell < numbers_.size(); ++cell) {
+      if (!ToUnits(numbers_[cell], one_, units_[cell])) return false;
+    }
+    return true;
+  };
+  while (!allAreWhole()) {
+    if (++decimals_ > kMostDecimals) {
+      units_.clear();
+      return;
+    }
+    one_ *= 10;
+  }
+}
+
+std::string NumberSquare::Shown(std::int64_t units, int factors) const {
+  std::string digits = std::to_string(std::abs(units));
+  const auto decimals = static_cast<std::size_t>(decimals_) * static_cast<std::size_t>(factors);
+  if (decimals > 0) {
+    if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+    digits.insert(digits.size() - decimals, ".");
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') digits.pop_back();
+  }
+  return units < 0 ? "-" + digits : digits;
+}
+
+}  // namespace numorra

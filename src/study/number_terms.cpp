@@ -1,0 +1,120 @@
+#include <algorithm>
+#include <cmath>
+
+#include "study/primes.h"
+#include "study/terms.h"
+
+namespace numorra {
+namespace {
+
+/// Calls visit(begin, end) for each run of equal numbers among the cells in their order, until it
+/// returns true.
+template <class Visit>
+void ForEachNumber(const Facts& facts, Visit visit) {
+  const auto& numbers = facts.Square.Numbers();
+  for (auto cell = facts.Order.begin(); cell != facts.Order.end();) {
+    const auto next = std::find_if(cell, facts.Order.end(), [&](std::size_t other) {
+      return numbers[other] != numbers[*cell];
+    });
+    if (visit(cell, next)) return;
+    cell = next;
+  }
+}
+
+std::string Times(std::ptrdiff_t times) {
+  return times == 2 ? "twice" : std::to_string(times) + " times";
+}
+
+/// The first number that stands more than once.
+Judgement NothingRepeated(const Facts& facts) {
+  Judgement found = Holds("no number stands in it twice");
+  ForEachNumber(facts, [&](auto begin, auto end) {
+    if (end - begin == 1) return false;
+    found = Fails(facts.NumberIn(*begin) + " stands in it " + Times(end - begin));
+    std::for_each(begin, end,
+                  [&](std::size_t cell) { found.Cells.push_back(facts.Square.PlaceOf(cell)); });
+    return true;
+  });
+  return found;
+}
+
+}  // namespace
+
+Judgement JudgeNormal(const Facts& facts) {
+  const auto& numbers = facts.Square.Numbers();
+  const auto count = static_cast<double>(numbers.size());
+  const std::string range = "1 to " + std::to_string(numbers.size());
+  std::vector<bool> seen(numbers.size());
+  for (const std::size_t cell : facts.Order) {
+    const double number = numbers[cell];
+    if (number < 1 || number > count || number != std::floor(number)) {
+      return Fails(facts.NumberAndPlace(cell) + " is none of the numbers " + range,
+                   {facts.Square.PlaceOf(cell)});
+    }
+    seen[static_cast<std::size_t>(number) - 1] = true;
+  }
+  const auto missing = std::find(seen.begin(), seen.end(), false);
+  if (missing == seen.end()) return Holds("each of the numbers " + range + " stands in it once");
+  Judgement repeated = NothingRepeated(facts);
+  repeated.Why += ", " + std::to_string(missing - seen.begin() + 1) + " is missing";
+  return repeated;
+}
+
+Judgement JudgeDistinct(const Facts& facts) {
+  return NothingRepeated(facts);
+}
+
+Judgement JudgeConsecutive(const Facts& facts) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  if (Judgement distinct = NothingRepeated(facts); !distinct) return distinct;
+  const auto& units = facts.Square.Units();
+  for (std::size_t i = 1; i < facts.Order.size(); ++i) {
+    const std::size_t before = facts.Order[i - 1];
+    const std::size_t cell = facts.Order[i];
+    if (units[cell] - units[before] == facts.Square.One()) continue;
+    return Fails("the next number after " + facts.NumberIn(before) + " is " + facts.NumberIn(cell),
+                 {facts.Square.PlaceOf(before), facts.Square.PlaceOf(cell)});
+  }
+  return Holds("its numbers are those from " + facts.NumberIn(facts.Order.front()) + " to " +
+               facts.NumberIn(facts.Order.back()));
+}
+
+/// Numbers get their ranks, so that what has been seen in a line fits in a table.
+Judgement JudgeLatin(const Facts& facts) {
+  const int n = facts.N();
+  std::vector<int> rank(facts.Order.size());
+  int ranks = 0;
+  ForEachNumber(facts, [&](auto begin, auto end) {
+    std::for_each(begin, end, [&](std::size_t cell) { rank[cell] = ranks; });
+    ++ranks;
+    return false;
+  });
+  if (ranks != n) {
+    return Fails("it holds " + std::to_string(ranks) + " different numbers, not " +
+                 std::to_string(n));
+  }
+  for (const Line line : facts.Lines) {
+    if (line.Way != Line::Row && line.Way != Line::Column) continue;
+    std::vector<int> seenAt(static_cast<std::size_t>(n), -1);
+    for (int i = 0; i < n; ++i) {
+      const std::size_t cell = line.Cell(i, n);
+      int& seen = seenAt[static_cast<std::size_t>(rank[cell])];
+      if (seen >= 0) {
+        return Fails(facts.NumberIn(cell) + " stands in " + NameOf(line, n) + " twice",
+                     {facts.Square.PlaceOf(line.Cell(seen, n)), facts.Square.PlaceOf(cell)});
+      }
+      seen = i;
+    }
+  }
+  return Holds("each of its " + std::to_string(n) + " numbers stands once in every row and column");
+}
+
+Judgement JudgePrime(const Facts& facts) {
+  for (const std::size_t cell : facts.Order) {
+    if (IsPrime(facts.Square.Numbers()[cell])) continue;
+    return Fails(facts.NumberAndPlace(cell) + " is not a prime", {facts.Square.PlaceOf(cell)});
+  }
+  return Holds("all its numbers are primes");
+}
+
+}  // namespace numorra

@@ -1,0 +1,121 @@
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "study/two_digits.h"
+
+namespace numorra {
+namespace {
+
+/// Digits less their middle one, by index.
+using Digits = std::vector<int>;
+
+int Modulo(int number, int n) {
+  return ((number % n) + n) % n;
+}
+
+std::size_t IndexOf(int number, int n) {
+  return static_cast<std::size_t>(Modulo(number, n));
+}
+
+/// n/3 of the numbers 1 to (n - 1) / 2, with signs, that add up to 0.
+std::vector<int> ThirdAddingUpToZero(int n, Random& random) {
+  const auto third = static_cast<std::size_t>(n / 3);
+  return third % 4 == 3 ? AddingUpToZero({1, 2, -3}, 4, 1, third, random)
+                        : AddingUpToZero({1, 3, -5, -6, 7}, 8, 1, third, random);
+}
+
+/// The numbers 1 to `most` that are not among `taken`, whatever their signs, with signs and in an
+/// order by lot.
+std::vector<int> Rest(int most, const std::vector<int>& taken, Random& random) {
+  std::vector<int> rest;
+  for (int number = 1; number <= most; ++number) {
+    const bool isTaken = std::any_of(taken.begin(), taken.end(),
+                                     [&](int other) { return std::abs(other) == number; });
+    if (!isTaken) rest.push_back(random.Between(0, 1) == 1 ? number : -number);
+  }
+  Shuffle(std::span(rest), random);
+  return rest;
+}
+
+/// Digits of which those at t and mirror - t add up to 0; with `thirds` each class of indices
+/// modulo 3 does, too. One class is its own mirror image, the others are each other's.
+Digits MirroredDigits(int n, int mirror, bool thirds, Random& random) {
+  Digits digits(static_cast<std::size_t>(n));
+  const int ownClass = Modulo(2 * mirror, 3);
+  const std::vector<int> zero = thirds ? ThirdAddingUpToZero(n, random) : std::vector<int>();
+  const std::vector<int> rest = Rest((n - 1) / 2, zero, random);
+  std::size_t usedOfZero = 0;
+  std::size_t usedOfRest = 0;
+  for (int t = 0; t < n; ++t) {
+    const std::size_t other = IndexOf(mirror - t, n);
+    const auto here = static_cast<std::size_t>(t);
+    if (thirds && t % 3 != ownClass) {
+      if (t % 3 == (ownClass + 1) % 3) {
+        digits[here] = zero[usedOfZero++];
+        digits[other] = -digits[here];
+      }
+    } else if (here < other) {
+      digits[here] = rest[usedOfRest++];
+      digits[other] = -digits[here];
+    }
+  }
+  return digits;
+}
+
+/// Any order of the digits in which each class of indices modulo 3 adds up to 0, where that is
+/// needed.
+Digits NasikDigits(int n, Random& random) {
+  const int middle = (n - 1) / 2;
+  Digits digits(static_cast<std::size_t>(n));
+  if (n % 3 != 0) {
+    std::iota(digits.begin(), digits.end(), -middle);
+    Shuffle(std::span(digits), random);
+    return digits;
+  }
+  std::vector<std::vector<int>> classes = {ThirdAddingUpToZero(n, random), {}, {0}};
+  for (const int digit : Rest(middle, classes[0], random))
+    classes[2].insert(classes[2].end(), {digit, -digit});
+  for (const int digit : classes[0])
+    classes[1].push_back(-digit);
+  Shuffle(std::span(classes), random);
+  for (auto& digitsOfClass : classes)
+    Shuffle(std::span(digitsOfClass), random);
+  for (int t = 0; t < n; ++t) {
+    digits[static_cast<std::size_t>(t)] =
+        classes[static_cast<std::size_t>(t % 3)][static_cast<std::size_t>(t / 3)];
+  }
+  return digits;
+}
+
+std::vector<double> OddSquare(int n, int step, const Digits& a, const Digits& b, Random& random) {
+  const int middle = (n - 1) / 2;
+  return NumbersOf(n, random, [&](int i, int j) {
+    return std::pair(a[IndexOf(step * i + j, n)] + middle, b[IndexOf(step * i - j, n)] + middle);
+  });
+}
+
+/// With the digits mirrored where opposite cells have them: (n - 1 - i, n - 1 - j) takes the index
+/// t of A to -(step + 1) - t and that of B to -(step - 1) - t.
+std::vector<double> MirroredSquare(int n, int step, bool thirds, Random& random) {
+  const Digits a = MirroredDigits(n, -(step + 1), thirds, random);
+  const Digits b = MirroredDigits(n, -(step - 1), thirds, random);
+  return OddSquare(n, step, a, b, random);
+}
+
+}  // namespace
+
+std::vector<double> OddAssociative(int order, Random& random) {
+  return MirroredSquare(order, 1, false, random);
+}
+
+std::vector<double> OddPandiagonal(int order, Random& random) {
+  const Digits a = NasikDigits(order, random);
+  return OddSquare(order, 2, a, NasikDigits(order, random), random);
+}
+
+std::vector<double> OddUltramagic(int order, Random& random) {
+  return MirroredSquare(order, 2, order % 3 == 0, random);
+}
+
+}  // namespace numorra

@@ -1,0 +1,194 @@
+#include <algorithm>
+#include <utility>
+
+#include "app/board/numbers.h"
+#include "study/images.h"
+#include "study/terms.h"
+
+namespace numorra {
+namespace {
+
+/// Whether every cell and its partner add up to the same as the first one and its partner.
+template <class PartnerOf>
+Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf partnerOf) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  const auto& units = facts.Square.Units();
+  const int n = facts.N();
+  const auto pairAt = [&](std::size_t cell) {
+    const int i = static_cast<int>(cell) / n;
+    return partnerOf(i, static_cast<int>(cell) % n);
+  };
+  const auto places = [&](std::size_t cell) {
+    return std::vector<Place>{facts.Square.PlaceOf(cell), facts.Square.PlaceOf(pairAt(cell))};
+  };
+  const std::int64_t wanted = units[0] + units[pairAt(0)];
+  for (std::size_t cell = 1; cell < units.size(); ++cell) {
+    const std::int64_t sum = units[cell] + units[pairAt(cell)];
+    if (sum == wanted) continue;
+    return Fails(facts.NumberAndPlace(cell) + " and " + facts.NumberAndPlace(pairAt(cell)) +
+                     " add up to " + facts.Shown(sum) + ", not " + facts.Shown(wanted) +
+                     " as at the top left",
+                 places(cell));
+  }
+  return Holds(which + " add up to " + facts.Shown(wanted), places(0));
+}
+
+/// The k x k square in the middle: whether its lines have one sum, that of its first row.
+Judgement MiddleIsMagic(const Facts& facts, int k) {
+  const int first = (facts.N() - k) / 2;
+  const auto& units = facts.Square.Units();
+  const auto sumOf = [&](Line line) {
+    std::int64_t sum = 0;
+    for (int i = 0; i < k; ++i) {
+      const auto inMiddle = static_cast<int>(line.Cell(i, k));
+      sum += units[facts.Square.Index(first + inMiddle / k, first + inMiddle % k)];
+    }
+    return sum;
+  };
+  const std::int64_t wanted = sumOf({Line::Row, 0});
+  for (const Line line : MagicLines(k)) {
+    const std::int64_t sum = sumOf(line);
+    if (sum == wanted) continue;
+    Judgement broken = Fails("in the " + std::to_string(k) + " x " + std::to_string(k) +
+                             " square in the middle, " + NameOf(line, k) + " adds up to " +
+                             facts.Shown(sum) + ", row 1 to " + facts.Shown(wanted));
+    for (int i = 0; i < k; ++i) {
+      const auto inMiddle = static_cast<int>(line.Cell(i, k));
+      broken.Cells.push_back({first + inMiddle / k + 1, first + inMiddle % k + 1});
+    }
+    return broken;
+  }
+  return Holds({});
+}
+
+/// The cells of the k x k square in the middle.
+std::vector<Place> MiddlePlaces(int n, int k) {
+  std::vector<Place> places;
+  const int first = (n - k) / 2 + 1;
+  for (int r = 0; r < k; ++r) {
+    for (int c = 0; c < k; ++c)
+      places.push_back({first + r, first + c});
+  }
+  return places;
+}
+
+constexpr int kSmallestMiddle = 3;
+
+}  // namespace
+
+Judgement JudgeAssociative(const Facts& facts) {
+  const int n = facts.N();
+  return PairsAddUp(facts, "every number and the one opposite it",
+                    [&](int i, int j) { return facts.Square.Index(n - 1 - i, n - 1 - j); });
+}
+
+Judgement JudgeComplete(const Facts& facts) {
+  const int n = facts.N();
+  if (n % 2 != 0) return DoesNotApply("it is a term of even orders");
+  return PairsAddUp(
+      facts, "numbers " + std::to_string(n / 2) + " apart on a wrapped diagonal",
+      [&](int i, int j) { return facts.Square.Index((i + n / 2) % n, (j + n / 2) % n); });
+}
+
+Judgement JudgeCompact(const Facts& facts) {
+  const int n = facts.N();
+  if (n % 2 != 0) return DoesNotApply("it is a term of even orders");
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  const std::string wanted =
+      Decimal(4.0 * static_cast<double>(facts.Total) / n / static_cast<double>(facts.Square.One()));
+  const auto placesAt = [&](int i, int j) {
+    std::vector<Place> places;
+    for (const int r : {i, (i + 1) % n}) {
+      for (const int c : {j, (j + 1) % n})
+        places.push_back({r + 1, c + 1});
+    }
+    return places;
+  };
+  for (int i = 0; i < n; ++i) {
+    for (int j = 0; j < n; ++j) {
+      const int below = i + 1 < n ? i + 1 : 0;
+      const int right = j + 1 < n ? j + 1 : 0;
+      const std::int64_t sum = facts.Square.Unit(i, j) + facts.Square.Unit(i, right) +
+                               facts.Square.Unit(below, j) + facts.Square.Unit(below, right);
+      if (sum * n == facts.Total * 4) continue;
+      return Fails("the block of 2 x 2 at row " + std::to_string(i + 1) + ", column " +
+                       std::to_string(j + 1) + " adds up to " + facts.Shown(sum) + ", not " +
+                       wanted,
+                   placesAt(i, j));
+    }
+  }
+  return Holds("every wrapped block of 2 x 2 adds up to " + wanted, placesAt(0, 0));
+}
+
+Judgement JudgeMostPerfect(const Facts& facts) {
+  if (facts.N() % 4 != 0) return DoesNotApply("it is a term of orders that are multiples of 4");
+  return All(facts, {"normal", "compact", "complete"}, Holds("it is normal, compact and complete"));
+}
+
+Judgement JudgeUltramagic(const Facts& facts) {
+  return All(facts, {"magic", "associative", "pandiagonal"},
+             Holds("it is magic, associative and pandiagonal"));
+}
+
+Judgement JudgeSelfComplementary(const Facts& facts) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  const int n = facts.N();
+  const auto& units = facts.Square.Units();
+  const std::int64_t wanted = units[facts.Order.front()] + units[facts.Order.back()];
+  const auto isComplement = [&](int image) {
+    for (int i = 0; i < n; ++i) {
+      for (int j = 0; j < n; ++j) {
+        if (facts.Square.Unit(i, j) + units[SourceInImage(image, i, j, n)] != wanted) return false;
+      }
+    }
+    return true;
+  };
+  const std::string complement = facts.Shown(wanted) + " - number";
+  for (int image = 0; image < kImages; ++image) {
+    if (!isComplement(image)) continue;
+    return Holds(complement + " gives the square " + NameOfImage(image));
+  }
+  return Fails(complement + " gives none of the square's eight images");
+}
+
+Judgement JudgeConcentric(const Facts& facts) {
+  constexpr int kSmallestRinged = 5;
+  if (facts.N() < kSmallestRinged) return DoesNotApply("it is a term of orders from 5 on");
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  for (int k = facts.N() - 2; k >= kSmallestMiddle; k -= 2) {
+    if (Judgement middle = MiddleIsMagic(facts, k); !middle) return middle;
+  }
+  const int inner = facts.N() - 2;
+  return Holds("every square within, ring by ring, is magic", MiddlePlaces(facts.N(), inner));
+}
+
+/// Numbers in order, of those that lie within each ring.
+Judgement JudgeBordered(const Facts& facts) {
+  if (Judgement concentric = JudgeConcentric(facts); !concentric) return concentric;
+  const int n = facts.N();
+  const auto& units = facts.Square.Units();
+  const auto ringOf = [n](Place place) {
+    return std::min({place.Row, place.Column, n + 1 - place.Row, n + 1 - place.Column}) - 1;
+  };
+  std::vector<int> rings;
+  rings.reserve(units.size());
+  for (std::size_t cell = 0; cell < units.size(); ++cell)
+    rings.push_back(ringOf(facts.Square.PlaceOf(cell)));
+  for (int ring = (n - kSmallestMiddle) / 2; ring > 0; --ring) {
+    const std::size_t* before = nullptr;
+    for (const std::size_t& cell : facts.Order) {
+      if (rings[cell] < ring) continue;
+      const std::size_t* const last = std::exchange(before, &cell);
+      if (!last || units[cell] - units[*last] == facts.Square.One()) continue;
+      const std::string side = std::to_string(n - 2 * ring);
+      return Fails("in the " + side + " x " + side +
+                       " square in the middle, the next number after " + facts.NumberIn(*last) +
+                       " is " + facts.NumberIn(cell),
+                   MiddlePlaces(n, n - 2 * ring));
+    }
+  }
+  return Holds("the numbers of every square within are a run without a gap",
+               MiddlePlaces(n, n - 2));
+}
+
+}  // namespace numorra

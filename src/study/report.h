@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "study/terms.h"
+
+namespace numorra {
+
+/// What a term says of a square.
+struct Property {
+  const Term* What;
+  Judgement Found;
+};
+
+/// A plain fact: "smallest number", "1".
+using Detail = std::pair<std::string, std::string>;
+
+/// What a square is.
+struct Report {
+  int Order = 0;
+  std::string Total;                 ///< which most lines share; empty when too large to say
+  std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, fame
+  std::vector<Property> Properties;  ///< one for each of Terms()
+  std::vector<double> StandardForm;
+  int Census = 0;  ///< its number among the 880 of order 4; 0 for all others
+};
+
+/// All there is to say of the square: one pass over all terms.
+Report Study(NumberSquare square);
+
+/// "holds", "fails", "does not apply", "too large to say".
+const char* WordFor(Answer answer);
+
+/// The report as lines of text, and as one JSON object on one line:
+/// {"order": 4, "total": 34, "properties": {"magic": true, "compact": null, ...},
+///  "evidence": {"magic": "...", ...}, "standard-form": [[1, ...], ...], "census": 175}
+/// A property is null where it does not apply or is too large to say.
+std::string TextOf(const Report& report);
+std::string JsonOf(const Report& report);
+
+}  // namespace numorra

@@ -1,0 +1,92 @@
+#include "study/special.h"
+
+#include <algorithm>
+
+#include "app/board/numbers.h"
+#include "study/two_digits.h"
+
+namespace numorra {
+namespace {
+
+std::string NoneOf(const char* kind, int order, const std::string& why) {
+  return "no " + std::string(kind) + " normal square has order " + std::to_string(order) + ": " +
+         why;
+}
+
+/// In orders 4k + 2 opposite cells, or wrapped diagonals, settle what a quarter of the numbers add
+/// up to, and it is no whole number (Planck 1919).
+std::string QuarterSum(int order) {
+  const double numbers = order * order;
+  return "its sums would make a quarter of the numbers add up to " +
+         Decimal(numbers * (numbers + 1) / 8) + ", which is no whole number";
+}
+
+bool IsSinglyEven(int order) {
+  return order % 4 == 2;
+}
+
+std::string WhyNotAssociative(int order) {
+  return IsSinglyEven(order) ? NoneOf("associative", order, QuarterSum(order)) : "";
+}
+
+std::string WhyNotPandiagonal(int order) {
+  if (order == 3) {
+    return NoneOf("pandiagonal", order,
+                  "the lines through any cell would make it a third of the total, 5");
+  }
+  return IsSinglyEven(order) ? NoneOf("pandiagonal", order, QuarterSum(order)) : "";
+}
+
+std::string WhyNotMostPerfect(int order) {
+  if (order % 4 == 0) return "";
+  return NoneOf("most-perfect", order, "such squares have an order that is a multiple of 4");
+}
+
+std::string WhyNotUltramagic(int order) {
+  if (order == 4) {
+    return NoneOf("ultramagic", order,
+                  "were it pandiagonal, each number would have its partner to 17 two cells on in "
+                  "a diagonal, and not opposite");
+  }
+  const std::string why = WhyNotPandiagonal(order);
+  return why.empty() ? why : NoneOf("ultramagic", order, why);
+}
+
+std::string WhyNotBordered(int order) {
+  constexpr int kSmallest = 5;
+  if (order >= kSmallest) return "";
+  return NoneOf(
+      "bordered", order,
+      "there is no magic square of order " + std::to_string(order - 2) + " to put a border around");
+}
+
+}  // namespace
+
+const std::array<SpecialKind, 5> kSpecialKinds = {{
+    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare},
+    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare},
+    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare},
+    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare},
+    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare},
+}};
+
+const SpecialKind* FindSpecialKind(const std::string& term) {
+  const auto* const found =
+      std::find_if(kSpecialKinds.begin(), kSpecialKinds.end(),
+                   [&](const SpecialKind& kind) { return kind.Term == term; });
+  return found == kSpecialKinds.end() ? nullptr : found;
+}
+
+std::vector<double> AssociativeSquare(int order, Random& random) {
+  return order % 2 == 0 ? EvenAssociative(order, random) : OddAssociative(order, random);
+}
+
+std::vector<double> PandiagonalSquare(int order, Random& random) {
+  return order % 2 == 0 ? MostPerfectSquare(order, random) : OddPandiagonal(order, random);
+}
+
+std::vector<double> UltramagicSquare(int order, Random& random) {
+  return order % 2 == 0 ? EvenUltramagic(order, random) : OddUltramagic(order, random);
+}
+
+}  // namespace numorra

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "app/board/random.h"
+
+namespace numorra {
+
+/// A kind of normal magic square that can be built at every order at which there is one.
+struct SpecialKind {
+  const char* Term;
+  const char* Name;     ///< of its menu item
+  const char* Caption;  ///< what the item says
+
+  /// Why no normal square of this kind has the order, one of 3..50; empty where one has.
+  std::string (*WhyNone)(int order);
+
+  /// The numbers, in reading order, of such a square; another at every call.
+  std::vector<double> (*Build)(int order, Random& random);
+};
+
+/// In the order of the menu.
+extern const std::array<SpecialKind, 5> kSpecialKinds;
+
+/// The kind that has this term; null where none has.
+const SpecialKind* FindSpecialKind(const std::string& term);
+
+// Each for the orders at which WhyNone says nothing.
+std::vector<double> AssociativeSquare(int order, Random& random);
+std::vector<double> PandiagonalSquare(int order, Random& random);
+std::vector<double> MostPerfectSquare(int order, Random& random);
+std::vector<double> UltramagicSquare(int order, Random& random);
+std::vector<double> BorderedSquare(int order, Random& random);
+
+}  // namespace numorra

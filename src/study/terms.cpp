@@ -1,0 +1,85 @@
+#include "study/terms.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace numorra {
+
+const std::vector<Term>& Terms() {
+  constexpr const char* kLines = "Lines";
+  constexpr const char* kDiagonals = "Diagonals";
+  constexpr const char* kPairs = "Pairs and blocks";
+  constexpr const char* kPowers = "Powers";
+  constexpr const char* kRings = "Rings";
+  constexpr const char* kNumbers = "Numbers";
+  constexpr const char* kOthers = "Other squares";
+  static const std::vector<Term> terms = {
+      {"semi-magic", kLines, "all rows and columns add up to one total", JudgeSemiMagic},
+      {"magic", kLines, "semi-magic, and both main diagonals add up to the same total", JudgeMagic},
+      {"normal", kNumbers, "each of the numbers 1 to n x n stands in it once", JudgeNormal},
+      {"distinct", kNumbers, "no number stands in it twice", JudgeDistinct},
+      {"consecutive", kNumbers, "distinct, and a run of numbers without a gap", JudgeConsecutive},
+      {"associative", kPairs,
+       "every number and the one opposite it through the middle add up to "
+       "the same",
+       JudgeAssociative},
+      {"pandiagonal", kDiagonals, "semi-magic, and all 2n wrapped diagonals add up to the total",
+       JudgePandiagonal},
+      {"semi-pandiagonal", kDiagonals,
+       "of order 4, and the two broken diagonals half-way between "
+       "the main ones add up to the total",
+       JudgeSemiPandiagonal},
+      {"ultramagic", kDiagonals, "magic, associative and pandiagonal", JudgeUltramagic},
+      {"compact", kPairs,
+       "of even order, and every wrapped block of 2 x 2 adds up to 4 n-ths of "
+       "the total",
+       JudgeCompact},
+      {"complete", kPairs,
+       "of even order, and numbers n/2 apart on a wrapped diagonal add up to "
+       "the same",
+       JudgeComplete},
+      {"most-perfect", kPairs, "of an order that is a multiple of 4, normal, compact and complete",
+       JudgeMostPerfect},
+      {"bimagic", kPowers, "magic, and so are the squares of the numbers", JudgeBimagic},
+      {"trimagic", kPowers, "bimagic, and so are the cubes of the numbers", JudgeTrimagic},
+      {"concentric", kRings, "of order 5 or more, and every square within, ring by ring, is magic",
+       JudgeConcentric},
+      {"bordered", kRings,
+       "concentric, and the numbers of every square within are a run without a "
+       "gap",
+       JudgeBordered},
+      {"self-complementary", kPairs,
+       "largest + smallest - number, for every number, gives the "
+       "square again, turned or mirrored",
+       JudgeSelfComplementary},
+      {"heterosquare", kOthers, "no two rows, columns or main diagonals add up to the same",
+       JudgeHeterosquare},
+      {"antimagic", kOthers, "a heterosquare whose sums are a run without a gap", JudgeAntimagic},
+      {"latin", kOthers, "n different numbers, each once in every row and column", JudgeLatin},
+      {"prime", kNumbers, "all numbers are primes", JudgePrime},
+  };
+  return terms;
+}
+
+const Term* FindTerm(const std::string& name) {
+  const auto& terms = Terms();
+  const auto found =
+      std::find_if(terms.begin(), terms.end(), [&](const Term& term) { return term.Name == name; });
+  return found == terms.end() ? nullptr : &*found;
+}
+
+Judgement SumsTooLarge() {
+  return TooLarge("the numbers have too many digits to be added exactly");
+}
+
+Judgement All(const Facts& facts, std::initializer_list<const char*> needed, Judgement reached) {
+  for (const char* const name : needed) {
+    Judgement part = FindTerm(name)->Judge(facts);
+    if (part) continue;
+    part.Why = (part.Says == Answer::Fails ? "not " + std::string(name) + ": " : "") + part.Why;
+    return part;
+  }
+  return reached;
+}
+
+}  // namespace numorra

@@ -1,0 +1,85 @@
+#include "app/play/study_commands.h"
+
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+class StudyCommands : public PlayTest {
+ protected:
+  PlainBoxes boxes_{"3", "15"};
+};
+
+TEST_F(StudyCommands, ShowRelatives) {
+  Show("8 1 6 / 3 5 7 / 4 9 2");
+  Go(2, 3);
+  board_.grid.SetGiven(1, 1, true);
+  ComplementBoard(board_, boxes_, dialogs_);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("2 9 4 / 7 5 3 / 6 1 8"));
+  EXPECT_FALSE(board_.HasGivens());
+  EXPECT_EQ(board_.grid.VerdictOf(0, 0), Verdict::Right);
+  EXPECT_EQ(Where(), std::pair(2, 3));
+  EXPECT_EQ(boxes_.SumText, "15");
+  BringToStandardForm(board_, dialogs_);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("2 7 6 / 9 5 1 / 4 3 8"));
+  VaryBoard(board_, dialogs_, random_);
+  EXPECT_NE(ShownRows(board_.grid), ParseRows("2 7 6 / 9 5 1 / 4 3 8"));
+  EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
+}
+
+TEST_F(StudyCommands, TakeTheTargetAlong) {
+  Show("10.5 1 6 / 3 5 7 / 4 9 2", 15);
+  ComplementBoard(board_, boxes_, dialogs_);
+  EXPECT_EQ(At(1, 1), "1");
+  EXPECT_EQ(At(1, 2), "10.5");
+  EXPECT_EQ(board_.TargetTotal, 19.5);
+  EXPECT_EQ(boxes_.SumText, "19.5");
+  EXPECT_EQ(board_.grid.VerdictOf(2, 0), Verdict::Right);
+}
+
+TEST_F(StudyCommands, RefuseInOneSentence) {
+  Show("8 1 6 / 3 5 7 / 4 9 2");
+  board_.grid.SetText(2, 3, "");
+  VaryBoard(board_, dialogs_, random_);
+  ComplementBoard(board_, boxes_, dialogs_);
+  BringToStandardForm(board_, dialogs_);
+  const std::string gap = "row 2, column 3 is empty: this works on full boards";
+  EXPECT_EQ(dialogs_.Take(), (Messages{gap, gap, gap}));
+  EXPECT_EQ(At(2, 3), "");
+
+  Show("7 7 7 / 7 7 7 / 7 7 7");
+  VaryBoard(board_, dialogs_, random_);
+  BringToStandardForm(board_, dialogs_);
+  Show("99999999999999 1 1 / 1 0.25 1 / 1 1 1");
+  ComplementBoard(board_, boxes_, dialogs_);
+  EXPECT_EQ(dialogs_.Take(),
+            (Messages{"all relatives of this square look like it", "this is the standard form",
+                      "the complement of 1 in row 1, column 2 has "
+                      "more than 14 digits"}));
+  EXPECT_EQ(At(1, 2), "1");
+}
+
+TEST_F(StudyCommands, LayOutSquaresOfTheSizeBox) {
+  for (const auto& [size, message] :
+       {std::pair{"2", "grid size should be 3x3 or bigger"},
+        std::pair{"51", "grid size should be 50x50 or smaller"},
+        std::pair{"6",
+                  "no pandiagonal normal square has order 6: its sums would make a quarter of "
+                  "the numbers add up to 166.5, which is no whole number"}}) {
+    boxes_.SizeText = size;
+    EXPECT_FALSE(LayOutSpecial(*FindSpecialKind("pandiagonal"), board_, boxes_, dialogs_, random_));
+    EXPECT_EQ(dialogs_.Take(), Messages{message});
+    EXPECT_FALSE(board_.Shown());
+  }
+  boxes_.SizeText = "7";
+  EXPECT_TRUE(LayOutSpecial(*FindSpecialKind("pandiagonal"), board_, boxes_, dialogs_, random_));
+  EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
+  EXPECT_EQ(board_.Asked, Rules::Normal);
+  EXPECT_EQ(boxes_.SumText, "175");
+  LayOutFamous(FamousSquares().front(), board_, boxes_);
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("4 9 2 / 3 5 7 / 8 1 6"));
+  EXPECT_EQ(boxes_.SizeText, "3");
+}
+
+}  // namespace
+}  // namespace numorra

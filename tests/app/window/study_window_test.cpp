@@ -1,0 +1,91 @@
+#include <QClipboard>
+#include <QDockWidget>
+#include <QTreeWidget>
+
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+class StudyWindowTest : public WindowTest {
+ protected:
+  QTreeWidgetItem* Entry(const char* name) {
+    const auto found =
+        Find<QTreeWidget>("PropertyTree").findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+    EXPECT_EQ(found.size(), 1) << name;
+    return found.isEmpty() ? nullptr : found.front();
+  }
+  void Trigger(const char* item) { Find<QAction>(item).trigger(); }
+  void Open() {
+    Trigger("Propertiesx");
+    QCoreApplication::processEvents();
+  }
+};
+
+TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
+  auto& panel = Find<QDockWidget>("PropertiesPanel");
+  EXPECT_FALSE(panel.isVisible());
+  EXPECT_FALSE(Find<QAction>("Varyx").isEnabled());
+  const int before = window_.width();
+  Open();
+  EXPECT_TRUE(panel.isVisible());
+  EXPECT_GT(window_.width(), before);
+  EXPECT_EQ(Find<QLabel>("PropertyEvidence").text(), "There is no board to study.");
+
+  Trigger("LoShux");
+  EXPECT_EQ(Entry("magic")->text(1), QString::fromUtf8("\u2713 holds"));
+  EXPECT_EQ(Entry("compact")->text(1), QString::fromUtf8("\u2013 does not apply"));
+  EXPECT_TRUE(Entry("famous")->text(1).startsWith("Lo Shu"));
+  EXPECT_TRUE(Entry("census number")->isHidden());
+  EXPECT_EQ(Entry("sum")->text(1), "15 in 8 of 8 lines");
+
+  Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("magic"));
+  EXPECT_TRUE(TheGrid().Outlined().empty());
+  ClickCell(3, 1);
+  QTest::keyClicks(&window_.View(), "9");
+  QTest::keyClick(&window_.View(), Qt::Key_Up);
+  EXPECT_EQ(Entry("magic")->text(1), QString::fromUtf8("\u2717 fails"));
+  EXPECT_EQ(TheGrid().Outlined(), (std::vector<Place>{{3, 1}, {3, 2}, {3, 3}}));
+  EXPECT_TRUE(Find<QLabel>("PropertyEvidence").text().contains("row 3 adds up to 16, not 15"));
+  EXPECT_EQ(Entry("magic")->data(0, Qt::AccessibleTextRole).toString(),
+            "magic: fails, row 3 adds up to 16, not 15");
+  Click("CopyPropertiesx");
+  EXPECT_TRUE(
+      QGuiApplication::clipboard()->text().contains("\nprime: fails, 1 in row 3, column 2"));
+
+  QTest::keyClick(&window_.View(), Qt::Key_Backspace);
+  EXPECT_EQ(TheGrid().Outlined().size(), 0U);
+  panel.close();
+  EXPECT_FALSE(Find<QAction>("Propertiesx").isChecked());
+  EXPECT_EQ(window_.width(), before);
+}
+
+TEST_F(StudyWindowTest, FullScreenHidesThePanelAndBringsItBack) {
+  Open();
+  Trigger("FullScreenx");
+  EXPECT_FALSE(Find<QDockWidget>("PropertiesPanel").isVisible());
+  Trigger("FullScreenx");
+  EXPECT_TRUE(Find<QDockWidget>("PropertiesPanel").isVisible());
+  EXPECT_TRUE(Find<QAction>("Propertiesx").isChecked());
+}
+
+TEST_F(StudyWindowTest, RelativesAreCommandsLikeOthers) {
+  Type("Text1", "8");
+  Trigger("MostPerfectx");
+  const slow::Rows built = Rows();
+  EXPECT_EQ(slow::WhyNotNormal(built), "");
+  for (const char* item : {"Varyx", "Complementx", "StandardFormx"}) {
+    const slow::Rows last = Rows();
+    Trigger(item);
+    EXPECT_NE(Rows(), last) << item;
+    EXPECT_EQ(slow::WhyNotNormal(Rows()), "") << item;
+  }
+  for (int step = 0; step < 3; ++step)
+    Trigger("UndoMovex");
+  EXPECT_EQ(Rows(), built);
+  EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Most-perfect");
+  ExpectSettled();
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,296 @@
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <set>
+
+#include "study/census.h"
+#include "study/famous.h"
+#include "study/images.h"
+#include "study/relatives.h"
+#include "study/report.h"
+#include "study/special.h"
+#include "support/boards.h"
+#include "support/slow_classifier.h"
+#include "support/squares_of_order4.h"
+#include "support/stand_ins.h"
+
+namespace numorra {
+namespace {
+
+std::vector<double> Flat(const slow::Rows& rows) {
+  std::vector<double> numbers;
+  for (const auto& row : rows)
+    numbers.insert(numbers.end(), row.begin(), row.end());
+  return numbers;
+}
+
+slow::Rows Square(int order, const std::vector<double>& numbers) {
+  slow::Rows rows;
+  for (int i = 0; i < order; ++i)
+    rows.emplace_back(numbers.begin() + i * order, numbers.begin() + (i + 1) * order);
+  return rows;
+}
+
+Report StudyOf(const slow::Rows& rows) {
+  return Study(NumberSquare(static_cast<int>(rows.size()), Flat(rows)));
+}
+
+Judgement Find(const Report& report, const std::string& term) {
+  for (const Property& property : report.Properties) {
+    if (property.What->Name == term) return property.Found;
+  }
+  ADD_FAILURE() << "no term " << term;
+  return {};
+}
+
+slow::Answers AnswersOf(const Report& report) {
+  slow::Answers answers;
+  for (const auto& [term, found] : report.Properties) {
+    answers[term->Name] = found.Says == Answer::Holds   ? std::optional(true)
+                          : found.Says == Answer::Fails ? std::optional(false)
+                                                        : std::nullopt;
+  }
+  return answers;
+}
+
+void ExpectAgreement(const slow::Rows& rows) {
+  const slow::Answers expected = slow::Classify(rows);
+  const slow::Answers found = AnswersOf(StudyOf(rows));
+  ASSERT_EQ(found.size(), expected.size());
+  for (const auto& [term, answer] : expected)
+    EXPECT_EQ(found.at(term), answer) << term << " at order " << rows.size();
+}
+
+TEST(Study, KnowsAllSquaresOfOrder4) {
+  std::map<std::string, int> count;
+  int census = 0;
+  for (const slow::Rows& rows : slow::SquaresOfOrder4()) {
+    const Report report = StudyOf(rows);
+    ASSERT_EQ(report.Census, ++census);
+    ASSERT_EQ(report.StandardForm, Flat(rows));
+    for (const auto& [term, found] : report.Properties)
+      count[term->Name] += found ? 1 : 0;
+    if (census % 40 == 0) ExpectAgreement(rows);
+  }
+  EXPECT_EQ(census, 880);
+  const std::map<std::string, int> known = {
+      {"magic", 880},      {"normal", 880}, {"associative", 48}, {"semi-pandiagonal", 432},
+      {"pandiagonal", 48}, {"compact", 48}, {"complete", 48},    {"most-perfect", 48},
+      {"ultramagic", 0},   {"bimagic", 0},  {"latin", 0},        {"prime", 0},
+      {"heterosquare", 0}};
+  for (const auto& [term, number] : known)
+    EXPECT_EQ(count[term], number) << term;
+}
+
+/// Opposite cells add up to 26, so a b c d e / f g h i j / k l settle the square; of these the
+/// lines settle all but six.
+TEST(Study, FindsTheSixteenUltramagicSquaresOfOrder5) {
+  int found = 0;
+  const auto free = [](std::initializer_list<int> numbers) {
+    std::uint64_t taken = 0;
+    for (const int number : numbers) {
+      if (number < 1 || number > 25 || number == 13 || (taken >> number & 1) != 0) return false;
+      taken |= std::uint64_t{1} << number | std::uint64_t{1} << (26 - number);
+    }
+    return true;
+  };
+  const auto count = [&](int a, int b, int c, int d, int e, int f, int g) {
+    const int k = b + f - g - c + 13;
+    const int j = k + a + f - e - 13;
+    const int i = k + j + d - c - 13;
+    const int h = 65 - f - g - i - j;
+    const int l = 13 - b - g + d + i;
+    if (!free({a, b, c, d, e, f, g, h, i, j, k, l})) return;
+    slow::Rows rows = {{}, {}, {}, {}, {}};
+    for (const int number : {a, b, c, d, e})
+      rows[0].push_back(number);
+    for (const int number : {f, g, h, i, j})
+      rows[1].push_back(number);
+    for (const int number : {k, l, 13, 26 - l, 26 - k})
+      rows[2].push_back(number);
+    for (const std::size_t row : {3U, 4U}) {
+      for (std::size_t column = 0; column < 5; ++column)
+        rows[row].push_back(26 - rows[4 - row][4 - column]);
+    }
+    const Report report = StudyOf(rows);
+    if (Find(report, "ultramagic") && report.StandardForm == Flat(rows)) ++found;
+  };
+  for (int a = 1; a < 13; ++a) {
+    for (int b = 1; b <= 25; ++b) {
+      for (int c = 1; c <= 25; ++c) {
+        for (int d = 1; d <= 25; ++d) {
+          const int e = 65 - a - b - c - d;
+          if (!free({a, b, c, d, e})) continue;
+          for (int f = b + 1; f <= 25; ++f) {
+            for (int g = 1; g <= 25; ++g)
+              count(a, b, c, d, e, f, g);
+          }
+        }
+      }
+    }
+  }
+  EXPECT_EQ(found, 16);
+}
+
+TEST(Study, AgreesWithTheSlowClassifier) {
+  SeededRandom random(3);
+  for (int order = 3; order <= 50; ++order) {
+    for (const SpecialKind& kind : kSpecialKinds) {
+      if (!kind.WhyNone(order).empty()) continue;
+      slow::Rows rows = Square(order, kind.Build(order, random));
+      EXPECT_EQ(slow::WhyNotNormal(rows), "") << kind.Term << " of order " << order;
+      EXPECT_EQ(slow::Classify(rows)[kind.Term], true) << kind.Term << " of order " << order;
+      ExpectAgreement(rows);
+      const auto at = [&] { return static_cast<std::size_t>(random.Between(0, order - 1)); };
+      std::swap(rows[at()][at()], rows[at()][at()]);
+      ExpectAgreement(rows);
+    }
+    slow::Rows noise(static_cast<std::size_t>(order));
+    for (auto& row : noise) {
+      for (int c = 0; c < order; ++c)
+        row.push_back(random.Between(-3, order * order));
+    }
+    ExpectAgreement(noise);
+  }
+  for (const char* rows :
+       {"1 2 3 / 2 3 1 / 3 1 2", "2 2 2 / 2 2 2 / 2 2 2", "17 89 71 / 113 59 5 / 47 29 101",
+        "2 15 5 13 / 16 3 7 12 / 9 8 14 1 / 6 4 11 10", "9 8 7 / 2 1 6 / 3 4 5",
+        "0 0 0 / 0 0 0 / 0 0 1", "1 2 3 / 4 5 6 / 7 8 9", "7 9 8 / 9 8 7 / 8 7 9"})
+    ExpectAgreement(ParseRows(rows));
+}
+
+struct Told {
+  const char* Rows;
+  const char* Term;
+  Answer Says;
+  const char* Why;
+  std::size_t Cells;
+};
+
+TEST(Study, ShowsEvidence) {
+  const Told cases[] = {
+      {"8 1 6 / 3 5 7 / 4 9 3", "magic", Answer::Fails, "row 3 adds up to 16, not 15", 3},
+      {"8 1 6 / 3 5 7 / 4 9 2", "pandiagonal", Answer::Fails,
+       "the broken diagonal that falls from row 1, column 2 adds up to 12, not 15", 3},
+      {"8 1 6 / 3 5 7 / 4 9 2", "associative", Answer::Holds,
+       "every number and the one opposite it add up to 10", 2},
+      {"8 1 6 / 3 5 7 / 4 9 2", "compact", Answer::DoesNotApply, "it is a term of even orders", 0},
+      {"8 1 6 / 3 5 7 / 4 9 8", "normal", Answer::Fails, "8 stands in it twice, 2 is missing", 2},
+      {"8 1 6 / 3 0.5 7 / 4 9 2", "normal", Answer::Fails,
+       "0.5 in row 2, column 2 is none of the numbers 1 to 9", 1},
+      {"8 1 6 / 3 5 7 / 4 19 2", "consecutive", Answer::Fails, "the next number after 8 is 19", 2},
+      {"0.8 0.1 0.6 / 0.3 0.5 0.7 / 0.4 0.9 0.2", "magic", Answer::Holds,
+       "all rows, columns and both main diagonals add up to 1.5", 0},
+      {"0.8 0.1 0.6 / 0.3 0.5 0.7 / 0.4 0.9 0.2", "bimagic", Answer::Fails,
+       "the squares in row 2 add up to 0.83, those in row 1 to 1.01", 3},
+      {"99999999999999 0.0001 0 / 0 0 0 / 0 0 0", "magic", Answer::TooLarge,
+       "the numbers have too many digits to be added exactly", 0},
+      {"400000001 1 1 / 1 1 1 / 1 1 1", "bimagic", Answer::Fails,
+       "not magic: row 1 adds up to 400000003, not 3", 3},
+      {"400000001 400000001 400000001 / 400000001 400000001 400000001 / 400000001 400000001 "
+       "400000001",
+       "bimagic", Answer::TooLarge,
+       "the squares of numbers like 400000001 are too large to be added exactly", 0},
+  };
+  for (const Told& told : cases) {
+    const Judgement found = Find(StudyOf(ParseRows(told.Rows)), told.Term);
+    EXPECT_EQ(found.Says, told.Says) << told.Term << " of " << told.Rows;
+    EXPECT_EQ(found.Why, told.Why);
+    EXPECT_EQ(found.Cells.size(), told.Cells) << told.Term << " of " << told.Rows;
+  }
+}
+
+TEST(Study, TellsPrimesFromOthers) {
+  for (const double prime : {2.0, 3.0, 97.0, 99999999999973.0})
+    EXPECT_TRUE(Find(StudyOf({{prime, prime, prime}, {prime, 5, 7}, {11, 13, 17}}), "prime"));
+  // Strong pseudoprimes to the bases 2, 3, 5, 7, and a product of two large primes.
+  for (const double other : {1.0, 0.0, -7.0, 2.5, 3215031751.0, 9999991.0 * 9999973.0})
+    EXPECT_FALSE(Find(StudyOf({{other, 2, 2}, {2, 2, 2}, {2, 2, 2}}), "prime")) << other;
+}
+
+TEST(Famous, AreWhatTheirStoriesSay) {
+  EXPECT_EQ(FamousSquares().size(), 12U);
+  const char* const terms[] = {"associative", "most-perfect", "concentric", "bordered", "bimagic"};
+  for (const FamousSquare& famous : FamousSquares()) {
+    const slow::Rows rows = Square(famous.Order, famous.Numbers);
+    ExpectAgreement(rows);
+    const slow::Answers is = slow::Classify(rows);
+    EXPECT_EQ(slow::LineTotals(rows).front(), famous.Total);
+    EXPECT_EQ(is.at("semi-magic"), true) << famous.Name;
+    const std::string story = famous.Story;
+    EXPECT_EQ(is.at("magic"), story.find("semi-magic") == std::string::npos) << famous.Name;
+    for (const char* term : terms) {
+      const bool said = story.find(term) != std::string::npos;
+      EXPECT_TRUE(!said || is.at(term) == true) << famous.Name << term;
+    }
+    EXPECT_EQ(StudyOf(rows).Details.front().second, story);
+  }
+  const FamousSquare& tour = FamousSquares()[9];
+  for (double move = 1; move < 64; ++move) {
+    const auto from = std::find(tour.Numbers.begin(), tour.Numbers.end(), move);
+    const auto to = std::find(tour.Numbers.begin(), tour.Numbers.end(), move + 1);
+    const auto a = from - tour.Numbers.begin(), b = to - tour.Numbers.begin();
+    EXPECT_EQ(std::abs(a / 8 - b / 8) * std::abs(a % 8 - b % 8), 2) << "a knight's move " << move;
+  }
+}
+
+TEST(Relatives, AreOtherSquaresOfTheFamily) {
+  SeededRandom random(5);
+  for (const int order : {3, 4, 5, 10}) {
+    std::vector<double> square(static_cast<std::size_t>(order * order));
+    std::iota(square.begin(), square.end(), 1.0);  // which is associative
+    if (order != 10) square = AssociativeSquare(order, random);
+    std::set<std::vector<double>> forms;
+    for (int draw = 0; draw < 100; ++draw) {
+      const auto varied = Varied(order, square, random);
+      ASSERT_TRUE(varied);
+      EXPECT_NE(*varied, square);
+      EXPECT_EQ(slow::Classify(Square(order, *varied))["associative"], true);
+      if (order == 4 || order == 5) {
+        EXPECT_EQ(slow::WhyNotNormal(Square(order, *varied)), "");
+      }
+      forms.insert(StandardForm(order, *varied));
+    }
+    // Order 3 only turns; orders 4 and 5 have four classes, of which one is shown.
+    EXPECT_TRUE(order == 3   ? forms.size() == 1
+                : order < 10 ? forms.size() == 3
+                             : forms.size() > 90)
+        << forms.size() << " at order " << order;
+    EXPECT_EQ(forms.count(StandardForm(order, square)), order == 3 ? 1U : 0U);
+  }
+  EXPECT_EQ(Varied(3, std::vector<double>(9, 7.0), random), std::nullopt);
+  EXPECT_EQ(ComplementOf({0.1, 0.25, 3}), (std::vector<double>{3, 2.85, 0.1}));
+}
+
+TEST(Special, SaysWhyThereIsNone) {
+  for (const SpecialKind& kind : kSpecialKinds) {
+    for (int order = 3; order <= 50; ++order) {
+      const std::string term = kind.Term;
+      const bool exists = term == "bordered"       ? order >= 5
+                          : term == "most-perfect" ? order % 4 == 0
+                          : term == "associative"  ? order % 4 != 2
+                          : term == "ultramagic"   ? order >= 5 && order % 4 != 2
+                                                   : order >= 4 && order % 4 != 2;
+      EXPECT_EQ(kind.WhyNone(order).empty(), exists) << term << " of order " << order;
+    }
+  }
+  EXPECT_EQ(FindSpecialKind("pandiagonal")->WhyNone(6),
+            "no pandiagonal normal square has order 6: its sums would make a quarter of the "
+            "numbers add up to 166.5, which is no whole number");
+}
+
+TEST(Special, IsVariedByLot) {
+  SeededRandom random(11);
+  for (const SpecialKind& kind : kSpecialKinds) {
+    for (const int order : {4, 5, 8, 9}) {
+      if (!kind.WhyNone(order).empty()) continue;
+      std::set<std::vector<double>> forms;
+      for (int draw = 0; draw < 50; ++draw)
+        forms.insert(StandardForm(order, kind.Build(order, random)));
+      EXPECT_GE(forms.size(), order < 6 ? 4U : 45U) << kind.Term << " of order " << order;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace numorra

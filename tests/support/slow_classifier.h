@@ -1,0 +1,215 @@
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "support/slow_checker.h"
+
+/// A second opinion on what a square is: each term as its definition reads, for whole numbers up to
+/// some thousands; slow, obvious, and sharing nothing with the product.
+namespace slow {
+
+using Ints = std::vector<std::vector<long long>>;
+using Answers = std::map<std::string, std::optional<bool>>;
+
+inline Ints IntsOf(const Rows& rows) {
+  Ints square;
+  for (const auto& row : rows) {
+    square.emplace_back();
+    for (const double number : row)
+      square.back().push_back(static_cast<long long>(number));
+  }
+  return square;
+}
+
+class Classifier {
+ public:
+  explicit Classifier(Ints square) : a_(std::move(square)), n_(static_cast<int>(a_.size())) {}
+
+  Answers Run() const {
+    Answers is;
+    const auto all = Numbers(a_);
+    const auto sums = LineSums(a_);
+    const long long total = Common(sums);
+    const long long cells = static_cast<long long>(n_) * n_;
+    is["semi-magic"] = std::count(sums.begin(), sums.end() - 2, total) == 2 * n_;
+    is["magic"] = IsMagic(a_);
+    is["normal"] = all.front() == 1 && all.back() == cells && Distinct(all);
+    is["distinct"] = Distinct(all);
+    is["consecutive"] = Run(all);
+    is["associative"] = Constant([&](int i, int j) { return A(i, j) + A(n_ - 1 - i, n_ - 1 - j); });
+    is["pandiagonal"] = *is["semi-magic"] && Pandiagonal(total);
+    is["semi-pandiagonal"] = SemiPandiagonal(total);
+    is["ultramagic"] = *is["magic"] && *is["associative"] && *is["pandiagonal"];
+    const bool even = n_ % 2 == 0;
+    if (even) {
+      bool compact = true;
+      Each([&](int i, int j) {
+        const long long block = A(i, j) + A(i + 1, j) + A(i, j + 1) + A(i + 1, j + 1);
+        compact = compact && block * n_ == 4 * total;
+      });
+      is["compact"] = compact;
+      is["complete"] = Constant([&](int i, int j) { return A(i, j) + A(i + n_ / 2, j + n_ / 2); });
+    }
+    if (n_ % 4 == 0) is["most-perfect"] = *is["normal"] && *is["compact"] && *is["complete"];
+    is["bimagic"] = *is["magic"] && IsMagic(Power(2));
+    is["trimagic"] = *is["bimagic"] && IsMagic(Power(3));
+    if (n_ >= 5) {
+      bool magic = true, runs = true;
+      for (int k = n_ - 2; k >= 3; k -= 2) {
+        magic = magic && IsMagic(Middle(k));
+        runs = runs && Run(Numbers(Middle(k)));
+      }
+      is["concentric"] = magic;
+      is["bordered"] = magic && runs;
+    }
+    is["self-complementary"] = SelfComplementary(all.front() + all.back());
+    const std::set<long long> different(sums.begin(), sums.end());
+    is["heterosquare"] = different.size() == sums.size();
+    is["antimagic"] = *is["heterosquare"] && *different.rbegin() - *different.begin() + 1 ==
+                                                 static_cast<long long>(sums.size());
+    is["latin"] = Latin();
+    is["prime"] = std::all_of(all.begin(), all.end(), Prime);
+    for (const char* term :
+         {"semi-pandiagonal", "compact", "complete", "most-perfect", "concentric", "bordered"})
+      is[term];
+    return is;
+  }
+
+ private:
+  long long A(int i, int j) const {
+    return a_[static_cast<std::size_t>((i + 2 * n_) % n_)]
+             [static_cast<std::size_t>((j + 2 * n_) % n_)];
+  }
+  template <class Visit>
+  void Each(Visit visit) const {
+    for (int i = 0; i < n_; ++i) {
+      for (int j = 0; j < n_; ++j)
+        visit(i, j);
+    }
+  }
+  template <class ValueAt>
+  bool Constant(ValueAt valueAt) const {
+    bool constant = true;
+    Each([&](int i, int j) { constant = constant && valueAt(i, j) == valueAt(0, 0); });
+    return constant;
+  }
+  static std::vector<long long> Numbers(const Ints& square) {
+    std::vector<long long> all;
+    for (const auto& row : square)
+      all.insert(all.end(), row.begin(), row.end());
+    std::sort(all.begin(), all.end());
+    return all;
+  }
+  static bool Distinct(const std::vector<long long>& sorted) {
+    return std::set<long long>(sorted.begin(), sorted.end()).size() == sorted.size();
+  }
+  static bool Run(const std::vector<long long>& sorted) {
+    return Distinct(sorted) &&
+           sorted.back() - sorted.front() + 1 == static_cast<long long>(sorted.size());
+  }
+  static std::vector<long long> LineSums(const Ints& square) {
+    const std::size_t n = square.size();
+    std::vector<long long> sums(2 * n + 2);
+    for (std::size_t i = 0; i < n; ++i) {
+      for (std::size_t j = 0; j < n; ++j) {
+        sums[i] += square[i][j];
+        sums[n + j] += square[i][j];
+      }
+      sums[2 * n] += square[i][i];
+      sums[2 * n + 1] += square[i][n - 1 - i];
+    }
+    return sums;
+  }
+  static long long Common(const std::vector<long long>& sums) {
+    return *std::max_element(sums.begin(), sums.end(), [&](long long a, long long b) {
+      return std::count(sums.begin(), sums.end(), a) < std::count(sums.begin(), sums.end(), b);
+    });
+  }
+  static bool IsMagic(const Ints& square) {
+    const auto sums = LineSums(square);
+    return std::set<long long>(sums.begin(), sums.end()).size() == 1;
+  }
+  Ints Power(int exponent) const {
+    Ints powers = a_;
+    for (auto& row : powers) {
+      for (auto& number : row)
+        number = number * number * (exponent == 3 ? number : 1);
+    }
+    return powers;
+  }
+  Ints Middle(int k) const {
+    Ints middle;
+    for (int i = (n_ - k) / 2; i < (n_ + k) / 2; ++i) {
+      middle.emplace_back();
+      for (int j = (n_ - k) / 2; j < (n_ + k) / 2; ++j)
+        middle.back().push_back(A(i, j));
+    }
+    return middle;
+  }
+  bool Pandiagonal(long long total) const {
+    for (int k = 0; k < n_; ++k) {
+      long long falling = 0, rising = 0;
+      for (int i = 0; i < n_; ++i) {
+        falling += A(i, k + i);
+        rising += A(i, k - i);
+      }
+      if (falling != total || rising != total) return false;
+    }
+    return true;
+  }
+  std::optional<bool> SemiPandiagonal(long long total) const {
+    if (n_ != 4) return std::nullopt;
+    return A(0, 2) + A(1, 3) + A(2, 0) + A(3, 1) == total &&
+           A(0, 1) + A(1, 0) + A(2, 3) + A(3, 2) == total;
+  }
+  bool SelfComplementary(long long pair) const {
+    Ints complement = a_;
+    Each([&](int i, int j) {
+      complement[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)] = pair - A(i, j);
+    });
+    Ints image = a_;
+    for (int turns = 0; turns < 8; ++turns) {
+      if (image == complement) return true;
+      Ints turned = image;  // a quarter turn; mirrored when four are done
+      Each([&](int i, int j) {
+        turned[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)] =
+            image[static_cast<std::size_t>(n_ - 1 - j)][static_cast<std::size_t>(i)];
+      });
+      image = turned;
+      if (turns == 3) std::reverse(image.begin(), image.end());
+    }
+    return false;
+  }
+  bool Latin() const {
+    const auto all = Numbers(a_);
+    const std::set<long long> symbols(all.begin(), all.end());
+    for (int i = 0; i < n_; ++i) {
+      std::set<long long> row, column;
+      for (int j = 0; j < n_; ++j) {
+        row.insert(A(i, j));
+        column.insert(A(j, i));
+      }
+      if (row != symbols || column != symbols) return false;
+    }
+    return static_cast<int>(symbols.size()) == n_;
+  }
+  static bool Prime(long long number) {
+    for (long long divisor = 2; divisor * divisor <= number; ++divisor) {
+      if (number % divisor == 0) return false;
+    }
+    return number > 1;
+  }
+
+  Ints a_;
+  int n_;
+};
+
+inline Answers Classify(const Rows& rows) {
+  return Classifier(IntsOf(rows)).Run();
+}
+
+}  // namespace slow
