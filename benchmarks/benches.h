@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "puzzle/puzzle.h"
 #include "results.h"
 
 namespace numorra::bench {
@@ -30,6 +31,12 @@ void RegisterGeneratorBenches();
 
 /// Prints how varied the squares of the variable generator are, by order and base.
 void PrintVariety();
+
+/// Prints which share of boards with gaps is settled in time, by order and share of clues.
+void PrintFilling();
+
+/// A normal board with 70 % of its numbers and one solution.
+Puzzle UniqueBoardOfOrder8();
 
 /// Whole processes: what a child measured of itself.
 struct Probe {

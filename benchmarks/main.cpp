@@ -75,6 +75,10 @@ int main(int argc, char** argv) {
     PrintVariety();
     return 0;
   }
+  if (argc == 2 && std::strcmp(argv[1], "--filling") == 0) {
+    PrintFilling();
+    return 0;
+  }
   const QApplication application(argc, argv);
 
   std::vector<std::string> flags = {argv[0], "--benchmark_repetitions=9",

@@ -1,4 +1,5 @@
 #include "benches.h"
+#include "puzzle/search.h"
 #include "study/report.h"
 #include "study/special.h"
 
@@ -14,6 +15,15 @@ void StudySquare(benchmark::State& state) {
     benchmark::DoNotOptimize(Study(square));
 }
 
+void FillBoard(benchmark::State& state) {
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  const Puzzle puzzle = UniqueBoardOfOrder8();
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Solve(puzzle, {}, random, stage));
+}
+
 struct Measured {
   Road TheRoad;
   void (*Measure)(benchmark::State& state);
@@ -21,6 +31,7 @@ struct Measured {
 
 constexpr Measured kRoads[] = {
     {{"study of a bordered square of order 50", 0.05}, StudySquare},
+    {{"filling a board of order 8, 70 % given, one solution", 1}, FillBoard},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/board/orders.h"
+#include "files/stored_square.h"
 
 namespace numorra {
 
@@ -14,6 +15,7 @@ const char* const kUsage =
        numorra-square --top-row A,B,C,D [options]
        numorra-square --kind TERM --size N [options]
        numorra-square study [FILE|-] [--format text|json]
+       numorra-square complete [FILE|-] [options]
 
 Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
 any total, 4 x 4 with a top row of your choice, or of a special kind.
@@ -38,12 +40,23 @@ any total, 4 x 4 with a top row of your choice, or of a special kind.
 study says what squares are, and why. It reads rows of numbers from a file or
 from the standard input, squares separated by empty lines; a JSON object a line
 says the same to programs.
+
+complete fills the gaps (nothing, or one of - . _ between separators) of squares
+that it reads as study does, and says whether there is one way, several or none.
+Its exit status is 3 for none and 4 for what was not settled in time.
+
+  --rules normal|positive  each of 1 to N x N once, or any whole numbers of 1 or
+                           more; without it what the square suggests
+  --sum T                  the total, where the square does not tell it
+  --limit-to-9             no number above 9, by the positive rules
+  --seconds S              how long to search for each square: 3
+  --format text|json       JSON is one object a line
 )";
 
 namespace {
 
 template <class Number>
-std::optional<Number> Whole(const std::string& text) {
+std::optional<Number> NumberIn(const std::string& text) {
   Number number{};
   const char* end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, number);
@@ -82,9 +95,13 @@ class Reader {
   using Command = SquareCommand;
 
   void TakeCommand() {
-    if (words_.empty() || words_[0] != "study") return;
-    request_.Command = Command::Study;
-    ++next_;
+    static constexpr std::pair<const char*, Command> kCommands[] = {
+        {"study", Command::Study}, {"complete", Command::Complete}};
+    for (const auto& [name, command] : kCommands) {
+      if (words_.empty() || words_[0] != name) continue;
+      request_.Command = command;
+      ++next_;
+    }
   }
 
   bool IsFile(const std::string& word) const {
@@ -131,19 +148,22 @@ class Reader {
     };
     constexpr auto kBuild = Command::Build;
     constexpr auto kStudy = Command::Study;
+    constexpr auto kComplete = Command::Complete;
     static const Option kOptions[] = {
         {"--size", &Reader::Size, {kBuild}},
-        {"--sum", &Reader::Sum, {kBuild}},
-        {"--limit-to-9", &Reader::LimitToNine, {kBuild}},
+        {"--sum", &Reader::Sum, {kBuild, kComplete}},
+        {"--limit-to-9", &Reader::LimitToNine, {kBuild, kComplete}},
         {"--corner", &Reader::Corner, {kBuild}},
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
         {"--vary", &Reader::Vary, {kBuild}},
         {"--count", &Reader::Count, {kBuild}},
         {"--seed", &Reader::Seed, {kBuild}},
-        {"--format", &Reader::Format, {kBuild, kStudy}},
-        {"--help", &Reader::Help, {kBuild, kStudy}},
-        {"--version", &Reader::Version, {kBuild, kStudy}},
+        {"--rules", &Reader::RulesOption, {kComplete}},
+        {"--seconds", &Reader::Seconds, {kComplete}},
+        {"--format", &Reader::Format, {kBuild, kStudy, kComplete}},
+        {"--help", &Reader::Help, {kBuild, kStudy, kComplete}},
+        {"--version", &Reader::Version, {kBuild, kStudy, kComplete}},
     };
     for (const Option& option : kOptions) {
       const bool has =
@@ -161,7 +181,7 @@ class Reader {
   }
 
   void Size() {
-    const auto size = Whole<int>(Value());
+    const auto size = NumberIn<int>(Value());
     if (!size || *size < kMinOrder || *size > kMaxOrder) {
       Fail("the size is a whole number from 3 to 50");
     } else {
@@ -170,14 +190,14 @@ class Reader {
   }
 
   void Sum() {
-    request_.Sum = Whole<std::int16_t>(Value());
+    request_.Sum = NumberIn<std::int16_t>(Value());
     if (!request_.Sum || *request_.Sum < 1) Fail("the sum is a whole number from 1 to 32767");
   }
 
   void LimitToNine() { request_.LimitToNine = true; }
 
   void Corner() {
-    request_.Corner = Whole<std::int16_t>(Value());
+    request_.Corner = NumberIn<std::int16_t>(Value());
     if (!request_.Corner || *request_.Corner < 1) Fail("the corner is a whole number from 1 on");
   }
 
@@ -195,11 +215,29 @@ class Reader {
     Fail("the kind is one of " + kinds);
   }
 
+  void RulesOption() {
+    const std::string name = Value();
+    for (const Rules rules : {Rules::Normal, Rules::Positive}) {
+      if (name == NameOf(rules)) request_.RulesWanted = rules;
+    }
+    if (!request_.RulesWanted) Fail("the rules are normal or positive");
+  }
+
+  void Seconds() {
+    constexpr double kMost = 1'000'000;
+    const auto seconds = NumberIn<double>(Value());
+    if (seconds && *seconds > 0 && *seconds <= kMost) {
+      request_.Seconds = *seconds;
+    } else {
+      Fail("the seconds are a number above 0");
+    }
+  }
+
   void Vary() { request_.Vary = true; }
 
   void Count() {
     constexpr int kMost = 1'000'000;
-    const auto count = Whole<int>(Value());
+    const auto count = NumberIn<int>(Value());
     if (!count || *count < 1 || *count > kMost)
       Fail("the count is a whole number from 1 to 1000000");
     request_.Count = count.value_or(1);
@@ -219,7 +257,7 @@ class Reader {
   }
 
   void Seed() {
-    request_.Seed = Whole<std::uint64_t>(Value());
+    request_.Seed = NumberIn<std::uint64_t>(Value());
     if (!request_.Seed) Fail("the seed is a whole number from 0 on");
   }
 

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "app/board/rules.h"
 #include "generate/top_row_square.h"
 #include "study/special.h"
 
@@ -14,7 +15,7 @@ namespace numorra {
 enum class SquareFormat { Text, Csv, Json };
 
 /// What the first word asks for: squares to be built, when it is none of the others.
-enum class SquareCommand : std::uint8_t { Build, Study };
+enum class SquareCommand : std::uint8_t { Build, Study, Complete };
 
 /// What a command line asks for. Which of the options there are is up to the command.
 struct SquareRequest {
@@ -35,6 +36,11 @@ struct SquareRequest {
 
   /// Where squares are to be read from; "-" is the standard input.
   std::string File = "-";
+
+  /// By which rules gaps are filled, where not by those that the square itself suggests, and how
+  /// long is searched for each.
+  std::optional<Rules> RulesWanted;
+  double Seconds = 3;
 };
 
 struct HelpRequest {};

@@ -103,8 +103,10 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
     }
     if (!result.Remark.empty()) streams.Err << kProgramName << result.Remark << "\n";
     if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
-    WriteSquare(streams.Out, result.Square, result.Order, result.Total, result.Asked,
-                request.Format);
+    StoredSquare square{.Order = result.Order, .Total = result.Total, .Asked = result.Asked};
+    for (const double number : NumbersOf(result.Square, result.Order))
+      square.Cells.emplace_back(number);
+    WriteSquare(streams.Out, square, request.Format);
   }
 }
 

@@ -4,40 +4,31 @@
 #include <iomanip>
 #include <ostream>
 
-#include "app/board/board.h"
 #include "app/board/numbers.h"
-#include "files/stored_square.h"
 
 namespace numorra {
 namespace {
 
-std::size_t WidestNumber(const CellTable& square, int order) {
-  std::size_t widest = 0;
-  ForEachCell(order, [&](int row, int column) {
-    widest = std::max(widest, Decimal(square(row, column)).size());
-  });
-  return widest;
+std::string TextOf(const std::optional<double>& cell) {
+  return cell ? Decimal(*cell) : ".";
 }
 
 }  // namespace
 
-void WriteSquare(std::ostream& out, const CellTable& square, int order, double total, Rules rules,
-                 SquareFormat format) {
+void WriteSquare(std::ostream& out, const StoredSquare& square, SquareFormat format) {
   if (format != SquareFormat::Text) {
-    StoredSquare stored{.Order = order, .Total = total, .Asked = rules};
-    ForEachCell(order, [&](int r, int c) { stored.Cells.emplace_back(square(r, c)); });
-    out << (format == SquareFormat::Json ? JsonOf(stored) : CsvOf(stored));
+    out << (format == SquareFormat::Json ? JsonOf(square) : CsvOf(square));
     return;
   }
-  const std::size_t width = WidestNumber(square, order);
-  for (int row = 1; row <= order; ++row) {
-    for (int column = 1; column <= order; ++column) {
-      out << (column > 1 ? " " : "") << std::setw(static_cast<int>(width))
-          << Decimal(square(row, column));
-    }
-    out << "\n";
+  std::size_t width = 0;
+  for (const auto& cell : square.Cells)
+    width = std::max(width, TextOf(cell).size());
+  for (std::size_t cell = 0; cell < square.Cells.size(); ++cell) {
+    const bool first = cell % static_cast<std::size_t>(square.Order) == 0;
+    out << (first ? (cell > 0 ? "\n" : "") : " ") << std::setw(static_cast<int>(width))
+        << TextOf(square.Cells[cell]);
   }
-  out << "\ntotal " << Decimal(total) << "\n";
+  out << "\n\ntotal " << Decimal(square.Total.value_or(0)) << "\n";
 }
 
 }  // namespace numorra

@@ -5,6 +5,7 @@
 #include "app/board/runtime_error.h"
 #include "cli/arguments.h"
 #include "cli/build_squares.h"
+#include "cli/complete_squares.h"
 #include "cli/study_squares.h"
 
 namespace numorra {
@@ -13,11 +14,29 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kBadArguments = 2;
+constexpr int kNoSolution = 3;
+constexpr int kNotSettled = 4;
+
+int StatusOf(Completion completion) {
+  switch (completion) {
+    case Completion::Completed:
+      return kDone;
+    case Completion::Unreadable:
+      return kFailed;
+    case Completion::Impossible:
+      return kNoSolution;
+    case Completion::Unsettled:
+      break;
+  }
+  return kNotSettled;
+}
 
 int Run(const SquareRequest& request, const Streams& streams) {
   switch (request.Command) {
     case SquareCommand::Study:
       return StudySquares(request, streams) ? kDone : kFailed;
+    case SquareCommand::Complete:
+      return StatusOf(CompleteSquares(request, streams));
     case SquareCommand::Build:
       break;
   }

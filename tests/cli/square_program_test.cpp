@@ -137,5 +137,35 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_EQ(RunWith("study /").Status, 1);
 }
 
+TEST(SquareProgram, CompletesWhatItReads) {
+  const Outcome text = RunWith("complete", "8 1 .\n. 5 .\n. . .\n");
+  EXPECT_EQ(text.Out, "one\n\n8 1 6\n3 5 7\n4 9 2\n\ntotal 15\n");
+  EXPECT_EQ(text.Status, 0);
+  const Outcome json = RunWith("complete --format json", "8,1,\n,4,\n,,\n\n,,\n,5,\n,,8\n");
+  EXPECT_EQ(json.Status, 3);
+  EXPECT_EQ(
+      json.Out.find("{\"answer\": \"none\", \"rows\": null, \"second\": null, \"seconds\": 0."),
+      0U);
+  EXPECT_NE(json.Out.find("\n{\"answer\": \"several\", \"rows\": [[2, "), std::string::npos);
+  EXPECT_EQ(RunWith("complete", "8 1 6\n3 . 7\n4 . 8\n").Out, "none\n")
+      << "the rules are the positive ones unless the numbers are different";
+  EXPECT_EQ(RunWith("complete --rules positive --sum 30", "12 . .\n. 10 .\n. . .\n").Status, 0);
+  EXPECT_EQ(
+      RunWith("complete --rules positive --sum 30 --limit-to-9", ". . .\n. . .\n. . .\n").Status,
+      3);
+  std::string hard;
+  for (int row = 0; row < 12; ++row) {
+    for (int column = 0; column < 12; ++column)
+      hard += column == (row + 1) % 12 ? std::to_string(row * 9 + 3) + " " : ". ";
+    hard += "\n";
+  }
+  const Outcome open = RunWith("complete --seconds 0.01", hard + "\n8 1 .\n. 5 .\n. . .\n");
+  EXPECT_EQ(open.Status, 4);
+  EXPECT_EQ(open.Out.find("unsettled\n"), 0U);
+  EXPECT_EQ(RunWith("complete --seconds 0").Status, 2);
+  EXPECT_EQ(RunWith("complete --rules odd").Status, 2);
+  EXPECT_EQ(RunWith("complete --corner 3").Status, 2);
+}
+
 }  // namespace
 }  // namespace numorra

@@ -12,13 +12,7 @@ StoredSquare StoredSquareOf(const Board& board);
 /// Shows a stored square as a board of the Variable mode, recounted without a word and open to
 /// play; the boxes follow. A base above what 16 bits take is held there.
 ///
-/// Its target is the stored total. Without one it is, rounded as totals are:
-/// - the sum of the first row when there are no gaps;
-/// - the normal total when its numbers are different, whole and within 1 to n x n: a square with
-/// gaps of
-///   which the rules are the normal ones;
-/// - the sum of the first row without a gap;
-/// - what the sum box says.
+/// Its target and rules are its aim (AimOf), or what the sum box says.
 void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square);
 
 }  // namespace numorra

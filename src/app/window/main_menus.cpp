@@ -87,6 +87,7 @@ void MainWindow::BuildMenus() {
             beside([this] { properties_->setVisible(properties_->isHidden()); }),
             true}});
   BuildStudyMenu();
+  BuildPuzzleMenu();
   AddMenu(menuBar(), "&Help",
           {{"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents), beside([this] {
               (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();

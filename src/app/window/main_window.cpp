@@ -78,7 +78,9 @@ MainWindow::MainWindow(const World& world)
       boardPlace_(new QStackedLayout),
       menu_(new BoardMenu(this)),
       state_(new StateLine),
+      searchBar_(new SearchBar(solution_)),
       stage_(*solve_, runner_),
+      searchStage_(*searchBar_, runner_),
       cellEntry_(board_, dialogs_),
       edit_(board_, dialogs_, random_, history_),
       List2(random_),
@@ -390,7 +392,7 @@ void MainWindow::ShowState() {
   solve_->SolveAgain->setEnabled(board_.SolveMode == ModeVariable && solveCommand_.CanSolveAgain());
   for (QWidget* button : {corners_->DoCor1, corners_->DoCor2})
     button->setEnabled(board_.Shown());
-  for (QAction* item : QList<QAction*>{saveItem_, exportItem_, checkItem_} + relatives_)
+  for (QAction* item : QList<QAction*>{saveItem_, exportItem_, checkItem_} + needBoard_)
     item->setEnabled(board_.Shown());
   const auto showStep = [](QAction* item, const QString& caption, bool can,
                            const std::string& step) {

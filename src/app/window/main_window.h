@@ -15,6 +15,7 @@
 #include "app/window/grid_view.h"
 #include "app/window/limit_frame.h"
 #include "app/window/properties_panel.h"
+#include "app/window/search_stage.h"
 #include "app/window/solve_frame.h"
 #include "app/window/square_frame.h"
 #include "app/window/state_line.h"
@@ -63,6 +64,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void ArrangeFrames();
   void BuildMenus();
   void BuildStudyMenu();
+  void BuildPuzzleMenu();
   void BuildPropertiesPanel();
   void FollowProperties();
   void StudyBoard();
@@ -119,12 +121,13 @@ class MainWindow : public QMainWindow, private BuildOptions {
   QStackedLayout* boardPlace_;
   BoardMenu* menu_;
   StateLine* state_;
+  SearchBar* searchBar_;
   QWidget* leftColumn_ = nullptr;
   ViewControl* size_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
   std::optional<int> widenedBy_;  ///< by so many pixels for the panel; nothing while it is hidden
   bool studied_ = false;          ///< the panel shows what the board is now
-  QList<QAction*> relatives_;     ///< the menu items that need a board
+  QList<QAction*> needBoard_;     ///< the menu items that work on one
   QAction* undoItem_ = nullptr;
   QAction* redoItem_ = nullptr;
   QAction* saveItem_ = nullptr;
@@ -132,6 +135,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   QAction* checkItem_ = nullptr;
 
   WindowStage stage_;
+  SearchStage searchStage_;
   CellEntry cellEntry_;
   EditCommands edit_;
   ListBoy List2;

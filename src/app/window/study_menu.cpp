@@ -31,7 +31,7 @@ void MainWindow::BuildStudyMenu() {
                 {},
                 onBoard("Standard Form", [this] { BringToStandardForm(board_, dialogs_); })},
                {}});
-  relatives_ = menu->actions().first(3);
+  needBoard_ += menu->actions().first(3);
   const auto add = [this](QMenu* to, const auto& square, auto layOut) {
     QAction* item = Named(square.Name, to->addAction(square.Caption));
     connect(item, &QAction::triggered, this, [this, &square, layOut] {

@@ -1,0 +1,119 @@
+#include "app/play/fill_gaps.h"
+
+#include <chrono>
+
+#include "app/board/numbers.h"
+#include "app/board/totals_check.h"
+#include "app/play/lay_out.h"
+
+namespace numorra {
+namespace {
+
+constexpr std::int64_t kNodesForAnEntry = 500;
+constexpr double kSecondsForEntries = 2;
+
+void Show(Board& board, const Puzzle& solved) {
+  const RedrawLock lock(board.grid);
+  board.ReadGrid();
+  std::size_t cell = 0;
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    if (board.grid.Text(r, c).empty()) {
+      board.BoardValues(r, c) = static_cast<double>(solved.Cells[cell]);
+    }
+    ++cell;
+  });
+  board.ShowBoard();
+  RefreshTotals(board);
+}
+
+std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Random& random,
+                    BuildStage& stage) {
+  const std::vector<Place> entries = EntriesInTheWay(puzzle, givens, random, stage);
+  if (entries.empty()) return "nothing can fill these gaps";
+  std::string why = "nothing can fill these gaps: ";
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const auto cell =
+        static_cast<std::size_t>((entries[i].Row - 1) * puzzle.Order + entries[i].Column - 1);
+    why +=
+        (i > 0 ? ", or " : "") + std::to_string(puzzle.Cells[cell]) + " in " + NameOf(entries[i]);
+  }
+  return why + " cannot stay";
+}
+
+std::string Seconds(double seconds) {
+  return "not settled in " + Decimal(seconds) + " seconds";
+}
+
+/// The search for the board, gone on with when the player wants it.
+SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& stage,
+                          Random& random) {
+  SearchResult result = Solve(puzzle, {.Seconds = kFirstSearch}, random, stage);
+  const auto* open = std::get_if<NotSettled>(&result);
+  if (!open) return result;
+  const std::string question = (open->Found ? "a way was found; whether it is the only one was "
+                                            : "whether the gaps can be filled was ") +
+                               Seconds(kFirstSearch) + "\ngo on for " + Decimal(kLongSearch) +
+                               " seconds more?";
+  if (!dialogs.Ask(question)) return result;
+  SearchResult second = Solve(puzzle, {.Seconds = kLongSearch}, random, stage);
+  auto* still = std::get_if<NotSettled>(&second);
+  if (still && !still->Found) still->Found = open->Found;
+  if (still) {
+    dialogs.Tell((still->Found ? "whether this is the only way was "
+                               : "whether the gaps can be filled was ") +
+                 Seconds(kLongSearch));
+  }
+  return second;
+}
+
+}  // namespace
+
+std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const std::vector<bool>& givens,
+                                   Random& random, BuildStage& stage) {
+  constexpr std::size_t kMostNamed = 3;
+  std::vector<Place> entries;
+  Puzzle without = puzzle;
+  const auto start = std::chrono::steady_clock::now();
+  for (std::size_t cell = 0; cell < puzzle.Cells.size() && entries.size() < kMostNamed; ++cell) {
+    if (puzzle.Cells[cell] == 0 || (!givens.empty() && givens[cell])) continue;
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+    if (passed.count() > kSecondsForEntries) break;
+    without.Cells[cell] = 0;
+    const SearchResult result = Solve(without, {.Nodes = kNodesForAnEntry}, random, stage);
+    const auto* open = std::get_if<NotSettled>(&result);
+    const bool possible =
+        open ? open->Found.has_value() : !std::holds_alternative<NoSolution>(result);
+    if (possible) entries.push_back(puzzle.PlaceOf(static_cast<int>(cell)));
+    without.Cells[cell] = puzzle.Cells[cell];
+  }
+  return entries;
+}
+
+void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stage, Random& random) {
+  if (!board.HasGaps()) {
+    dialogs.Tell("the board has no gaps to fill");
+    return;
+  }
+  const StoredSquare stored = StoredSquareOf(board);
+  const auto read = PuzzleOf(stored, limitToNine && board.Asked == Rules::Positive);
+  if (const auto* against = std::get_if<AgainstRules>(&read)) {
+    dialogs.Tell("nothing can fill these gaps: " + against->Why);
+    return;
+  }
+  const auto& puzzle = std::get<Puzzle>(read);
+  random.Reseed();
+  const BusyPointer busy(stage);
+  const SearchResult result = SearchLonger(puzzle, dialogs, stage, random);
+  if (const auto* one = std::get_if<OneSolution>(&result)) {
+    Show(board, one->Solved);
+  } else if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
+    Show(board, several->First);
+    dialogs.Tell("this is one of several ways to fill the gaps");
+  } else if (const auto* open = std::get_if<NotSettled>(&result)) {
+    if (open->Found) Show(board, *open->Found);
+  } else {
+    dialogs.Tell(WhyNone(puzzle, stored.Givens, random, stage));
+  }
+}
+
+}  // namespace numorra

@@ -1,0 +1,103 @@
+#include "cli/complete_squares.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iomanip>
+#include <ostream>
+#include <sstream>
+
+#include "app/board/numbers.h"
+#include "app/board/random.h"
+#include "cli/read_squares.h"
+#include "cli/square_format.h"
+#include "files/aim.h"
+#include "puzzle/search.h"
+
+namespace numorra {
+namespace {
+
+/// An answer in the words of the output.
+struct Completed {
+  const char* Answer;
+  Completion Status;
+  std::optional<Puzzle> First = {};
+  std::optional<Puzzle> Second = {};
+  std::string Why = {};
+};
+
+Completed AnswerOf(const SearchResult& result) {
+  if (const auto* one = std::get_if<OneSolution>(&result)) {
+    return {"one", Completion::Completed, one->Solved};
+  }
+  if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
+    return {"several", Completion::Completed, several->First, several->Second};
+  }
+  if (const auto* open = std::get_if<NotSettled>(&result)) {
+    return {"unsettled", Completion::Unsettled, open->Found};
+  }
+  return {"none", Completion::Impossible};
+}
+
+Completed Complete(StoredSquare square, const SquareRequest& request, Random& random) {
+  if (request.Sum) square.Total = *request.Sum;
+  if (request.RulesWanted) square.Asked = *request.RulesWanted;
+  if (const auto aim = AimOf(square)) {
+    square.Total = aim->Target;
+    if (!request.RulesWanted) square.Asked = aim->Asked;
+  }
+  const auto puzzle = PuzzleOf(square, request.LimitToNine);
+  if (const auto* against = std::get_if<AgainstRules>(&puzzle)) {
+    return {"none", Completion::Impossible, {}, {}, against->Why};
+  }
+  SilentStage stage;
+  return AnswerOf(Solve(std::get<Puzzle>(puzzle), {.Seconds = request.Seconds}, random, stage));
+}
+
+std::string RowsOf(const std::optional<Puzzle>& puzzle) {
+  if (!puzzle) return "null";
+  std::string rows = "[";
+  for (std::size_t cell = 0; cell < puzzle->Cells.size(); ++cell) {
+    const bool first = cell % static_cast<std::size_t>(puzzle->Order) == 0;
+    rows += (cell == 0 ? "[" : first ? "], [" : ", ") + std::to_string(puzzle->Cells[cell]);
+  }
+  return rows + "]]";
+}
+
+void Write(const Completed& completed, double seconds, const SquareRequest& request,
+           std::ostream& out) {
+  if (request.Format == SquareFormat::Json) {
+    std::ostringstream time;
+    time << std::fixed << std::setprecision(3) << seconds;
+    out << "{\"answer\": \"" << completed.Answer << "\", \"rows\": " << RowsOf(completed.First)
+        << ", \"second\": " << RowsOf(completed.Second) << ", \"seconds\": " << time.str() << "}\n";
+    return;
+  }
+  out << completed.Answer << (completed.Why.empty() ? "" : ": ") << completed.Why << "\n";
+  for (const auto& square : {completed.First, completed.Second}) {
+    if (!square) continue;
+    out << "\n";
+    WriteSquare(out, StoredSquareOf(*square, false), SquareFormat::Text);
+  }
+}
+
+}  // namespace
+
+Completion CompleteSquares(const SquareRequest& request, const Streams& streams) {
+  TickingClock clock(request.Seed.value_or(0));
+  ClockSeededRandom random(clock);
+  auto worst = Completion::Completed;
+  bool first = true;
+  const bool allRead = ReadSquares(request.File, streams, [&](const StoredSquare& square) {
+    const auto start = std::chrono::steady_clock::now();
+    const Completed completed = Complete(square, request, random);
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+    if (request.Format == SquareFormat::Text && !first) streams.Out << "\n";
+    first = false;
+    Write(completed, passed.count(), request, streams.Out);
+    streams.Out.flush();
+    worst = std::max(worst, completed.Status);
+  });
+  return allRead ? worst : std::max(worst, Completion::Unreadable);
+}
+
+}  // namespace numorra

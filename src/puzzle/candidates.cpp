@@ -1,0 +1,322 @@
+#include "puzzle/candidates.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <numeric>
+
+namespace numorra {
+namespace {
+
+constexpr int kBits = 64;
+
+/// The least that different numbers add up to, the i-th of them at least low[i]; `low` in order.
+/// One of them, at `without`, does not count.
+std::int64_t LeastWithout(const std::vector<std::int64_t>& low, std::size_t without,
+                          bool different) {
+  std::int64_t sum = 0;
+  std::int64_t last = std::numeric_limits<std::int64_t>::min() / 2;
+  for (std::size_t i = 0; i < low.size(); ++i) {
+    if (i == without) continue;
+    last = different ? std::max(low[i], last + 1) : low[i];
+    sum += last;
+  }
+  return sum;
+}
+
+}  // namespace
+
+Candidates::Candidates(const Puzzle& puzzle)
+    : order_(puzzle.Order),
+      most_(puzzle.Most()),
+      map_(LineMap::Of(puzzle.Order)),
+      gaps_(static_cast<int>(puzzle.Cells.size())),
+      values_(puzzle.Cells.size()),
+      low_(puzzle.Cells.size(), 1),
+      high_(puzzle.Cells.size(), most_),
+      count_(puzzle.Cells.size(), most_),
+      rest_(At(map_.Lines()), puzzle.Target),
+      open_(At(map_.Lines()), puzzle.Order),
+      touched_(At(map_.Lines())) {
+  if (puzzle.Asked == Rules::Normal) {
+    words_ = At(static_cast<int>(most_)) / kBits + 1;
+    bits_.assign(values_.size() * words_, ~std::uint64_t{0});
+    for (int cell = 0; cell < Cells(); ++cell) {
+      Bits(cell)[0] &= ~std::uint64_t{1};
+      const auto used = static_cast<int>(most_) % kBits + 1;
+      if (used < kBits) Bits(cell)[words_ - 1] &= (std::uint64_t{1} << used) - 1;
+    }
+  }
+  for (int line = 0; line < map_.Lines(); ++line)
+    Touch(line);
+  for (int cell = 0; cell < Cells(); ++cell) {
+    const std::int64_t number = puzzle.Cells[At(cell)];
+    if (number != 0 && !Put(cell, number)) impossible_ = true;
+  }
+}
+
+bool Candidates::Allows(int cell, std::int64_t number) const {
+  if (number < Low(cell) || number > High(cell)) return false;
+  return !IsNormal() || (Bits(cell)[number / kBits] >> (number % kBits) & 1) != 0;
+}
+
+std::vector<int> Candidates::GapsOf(int line) const {
+  std::vector<int> gaps;
+  for (const int cell : map_.CellsOf(line)) {
+    if (Value(cell) == 0) gaps.push_back(cell);
+  }
+  return gaps;
+}
+
+void Candidates::Touch(int line) {
+  if (touched_[At(line)] != 0) return;
+  touched_[At(line)] = 1;
+  waiting_.push_back(line);
+}
+
+void Candidates::Save(int cell, bool placed, std::size_t word) {
+  trail_.push_back({cell, placed, static_cast<std::uint32_t>(word),
+                    IsNormal() ? Bits(cell)[word] : 0, Low(cell), High(cell), Count(cell)});
+}
+
+void Candidates::UndoTo(std::size_t mark) {
+  for (; trail_.size() > mark; trail_.pop_back()) {
+    const Change& change = trail_.back();
+    const int cell = change.Cell;
+    if (change.Placed) {
+      for (const int line : map_.LinesOf(cell)) {
+        rest_[At(line)] += Value(cell);
+        ++open_[At(line)];
+      }
+      values_[At(cell)] = 0;
+      ++gaps_;
+    }
+    low_[At(cell)] = change.Low;
+    high_[At(cell)] = change.High;
+    count_[At(cell)] = change.Count;
+    if (IsNormal()) Bits(cell)[change.Word] = change.Bits;
+  }
+  for (const int line : waiting_)
+    touched_[At(line)] = 0;
+  waiting_.clear();
+}
+
+/// Brings ends and count in line with the set, and wakes the cell's lines.
+bool Candidates::Narrowed(int cell) {
+  if (IsNormal()) {
+    const std::uint64_t* const bits = Bits(cell);
+    std::int64_t count = 0;
+    std::int64_t low = 0;
+    std::int64_t high = -1;
+    for (std::size_t word = 0; word < words_; ++word) {
+      if (bits[word] == 0) continue;
+      const auto first = static_cast<std::int64_t>(word * kBits);
+      if (count == 0) low = first + std::countr_zero(bits[word]);
+      high = first + kBits - 1 - std::countl_zero(bits[word]);
+      count += std::popcount(bits[word]);
+    }
+    low_[At(cell)] = low;
+    high_[At(cell)] = high;
+    count_[At(cell)] = count;
+  } else {
+    count_[At(cell)] = std::max<std::int64_t>(0, High(cell) - Low(cell) + 1);
+  }
+  for (const int line : map_.LinesOf(cell))
+    Touch(line);
+  return Count(cell) > 0;
+}
+
+bool Candidates::Remove(int cell, std::int64_t number) {
+  if (!Allows(cell, number)) return true;
+  if (IsNormal()) {
+    Save(cell, false, At(static_cast<int>(number / kBits)));
+    Bits(cell)[number / kBits] &= ~(std::uint64_t{1} << (number % kBits));
+    return Narrowed(cell);
+  }
+  if (number == Low(cell)) return Restrict(cell, number + 1, High(cell));
+  return number != High(cell) || Restrict(cell, Low(cell), number - 1);
+}
+
+bool Candidates::Restrict(int cell, std::int64_t low, std::int64_t high) {
+  if (low <= Low(cell) && high >= High(cell)) return true;
+  low = std::max(low, Low(cell));
+  high = std::min(high, High(cell));
+  KeepBits(cell, low, high);
+  if (!IsNormal()) Save(cell, false);
+  low_[At(cell)] = low;
+  high_[At(cell)] = high;
+  return Narrowed(cell);
+}
+
+/// Takes what is not from low to high out of the cell's set.
+void Candidates::KeepBits(int cell, std::int64_t low, std::int64_t high) {
+  for (std::size_t word = 0; word < words_; ++word) {
+    const auto first = static_cast<std::int64_t>(word * kBits);
+    const auto last = first + kBits - 1;
+    std::uint64_t kept = high < first || low > last ? 0 : ~std::uint64_t{0};
+    if (kept != 0 && low > first) kept &= ~std::uint64_t{0} << (low - first);
+    if (kept != 0 && high < last) kept &= (std::uint64_t{1} << (high - first + 1)) - 1;
+    if ((Bits(cell)[word] & ~kept) == 0) continue;
+    Save(cell, false, word);
+    Bits(cell)[word] &= kept;
+  }
+}
+
+bool Candidates::Put(int cell, std::int64_t number) {
+  if (Value(cell) != 0) return Value(cell) == number;
+  if (!Allows(cell, number)) return false;
+  KeepBits(cell, number, number);
+  Save(cell, true);
+  values_[At(cell)] = low_[At(cell)] = high_[At(cell)] = number;
+  count_[At(cell)] = 1;
+  --gaps_;
+  for (const int line : map_.LinesOf(cell)) {
+    rest_[At(line)] -= number;
+    --open_[At(line)];
+    Touch(line);
+  }
+  if (!IsNormal()) return true;
+  bool possible = true;
+  for (int other = 0; other < Cells(); ++other) {
+    if (other != cell && Value(other) == 0) possible = Remove(other, number) && possible;
+  }
+  return possible;
+}
+
+bool Candidates::ApplyPair(int line, int a, int b) {
+  const std::int64_t sum = Rest(line);
+  if (!Restrict(a, sum - High(b), sum - Low(b)) || !Restrict(b, sum - High(a), sum - Low(a))) {
+    return false;
+  }
+  if (!IsNormal()) return true;
+  for (const auto& [cell, other] : {std::pair(a, b), std::pair(b, a)}) {
+    for (std::int64_t number = Low(cell); number <= High(cell); ++number) {
+      if (!Allows(cell, number)) continue;
+      const bool stays = number != sum - number && Allows(other, sum - number);
+      if (!stays && !Remove(cell, number)) return false;
+    }
+  }
+  return true;
+}
+
+bool Candidates::ApplyBounds(int line) {
+  const std::int64_t sum = Rest(line);
+  // The most that numbers add up to is the least of their negatives.
+  for (const bool least : {true, false}) {
+    ordered_.clear();
+    for (const int cell : map_.CellsOf(line)) {
+      if (Value(cell) == 0) ordered_.emplace_back(least ? Low(cell) : -High(cell), cell);
+    }
+    std::sort(ordered_.begin(), ordered_.end());
+    bounds_.clear();
+    for (const auto& [bound, cell] : ordered_)
+      bounds_.push_back(bound);
+    const std::int64_t plain = std::accumulate(bounds_.begin(), bounds_.end(), std::int64_t{0});
+    for (std::size_t i = 0; i < ordered_.size(); ++i) {
+      const int cell = ordered_[i].second;
+      const std::int64_t others = IsNormal() ? LeastWithout(bounds_, i, true) : plain - bounds_[i];
+      const bool possible = least ? Restrict(cell, Low(cell), sum - others)
+                                  : Restrict(cell, sum + others, High(cell));
+      if (!possible) return false;
+    }
+  }
+  return true;
+}
+
+bool Candidates::Apply(int line, Grade grade, bool put) {
+  const int open = open_[At(line)];
+  if (open == 0) return Rest(line) == 0;
+  if (open > 2) return grade < Grade::Hard || ApplyBounds(line);
+  int gaps[2] = {};
+  int found = 0;
+  for (const int cell : map_.CellsOf(line)) {
+    if (Value(cell) == 0) gaps[found++] = cell;
+  }
+  if (open == 1) {
+    if (put) return Put(gaps[0], Rest(line));
+    return grade == Grade::Easy ? Allows(gaps[0], Rest(line))
+                                : Restrict(gaps[0], Rest(line), Rest(line));
+  }
+  return grade == Grade::Easy || ApplyPair(line, gaps[0], gaps[1]);
+}
+
+bool Candidates::FindSinglePlace(Single& found) const {
+  once_.assign(words_, 0);
+  twice_.assign(words_, 0);
+  for (int cell = 0; cell < Cells(); ++cell) {
+    const std::uint64_t* const bits = Bits(cell);
+    for (std::size_t word = 0; word < words_; ++word) {
+      twice_[word] |= once_[word] & bits[word];
+      once_[word] |= bits[word];
+    }
+  }
+  std::int64_t places = 0;
+  for (const std::uint64_t word : once_)
+    places += std::popcount(word);
+  if (places < most_) return false;
+  for (int cell = 0; cell < Cells(); ++cell) {
+    if (Value(cell) != 0) continue;
+    for (std::size_t word = 0; word < words_; ++word) {
+      const std::uint64_t alone = Bits(cell)[word] & ~twice_[word];
+      if (alone == 0) continue;
+      found = {cell, static_cast<std::int64_t>(word * kBits) + std::countr_zero(alone)};
+      return true;
+    }
+  }
+  return true;
+}
+
+/// Puts what has one possibility left: numbers of cells, and cells of numbers.
+bool Candidates::PutSingles(bool& changed) {
+  for (int cell = 0; cell < Cells(); ++cell) {
+    if (Value(cell) != 0 || Count(cell) != 1) continue;
+    changed = true;
+    if (!Put(cell, Low(cell))) return false;
+  }
+  if (changed || !IsNormal()) return true;
+  Single single;
+  if (!FindSinglePlace(single)) return false;
+  if (single.Cell < 0) return true;
+  changed = true;
+  return Put(single.Cell, single.Number);
+}
+
+bool Candidates::Propagate(Grade grade) {
+  failedLine_ = -1;
+  if (impossible_) return false;
+  for (;;) {
+    while (!waiting_.empty()) {
+      const int line = waiting_.back();
+      waiting_.pop_back();
+      touched_[At(line)] = 0;
+      if (Apply(line, grade, true)) continue;
+      failedLine_ = line;
+      return false;
+    }
+    if (grade == Grade::Easy) return true;
+    bool changed = false;
+    if (!PutSingles(changed)) return false;
+    if (!changed) return true;
+  }
+}
+
+bool Candidates::Narrow(Grade grade) {
+  failedLine_ = -1;
+  if (impossible_) return false;
+  while (!waiting_.empty()) {
+    const int line = waiting_.back();
+    waiting_.pop_back();
+    touched_[At(line)] = 0;
+    if (Apply(line, grade, false)) continue;
+    failedLine_ = line;
+    return false;
+  }
+  return true;
+}
+
+std::int64_t LeastSum(std::vector<std::int64_t> low, bool different) {
+  std::sort(low.begin(), low.end());
+  return LeastWithout(low, low.size(), different);
+}
+
+}  // namespace numorra

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "app/board/place.h"
+#include "files/stored_square.h"
+
+namespace numorra {
+
+/// A board with gaps that are to be filled so that every row, column and main diagonal adds up to
+/// the target.
+struct Puzzle {
+  /// The largest target: all sums of a board then fit into 64 bits with room to spare.
+  static constexpr std::int64_t kMostTarget = 1'000'000'000'000'000;
+
+  int Order = 0;
+  std::int64_t Target = 0;
+  Rules Asked = Rules::Normal;
+  bool LimitToNine = false;         ///< no number above 9; for the positive rules
+  std::vector<std::int64_t> Cells;  ///< in reading order; 0 is a gap
+
+  /// The largest number that may stand in it.
+  std::int64_t Most() const;
+
+  int Gaps() const;
+
+  Place PlaceOf(int cell) const { return {cell / Order + 1, cell % Order + 1}; }
+};
+
+/// A square that breaks its rules as it stands: one sentence, and the cell where there is one.
+struct AgainstRules {
+  std::string Why;
+  std::optional<Place> Where = {};
+};
+
+/// The square as a puzzle. Its total is the target, the normal one where it has none.
+std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool limitToNine = false);
+
+/// The puzzle with its gaps as a square to be shown or stored. `givens`: its numbers are givens.
+StoredSquare StoredSquareOf(const Puzzle& puzzle, bool givens);
+
+/// The target of the normal squares of an order.
+std::int64_t NormalTotal(int order);
+
+}  // namespace numorra

@@ -1,0 +1,211 @@
+#include "puzzle/rules.h"
+
+#include <algorithm>
+#include <array>
+
+#include "study/line.h"
+
+namespace numorra {
+namespace {
+
+constexpr std::array kGrades = {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert};
+
+std::string LineName(const Candidates& board, int line) {
+  return NameOf(MagicLines(board.Order())[static_cast<std::size_t>(line)], board.Order());
+}
+
+std::string PlaceName(const Candidates& board, int cell) {
+  return NameOf(Place{cell / board.Order() + 1, cell % board.Order() + 1});
+}
+
+std::vector<Place> PlacesOf(const Candidates& board, const std::vector<int>& cells) {
+  std::vector<Place> places;
+  for (const int cell : cells)
+    places.push_back({cell / board.Order() + 1, cell % board.Order() + 1});
+  return places;
+}
+
+std::vector<Place> PlaceOf(const Candidates& board, int cell) {
+  return PlacesOf(board, {cell});
+}
+
+std::optional<Step> SingleGap(const Puzzle& puzzle, const Candidates& board) {
+  for (int line = 0; line < board.Map().Lines(); ++line) {
+    const std::vector<int> gaps = board.GapsOf(line);
+    if (gaps.size() != 1 || !board.Allows(gaps[0], board.Rest(line))) continue;
+    const std::string number = std::to_string(board.Rest(line));
+    return Step{gaps[0], board.Rest(line), Grade::Easy, PlacesOf(board, board.Map().CellsOf(line)),
+                std::to_string(puzzle.Order - 1) + " numbers stand in " + LineName(board, line) +
+                    ", the total is " + std::to_string(puzzle.Target) + ": the last is " + number};
+  }
+  return std::nullopt;
+}
+
+/// The numbers that a line leaves for one of its gaps, and how that is said.
+struct LineTakes {
+  std::vector<std::int64_t> Numbers;
+  std::string Said;
+};
+
+std::string Range(std::int64_t low, std::int64_t high) {
+  return low == high ? std::to_string(low) : std::to_string(low) + " to " + std::to_string(high);
+}
+
+/// Of `numbers`, those that the line takes in `cell`, given what its other gaps may hold.
+LineTakes Taken(const Candidates& board, int line, int cell,
+                const std::vector<std::int64_t>& numbers) {
+  std::vector<int> others = board.GapsOf(line);
+  std::erase(others, cell);
+  const std::int64_t rest = board.Rest(line);
+  LineTakes takes;
+  if (others.size() == 1) {
+    for (const std::int64_t number : numbers) {
+      if (rest != 2 * number && board.Allows(others[0], rest - number)) {
+        takes.Numbers.push_back(number);
+      }
+    }
+    takes.Said = LineName(board, line) + " needs " + std::to_string(rest) + " for this cell and " +
+                 PlaceName(board, others[0]) + ", which can hold " +
+                 Range(board.Low(others[0]), board.High(others[0]));
+    if (!board.IsNormal()) {
+      takes.Numbers.clear();
+      for (const std::int64_t number : numbers) {
+        if (board.Allows(others[0], rest - number)) takes.Numbers.push_back(number);
+      }
+    }
+    return takes;
+  }
+  const auto sumOf = [&](auto boundOf) {
+    std::vector<std::int64_t> bounds;
+    for (const int other : others)
+      bounds.push_back(boundOf(other));
+    return LeastSum(std::move(bounds), board.IsNormal());
+  };
+  const std::int64_t high = rest - sumOf([&](int other) { return board.Low(other); });
+  const std::int64_t low = rest + sumOf([&](int other) { return -board.High(other); });
+  for (const std::int64_t number : numbers) {
+    if (number >= low && number <= high) takes.Numbers.push_back(number);
+  }
+  takes.Said = LineName(board, line) + " needs " + std::to_string(rest) + " for its " +
+               std::to_string(others.size() + 1) + " gaps, so it takes " +
+               Range(std::max<std::int64_t>(1, low), high) + " here";
+  return takes;
+}
+
+/// A gap that is narrowed down to one number: the lines that do it, strongest first.
+std::string WhyOnly(const Candidates& board, int cell, std::int64_t number,
+                    std::vector<std::int64_t> numbers) {
+  std::string why;
+  while (numbers.size() > 1) {
+    LineTakes best;
+    for (const int line : board.Map().LinesOf(cell)) {
+      LineTakes takes = Taken(board, line, cell, numbers);
+      if (takes.Numbers.size() < (best.Said.empty() ? numbers.size() : best.Numbers.size())) {
+        best = std::move(takes);
+      }
+    }
+    if (best.Said.empty()) break;  // what is left is ruled out with the numbers elsewhere
+    why += (why.empty() ? "" : "; ") + best.Said;
+    numbers = std::move(best.Numbers);
+  }
+  const std::string which = board.IsNormal() ? "of the missing numbers only " : "only ";
+  return (why.empty() ? "" : why + ": ") + which + std::to_string(number) + " fits " +
+         PlaceName(board, cell);
+}
+
+/// The numbers that stand nowhere yet; by the positive rules all that the cell could hold at first.
+std::vector<std::int64_t> NumbersFor(const Puzzle& puzzle, const Candidates& board, int cell) {
+  constexpr std::int64_t kMostListed = 10'000;
+  std::vector<std::int64_t> numbers;
+  if (!board.IsNormal()) {
+    for (std::int64_t number = 1; number <= std::min(puzzle.Most(), kMostListed); ++number)
+      numbers.push_back(number);
+    return numbers;
+  }
+  const Candidates fresh(puzzle);
+  for (std::int64_t number = 1; number <= puzzle.Most(); ++number) {
+    if (fresh.Allows(cell, number)) numbers.push_back(number);
+  }
+  return numbers;
+}
+
+/// A gap with one number, or a number with one place, once the grade's rules have narrowed the
+/// gaps.
+std::optional<Step> OnePossibility(const Puzzle& puzzle, Grade grade) {
+  Candidates board(puzzle);
+  if (!board.Narrow(grade)) return std::nullopt;
+  for (int cell = 0; cell < board.Cells(); ++cell) {
+    if (board.Value(cell) != 0 || board.Count(cell) != 1) continue;
+    const std::int64_t number = board.Low(cell);
+    return Step{cell, number, grade, PlaceOf(board, cell),
+                WhyOnly(board, cell, number, NumbersFor(puzzle, board, cell))};
+  }
+  Candidates::Single single;
+  if (!board.IsNormal() || !board.FindSinglePlace(single) || single.Cell < 0) return std::nullopt;
+  return Step{single.Cell, single.Number, grade, PlaceOf(board, single.Cell),
+              std::to_string(single.Number) + " can stand in " + PlaceName(board, single.Cell) +
+                  " alone: the lines of every other gap rule it out"};
+}
+
+/// A gap of which all numbers but one lead to a contradiction.
+std::optional<Step> Tried(const Puzzle& puzzle) {
+  constexpr std::int64_t kMostTried = 12;
+  Candidates board(puzzle);
+  if (!board.Propagate(Grade::Hard)) return std::nullopt;
+  for (std::int64_t count = 2; count <= kMostTried; ++count) {
+    for (int cell = 0; cell < board.Cells(); ++cell) {
+      if (board.Value(cell) != 0 || board.Count(cell) != count) continue;
+      std::vector<std::int64_t> possible;
+      for (std::int64_t number = board.Low(cell); number <= board.High(cell); ++number) {
+        if (!board.Allows(cell, number)) continue;
+        const std::size_t mark = board.Mark();
+        if (board.Put(cell, number) && board.Propagate(Grade::Hard)) possible.push_back(number);
+        board.UndoTo(mark);
+      }
+      if (possible.size() == 1) {
+        return Step{cell, possible[0], Grade::Expert, PlaceOf(board, cell),
+                    WhyTried(board, cell, possible[0])};
+      }
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Step> NextStep(const Puzzle& puzzle, Grade most) {
+  {
+    Candidates board(puzzle);
+    if (auto step = SingleGap(puzzle, board)) return step;
+  }
+  for (const Grade grade : {Grade::Medium, Grade::Hard}) {
+    if (grade > most) return std::nullopt;
+    if (auto step = OnePossibility(puzzle, grade)) return step;
+  }
+  return most == Grade::Expert ? Tried(puzzle) : std::nullopt;
+}
+
+std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number) {
+  return "every number but " + std::to_string(number) + " in " + PlaceName(candidates, cell) +
+         " leads, when it is tried, to a line that cannot be completed";
+}
+
+const char* NameOf(Grade grade) {
+  constexpr std::array kNames = {"easy", "medium", "hard", "expert"};
+  return kNames[static_cast<std::size_t>(grade)];
+}
+
+std::optional<Grade> GradeNamed(const std::string& name) {
+  const auto* const found = std::find_if(kGrades.begin(), kGrades.end(),
+                                         [&](Grade grade) { return NameOf(grade) == name; });
+  return found == kGrades.end() ? std::nullopt : std::optional(*found);
+}
+
+const char* RulesOf(Grade grade) {
+  constexpr std::array kRules = {
+      "lines with a single gap", "lines with two gaps, numbers with one place left",
+      "how much and how little the gaps of a line can hold", "trying numbers out"};
+  return kRules[static_cast<std::size_t>(grade)];
+}
+
+}  // namespace numorra

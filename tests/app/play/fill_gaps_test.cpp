@@ -1,0 +1,81 @@
+#include "app/play/fill_gaps.h"
+
+#include "app/play/lay_out.h"
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+class FillGapsTest : public PlayTest {
+ protected:
+  /// 0 is a gap; what is in `givens` is given.
+  void LayOutGaps(const std::string& rows, double target, Rules rules = Rules::Normal,
+                  const std::vector<int>& givens = {}) {
+    const slow::Rows parsed = ParseRows(rows);
+    StoredSquare square{.Order = static_cast<int>(parsed.size()), .Total = target, .Asked = rules};
+    for (const auto& row : parsed) {
+      for (const double number : row)
+        square.Cells.push_back(number == 0 ? std::nullopt : std::optional(number));
+    }
+    if (!givens.empty()) square.Givens.resize(square.Cells.size());
+    for (const int cell : givens)
+      square.Givens[static_cast<std::size_t>(cell)] = true;
+    LayOut(board_, boxes_, square);
+  }
+  void Fill(bool limit = false) { FillGaps(board_, limit, dialogs_, stage_, random_); }
+
+  PlainBoxes boxes_;
+  NotingStage stage_;
+};
+
+TEST_F(FillGapsTest, FillsAndSaysWhatItIs) {
+  LayOutGaps("8 1 0 / 0 5 0 / 0 0 0", 15, Rules::Normal, {0});
+  Fill();
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
+  EXPECT_TRUE(board_.grid.Given(1, 1));
+  EXPECT_EQ(board_.grid.VerdictOf(0, 0), Verdict::Right);
+  EXPECT_FALSE(stage_.Busy);
+  Fill();
+  LayOutGaps("0 0 0 / 0 5 0 / 0 0 0", 15);
+  Fill();
+  EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
+  LayOutGaps("0 0 0 / 0 10 0 / 0 0 0", 30, Rules::Positive);
+  Fill(true);
+  EXPECT_TRUE(board_.HasGaps());
+  Fill();
+  EXPECT_EQ(slow::WhyNotMagic(ShownRows(board_.grid), 30), "");
+  EXPECT_EQ(
+      dialogs_.Take(),
+      (Messages{"the board has no gaps to fill", "this is one of several ways to fill the gaps",
+                "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
+                "to 9",
+                "this is one of several ways to fill the gaps"}));
+}
+
+TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
+  LayOutGaps("8 1 0 / 0 4 0 / 0 0 0", 15, Rules::Normal, {0, 1});
+  Fill();
+  LayOutGaps("8 1 0 / 0 4 0 / 0 0 0", 15, Rules::Normal, {0, 1, 4});
+  Fill();
+  LayOutGaps("8 8 0 / 0 4 0 / 0 0 0", 15);
+  Fill();
+  EXPECT_EQ(dialogs_.Take(),
+            (Messages{"nothing can fill these gaps: 4 in row 2, column 2 cannot stay",
+                      "nothing can fill these gaps",
+                      "nothing can fill these gaps: 8 in row 1, column 2 stands in row 1, column 1 "
+                      "too"}));
+  EXPECT_EQ(At(1, 3), "");
+}
+
+/// A stopped search leaves the board as it was, and nothing behind.
+TEST_F(FillGapsTest, IsSuperseded) {
+  LayOutGaps("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 1", 34);
+  stage_.YieldsLeft = 20;
+  EXPECT_THROW(Fill(), Superseded);
+  EXPECT_FALSE(stage_.Busy);
+  EXPECT_EQ(At(4, 4), "1");
+  EXPECT_EQ(At(1, 1), "");
+}
+
+}  // namespace
+}  // namespace numorra

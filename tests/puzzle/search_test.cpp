@@ -1,0 +1,262 @@
+#include "puzzle/search.h"
+
+#include <gtest/gtest.h>
+#include <numeric>
+
+#include "puzzle/rules.h"
+#include "study/special.h"
+#include "support/boards.h"
+#include "support/squares_of_order4.h"
+#include "support/stand_ins.h"
+
+namespace numorra {
+namespace {
+
+/// Gaps are 0.
+Puzzle PuzzleFrom(const std::string& rows, std::int64_t target, Rules rules = Rules::Normal,
+                  bool limit = false) {
+  const slow::Rows parsed = ParseRows(rows);
+  Puzzle puzzle{static_cast<int>(parsed.size()), target, rules, limit, {}};
+  for (const auto& row : parsed) {
+    for (const double number : row)
+      puzzle.Cells.push_back(static_cast<std::int64_t>(number));
+  }
+  return puzzle;
+}
+
+slow::Rows RowsOf(const Puzzle& puzzle) {
+  slow::Rows rows(static_cast<std::size_t>(puzzle.Order));
+  for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell)
+    rows[cell / rows.size()].push_back(static_cast<double>(puzzle.Cells[cell]));
+  return rows;
+}
+
+bool Fits(const Puzzle& solved, const Puzzle& clues) {
+  for (std::size_t cell = 0; cell < clues.Cells.size(); ++cell) {
+    if (clues.Cells[cell] != 0 && clues.Cells[cell] != solved.Cells[cell]) return false;
+  }
+  return true;
+}
+
+/// A normal square with only `share` per cent of its numbers left.
+Puzzle WithGaps(Puzzle puzzle, int share, Random& random) {
+  std::vector<std::size_t> cells(puzzle.Cells.size());
+  std::iota(cells.begin(), cells.end(), 0U);
+  Shuffle(std::span(cells), random);
+  cells.resize(cells.size() - cells.size() * static_cast<std::size_t>(share) / 100);
+  for (const std::size_t cell : cells)
+    puzzle.Cells[cell] = 0;
+  return puzzle;
+}
+
+Puzzle SquareOf(int order, Random& random) {
+  Puzzle puzzle{order, NormalTotal(order), Rules::Normal, false, {}};
+  for (const double number : BorderedSquare(order, random))
+    puzzle.Cells.push_back(static_cast<std::int64_t>(number));
+  return puzzle;
+}
+
+class SearchTest : public testing::Test {
+ protected:
+  SearchResult Find(const Puzzle& puzzle, std::int64_t nodes = 20'000) {
+    return Solve(puzzle, {.Nodes = nodes}, random_, stage_);
+  }
+  SeededRandom random_{8};
+  SilentStage stage_;
+};
+
+TEST_F(SearchTest, CountsWhatIsKnown) {
+  const Puzzle empty3 = PuzzleFrom("0 0 0 / 0 0 0 / 0 0 0", 15);
+  EXPECT_EQ(CountSolutions(empty3, 100, {}, stage_), 8);
+  Puzzle positive = empty3;
+  positive.Asked = Rules::Positive;
+  EXPECT_EQ(CountSolutions(positive, 100, {}, stage_), 41);
+  EXPECT_EQ(CountSolutions(positive, 10, {}, stage_), 10) << "up to the most that is asked for";
+  const Puzzle empty4 = PuzzleFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
+  EXPECT_EQ(CountSolutions(empty4, 10'000, {}, stage_), 7040);
+  EXPECT_EQ(CountSolutions(empty4, 10'000, {.Nodes = 100}, stage_), std::nullopt);
+  EXPECT_EQ(
+      CountSolutions(PuzzleFrom("4 0 0 16 / 0 0 0 0 / 0 0 0 0 / 1 0 0 13", 34), 99, {}, stage_), 4);
+}
+
+/// The list of all squares of order 4 is the complete checker.
+TEST_F(SearchTest, AgreesWithTheListOfAllSquares) {
+  const std::vector<slow::Rows> all = slow::ImagesOfOrder4();
+  ASSERT_EQ(all.size(), 7040U);
+  for (int share = 20; share <= 100; share += 10) {
+    for (int draw = 0; draw < 6; ++draw) {
+      Puzzle whole = PuzzleFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
+      const slow::Rows& chosen = all[static_cast<std::size_t>(random_.Between(0, 7039))];
+      for (std::size_t cell = 0; cell < 16; ++cell)
+        whole.Cells[cell] = static_cast<std::int64_t>(chosen[cell / 4][cell % 4]);
+      Puzzle puzzle = WithGaps(whole, share, random_);
+      if (draw % 2 == 1) std::swap(puzzle.Cells[0], puzzle.Cells[6]);
+      const auto solutions = std::count_if(all.begin(), all.end(), [&](const slow::Rows& square) {
+        for (std::size_t cell = 0; cell < 16; ++cell) {
+          const auto clue = static_cast<double>(puzzle.Cells[cell]);
+          if (clue != 0 && clue != square[cell / 4][cell % 4]) return false;
+        }
+        return true;
+      });
+      const SearchResult result = Find(puzzle);
+      EXPECT_EQ(result.index(), solutions == 0 ? 2U : solutions == 1 ? 0U : 1U) << solutions;
+      EXPECT_EQ(CountSolutions(puzzle, 9999, {}, stage_), solutions);
+    }
+  }
+}
+
+TEST_F(SearchTest, GivesBackSquaresThatFitTheClues) {
+  for (int order = 5; order <= 8; ++order) {
+    for (const int share : {0, 30, 50, 70, 90}) {
+      const Puzzle clues = WithGaps(SquareOf(order, random_), share, random_);
+      const SearchResult result = Find(clues, 3000);
+      std::vector<Puzzle> found;
+      if (const auto* one = std::get_if<OneSolution>(&result)) found = {one->Solved};
+      if (const auto* two = std::get_if<SeveralSolutions>(&result)) {
+        found = {two->First, two->Second};
+        EXPECT_NE(two->First.Cells, two->Second.Cells);
+      }
+      if (const auto* open = std::get_if<NotSettled>(&result)) {
+        if (open->Found) found = {*open->Found};
+      }
+      EXPECT_FALSE(std::holds_alternative<NoSolution>(result)) << order << ", " << share;
+      EXPECT_TRUE(share < 70 || std::holds_alternative<OneSolution>(result) || found.size() == 2);
+      for (const Puzzle& solved : found) {
+        EXPECT_TRUE(Fits(solved, clues));
+        EXPECT_EQ(slow::WhyNotNormal(RowsOf(solved)), "");
+      }
+    }
+  }
+}
+
+TEST_F(SearchTest, NeverTakesTheImpossibleForPossible) {
+  for (int order = 4; order <= 6; ++order) {
+    for (const int share : {50, 70, 90}) {
+      const Puzzle whole = SquareOf(order == 4 ? 5 : order, random_);
+      Puzzle clues = WithGaps(whole, share, random_);
+      std::vector<std::size_t> given;
+      for (std::size_t cell = 0; cell < clues.Cells.size(); ++cell) {
+        if (clues.Cells[cell] != 0) given.push_back(cell);
+      }
+      std::swap(clues.Cells[given[0]], clues.Cells[given.back()]);
+      const SearchResult result = Find(clues, 200'000);
+      if (const auto* one = std::get_if<OneSolution>(&result)) {
+        EXPECT_EQ(slow::WhyNotNormal(RowsOf(one->Solved)), "") << "another square has these clues";
+      } else if (!std::holds_alternative<SeveralSolutions>(result)) {
+        EXPECT_TRUE(std::holds_alternative<NoSolution>(result)) << order << ", " << share;
+      }
+    }
+  }
+}
+
+TEST_F(SearchTest, KnowsThePositiveRules) {
+  const auto indexOf = [&](const std::string& rows, std::int64_t target, bool limit) {
+    return Find(PuzzleFrom(rows, target, Rules::Positive, limit)).index();
+  };
+  EXPECT_EQ(indexOf("5 0 0 / 0 5 0 / 0 0 0", 15, true), 1U);
+  EXPECT_EQ(indexOf("5 4 0 / 0 5 0 / 0 0 0", 15, true), 0U);
+  EXPECT_EQ(indexOf("13 0 0 / 0 5 0 / 0 0 0", 15, false), 2U);
+  EXPECT_EQ(indexOf("0 0 0 / 0 0 0 / 0 0 0", 30, true), 2U) << "the middle would be 10";
+  EXPECT_EQ(indexOf("0 0 0 / 0 0 0 / 0 0 0", 16, false), 2U) << "a third of 16 is no whole number";
+  EXPECT_EQ(indexOf("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 1'000'000'000'000, false), 1U);
+}
+
+TEST_F(SearchTest, StopsWhenItIsTold) {
+  const Puzzle empty = PuzzleFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
+  EXPECT_TRUE(std::holds_alternative<NotSettled>(Find(empty, 1)));
+  EXPECT_TRUE(std::holds_alternative<NotSettled>(Solve(empty, {.Seconds = 0}, random_, stage_)));
+  NotingStage stage;
+  stage.YieldsLeft = 10;
+  EXPECT_THROW(Solve(empty, {}, random_, stage), Superseded);
+  SeededRandom a(1), b(1);
+  const Puzzle large = WithGaps(SquareOf(9, random_), 20, random_);
+  const SearchResult first = Solve(large, {.Nodes = 3000}, a, stage_);
+  const SearchResult again = Solve(large, {.Nodes = 3000}, b, stage_);
+  EXPECT_EQ(first.index(), again.index());
+  Puzzle huge{50, NormalTotal(50), Rules::Normal, false, std::vector<std::int64_t>(2500)};
+  EXPECT_TRUE(std::holds_alternative<SeveralSolutions>(Find(huge))) << "by construction";
+  huge.Cells[7] = 5;
+  EXPECT_TRUE(std::holds_alternative<NotSettled>(Find(huge)));
+}
+
+TEST(Puzzle, SaysWhatBreaksTheRules) {
+  const auto why = [](const StoredSquare& square, bool limit = false) {
+    const auto puzzle = PuzzleOf(square, limit);
+    const auto* against = std::get_if<AgainstRules>(&puzzle);
+    return against ? against->Why : "";
+  };
+  StoredSquare square{
+      .Order = 3, .Cells = {8, {}, 6, {}, 5, {}, {}, {}, 2}, .Asked = Rules::Normal};
+  EXPECT_EQ(why(square), "");
+  square.Cells[4] = 8;
+  EXPECT_EQ(why(square), "8 in row 2, column 2 stands in row 1, column 1 too");
+  square.Cells[4] = 10;
+  EXPECT_EQ(why(square), "10 in row 2, column 2 is none of the numbers 1 to 9");
+  square.Total = 16;
+  EXPECT_EQ(why(square), "the sum 16 is not that of the numbers 1 to 9, which is 15");
+  square.Asked = Rules::Positive;
+  EXPECT_EQ(why(square), "");
+  EXPECT_EQ(why(square, true), "10 in row 2, column 2 is none of the numbers 1 to 9");
+  square.Cells[4] = 0.5;
+  EXPECT_EQ(why(square), "0.5 in row 2, column 2 is no whole number of 1 or more");
+  square.Total = 15.5;
+  EXPECT_EQ(why(square), "the sum 15.5 is none that whole numbers of 1 or more make here");
+}
+
+TEST(Rules, GiveTheNextNumberAndWhy) {
+  struct Case {
+    const char* Rows;
+    Grade Needed;
+    const char* Why;
+  };
+  const Case cases[] = {
+      {"8 1 6 / 3 0 0 / 0 0 0", Grade::Easy,
+       "2 numbers stand in column 1, the total is 15: the last is 4"},
+      {"8 0 0 / 0 5 0 / 0 0 0", Grade::Easy,
+       "2 numbers stand in the main diagonal that falls, the total is 15: the last is 2"},
+      {"8 1 0 / 0 0 0 / 0 0 0", Grade::Easy,
+       "2 numbers stand in row 1, the total is 15: the last is 6"},
+      {"9 0 0 / 0 0 0 / 0 0 0", Grade::Medium, ""},
+      {"0 0 0 / 0 0 0 / 0 8 1", Grade::Easy,
+       "2 numbers stand in row 3, the total is 15: the last is 6"},
+  };
+  for (const Case& c : cases) {
+    const auto step = NextStep(PuzzleFrom(c.Rows, 15), Grade::Expert);
+    if (std::string(c.Why).empty()) {
+      EXPECT_EQ(step, std::nullopt) << c.Rows;
+      continue;
+    }
+    ASSERT_TRUE(step) << c.Rows;
+    EXPECT_EQ(step->Needed, c.Needed);
+    EXPECT_EQ(step->Why, c.Why);
+  }
+}
+
+/// Every step leads on to the only solution, and no easier grade would have found one.
+TEST(Rules, LeadToTheSolution) {
+  SeededRandom random(4);
+  SilentStage stage;
+  std::array<int, 4> needed{};
+  for (int order = 3; order <= 7; ++order) {
+    for (int draw = 0; draw < 10; ++draw) {
+      Puzzle puzzle = WithGaps(SquareOf(std::max(5, order), random), 30 + 5 * draw, random);
+      const SearchResult result = Solve(puzzle, {.Nodes = 5000}, random, stage);
+      const auto* one = std::get_if<OneSolution>(&result);
+      if (!one) continue;
+      while (const auto step = NextStep(puzzle, Grade::Expert)) {
+        auto& cell = puzzle.Cells[static_cast<std::size_t>(step->Cell)];
+        ASSERT_EQ(cell, 0);
+        ASSERT_EQ(step->Number, one->Solved.Cells[static_cast<std::size_t>(step->Cell)])
+            << step->Why;
+        EXPECT_NE(step->Why, "");
+        ++needed[static_cast<std::size_t>(step->Needed)];
+        cell = step->Number;
+      }
+    }
+  }
+  for (const int count : needed)
+    EXPECT_GT(count, 0);
+}
+
+}  // namespace
+}  // namespace numorra
