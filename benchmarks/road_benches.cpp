@@ -1,4 +1,7 @@
 #include "benches.h"
+#include "puzzle/fresh_square.h"
+#include "puzzle/making.h"
+#include "puzzle/rules.h"
 #include "puzzle/search.h"
 #include "study/report.h"
 #include "study/special.h"
@@ -24,6 +27,26 @@ void FillBoard(benchmark::State& state) {
     benchmark::DoNotOptimize(Solve(puzzle, {}, random, stage));
 }
 
+template <Grade Wanted>
+void MakePuzzleOfOrder8(benchmark::State& state) {
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  const Puzzle square = *FreshSquare({8}, random, stage);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(MakePuzzle(square, {Wanted}, random, stage));
+}
+
+void FindHint(benchmark::State& state) {
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  const auto made = MakePuzzle(*FreshSquare({8}, random, stage), {Grade::Hard}, random, stage);
+  const Puzzle& puzzle = std::get<MadePuzzle>(made).Clues;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(NextStep(puzzle, Grade::Expert));
+}
+
 struct Measured {
   Road TheRoad;
   void (*Measure)(benchmark::State& state);
@@ -32,6 +55,9 @@ struct Measured {
 constexpr Measured kRoads[] = {
     {{"study of a bordered square of order 50", 0.05}, StudySquare},
     {{"filling a board of order 8, 70 % given, one solution", 1}, FillBoard},
+    {{"making a hard puzzle of order 8", 1}, MakePuzzleOfOrder8<Grade::Hard>},
+    {{"making an expert puzzle of order 8", 50}, MakePuzzleOfOrder8<Grade::Expert>},
+    {{"a hint for a hard puzzle of order 8", 1}, FindHint},
 };
 
 }  // namespace

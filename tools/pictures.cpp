@@ -1,12 +1,15 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
 #include <QMenu>
 #include <QTreeWidget>
 
 #include "app/window/main_window.h"
+#include "print/worksheet.h"
+#include "puzzle/fresh_square.h"
 
 /// Takes the documents' pictures: drives the real window, offscreen, with a clock of its own, and
 /// saves what it shows.
@@ -79,6 +82,40 @@ void ShowPanel(MainWindow& window) {
       tree->findItems("ultramagic", Qt::MatchExactly | Qt::MatchRecursive).front());
 }
 
+/// Why a number follows in a hard puzzle.
+void ShowHint(MainWindow& window) {
+  QGuiApplication::clipboard()->setText("NP1MBASXYY956Y0JJN");
+  window.findChild<QAction*>("Pastex")->trigger();
+  for (int press = 0; press < 5; ++press)
+    window.findChild<QAction*>("Hintx")->trigger();
+}
+
+/// Six fresh puzzles on a page.
+void SaveWorksheet(Album& documents, numorra::Clock& clock) {
+  numorra::ClockSeededRandom random(clock);
+  numorra::SilentStage stage;
+  std::vector<numorra::MadePuzzle> puzzles;
+  for (const auto grade : {numorra::Grade::Easy, numorra::Grade::Medium, numorra::Grade::Hard}) {
+    for (int puzzle = 0; puzzle < 2; ++puzzle) {
+      puzzles.push_back(std::get<numorra::MadePuzzle>(
+          numorra::MakePuzzle(*numorra::FreshSquare({4}, random, stage), {grade}, random, stage)));
+    }
+  }
+  constexpr double kPixelsPerMillimetre = 3;
+  const QSizeF paper(210, 297);
+  QLabel page;
+  QPixmap picture((paper * kPixelsPerMillimetre).toSize());
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.scale(kPixelsPerMillimetre, kPixelsPerMillimetre);
+  numorra::Worksheet(puzzles, {.PerPage = 6, .Title = "Magic squares"})
+      .PaintPage(painter, paper, 0);
+  painter.end();
+  page.setPixmap(picture);
+  page.resize(picture.size());
+  documents.Save(page, "worksheet");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -126,6 +163,11 @@ int main(int argc, char** argv) {
   documents.Save(window, "properties");
   help.Save(window, "properties", 560);
   window.findChild<QAction*>("Propertiesx")->trigger();
+  ShowHint(window);
+  documents.Save(window, "hint");
+  help.Save(window, "hint", 560);
+  SaveWorksheet(documents, clock);
+  window.findChild<QAction*>("UndoMovex")->trigger();
   Click(window, "SolveManual");
   window.findChild<QAction*>("PrintSol")->trigger();
   documents.Save(*window.findChild<QDialog*>("PrintSolution"), "print");

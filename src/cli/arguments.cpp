@@ -7,6 +7,7 @@
 
 #include "app/board/orders.h"
 #include "files/stored_square.h"
+#include "puzzle/rules.h"
 
 namespace numorra {
 
@@ -16,6 +17,7 @@ const char* const kUsage =
        numorra-square --kind TERM --size N [options]
        numorra-square study [FILE|-] [--format text|json]
        numorra-square complete [FILE|-] [options]
+       numorra-square puzzle --size N [options]
 
 Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
 any total, 4 x 4 with a top row of your choice, or of a special kind.
@@ -51,6 +53,17 @@ Its exit status is 3 for none and 4 for what was not settled in time.
   --limit-to-9             no number above 9, by the positive rules
   --seconds S              how long to search for each square: 3
   --format text|json       JSON is one object a line
+
+puzzle makes squares with gaps that have one solution. Their codes, up to size
+10, are read by study, complete and the window.
+
+  --size N                 how many cells a side has
+  --grade easy|medium|hard|expert
+                           the hardest rules that it needs
+  --clues K                how many numbers are given; without it as few as can be
+  --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
+  --count M, --seed N      so many; the same seed gives the same ones
+  --format text|csv|json   JSON is one object a line, with its solution
 )";
 
 namespace {
@@ -96,7 +109,7 @@ class Reader {
 
   void TakeCommand() {
     static constexpr std::pair<const char*, Command> kCommands[] = {
-        {"study", Command::Study}, {"complete", Command::Complete}};
+        {"study", Command::Study}, {"complete", Command::Complete}, {"puzzle", Command::Puzzle}};
     for (const auto& [name, command] : kCommands) {
       if (words_.empty() || words_[0] != name) continue;
       request_.Command = command;
@@ -105,7 +118,8 @@ class Reader {
   }
 
   bool IsFile(const std::string& word) const {
-    return request_.Command != Command::Build && (word == "-" || !word.starts_with("-"));
+    const bool reads = request_.Command == Command::Study || request_.Command == Command::Complete;
+    return reads && (word == "-" || !word.starts_with("-"));
   }
 
   void TakeFile() {
@@ -115,6 +129,10 @@ class Reader {
   }
 
   void CheckTogether() {
+    if (request_.Command == Command::Puzzle) {
+      if (request_.Size == 0) Fail("the size is missing");
+      return;
+    }
     if (request_.Command != Command::Build) {
       if (request_.Format == SquareFormat::Csv) Fail("the format is text or json");
       return;
@@ -149,21 +167,24 @@ class Reader {
     constexpr auto kBuild = Command::Build;
     constexpr auto kStudy = Command::Study;
     constexpr auto kComplete = Command::Complete;
+    constexpr auto kPuzzle = Command::Puzzle;
     static const Option kOptions[] = {
-        {"--size", &Reader::Size, {kBuild}},
-        {"--sum", &Reader::Sum, {kBuild, kComplete}},
-        {"--limit-to-9", &Reader::LimitToNine, {kBuild, kComplete}},
+        {"--size", &Reader::Size, {kBuild, kPuzzle}},
+        {"--sum", &Reader::Sum, {kBuild, kComplete, kPuzzle}},
+        {"--limit-to-9", &Reader::LimitToNine, {kBuild, kComplete, kPuzzle}},
         {"--corner", &Reader::Corner, {kBuild}},
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
         {"--vary", &Reader::Vary, {kBuild}},
-        {"--count", &Reader::Count, {kBuild}},
-        {"--seed", &Reader::Seed, {kBuild}},
+        {"--count", &Reader::Count, {kBuild, kPuzzle}},
+        {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
+        {"--grade", &Reader::GradeOption, {kPuzzle}},
+        {"--clues", &Reader::Clues, {kPuzzle}},
         {"--rules", &Reader::RulesOption, {kComplete}},
         {"--seconds", &Reader::Seconds, {kComplete}},
-        {"--format", &Reader::Format, {kBuild, kStudy, kComplete}},
-        {"--help", &Reader::Help, {kBuild, kStudy, kComplete}},
-        {"--version", &Reader::Version, {kBuild, kStudy, kComplete}},
+        {"--format", &Reader::Format, {kBuild, kStudy, kComplete, kPuzzle}},
+        {"--help", &Reader::Help, {kBuild, kStudy, kComplete, kPuzzle}},
+        {"--version", &Reader::Version, {kBuild, kStudy, kComplete, kPuzzle}},
     };
     for (const Option& option : kOptions) {
       const bool has =
@@ -213,6 +234,17 @@ class Reader {
     for (const SpecialKind& kind : kSpecialKinds)
       kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
     Fail("the kind is one of " + kinds);
+  }
+
+  void GradeOption() {
+    const auto grade = GradeNamed(Value());
+    if (!grade) Fail("the grade is easy, medium, hard or expert");
+    request_.Wanted = grade.value_or(Grade::Easy);
+  }
+
+  void Clues() {
+    request_.Clues = NumberIn<int>(Value());
+    if (!request_.Clues || *request_.Clues < 0) Fail("the clues are a whole number from 0 on");
   }
 
   void RulesOption() {

@@ -8,6 +8,7 @@
 
 #include "app/board/rules.h"
 #include "generate/top_row_square.h"
+#include "puzzle/candidates.h"
 #include "study/special.h"
 
 namespace numorra {
@@ -15,7 +16,7 @@ namespace numorra {
 enum class SquareFormat { Text, Csv, Json };
 
 /// What the first word asks for: squares to be built, when it is none of the others.
-enum class SquareCommand : std::uint8_t { Build, Study, Complete };
+enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle };
 
 /// What a command line asks for. Which of the options there are is up to the command.
 struct SquareRequest {
@@ -33,6 +34,10 @@ struct SquareRequest {
   bool Vary = false;
   int Count = 1;
   std::optional<std::uint64_t> Seed;
+
+  /// What puzzles are to be like, whose squares are normal ones or have the sum.
+  Grade Wanted = Grade::Easy;
+  std::optional<int> Clues;
 
   /// Where squares are to be read from; "-" is the standard input.
   std::string File = "-";

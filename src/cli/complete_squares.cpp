@@ -54,13 +54,7 @@ Completed Complete(StoredSquare square, const SquareRequest& request, Random& ra
 }
 
 std::string RowsOf(const std::optional<Puzzle>& puzzle) {
-  if (!puzzle) return "null";
-  std::string rows = "[";
-  for (std::size_t cell = 0; cell < puzzle->Cells.size(); ++cell) {
-    const bool first = cell % static_cast<std::size_t>(puzzle->Order) == 0;
-    rows += (cell == 0 ? "[" : first ? "], [" : ", ") + std::to_string(puzzle->Cells[cell]);
-  }
-  return rows + "]]";
+  return puzzle ? JsonRowsOf(StoredSquareOf(*puzzle, false)) : "null";
 }
 
 void Write(const Completed& completed, double seconds, const SquareRequest& request,

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "files/square_text.h"
+#include "puzzle/code.h"
 
 namespace numorra {
 namespace {
@@ -26,10 +27,11 @@ std::string TextOf(const std::string& file, std::istream& standardInput) {
 
 bool ReadSquares(const std::string& file, const Streams& streams,
                  const std::function<void(const StoredSquare&)>& visit) {
-  const auto squares = ReadSquareTexts(TextOf(file, streams.In));
-  if (squares.empty()) throw Impossible{"there is no square to read"};
+  const std::vector<TextBlock> blocks = SquareBlocks(TextOf(file, streams.In));
+  if (blocks.empty()) throw Impossible{"there is no square to read"};
   bool all = true;
-  for (const auto& square : squares) {
+  for (const auto& [text, firstLine] : blocks) {
+    const auto square = ReadSquareOrCode(text, firstLine);
     if (const auto* unreadable = std::get_if<Unreadable>(&square)) {
       streams.Err << kProgramName << unreadable->Why << "\n";
       all = false;

@@ -15,7 +15,8 @@ std::string TextOf(const std::optional<double>& cell) {
 
 }  // namespace
 
-void WriteSquare(std::ostream& out, const StoredSquare& square, SquareFormat format) {
+void WriteSquare(std::ostream& out, const StoredSquare& square, SquareFormat format,
+                 const std::string& remark) {
   if (format != SquareFormat::Text) {
     out << (format == SquareFormat::Json ? JsonOf(square) : CsvOf(square));
     return;
@@ -28,7 +29,8 @@ void WriteSquare(std::ostream& out, const StoredSquare& square, SquareFormat for
     out << (first ? (cell > 0 ? "\n" : "") : " ") << std::setw(static_cast<int>(width))
         << TextOf(square.Cells[cell]);
   }
-  out << "\n\ntotal " << Decimal(square.Total.value_or(0)) << "\n";
+  out << "\n\ntotal " << Decimal(square.Total.value_or(0)) << (remark.empty() ? "" : ", ") << remark
+      << "\n";
 }
 
 }  // namespace numorra

@@ -6,6 +6,7 @@
 #include "cli/arguments.h"
 #include "cli/build_squares.h"
 #include "cli/complete_squares.h"
+#include "cli/make_puzzles.h"
 #include "cli/study_squares.h"
 
 namespace numorra {
@@ -37,6 +38,9 @@ int Run(const SquareRequest& request, const Streams& streams) {
       return StudySquares(request, streams) ? kDone : kFailed;
     case SquareCommand::Complete:
       return StatusOf(CompleteSquares(request, streams));
+    case SquareCommand::Puzzle:
+      MakePuzzles(request, streams);
+      return kDone;
     case SquareCommand::Build:
       break;
   }

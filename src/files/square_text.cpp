@@ -151,7 +151,14 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   return square;
 }
 
-std::variant<StoredSquare, Unreadable> ReadFrom(const std::string& text, std::size_t firstLine) {
+bool SaysTotal(const Line& line) {
+  return line.Text.starts_with("total ");
+}
+
+}  // namespace
+
+std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
+                                                      std::size_t firstLine) {
   try {
     return Read(text, firstLine);
   } catch (const Unreadable& unreadable) {
@@ -159,37 +166,19 @@ std::variant<StoredSquare, Unreadable> ReadFrom(const std::string& text, std::si
   }
 }
 
-bool SaysTotal(const Line& line) {
-  return line.Text.starts_with("total ");
-}
-
-}  // namespace
-
-std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text) {
-  return ReadFrom(text, 1);
-}
-
-std::vector<std::variant<StoredSquare, Unreadable>> ReadSquareTexts(const std::string& text) {
+std::vector<TextBlock> SquareBlocks(const std::string& text) {
   std::string plain = text;
   ReplaceAll(plain, "\r\n", "\n");
   ReplaceAll(plain, "\r", "\n");
-  std::vector<std::variant<StoredSquare, Unreadable>> squares;
-  std::string block;
-  std::size_t firstLine = 0;
-  const auto endBlock = [&] {
-    if (!block.empty()) squares.push_back(ReadFrom(block, firstLine));
-    block.clear();
-  };
+  std::vector<TextBlock> blocks;
+  bool within = false;
   for (const Line& line : AllLines(plain)) {
-    if (IsEmpty(line) || SaysTotal(line)) {
-      endBlock();
-      continue;
-    }
-    if (block.empty()) firstLine = line.Number;
-    block += line.Text + "\n";
+    const bool between = IsEmpty(line) || SaysTotal(line);
+    if (!between && !within) blocks.push_back({"", line.Number});
+    within = !between;
+    if (within) blocks.back().Text += line.Text + "\n";
   }
-  endBlock();
-  return squares;
+  return blocks;
 }
 
 }  // namespace numorra

@@ -26,11 +26,19 @@ inline constexpr const char* kTooLongForASquare = "this is too long for a square
 /// - UTF-8: a byte-order mark, unbreakable blanks and the sign U+2212 as minus are taken too.
 /// - A gap is nothing, or one of - . _ between separators.
 /// - A number has at most kMostCellDigits digits.
-std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text);
+///
+/// `firstLine`: the number of the text's first line, from which lines are named.
+std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
+                                                      std::size_t firstLine = 1);
 
-/// Reads squares one below the other, with empty lines between them. Lines are named by their
-/// number in the whole text. A line that says "total 34", as this program's own texts do, belongs
-/// to no square.
-std::vector<std::variant<StoredSquare, Unreadable>> ReadSquareTexts(const std::string& text);
+/// A part of a text, and the number of its first line.
+struct TextBlock {
+  std::string Text;
+  std::size_t FirstLine = 1;
+};
+
+/// The squares of a text that has one below the other, with empty lines between them. A line that
+/// says "total 34", as this program's own texts do, belongs to no square.
+std::vector<TextBlock> SquareBlocks(const std::string& text);
 
 }  // namespace numorra

@@ -39,15 +39,19 @@ std::string JsonOf(const StoredSquare& square) {
                      std::to_string(kJsonVersion) + R"(, "order": )" + std::to_string(square.Order);
   if (square.Total) json += R"(, "total": )" + Decimal(*square.Total);
   json += R"(, "rules": ")" + std::string(NameOf(square.Asked)) + R"(", "rows": )";
-  json += JsonRows(square.Order, [&](std::size_t cell) {
-    return square.Cells[cell] ? Decimal(*square.Cells[cell]) : "null";
-  });
+  json += JsonRowsOf(square);
   if (!square.Givens.empty()) {
     json += R"(, "givens": )" + JsonRows(square.Order, [&](std::size_t cell) {
               return std::string(square.Givens[cell] ? "true" : "false");
             });
   }
   return json + "}\n";
+}
+
+std::string JsonRowsOf(const StoredSquare& square) {
+  return JsonRows(square.Order, [&](std::size_t cell) {
+    return square.Cells[cell] ? Decimal(*square.Cells[cell]) : "null";
+  });
 }
 
 std::string CsvOf(const StoredSquare& square) {

@@ -30,6 +30,9 @@ struct Unreadable {
 /// with null for a gap, and "givens" only where there are any.
 std::string JsonOf(const StoredSquare& square);
 
+/// Its rows alone: [[8, null, 6], ...].
+std::string JsonRowsOf(const StoredSquare& square);
+
 /// The numbers alone, for spreadsheets: commas between them, a line a row, nothing for a gap.
 std::string CsvOf(const StoredSquare& square);
 

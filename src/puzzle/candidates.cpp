@@ -38,20 +38,50 @@ Candidates::Candidates(const Puzzle& puzzle)
       rest_(At(map_.Lines()), puzzle.Target),
       open_(At(map_.Lines()), puzzle.Order),
       touched_(At(map_.Lines())) {
-  if (puzzle.Asked == Rules::Normal) {
-    words_ = At(static_cast<int>(most_)) / kBits + 1;
-    bits_.assign(values_.size() * words_, ~std::uint64_t{0});
-    for (int cell = 0; cell < Cells(); ++cell) {
-      Bits(cell)[0] &= ~std::uint64_t{1};
-      const auto used = static_cast<int>(most_) % kBits + 1;
-      if (used < kBits) Bits(cell)[words_ - 1] &= (std::uint64_t{1} << used) - 1;
+  for (int cell = 0; cell < Cells(); ++cell) {
+    const std::int64_t number = puzzle.Cells[At(cell)];
+    if (number == 0) continue;
+    if (number < 1 || number > most_) impossible_ = true;
+    values_[At(cell)] = low_[At(cell)] = high_[At(cell)] = number;
+    count_[At(cell)] = 1;
+    --gaps_;
+    for (const int line : map_.LinesOf(cell)) {
+      rest_[At(line)] -= number;
+      --open_[At(line)];
     }
   }
   for (int line = 0; line < map_.Lines(); ++line)
     Touch(line);
+  if (puzzle.Asked == Rules::Normal && !impossible_) StartSets();
+}
+
+/// Gives each gap the numbers that are missing, and each number's cell that number.
+void Candidates::StartSets() {
+  words_ = At(static_cast<int>(most_)) / kBits + 1;
+  bits_.assign(values_.size() * words_, 0);
+  std::vector<std::uint64_t> missing(words_);
+  for (std::int64_t number = 1; number <= most_; ++number)
+    missing[At(static_cast<int>(number / kBits))] |= std::uint64_t{1} << (number % kBits);
   for (int cell = 0; cell < Cells(); ++cell) {
-    const std::int64_t number = puzzle.Cells[At(cell)];
-    if (number != 0 && !Put(cell, number)) impossible_ = true;
+    const std::int64_t number = Value(cell);
+    if (number == 0) continue;
+    const std::uint64_t bit = std::uint64_t{1} << (number % kBits);
+    std::uint64_t& word = missing[At(static_cast<int>(number / kBits))];
+    if ((word & bit) == 0) impossible_ = true;  // it stands in another cell too
+    word &= ~bit;
+    Bits(cell)[number / kBits] = bit;
+  }
+  int first = -1;
+  for (int cell = 0; cell < Cells(); ++cell) {
+    if (Value(cell) != 0) continue;
+    std::copy(missing.begin(), missing.end(), Bits(cell));
+    if (first < 0) {
+      first = cell;
+      impossible_ = !Narrowed(cell) || impossible_;
+    }
+    low_[At(cell)] = Low(first);
+    high_[At(cell)] = High(first);
+    count_[At(cell)] = Count(first);
   }
 }
 
@@ -101,8 +131,10 @@ void Candidates::UndoTo(std::size_t mark) {
   waiting_.clear();
 }
 
-/// Brings ends and count in line with the set, and wakes the cell's lines.
+/// Brings ends and count in line with the set, and wakes the cell's lines to which that matters:
+/// bounds look at the ends alone.
 bool Candidates::Narrowed(int cell) {
+  bool endsMoved = true;
   if (IsNormal()) {
     const std::uint64_t* const bits = Bits(cell);
     std::int64_t count = 0;
@@ -115,14 +147,16 @@ bool Candidates::Narrowed(int cell) {
       high = first + kBits - 1 - std::countl_zero(bits[word]);
       count += std::popcount(bits[word]);
     }
+    endsMoved = low != Low(cell) || high != High(cell);
     low_[At(cell)] = low;
     high_[At(cell)] = high;
     count_[At(cell)] = count;
   } else {
     count_[At(cell)] = std::max<std::int64_t>(0, High(cell) - Low(cell) + 1);
   }
-  for (const int line : map_.LinesOf(cell))
-    Touch(line);
+  for (const int line : map_.LinesOf(cell)) {
+    if (endsMoved || open_[At(line)] <= 2) Touch(line);
+  }
   return Count(cell) > 0;
 }
 
@@ -142,9 +176,11 @@ bool Candidates::Restrict(int cell, std::int64_t low, std::int64_t high) {
   low = std::max(low, Low(cell));
   high = std::min(high, High(cell));
   KeepBits(cell, low, high);
-  if (!IsNormal()) Save(cell, false);
-  low_[At(cell)] = low;
-  high_[At(cell)] = high;
+  if (!IsNormal()) {
+    Save(cell, false);
+    low_[At(cell)] = low;
+    high_[At(cell)] = high;
+  }
   return Narrowed(cell);
 }
 

@@ -34,7 +34,11 @@ std::optional<Step> SingleGap(const Puzzle& puzzle, const Candidates& board) {
     const std::vector<int> gaps = board.GapsOf(line);
     if (gaps.size() != 1 || !board.Allows(gaps[0], board.Rest(line))) continue;
     const std::string number = std::to_string(board.Rest(line));
-    return Step{gaps[0], board.Rest(line), Grade::Easy, PlacesOf(board, board.Map().CellsOf(line)),
+    return Step{gaps[0],
+                board.Rest(line),
+                Grade::Easy,
+                PlacesOf(board, board.Map().CellsOf(line)),
+                LineName(board, line),
                 std::to_string(puzzle.Order - 1) + " numbers stand in " + LineName(board, line) +
                     ", the total is " + std::to_string(puzzle.Target) + ": the last is " + number};
   }
@@ -137,12 +141,20 @@ std::optional<Step> OnePossibility(const Puzzle& puzzle, Grade grade) {
   for (int cell = 0; cell < board.Cells(); ++cell) {
     if (board.Value(cell) != 0 || board.Count(cell) != 1) continue;
     const std::int64_t number = board.Low(cell);
-    return Step{cell, number, grade, PlaceOf(board, cell),
+    return Step{cell,
+                number,
+                grade,
+                PlaceOf(board, cell),
+                PlaceName(board, cell),
                 WhyOnly(board, cell, number, NumbersFor(puzzle, board, cell))};
   }
   Candidates::Single single;
   if (!board.IsNormal() || !board.FindSinglePlace(single) || single.Cell < 0) return std::nullopt;
-  return Step{single.Cell, single.Number, grade, PlaceOf(board, single.Cell),
+  return Step{single.Cell,
+              single.Number,
+              grade,
+              PlaceOf(board, single.Cell),
+              PlaceName(board, single.Cell),
               std::to_string(single.Number) + " can stand in " + PlaceName(board, single.Cell) +
                   " alone: the lines of every other gap rule it out"};
 }
@@ -163,7 +175,11 @@ std::optional<Step> Tried(const Puzzle& puzzle) {
         board.UndoTo(mark);
       }
       if (possible.size() == 1) {
-        return Step{cell, possible[0], Grade::Expert, PlaceOf(board, cell),
+        return Step{cell,
+                    possible[0],
+                    Grade::Expert,
+                    PlaceOf(board, cell),
+                    PlaceName(board, cell),
                     WhyTried(board, cell, possible[0])};
       }
     }

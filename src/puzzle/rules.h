@@ -14,6 +14,7 @@ struct Step {
   std::int64_t Number = 0;
   Grade Needed = Grade::Easy;     ///< the easiest rules that find it
   std::vector<Place> Where = {};  ///< the line, or the cell, to look at
+  std::string WhereName = {};     ///< "row 2"
   std::string Why = {};           ///< one sentence, without its capital and its stop
 };
 

@@ -167,5 +167,22 @@ TEST(SquareProgram, CompletesWhatItReads) {
   EXPECT_EQ(RunWith("complete --corner 3").Status, 2);
 }
 
+TEST(SquareProgram, MakesPuzzles) {
+  const Outcome json = RunWith("puzzle --size 3 --format json --seed 1");
+  EXPECT_EQ(
+      json.Out,
+      "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, \"rules\": "
+      "\"normal\", \"rows\": [[null, null, null], [null, 5, null], [2, 9, null]], \"givens\": "
+      "[[false, false, false], [false, true, false], [true, true, false]], \"solution\": "
+      "[[6, 1, 8], [7, 5, 3], [2, 9, 4]], \"grade\": \"easy\", \"clues\": 3, \"code\": "
+      "\"NP12S3W04\"}\n");
+  const std::string three = RunWith("puzzle --size 5 --grade hard --count 3 --seed 9").Out;
+  EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
+  EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");
+  EXPECT_EQ(RunWith("puzzle --size 5 --clues 3 --seed 1").Status, 1);
+  EXPECT_EQ(RunWith("puzzle --size 5 --grade odd").Status, 2);
+  EXPECT_EQ(RunWith("puzzle --size 4 --sum 90 --format csv --seed 2").Status, 0);
+}
+
 }  // namespace
 }  // namespace numorra

@@ -14,7 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const Arguments arguments = ParseArguments(words);
   if (const auto* bad = std::get_if<BadArguments>(&arguments)) Check(!bad->Message.empty());
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) {
-    Check(request->Top.has_value() != (request->Size >= 3 && request->Size <= 50));
+    const bool sized = request->Size >= 3 && request->Size <= 50;
+    if (request->Command == SquareCommand::Build) Check(request->Top.has_value() != sized);
+    if (request->Command == SquareCommand::Puzzle) Check(sized);
+    Check(request->Count >= 1 && request->Seconds > 0);
     Check(!request->Sum || (*request->Sum >= 1 && *request->Sum <= 32767));
     Check(!request->Corner || *request->Corner >= 1);
   }

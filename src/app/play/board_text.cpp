@@ -1,7 +1,7 @@
 #include "app/play/board_text.h"
 
 #include "app/play/lay_out.h"
-#include "files/square_text.h"
+#include "puzzle/code.h"
 
 namespace numorra {
 
@@ -16,7 +16,7 @@ std::string BoardText(const Board& board) {
 }
 
 bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text) {
-  const auto read = ReadSquareText(text);
+  const auto read = ReadSquareOrCode(text);
   if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
     dialogs.Tell(unreadable->Why);
     return false;

@@ -28,6 +28,10 @@ void MainWindow::BuildMenus() {
            {},
            {"PrintSol", "&Print Solution...", QKeySequence::keyBindings(QKeySequence::Print),
             beside([this] { OpenPrintForm(); })},
+           {"PrintWorksheetx",
+            "Print &Worksheet...",
+            {Qt::CTRL | Qt::SHIFT | Qt::Key_P},
+            beside([this] { OpenWorksheet(); })},
            {},
            // Not every desktop names a standard key for it.
            {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }}});

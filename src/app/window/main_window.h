@@ -9,6 +9,7 @@
 #include "app/play/cell_entry.h"
 #include "app/play/command_history.h"
 #include "app/play/edit_commands.h"
+#include "app/play/hints.h"
 #include "app/play/undo_history.h"
 #include "app/window/board_menu.h"
 #include "app/window/corners_frame.h"
@@ -24,7 +25,9 @@
 #include "generate/solve_command.h"
 #include "generate/top_row_command.h"
 #include "listbox/list_boy.h"
+#include "print/page_printer.h"
 #include "print/sheet_printer.h"
+#include "puzzle/fresh_square.h"
 #include "toolkit/command_runner.h"
 #include "toolkit/file_chooser.h"
 #include "toolkit/message_boxes.h"
@@ -39,6 +42,7 @@ struct World {
   Clock* TimeOfDay = nullptr;
   Dialogs* TheDialogs = nullptr;
   SheetPrinter* Printer = nullptr;
+  PagePrinter* Pages = nullptr;
   FileChooser* Files = nullptr;
   int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
 };
@@ -65,6 +69,14 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void BuildMenus();
   void BuildStudyMenu();
   void BuildPuzzleMenu();
+  void BeginSearch(const char* doing);
+  void ShowRemark(const Remark& remark);
+  void ForgetRemark();
+  SquareWish FreshWish() const;
+  void OpenHideNumbers();
+  void OpenWorksheet();
+  std::optional<Puzzle> PuzzleOnBoard() const;
+  void CopyPuzzleCode();
   void BuildPropertiesPanel();
   void FollowProperties();
   void StudyBoard();
@@ -100,6 +112,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   PaperPrinter paperPrinter_;
   Dialogs& dialogs_;
   SheetPrinter& printer_;
+  PreviewedPages previewedPages_;
+  PagePrinter& pages_;
   FileDialogs fileDialogs_;
   FileChooser& files_;
   CommandRunner runner_;
@@ -121,7 +135,9 @@ class MainWindow : public QMainWindow, private BuildOptions {
   QStackedLayout* boardPlace_;
   BoardMenu* menu_;
   StateLine* state_;
-  SearchBar* searchBar_;
+  BoardBar* searchBar_;
+  BoardBar* remarkBar_;
+  bool remarkIsNew_ = false;  ///< the running command has made it
   QWidget* leftColumn_ = nullptr;
   ViewControl* size_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
@@ -136,6 +152,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
 
   WindowStage stage_;
   SearchStage searchStage_;
+  Hints hints_;
   CellEntry cellEntry_;
   EditCommands edit_;
   ListBoy List2;

@@ -1,21 +1,171 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMenu>
 
+#include "app/board/numbers.h"
+#include "app/board/orders.h"
 #include "app/play/fill_gaps.h"
+#include "app/play/lay_out.h"
+#include "app/window/hide_numbers_form.h"
 #include "app/window/main_window.h"
+#include "app/window/worksheet_form.h"
+#include "puzzle/code.h"
 #include "toolkit/menus.h"
+#include "toolkit/named.h"
 
 namespace numorra {
 
+/// Boards with gaps: made, solved with help, filled.
 void MainWindow::BuildPuzzleMenu() {
-  QMenu* menu = AddMenu(menuBar(), "&Puzzle", {{"FillGapsx", "&Fill Gaps", {}, [this] {
-                                                  RunOnCurrentCell("Fill Gaps", [this] {
-                                                    searchStage_.ShowCount("Filling the gaps");
-                                                    FillGaps(board_, LimitToNine(), dialogs_,
-                                                             searchStage_, random_);
-                                                  });
-                                                }}});
-  needBoard_ += menu->actions();
-  connect(searchBar_->Stop, &QPushButton::clicked, this, [this] { runner_.Run("Stop", [] {}); });
+  const auto remark = [this](const char* name, const char* doing, auto body) {
+    return [this, name, doing, body] {
+      RunOnCurrentCell(name, [this, doing, body] {
+        BeginSearch(doing);
+        ShowRemark(body());
+      });
+    };
+  };
+  QMenu* menu = AddMenu(menuBar(), "&Puzzle",
+                        {{"HideNumbersx",
+                          "&Hide Numbers...",
+                          {},
+                          [this] { runner_.RunBeside([this] { OpenHideNumbers(); }); }},
+                         {"EnterPuzzlex",
+                          "&Enter Your Own",
+                          {},
+                          remark("Enter Your Own", "Looking for solutions",
+                                 [this] { return EnterPuzzle(board_, random_, searchStage_); })},
+                         {},
+                         {"Hintx",
+                          "H&int",
+                          {Qt::CTRL | Qt::Key_H},
+                          remark("Hint", "Looking for a hint", [this] { return hints_.Next(); })},
+                         {"CheckEntriesx",
+                          "&Check Entries",
+                          {},
+                          remark("Check Entries", "Checking the entries",
+                                 [this] { return CheckEntries(board_, random_, searchStage_); })},
+                         {"FillGapsx", "&Fill Gaps", {}, [this] {
+                            RunOnCurrentCell("Fill Gaps", [this] {
+                              BeginSearch("Filling the gaps");
+                              FillGaps(board_, LimitToNine(), dialogs_, searchStage_, random_);
+                            });
+                          }}});
+  needBoard_ += menu->actions().mid(1);
+  connect(searchBar_->Button, &QPushButton::clicked, this, [this] { runner_.Run("Stop", [] {}); });
+  connect(remarkBar_->Button, &QPushButton::clicked, this, &MainWindow::ForgetRemark);
+  state_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  auto* copyCode = Named("CopyPuzzleCodex", new QAction("Copy Puzzle Code", state_));
+  state_->addAction(copyCode);
+  connect(copyCode, &QAction::triggered, this,
+          [this] { runner_.RunBeside([this] { CopyPuzzleCode(); }); });
+  watch_.Tell([this](const Deed& deed) {
+    if (deed.ChangedTheBoard() && !remarkIsNew_) ForgetRemark();
+    remarkIsNew_ = false;
+  });
+}
+
+/// The puzzle that stands on the board: its givens alone where it has any.
+std::optional<Puzzle> MainWindow::PuzzleOnBoard() const {
+  if (!board_.Shown() || !board_.HasGaps()) return std::nullopt;
+  StoredSquare square = StoredSquareOf(board_);
+  for (std::size_t cell = 0; cell < square.Givens.size(); ++cell) {
+    if (!square.Givens[cell]) square.Cells[cell].reset();
+  }
+  auto read = PuzzleOf(square);
+  auto* const puzzle = std::get_if<Puzzle>(&read);
+  return puzzle ? std::optional(std::move(*puzzle)) : std::nullopt;
+}
+
+void MainWindow::CopyPuzzleCode() {
+  const auto puzzle = PuzzleOnBoard();
+  if (!puzzle || puzzle->Order > kMostCodedOrder) {
+    return dialogs_.Tell(
+        "there is a code for boards with gaps, up to size 10, that keep their rules");
+  }
+  QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(*puzzle)));
+}
+
+/// The bar of a search takes the place of an older remark.
+void MainWindow::BeginSearch(const char* doing) {
+  remarkBar_->hide();
+  searchStage_.ShowCount(doing);
+}
+
+/// What is said of the board stays until the board changes; its cells are pointed at.
+void MainWindow::ShowRemark(const Remark& remark) {
+  remarkIsNew_ = true;
+  board_.grid.SetOutlined(remark.Where);
+  const int middle = view_->height() / 2;
+  int lowest = 0;
+  for (const Place place : remark.Where) {
+    if (remark.Where.size() == 1) view_->BringIntoView(place.Row, place.Column);
+    lowest = std::max(lowest, view_->CellRect(place.Row, place.Column).bottom());
+  }
+  const bool fromTop = lowest > view_->height() - remarkBar_->sizeHint().height() &&
+                       view_->CellRect(remark.Where[0].Row, remark.Where[0].Column).top() > middle;
+  QString text = QString::fromStdString(remark.Text);
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  remarkBar_->ShowText(text + ".", fromTop);
+}
+
+void MainWindow::ForgetRemark() {
+  if (remarkBar_->isHidden()) return;
+  remarkBar_->hide();
+  board_.grid.SetOutlined({});
+}
+
+/// What a fresh square is to be like, by the boxes.
+SquareWish MainWindow::FreshWish() const {
+  SquareWish wish;
+  wish.Order = ToInt16(Val(square_->Size()));
+  if (board_.SolveMode != ModeVariable) return wish;
+  wish.LimitToNine = LimitToNine();
+  const int total = ToInt16(Val(square_->Sum()));
+  if (total != NormalTotal(wish.Order)) wish.Total = total;
+  return wish;
+}
+
+void MainWindow::OpenHideNumbers() {
+  const SquareWish fresh = FreshWish();
+  if (const char* why = WhyNoBoardHas(fresh.Order)) return dialogs_.Tell(why);
+  std::optional<Puzzle> square;
+  QString whyNot = "there is no full board";
+  if (board_.Shown() && !board_.HasGaps()) {
+    const auto read = PuzzleOf(StoredSquareOf(board_), false);
+    if (const auto* against = std::get_if<AgainstRules>(&read)) {
+      whyNot = QString::fromStdString(against->Why);
+    } else if (Candidates(std::get<Puzzle>(read)).Propagate(Grade::Easy)) {
+      square = std::get<Puzzle>(read);
+    } else {
+      whyNot = "not all lines of the board are right";
+    }
+  }
+  auto* form = new HideNumbersForm(square, whyNot, fresh, random_, dialogs_, this);
+  connect(form, &HideNumbersForm::Taken, this, [this](const MadePuzzle& made) {
+    runner_.Run("Hide Numbers", [this, made] {
+      LayOut(board_, *square_, StoredSquareOf(made.Clues, true));
+      ShowLaidOut();
+    });
+  });
+  form->open();
+}
+
+/// The puzzle on the board, its own entries left out, where it has one solution that is found at
+/// once.
+void MainWindow::OpenWorksheet() {
+  const SquareWish fresh = FreshWish();
+  if (const char* why = WhyNoBoardHas(fresh.Order)) return dialogs_.Tell(why);
+  std::optional<MadePuzzle> puzzle;
+  if (const auto clues = PuzzleOnBoard()) {
+    constexpr std::int64_t kNodes = 20'000;
+    SilentStage stage;
+    const SearchResult result = Solve(*clues, {.Nodes = kNodes}, random_, stage);
+    if (const auto* one = std::get_if<OneSolution>(&result)) {
+      puzzle = MadePuzzle{*clues, one->Solved, GradeOf(*clues)};
+    }
+  }
+  (new WorksheetForm(puzzle, fresh, pages_, random_, dialogs_, this))->open();
 }
 
 }  // namespace numorra

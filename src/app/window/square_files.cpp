@@ -5,6 +5,7 @@
 
 #include "app/window/square_json.h"
 #include "files/square_text.h"
+#include "puzzle/code.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -54,7 +55,7 @@ void Export(const QString& name, QSize size, int dpi, const std::function<void(Q
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
   QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
   if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
-  return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareText(bytes.toStdString());
+  return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareOrCode(bytes.toStdString());
 }
 
 void SaveSquare(const QString& name, const StoredSquare& square) {

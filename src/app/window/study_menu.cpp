@@ -64,6 +64,7 @@ void MainWindow::BuildPropertiesPanel() {
   properties_->hide();
   connect(properties_, &PropertiesPanel::EvidenceChosen, this,
           [this](const std::vector<Place>& cells) {
+            ForgetRemark();
             board_.grid.SetOutlined(cells);
             drawing_->update();
           });

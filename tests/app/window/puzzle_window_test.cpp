@@ -1,4 +1,8 @@
 #include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QTimer>
 
 #include "support/window_fixture.h"
@@ -18,8 +22,14 @@ class PuzzleWindowTest : public WindowTest {
 TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_FALSE(Find<QAction>("FillGapsx").isEnabled());
   Paste("8 1 .\n. 5 .\n. . .");
+  Trigger("CopyPuzzleCodex");
+  Trigger("Pastex");
+  EXPECT_TRUE(TheGrid().Given(1, 2));
   Trigger("FillGapsx");
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
+  Trigger("CopyPuzzleCodex");
+  EXPECT_EQ(dialogs_.Take(),
+            Messages{"there is a code for boards with gaps, up to size 10, that keep their rules"});
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
   Trigger("UndoMovex");
   EXPECT_EQ(TheGrid().Text(1, 3), "");
@@ -49,6 +59,82 @@ TEST_F(PuzzleWindowTest, StopEndsASearchAtOnce) {
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_EQ(TheGrid().Text(1, 1), before);
   ExpectSettled();
+}
+
+/// Keeps the pages that are shown, as pictures.
+struct KeepingPages : PagePrinter {
+  void Preview(QWidget*, const PaintedPages& pages) override {
+    for (int page = 0; page < pages.Count; ++page) {
+      QImage picture(420, 594, QImage::Format_RGB32);
+      picture.fill(Qt::white);
+      QPainter painter(&picture);
+      painter.scale(2, 2);
+      pages.Paint(painter, {210, 297}, page);
+      Pictures.push_back(picture);
+    }
+  }
+  std::vector<QImage> Pictures;
+};
+
+class MakingWindowTest : public WindowTest {
+ protected:
+  MakingWindowTest() : WindowTest({.Pages = &pages_}) {}
+  template <class Done>
+  static void Await(Done done) {
+    EXPECT_TRUE(QTest::qWaitFor(done, 20'000));
+  }
+  KeepingPages pages_;
+};
+
+TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
+  Type("Text1", "4");
+  Find<QAction>("HideNumbersx").trigger();
+  auto* form = window_.findChild<QDialog*>("HideNumbers");
+  ASSERT_NE(form, nullptr);
+  EXPECT_FALSE(form->findChild<QRadioButton*>("FromBoardx")->isEnabled());
+  form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(2);
+  auto* take = form->findChild<QPushButton*>("TakePuzzlex");
+  Await([&] { return take->isEnabled(); });
+  EXPECT_TRUE(form->findChild<QLabel*>("PuzzleTold")->text().contains(" clues, "));
+  form->findChild<QPushButton*>("CopyCodex")->click();
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP1"));
+  take->click();
+  EXPECT_TRUE(window_.TheBoard().HasGivens());
+  EXPECT_TRUE(window_.TheBoard().HasGaps());
+  auto& bar = Find<QWidget>("RemarkBar");
+  for (int press = 0; press < 100 && window_.TheBoard().HasGaps(); ++press) {
+    QTest::keyClick(&window_.View(), Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_NE(bar.accessibleName(), "");
+  }
+  EXPECT_EQ(slow::WhyNotNormal(Rows()), "");
+  QTest::keyClick(&window_.View(), Qt::Key_Escape);
+  Await([&] { return !bar.isVisible(); });
+  EXPECT_TRUE(TheGrid().Outlined().empty());
+  ExpectSettled();
+}
+
+TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
+  Type("Text1", "8");
+  Find<QAction>("PrintWorksheetx").trigger();
+  auto* form = window_.findChild<QDialog*>("PrintWorksheet");
+  ASSERT_NE(form, nullptr);
+  form->findChild<QSpinBox*>("SheetCount")->setValue(24);
+  form->findChild<QComboBox*>("PerPage")->setCurrentIndex(3);
+  form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(3);
+  auto* print = form->findChild<QPushButton*>("PreviewSheetx");
+  auto* stop = form->findChild<QPushButton*>("StopMakingx");
+  QTimer::singleShot(150, form, [&] {
+    EXPECT_TRUE(form->findChild<QLabel*>("SheetTold")->text().contains(" of 24"));
+    stop->click();
+  });
+  print->click();
+  EXPECT_TRUE(print->isEnabled());
+  EXPECT_TRUE(pages_.Pictures.empty());
+  form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(0);
+  print->click();
+  EXPECT_EQ(pages_.Pictures.size(), 8U) << "four pages of puzzles, four of answers";
+  EXPECT_NE(pages_.Pictures[0], pages_.Pictures[4]);
 }
 
 }  // namespace

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/board/board.h"
+#include "app/board/random.h"
+#include "app/ports/build_stage.h"
+#include "puzzle/rules.h"
+
+namespace numorra {
+
+/// What is said of a puzzle and the cells that it is about.
+struct Remark {
+  std::string Text;
+  std::vector<Place> Where = {};
+};
+
+/// Gives hints for the board, each in three presses: where to look, why a number follows there,
+/// then the number itself, as a move. A change of the board begins anew. What stands in the way of
+/// any solution is pointed at first; where there are several, or none, that is said.
+class Hints {
+ public:
+  Hints(Board& board, Random& random, BuildStage& stage)
+      : board_(board), random_(random), stage_(stage) {}
+
+  Remark Next();
+
+ private:
+  Remark Begin();
+  std::optional<Step> Find(const Puzzle& puzzle, const Puzzle& solved) const;
+
+  Board& board_;
+  Random& random_;
+  BuildStage& stage_;
+  std::vector<std::string> texts_;  ///< of the board that the step is for
+  std::optional<Step> step_;
+  int presses_ = 0;
+};
+
+/// Which entries cannot stay, without giving the solution away: those that differ from the only
+/// solution of the givens; without givens, those that alone leave no solution.
+Remark CheckEntries(const Board& board, Random& random, BuildStage& stage);
+
+/// Makes the numbers on the board the givens, and says how many solutions the puzzle has.
+Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage);
+
+}  // namespace numorra

@@ -1,0 +1,113 @@
+#include "app/window/hide_numbers_form.h"
+
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/window/form_stage.h"
+#include "puzzle/code.h"
+#include "puzzle/rules.h"
+#include "toolkit/named.h"
+
+namespace numorra {
+
+QString DescriptionOf(const MadePuzzle& made) {
+  const int clues = made.Clues.Order * made.Clues.Order - made.Clues.Gaps();
+  return QString("%1 clues, %2: %3").arg(clues).arg(NameOf(made.Needed), RulesOf(made.Needed));
+}
+
+HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& whyNot,
+                                 SquareWish fresh, Random& random, Dialogs& dialogs,
+                                 QWidget* parent)
+    : QDialog(parent),
+      square_(std::move(square)),
+      fresh_(fresh),
+      random_(random),
+      runner_(dialogs),
+      wish_(new PuzzleWishBox),
+      fromBoard_(Named("FromBoardx", new QRadioButton("&This square"))),
+      told_(Named("PuzzleTold", new QLabel)),
+      copy_(Named("CopyCodex", new QPushButton("&Copy Code"))) {
+  setObjectName("HideNumbers");
+  setWindowTitle("Hide Numbers");
+  setAttribute(Qt::WA_DeleteOnClose);
+  auto* fromFresh = Named(
+      "FromFreshx", new QRadioButton(QString("A &fresh square of size %1").arg(fresh_.Order)));
+  auto* another = Named("MakeAnotherx", new QPushButton("&Make Another"));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  take_ = Named("TakePuzzlex", buttons->button(QDialogButtonBox::Ok));
+  told_->setWordWrap(true);
+  told_->setTextFormat(Qt::PlainText);
+  told_->setMinimumHeight(3 * told_->fontMetrics().lineSpacing());
+  told_->setAlignment(Qt::AlignTop);
+  fromBoard_->setEnabled(square_.has_value());
+  fromBoard_->setToolTip(whyNot);
+  (square_ ? fromBoard_ : fromFresh)->setChecked(true);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(fromBoard_);
+  if (!square_) column->addWidget(new QLabel("(" + whyNot + ")"));
+  column->addWidget(fromFresh);
+  column->addWidget(wish_);
+  column->addWidget(told_, 1);
+  auto* row = new QHBoxLayout;
+  row->addWidget(another);
+  row->addWidget(copy_);
+  row->addStretch();
+  row->addWidget(buttons);
+  column->addLayout(row);
+  wish_->SetOrder(square_ ? square_->Order : fresh_.Order);
+
+  connect(wish_, &PuzzleWishBox::Changed, this, &HideNumbersForm::Make);
+  connect(another, &QPushButton::clicked, this, &HideNumbersForm::Make);
+  connect(fromBoard_, &QRadioButton::toggled, this, [this](bool board) {
+    wish_->SetOrder(board ? square_->Order : fresh_.Order);
+    Make();
+  });
+  connect(copy_, &QPushButton::clicked, this, [this] {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(made_->Clues)));
+  });
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+    Q_EMIT Taken(*made_);
+    accept();
+  });
+  QMetaObject::invokeMethod(this, &HideNumbersForm::Make, Qt::QueuedConnection);
+}
+
+/// Makes a puzzle as it is wished for now; a newer wish takes its place.
+void HideNumbersForm::Make() {
+  runner_.Run("Make", [this] {
+    made_.reset();
+    take_->setEnabled(false);
+    copy_->setEnabled(false);
+    FormStage stage(runner_, [this] { told_->setText("Making a puzzle..."); });
+    random_.Reseed();
+    const bool board = fromBoard_->isChecked();
+    const std::optional<Puzzle> square = board ? square_ : FreshSquare(fresh_, random_, stage);
+    if (!square) {
+      told_->setText("There is no square of this size and sum.");
+      return;
+    }
+    auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
+    if (const auto* cannot = std::get_if<CannotMake>(&made)) {
+      told_->setText(QString::fromStdString(cannot->Why));
+      return;
+    }
+    made_ = std::get<MadePuzzle>(std::move(made));
+    const bool coded = square->Order <= kMostCodedOrder;
+    told_->setText(DescriptionOf(*made_) +
+                   (coded ? "\n" + QString::fromStdString(CodeOf(made_->Clues)) : QString()));
+    take_->setEnabled(true);
+    copy_->setEnabled(coded);
+  });
+}
+
+/// Closing stops what is being made.
+void HideNumbersForm::done(int result) {
+  runner_.Stop();
+  QDialog::done(result);
+}
+
+}  // namespace numorra

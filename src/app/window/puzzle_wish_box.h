@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSpinBox>
+#include <QWidget>
+
+#include "puzzle/making.h"
+
+namespace numorra {
+
+/// The controls that say what a puzzle is to be like: grade, clues, symmetry.
+class PuzzleWishBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PuzzleWishBox(QWidget* parent = nullptr);
+
+  PuzzleWish Wish() const;
+
+  /// For puzzles of this order.
+  void SetOrder(int order);
+
+ Q_SIGNALS:
+  void Changed();
+
+ private:
+  QComboBox* grade_;
+  QCheckBox* fewest_;
+  QSpinBox* clues_;
+  QCheckBox* symmetric_;
+};
+
+}  // namespace numorra

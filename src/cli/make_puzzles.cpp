@@ -1,0 +1,65 @@
+#include "cli/make_puzzles.h"
+
+#include <ostream>
+
+#include "app/board/numbers.h"
+#include "app/board/random.h"
+#include "cli/square_format.h"
+#include "puzzle/code.h"
+#include "puzzle/fresh_square.h"
+#include "puzzle/making.h"
+#include "puzzle/rules.h"
+
+namespace numorra {
+namespace {
+
+MadePuzzle Make(const SquareRequest& request, Random& random) {
+  SilentStage stage;
+  SquareWish square{request.Size, {}, request.LimitToNine};
+  if (request.Sum) square.Total = *request.Sum;
+  const auto full = FreshSquare(square, random, stage);
+  if (!full) throw Impossible{"no square of this size has such a sum"};
+  const auto made = MakePuzzle(*full, {request.Wanted, request.Clues}, random, stage);
+  if (const auto* cannot = std::get_if<CannotMake>(&made)) throw Impossible{cannot->Why};
+  return std::get<MadePuzzle>(made);
+}
+
+void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
+  const StoredSquare stored = StoredSquareOf(made.Clues, true);
+  const std::string code = made.Clues.Order <= kMostCodedOrder ? CodeOf(made.Clues) : "";
+  const std::string clues = std::to_string(made.Clues.Order * made.Clues.Order - made.Clues.Gaps());
+  switch (format) {
+    case SquareFormat::Csv:
+      WriteSquare(out, stored, format);
+      break;
+    case SquareFormat::Json: {
+      std::string json = JsonOf(stored);
+      json.erase(json.rfind('}'));
+      out << json << ", \"solution\": " << JsonRowsOf(StoredSquareOf(made.Solution, false))
+          << ", \"grade\": \"" << NameOf(made.Needed) << "\", \"clues\": " << clues;
+      if (!code.empty()) out << ", \"code\": \"" << code << "\"";
+      out << "}\n";
+      break;
+    }
+    case SquareFormat::Text:
+      WriteSquare(out, stored, format,
+                  std::string(NameOf(made.Needed)) + ", " + clues + " clues" +
+                      (code.empty() ? "" : ", " + code));
+      break;
+  }
+}
+
+}  // namespace
+
+void MakePuzzles(const SquareRequest& request, const Streams& streams) {
+  SystemClock timeOfDay;
+  TickingClock seeded(request.Seed.value_or(0));
+  ClockSeededRandom random(request.Seed ? static_cast<Clock&>(seeded) : timeOfDay);
+  for (int count = 0; count < request.Count && streams.Out; ++count) {
+    const MadePuzzle made = Make(request, random);
+    if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
+    Write(made, request.Format, streams.Out);
+  }
+}
+
+}  // namespace numorra

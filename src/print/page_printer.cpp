@@ -1,0 +1,47 @@
+#include "print/page_printer.h"
+
+#include <QPagedPaintDevice>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+#include "app/board/runtime_error.h"
+
+namespace numorra {
+
+void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
+  constexpr double kMillimetresPerInch = 25.4;
+  QPainter painter;
+  if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+  const QSizeF size = device.pageLayout().fullRect(QPageLayout::Millimeter).size();
+  const QRect area = device.pageLayout().paintRectPixels(dpi);
+  for (int page = 0; page < pages.Count; ++page) {
+    if (page > 0 && !device.newPage()) {
+      throw RuntimeError(Fault::PrinterError, "cannot go on to a new page");
+    }
+    painter.resetTransform();
+    painter.translate(-area.topLeft());
+    painter.scale(dpi / kMillimetresPerInch, dpi / kMillimetresPerInch);
+    pages.Paint(painter, size, page);
+  }
+  if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
+}
+
+void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(pages.Orientation);
+  printer.setDocName(pages.Name);
+  QPrintPreviewDialog dialog(&printer, window);
+  dialog.setWindowTitle(pages.Name);
+  std::string failed;
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* device) {
+    try {
+      PaintPages(*device, device->resolution(), pages);
+    } catch (const std::exception& error) {
+      failed = error.what();  // exceptions must not pass through the toolkit
+    }
+  });
+  dialog.exec();
+  if (!failed.empty()) throw RuntimeError(Fault::PrinterError, failed.c_str());
+}
+
+}  // namespace numorra

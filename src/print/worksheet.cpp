@@ -1,0 +1,193 @@
+#include "print/worksheet.h"
+
+#include <algorithm>
+
+#include "puzzle/code.h"
+#include "puzzle/rules.h"
+
+namespace numorra {
+namespace {
+
+// Millimetres.
+constexpr double kMargin = 12;
+constexpr double kHeader = 24;  // title, name, rules
+constexpr double kCaption = 7;  // above a board
+constexpr double kBelow = 16;   // numbers missing and code
+constexpr double kBetween = 6;  // puzzles
+constexpr double kLargestCell = 22;
+constexpr double kTextHeight = 4;
+constexpr double kSmallText = 3;
+
+/// Texts are laid out in units of a thousandth of a millimetre, or fonts would be rounded to whole
+/// millimetres.
+constexpr double kUnits = 1000;
+
+/// Writes a line into `area`, smaller where it would not fit.
+void Write(QPainter& painter, const QRectF& area, int flags, const QString& text, double height,
+           bool bold = false) {
+  painter.save();
+  painter.scale(1 / kUnits, 1 / kUnits);
+  QFont font("DejaVu Sans");
+  font.setStyleHint(QFont::SansSerif);
+  font.setBold(bold);
+  font.setPixelSize(static_cast<int>(height * kUnits));
+  const double width = QFontMetricsF(font, painter.device()).horizontalAdvance(text);
+  const double room = area.width() * kUnits;
+  if (width > room) font.setPixelSize(static_cast<int>(height * kUnits * room / width));
+  painter.setFont(font);
+  painter.drawText(QRectF(area.topLeft() * kUnits, area.size() * kUnits), flags, text);
+  painter.restore();
+}
+
+/// The board in the middle of `area`, with the numbers of `puzzle`; those of `clues` heavier.
+void PaintBoard(QPainter& painter, const QRectF& area, double side, const Puzzle& puzzle,
+                const Puzzle& clues) {
+  constexpr double kThin = 0.2;
+  constexpr double kThick = 0.6;
+  constexpr double kShareOfCell = 0.5;
+  const int n = puzzle.Order;
+  QRectF board(0, 0, n * side, n * side);
+  board.moveCenter(area.center());
+  for (int line = 0; line <= n; ++line) {
+    painter.setPen(QPen(Qt::black, line % n == 0 ? kThick : kThin, Qt::SolidLine, Qt::SquareCap));
+    painter.drawLine(board.topLeft() + QPointF(0, line * side),
+                     board.topRight() + QPointF(0, line * side));
+    painter.drawLine(board.topLeft() + QPointF(line * side, 0),
+                     board.bottomLeft() + QPointF(line * side, 0));
+  }
+  for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell) {
+    if (puzzle.Cells[cell] == 0) continue;
+    const Place place = puzzle.PlaceOf(static_cast<int>(cell));
+    const QRectF here(board.left() + (place.Column - 1) * side,
+                      board.top() + (place.Row - 1) * side, side, side);
+    Write(painter, here.adjusted(side / 10, 0, -side / 10, 0), Qt::AlignCenter,
+          QString::number(puzzle.Cells[cell]), side * kShareOfCell, clues.Cells[cell] != 0);
+  }
+}
+
+QString Missing(const Puzzle& puzzle) {
+  if (puzzle.Asked != Rules::Normal) return {};
+  QStringList missing;
+  for (std::int64_t number = 1; number <= puzzle.Most(); ++number) {
+    if (std::find(puzzle.Cells.begin(), puzzle.Cells.end(), number) == puzzle.Cells.end()) {
+      missing << QString::number(number);
+    }
+  }
+  return "Missing: " + missing.join("  ");
+}
+
+QString CodeText(const Puzzle& puzzle) {
+  return puzzle.Order > kMostCodedOrder ? QString() : QString::fromStdString(CodeOf(puzzle));
+}
+
+QString RulesText(const std::vector<MadePuzzle>& puzzles) {
+  const bool normal = std::all_of(puzzles.begin(), puzzles.end(), [](const MadePuzzle& made) {
+    return made.Clues.Asked == Rules::Normal;
+  });
+  const QString numbers = normal ? "each missing number once" : "whole numbers of 1 or more";
+  return "Fill the gaps with " + numbers +
+         ", so that all rows, columns and both diagonals add up to the same total.";
+}
+
+}  // namespace
+
+bool TotalCanBeFound(const Puzzle& puzzle) {
+  if (puzzle.Asked == Rules::Normal) return true;
+  const Candidates board(puzzle);
+  for (int line = 0; line < board.Map().Lines(); ++line) {
+    if (board.GapsOf(line).empty()) return true;
+  }
+  return false;
+}
+
+Worksheet::Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish)
+    : puzzles_(std::move(puzzles)), wish_(std::move(wish)) {}
+
+int Worksheet::PuzzlePages() const {
+  return (static_cast<int>(puzzles_.size()) + wish_.PerPage - 1) / wish_.PerPage;
+}
+
+/// How many puzzles stand beside and below each other.
+QSize Worksheet::Slots(QSizeF size) const {
+  constexpr int kSix = 6;
+  const QSize tall = wish_.PerPage == 1      ? QSize(1, 1)
+                     : wish_.PerPage == 2    ? QSize(1, 2)
+                     : wish_.PerPage == kSix ? QSize(2, 3)
+                                             : QSize(2, 2);
+  return size.width() > size.height() ? tall.transposed() : tall;
+}
+
+QRectF Worksheet::SlotArea(QSizeF size, int place) const {
+  const QSize grid = Slots(size);
+  const double width = (size.width() - 2 * kMargin - (grid.width() - 1) * kBetween) / grid.width();
+  const double height =
+      (size.height() - 2 * kMargin - kHeader - (grid.height() - 1) * kBetween) / grid.height();
+  return {kMargin + place % grid.width() * (width + kBetween),
+          kMargin + kHeader + place / grid.width() * (height + kBetween), width, height};
+}
+
+double Worksheet::CellSide(QSizeF size, int order) const {
+  const QRectF area = SlotArea(size, 0);
+  return std::min(
+      {kLargestCell, area.width() / order, (area.height() - kCaption - kBelow) / order});
+}
+
+void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
+  const bool answers = page >= PuzzlePages();
+  const int first = page % PuzzlePages() * wish_.PerPage;
+  const double width = size.width() - 2 * kMargin;
+  const QRectF header(kMargin, kMargin, width, kHeader);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::black);
+  constexpr double kTitle = 7;
+  const QRectF title(header.left(), header.top(), width * 0.55, kTitle * 1.4);
+  Write(painter, title, Qt::AlignLeft | Qt::AlignVCenter,
+        wish_.Title + (answers ? ": answers" : ""), kTitle, true);
+  if (!answers) {
+    const QRectF name(header.left() + width * 0.6, header.top(), width * 0.4, kTitle * 1.4);
+    Write(painter, name, Qt::AlignLeft | Qt::AlignVCenter, "Name:", kTextHeight);
+    painter.setPen(QPen(Qt::black, 0.2));
+    painter.drawLine(name.bottomLeft() + QPointF(14, -2), name.bottomRight() + QPointF(0, -2));
+    Write(painter, {header.left(), header.top() + 13, width, kTextHeight * 1.5}, Qt::AlignLeft,
+          RulesText(puzzles_), kTextHeight);
+  }
+  for (int place = 0; place < wish_.PerPage; ++place) {
+    const int number = first + place;
+    if (number >= static_cast<int>(puzzles_.size())) break;
+    const int order = puzzles_[static_cast<std::size_t>(number)].Clues.Order;
+    const Slot slot{SlotArea(size, place), number};
+    (answers ? PaintAnswer(painter, slot, CellSide(size, order))
+             : PaintPuzzle(painter, slot, CellSide(size, order)));
+  }
+}
+
+void Worksheet::PaintPuzzle(QPainter& painter, const Slot& slot, double side) const {
+  const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
+  const QRectF& area = slot.Area;
+  const bool given = wish_.TotalGiven || !TotalCanBeFound(clues);
+  const QString total = given ? QString::number(clues.Target) : "________";
+  Write(painter, {area.left(), area.top(), area.width(), kCaption}, Qt::AlignCenter,
+        QString("%1.   Total: %2").arg(slot.Number + 1).arg(total), kTextHeight, true);
+  PaintBoard(painter, area.adjusted(0, kCaption, 0, -kBelow), side, clues, clues);
+  const QRectF below(area.left(), area.bottom() - kBelow + 2, area.width(), kBelow - 2);
+  Write(painter, {below.left(), below.top(), below.width(), kTextHeight * 1.4}, Qt::AlignCenter,
+        Missing(clues), kTextHeight);
+  Write(painter, {below.left(), below.top() + 7, below.width(), kSmallText * 1.4}, Qt::AlignCenter,
+        CodeText(clues), kSmallText);
+}
+
+void Worksheet::PaintAnswer(QPainter& painter, const Slot& slot, double side) const {
+  const MadePuzzle& made = puzzles_[static_cast<std::size_t>(slot.Number)];
+  const QRectF& area = slot.Area;
+  Write(painter, {area.left(), area.top(), area.width(), kCaption}, Qt::AlignCenter,
+        QString("%1.   %2, total %3")
+            .arg(slot.Number + 1)
+            .arg(NameOf(made.Needed))
+            .arg(made.Clues.Target),
+        kTextHeight, true);
+  PaintBoard(painter, area.adjusted(0, kCaption, 0, -kBelow), side, made.Solution, made.Clues);
+  Write(painter, {area.left(), area.bottom() - kBelow + 2, area.width(), kSmallText * 1.4},
+        Qt::AlignCenter, CodeText(made.Clues), kSmallText);
+}
+
+}  // namespace numorra

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "app/board/random.h"
+#include "app/ports/build_stage.h"
+#include "puzzle/puzzle.h"
+
+namespace numorra {
+
+/// Which full square a puzzle is to be made from.
+struct SquareWish {
+  int Order = 4;
+  std::optional<std::int64_t> Total = {};  ///< any other than the normal one; 1 to 32767
+  bool LimitToNine = false;
+};
+
+/// A full square by lot: a normal one, or one of any total where a total or the limit is wished
+/// for. Nothing where there is none, or none was found in ten tries. The total is that of the
+/// square that was built: a limit or a small total may have corrected it.
+std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, BuildStage& stage);
+
+}  // namespace numorra

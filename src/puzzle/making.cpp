@@ -1,0 +1,139 @@
+#include "puzzle/making.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+#include "puzzle/rules.h"
+#include "puzzle/search.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kOrders = 20;  // of digging, for a grade or a number of clues
+
+bool RulesSolve(const Puzzle& puzzle, Grade grade) {
+  Candidates board(puzzle);
+  return board.Propagate(grade) && board.Solved();
+}
+
+class Digger {
+ public:
+  Digger(const Puzzle& square, const PuzzleWish& wish, Random& random, BuildStage& stage)
+      : square_(square), wish_(wish), random_(random), stage_(stage) {}
+
+  MadePuzzle Dig() {
+    Puzzle puzzle = square_;
+    const Grade rules = std::min(wish_.Wanted, Grade::Hard);
+    const auto solvedByRules = [&](const Puzzle& dug) { return RulesSolve(dug, rules); };
+    Remove(puzzle, solvedByRules);
+    if (wish_.Wanted == Grade::Expert) {
+      Remove(puzzle, [&](const Puzzle& dug) {
+        return std::holds_alternative<OneSolution>(
+            Solve(dug, {.Nodes = kExpertNodes}, random_, stage_));
+      });
+    }
+    return {puzzle, square_, GradeOf(puzzle)};
+  }
+
+  /// Gives numbers back until there are so many; false when symmetry passes that number by.
+  bool AddClues(MadePuzzle& made, int clues) {
+    for (const bool keepGrade : {true, false}) {
+      for (const std::vector<int>& cells : CellsByLot()) {
+        const int have = square_.Order * square_.Order - made.Clues.Gaps();
+        if (have == clues) return true;
+        if (have + static_cast<int>(cells.size()) > clues) continue;
+        if (made.Clues.Cells[static_cast<std::size_t>(cells[0])] != 0) continue;
+        Puzzle more = made.Clues;
+        for (const int cell : cells)
+          more.Cells[static_cast<std::size_t>(cell)] =
+              square_.Cells[static_cast<std::size_t>(cell)];
+        const Grade grade = GradeOf(more);
+        if (keepGrade && grade != made.Needed) continue;
+        made.Clues = std::move(more);
+        made.Needed = grade;
+      }
+    }
+    return square_.Order * square_.Order - made.Clues.Gaps() == clues;
+  }
+
+ private:
+  /// The cells that come and go together, in an order by lot.
+  std::vector<std::vector<int>> CellsByLot() {
+    const int cells = square_.Order * square_.Order;
+    std::vector<std::vector<int>> together;
+    for (int cell = 0; cell < cells; ++cell) {
+      const int opposite = cells - 1 - cell;
+      if (!wish_.Symmetric || cell == opposite) {
+        together.push_back({cell});
+      } else if (cell < opposite) {
+        together.push_back({cell, opposite});
+      }
+    }
+    Shuffle(std::span(together), random_);
+    return together;
+  }
+
+  /// Takes away what leaves the puzzle solvable.
+  template <class IsSolvable>
+  void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
+    for (const std::vector<int>& cells : CellsByLot()) {
+      if (puzzle.Cells[static_cast<std::size_t>(cells[0])] == 0) continue;
+      stage_.Yield();
+      for (const int cell : cells)
+        puzzle.Cells[static_cast<std::size_t>(cell)] = 0;
+      if (isSolvable(puzzle)) continue;
+      for (const int cell : cells) {
+        puzzle.Cells[static_cast<std::size_t>(cell)] =
+            square_.Cells[static_cast<std::size_t>(cell)];
+      }
+    }
+  }
+
+  const Puzzle& square_;
+  const PuzzleWish& wish_;
+  Random& random_;
+  BuildStage& stage_;
+};
+
+}  // namespace
+
+Grade GradeOf(const Puzzle& puzzle) {
+  for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard}) {
+    if (RulesSolve(puzzle, grade)) return grade;
+  }
+  return Grade::Expert;
+}
+
+std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
+                                                Random& random, BuildStage& stage) {
+  const int cells = square.Order * square.Order;
+  if (wish.Clues && (*wish.Clues < 0 || *wish.Clues >= cells)) {
+    return CannotMake{"a puzzle of this size has fewer than " + std::to_string(cells) + " clues"};
+  }
+  Digger digger(square, wish, random, stage);
+  std::optional<MadePuzzle> best;
+  int fewest = cells;
+  bool passedBy = false;
+  for (int order = 0; order < kOrders; ++order) {
+    MadePuzzle made = digger.Dig();
+    const int clues = cells - made.Clues.Gaps();
+    fewest = std::min(fewest, clues);
+    if (wish.Clues && clues > *wish.Clues) continue;
+    if (wish.Clues && !digger.AddClues(made, *wish.Clues)) {
+      passedBy = true;
+      continue;
+    }
+    if (!best || made.Needed > best->Needed) best = std::move(made);
+    if (best->Needed == wish.Wanted) break;
+  }
+  if (best) return *best;
+  if (passedBy) {
+    return CannotMake{"symmetric gaps do not leave " + std::to_string(*wish.Clues) +
+                      " clues here: try one more or less"};
+  }
+  return CannotMake{"from this square a puzzle that is " + std::string(NameOf(wish.Wanted)) +
+                    " needs " + std::to_string(fewest) + " clues or more"};
+}
+
+}  // namespace numorra

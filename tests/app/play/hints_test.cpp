@@ -1,0 +1,75 @@
+#include "app/play/hints.h"
+
+#include "app/play/lay_out.h"
+#include "puzzle/code.h"
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+class HintsTest : public PlayTest {
+ protected:
+  void Read(const std::string& text) {
+    LayOut(board_, boxes_, std::get<StoredSquare>(ReadSquareOrCode(text)));
+  }
+  void Type(int row, int column, const char* number) { board_.grid.SetText(row, column, number); }
+  std::string Check() { return CheckEntries(board_, random_, stage_).Text; }
+
+  PlainBoxes boxes_;
+  NotingStage stage_;
+  Hints hints_{board_, random_, stage_};
+};
+
+TEST_F(HintsTest, TellWhereWhyAndWhat) {
+  Read("8 1 .\n. 5 .\n. . .");
+  Remark remark = hints_.Next();
+  EXPECT_EQ(remark.Text, "look at row 1");
+  EXPECT_EQ(remark.Where, (std::vector<Place>{{1, 1}, {1, 2}, {1, 3}}));
+  EXPECT_EQ(hints_.Next().Text, "2 numbers stand in row 1, the total is 15: the last is 6");
+  EXPECT_EQ(At(1, 3), "");
+  EXPECT_EQ(hints_.Next().Text, "6 is in row 1, column 3");
+  EXPECT_EQ(At(1, 3), "6");
+  EXPECT_EQ(board_.grid.VerdictOf(1, 0), Verdict::Right);
+  hints_.Next();
+  Type(2, 1, "3");
+  EXPECT_EQ(hints_.Next().Text.substr(0, 7), "look at") << "a change begins anew";
+  while (board_.HasGaps())
+    hints_.Next();
+  EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
+  EXPECT_EQ(hints_.Next().Text, "the board has no gaps");
+}
+
+TEST_F(HintsTest, PointAtWhatCannotStay) {
+  Read("NP12S3W04");  // . . . / . 5 . / 2 9 .
+  Type(1, 1, "8");
+  Type(1, 2, "6");
+  Remark remark = hints_.Next();
+  EXPECT_EQ(remark.Text, "8 in row 1, column 1; 6 in row 1, column 2 cannot all stay");
+  EXPECT_EQ(remark.Where, (std::vector<Place>{{1, 1}, {1, 2}}));
+  Type(1, 2, "1");
+  EXPECT_EQ(Check(), "8 in row 1, column 1 cannot stay");
+  Type(1, 1, "6");
+  EXPECT_EQ(Check(), "all entries can stay");
+  Type(1, 1, "5");
+  EXPECT_EQ(Check(), "5 in row 2, column 2 stands in row 1, column 1 too");
+}
+
+TEST_F(HintsTest, SayWhatIsNoPuzzle) {
+  Read(". . .\n. 5 .\n. . .");
+  EXPECT_EQ(hints_.Next().Text, "this board has several solutions, so no number follows");
+  Read("4 . . 16\n. . . .\n. . . .\n1 . . 13");
+  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "4 solutions");
+  EXPECT_TRUE(board_.grid.Given(1, 1));
+  EXPECT_FALSE(board_.grid.Given(2, 2));
+  Read("8 1 .\n. 5 .\n. . .");
+  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "one solution, easy");
+  Read("8 1 .\n. 4 .\n. . .");
+  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "no solution");
+  Read("8 1 6\n3 5 7\n4 9 2");
+  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text,
+            "a puzzle has gaps: empty some cells with Backspace first");
+  EXPECT_FALSE(board_.HasGivens());
+}
+
+}  // namespace
+}  // namespace numorra

@@ -1,0 +1,170 @@
+#include "puzzle/making.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+
+#include "puzzle/code.h"
+#include "puzzle/fresh_square.h"
+#include "puzzle/rules.h"
+#include "puzzle/search.h"
+#include "support/puzzle_judge.h"
+#include "support/soak.h"
+#include "support/stand_ins.h"
+
+namespace numorra {
+namespace {
+
+class MakingTest : public testing::Test {
+ protected:
+  Puzzle Fresh(int order, std::optional<std::int64_t> total = {}, bool limit = false) {
+    const auto square = FreshSquare({order, total, limit}, random_, stage_);
+    EXPECT_TRUE(square);
+    return *square;
+  }
+  std::variant<MadePuzzle, CannotMake> Make(const Puzzle& square, const PuzzleWish& wish) {
+    return MakePuzzle(square, wish, random_, stage_);
+  }
+  static int Clues(const Puzzle& puzzle) { return puzzle.Order * puzzle.Order - puzzle.Gaps(); }
+
+  SeededRandom random_{21};
+  SilentStage stage_;
+};
+
+/// A hundred puzzles, judged by others than those who made them.
+TEST_F(MakingTest, MakesFairPuzzlesOfEveryGrade) {
+  for (int order = 3; order <= 8; ++order) {
+    for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert}) {
+      for (int draw = 0; draw < (order < 7 ? 5 : 2); ++draw) {
+        const auto result = Make(Fresh(order), {grade, {}, draw == 1});
+        ASSERT_TRUE(std::holds_alternative<MadePuzzle>(result));
+        EXPECT_EQ(WhyUnfair(std::get<MadePuzzle>(result)), "")
+            << NameOf(grade) << " of order " << order;
+        EXPECT_TRUE(order < 4 || std::get<MadePuzzle>(result).Needed == grade);
+      }
+    }
+  }
+}
+
+/// The same by lot, for as long as a soak goes on; every other one has any total.
+TEST_F(MakingTest, SoaksInPuzzlesByLot) {
+  const Soak soak;
+  SeededRandom lot(soak.Seed);
+  int made = 0;
+  for (; soak.Goes(); ++made) {
+    SquareWish wish{lot.Between(3, 8)};
+    if (made % 2 == 1)
+      wish.Total = wish.Order * lot.Between(3, 60) + lot.Between(0, wish.Order - 1);
+    const auto square = FreshSquare(wish, lot, stage_);
+    if (!square) continue;
+    const auto grade = static_cast<Grade>(lot.Between(0, 3));
+    const auto result = MakePuzzle(*square, {grade, {}, lot.Between(0, 1) == 1}, lot, stage_);
+    ASSERT_TRUE(std::holds_alternative<MadePuzzle>(result));
+    ASSERT_EQ(WhyUnfair(std::get<MadePuzzle>(result)), "")
+        << NameOf(grade) << ", puzzle " << made << " of seed " << soak.Seed;
+  }
+  if (made > 0) std::printf("%d puzzles\n", made);
+}
+
+TEST_F(MakingTest, MakesPuzzlesOfAnyTotal) {
+  for (const auto& [total, limit] : {std::pair(90, false), std::pair(25, true)}) {
+    for (const Grade grade : {Grade::Easy, Grade::Hard}) {
+      const auto result = Make(Fresh(5, total, limit), {grade});
+      ASSERT_TRUE(std::holds_alternative<MadePuzzle>(result));
+      EXPECT_EQ(WhyUnfair(std::get<MadePuzzle>(result)), "");
+    }
+  }
+  EXPECT_EQ(FreshSquare({10, 5}, random_, stage_).value_or(Puzzle{}).Target, 20)
+      << "a sum that is too small is raised, as Auto does";
+}
+
+TEST_F(MakingTest, KeepsToTheCluesAndTheSymmetry) {
+  const Puzzle square = Fresh(6);
+  for (const int clues : {24, 29, 35}) {
+    const auto result = Make(square, {Grade::Easy, clues});
+    ASSERT_TRUE(std::holds_alternative<MadePuzzle>(result)) << clues;
+    EXPECT_EQ(Clues(std::get<MadePuzzle>(result).Clues), clues);
+    EXPECT_EQ(WhyUnfair(std::get<MadePuzzle>(result)), "");
+  }
+  const auto symmetric = Make(Fresh(5), {Grade::Medium, 17, true});
+  ASSERT_TRUE(std::holds_alternative<MadePuzzle>(symmetric));
+  const Puzzle& clues = std::get<MadePuzzle>(symmetric).Clues;
+  EXPECT_EQ(Clues(clues), 17);
+  for (std::size_t cell = 0; cell < 25; ++cell)
+    EXPECT_EQ(clues.Cells[cell] == 0, clues.Cells[24 - cell] == 0);
+  const auto why = [&](const PuzzleWish& wish) {
+    const auto result = Make(square, wish);
+    const auto* cannot = std::get_if<CannotMake>(&result);
+    return cannot ? cannot->Why : "";
+  };
+  EXPECT_EQ(why({Grade::Easy, 22}),
+            "from this square a puzzle that is easy needs 23 clues or more");
+  EXPECT_EQ(why({Grade::Easy, 29, true}),
+            "symmetric gaps do not leave 29 clues here: try one more or less");
+  EXPECT_EQ(why({Grade::Easy, 36}), "a puzzle of this size has fewer than 36 clues");
+}
+
+TEST_F(MakingTest, TheSameSeedGivesTheSamePuzzles) {
+  const auto make = [](std::uint64_t seed) {
+    SeededRandom random(seed);
+    SilentStage stage;
+    const auto square = FreshSquare({6}, random, stage);
+    return CodeOf(std::get<MadePuzzle>(MakePuzzle(*square, {Grade::Expert}, random, stage)).Clues);
+  };
+  EXPECT_EQ(make(3), make(3));
+  EXPECT_NE(make(3), make(4));
+}
+
+TEST(Code, HoldsEveryPuzzleAndShowsEveryMistake) {
+  SeededRandom random(2);
+  SilentStage stage;
+  for (int order = 3; order <= 10; ++order) {
+    for (const bool normal : {true, false}) {
+      SquareWish wish{order};
+      if (!normal) wish.Total = 20 * order + 1;
+      const Puzzle puzzle = std::get<MadePuzzle>(MakePuzzle(*FreshSquare(wish, random, stage),
+                                                            {Grade::Medium}, random, stage))
+                                .Clues;
+      const std::string code = CodeOf(puzzle);
+      const auto back = PuzzleOfCode(code);
+      ASSERT_TRUE(std::holds_alternative<Puzzle>(back)) << code;
+      EXPECT_EQ(std::get<Puzzle>(back).Cells, puzzle.Cells);
+      EXPECT_EQ(std::get<Puzzle>(back).Target, puzzle.Target);
+      EXPECT_EQ(std::get<Puzzle>(back).Asked, puzzle.Asked);
+      const auto isRead = [](const std::string& text) {
+        return std::holds_alternative<Puzzle>(PuzzleOfCode(text));
+      };
+      for (std::size_t at = 3; at < code.size(); ++at) {
+        std::string wrong = code;
+        wrong[at] = wrong[at] == '7' ? 'K' : '7';
+        EXPECT_FALSE(isRead(wrong));
+        if (at + 1 == code.size() || code[at] == code[at + 1]) continue;
+        wrong = code;
+        std::swap(wrong[at], wrong[at + 1]);
+        EXPECT_FALSE(isRead(wrong));
+      }
+    }
+  }
+}
+
+/// Codes that were once printed.
+TEST(Code, OfVersion1IsReadForEver) {
+  for (const auto& [code, rows] :
+       {std::pair{"NP12S3W04", "[[null, null, null], [null, 5, null], [2, 9, null]]"},
+        std::pair{
+            "np1h 7fkr-sz\n",
+            "[[1, 14, null, 4], [null, null, null, null], [null, null, 6, null], [null, null, "
+            "null, null]]"}}) {
+    const auto square = ReadSquareOrCode(code);
+    ASSERT_TRUE(std::holds_alternative<StoredSquare>(square));
+    EXPECT_EQ(JsonRowsOf(std::get<StoredSquare>(square)), rows);
+    EXPECT_FALSE(std::get<StoredSquare>(square).Givens.empty());
+  }
+  for (const char* broken : {"NP", "NP1", "NP2H7FKRSZ", "NP1H7FKRS!", "NP1H7FKRS"}) {
+    const auto read = ReadSquareOrCode(broken);
+    ASSERT_TRUE(std::holds_alternative<Unreadable>(read)) << broken;
+    EXPECT_EQ(std::get<Unreadable>(read).Why, "this puzzle code has a mistake in it");
+  }
+}
+
+}  // namespace
+}  // namespace numorra
