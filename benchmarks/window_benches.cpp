@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QSlider>
 #include <QTableWidget>
 
 #include "app/window/main_window.h"
@@ -74,6 +75,7 @@ class Stand {
   void Prepare(int order) {
     Trigger("NormalSizex");
     Find<QWidget>("PropertiesPanel").hide();
+    Find<QWidget>("StepPanel").hide();
     Resize(0);
     Find<QRadioButton>("Option4").setChecked(true);
     Find<QCheckBox>("Option1").setChecked(false);
@@ -104,6 +106,7 @@ class Stand {
     window_.show();
     window_.View().viewport()->installEventFilter(&counter_);
     Find<Drawing>("Picture1").installEventFilter(&counter_);
+    Find<WalkView>("WalkBoard").viewport()->installEventFilter(&counter_);
     Settle();
   }
 
@@ -171,6 +174,17 @@ std::vector<Command> Commands() {
       Item("Check Totals", "CheckTotalsx"),
       {"Vary", [](Stand& s, int) { s.Trigger("Set2allran"); },
        [](Stand& s) { s.Trigger("Varyx"); }},
+      {"a step of a walk",
+       [](Stand& s, int) {
+         if (s.Find<QWidget>("StepPanel").isVisible()) return;
+         s.Find<QRadioButton>("Option3").setChecked(true);
+         s.Click("SolveAuto");
+         s.Trigger("StepByStepx");
+         Stand::Settle();
+         auto& steps = s.Find<QSlider>("StepSlider");
+         steps.setValue(steps.maximum() / 2);
+       },
+       [](Stand& s) { s.Click("StepNextx"); }},
       {"Rotate 90d, panel open", [](Stand& s, int) { s.Find<QWidget>("PropertiesPanel").show(); },
        [](Stand& s) { s.Trigger("rot90x"); }},
       {"Zoom Out", [](Stand& s, int) { s.Trigger("NormalSizex"); },

@@ -90,6 +90,20 @@ void ShowHint(MainWindow& window) {
     window.findChild<QAction*>("Hintx")->trigger();
 }
 
+/// A step of each construction.
+void ShowSteps(MainWindow& window, Album& documents, Album& help) {
+  window.findChild<QAction*>("StepByStepx")->trigger();
+  auto* choice = window.findChild<QComboBox*>("WalkChoice");
+  for (const auto& [size, step] : {std::pair(5, 8), std::pair(8, 12), std::pair(6, 6)}) {
+    choice->setCurrentIndex(choice->findText(QString("an example of size %1").arg(size)));
+    Q_EMIT choice->activated(choice->currentIndex());
+    window.findChild<QSlider*>("StepSlider")->setValue(step);
+    documents.Save(window, QString("step-%1").arg(size));
+    help.Save(window, QString("step-%1").arg(size), 560);
+  }
+  window.findChild<QAction*>("StepByStepx")->trigger();
+}
+
 /// Six fresh puzzles on a page.
 void SaveWorksheet(Album& documents, numorra::Clock& clock) {
   numorra::ClockSeededRandom random(clock);
@@ -167,6 +181,7 @@ int main(int argc, char** argv) {
   documents.Save(window, "hint");
   help.Save(window, "hint", 560);
   SaveWorksheet(documents, clock);
+  ShowSteps(window, documents, help);
   window.findChild<QAction*>("UndoMovex")->trigger();
   Click(window, "SolveManual");
   window.findChild<QAction*>("PrintSol")->trigger();

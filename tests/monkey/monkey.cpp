@@ -78,6 +78,12 @@ bool Monkey::Printer::Choose(QWidget*) {
   return TheMonkey.Below(4) != 0;
 }
 
+void Monkey::Pages::Preview(QWidget*, const PaintedPages& pages) {
+  QImage picture(210, 297, QImage::Format_RGB32);
+  QPainter painter(&picture);
+  pages.Paint(painter, {210, 297}, TheMonkey.Below(pages.Count));
+}
+
 QString Monkey::Files::Any() {
   const QString names[] = {"a.json", "a.json", "b.csv", "b.csv", "c.png", "d.pdf", "e", ""};
   const QString name = TheMonkey.Any(names);
@@ -88,8 +94,11 @@ QString Monkey::Files::Any() {
 Monkey::Monkey(unsigned seed)
     : dice_(seed),
       clock_(seed),
-      window_(
-          {.TimeOfDay = &clock_, .Printer = &printer_, .Files = &files_, .FrameMilliseconds = 0}) {
+      window_({.TimeOfDay = &clock_,
+               .Printer = &printer_,
+               .Pages = &pages_,
+               .Files = &files_,
+               .FrameMilliseconds = 0}) {
   QObject::connect(&answerer_, &QTimer::timeout, [this] { AnswerBox(); });
   answerer_.start(0);
 }
@@ -216,6 +225,20 @@ void Monkey::AnswerBox() {
     if (answer == 0) QTest::keyClick(box, Qt::Key_Escape);
     if (answer == 1) box->close();
     if (answer > 1) Any(box->buttons())->click();
+  } else {
+    LosePatience(modal);
+  }
+}
+
+/// Searches, and puzzles that are being made, are stopped sooner or later.
+void Monkey::LosePatience(QWidget* modal) {
+  if (Below(20) != 0) return;
+  auto* stop = window_.findChild<QPushButton*>("StopSearchx");
+  if (!modal && stop->isVisible()) stop->click();
+  if (modal && (modal->objectName() == "HideNumbers" || modal->objectName() == "PrintWorksheet")) {
+    for (const auto* told : modal->findChildren<QLabel*>()) {
+      if (told->text().startsWith("Making")) return modal->close(), void();
+    }
   }
 }
 

@@ -63,6 +63,7 @@ class Monkey {
   /// What a person could reach now: a dialog in front, or the window.
   QWidget* Front();
   void AnswerBox();
+  void LosePatience(QWidget* modal);
   std::string WhyWrong();
 
   struct Printer : PaperPrinter {
@@ -79,10 +80,18 @@ class Monkey {
     Monkey& TheMonkey;
   };
 
+  /// Paints a page of what would be shown.
+  struct Pages : PagePrinter {
+    explicit Pages(Monkey& monkey) : TheMonkey(monkey) {}
+    void Preview(QWidget*, const PaintedPages& pages) override;
+    Monkey& TheMonkey;
+  };
+
   std::mt19937 dice_;
   QTemporaryDir folder_;
   Printer printer_{*this};
   Files files_{*this};
+  Pages pages_{*this};
   TickingClock clock_;
   MainWindow window_;
   QTimer answerer_;

@@ -134,13 +134,20 @@ void GridView::paintEvent(QPaintEvent* event) {
   UpdateScrollBars();
   QPainter painter(viewport());
   if (!grid_.Visible()) return PaintInvitation(painter);
-  painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
+  constexpr int kMostParts = 40;  // of which the painting costs less than that of all together
+  const QRegion& dirty = event->region();
+  if (dirty.rectCount() > kMostParts) {
+    painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
+  } else {
+    for (const QRect& part : dirty)
+      painter_.PaintCells(painter, Look(), viewport()->size(), part);
+  }
   if (CurrentInBlock()) {
     PaintGuides(painter);
     PaintCurrentCell(painter);
-    PaintOutlined(painter);
     TellCurrentCell();
   }
+  PaintOutlined(painter);
 }
 
 /// An empty view says what fills it.

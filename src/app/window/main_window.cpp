@@ -96,6 +96,7 @@ MainWindow::MainWindow(const World& world)
   setWindowTitle(kApplicationTitle);
   ArrangeFrames();
   BuildPropertiesPanel();
+  BuildStepPanel();
   BuildMenus();
   ConnectControls();
   ConnectBoard();
@@ -106,6 +107,7 @@ MainWindow::MainWindow(const World& world)
 MainWindow::~MainWindow() {
   board_.grid.OnRepaint = nullptr;
   properties_->disconnect(this);
+  stepPanel_->disconnect();
 }
 
 void MainWindow::ArrangeFrames() {
@@ -418,6 +420,7 @@ void MainWindow::Draw(const DrawingKind* kind) {
 
 /// Puts the drawing in the place of the board, or the board back.
 void MainWindow::ShowOverlay() {
+  stepPanel_->hide();
   if (!board_.OverlayShown) drawing_->SetKind(nullptr);
   boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
 }

@@ -20,6 +20,7 @@
 #include "app/window/solve_frame.h"
 #include "app/window/square_frame.h"
 #include "app/window/state_line.h"
+#include "app/window/step_panel.h"
 #include "app/window/view_control.h"
 #include "app/window/window_stage.h"
 #include "generate/solve_command.h"
@@ -78,6 +79,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   std::optional<Puzzle> PuzzleOnBoard() const;
   void CopyPuzzleCode();
   void BuildPropertiesPanel();
+  void BuildStepPanel();
+  void FollowSteps();
   void FollowProperties();
   void StudyBoard();
   void ConnectControls();
@@ -118,6 +121,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   FileChooser& files_;
   CommandRunner runner_;
   Board board_;
+  Grid walkGrid_;
   BoardWatch watch_{board_};
   CommandHistory history_;
   UndoHistory undo_;
@@ -141,6 +145,8 @@ class MainWindow : public QMainWindow, private BuildOptions {
   QWidget* leftColumn_ = nullptr;
   ViewControl* size_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
+  StepPanel* stepPanel_ = nullptr;
+  WalkView* walkView_ = nullptr;
   std::optional<int> widenedBy_;  ///< by so many pixels for the panel; nothing while it is hidden
   bool studied_ = false;          ///< the panel shows what the board is now
   QList<QAction*> needBoard_;     ///< the menu items that work on one

@@ -4,6 +4,7 @@
 #include <QScreen>
 
 #include "app/play/study_commands.h"
+#include "app/window/grid_accessible.h"
 #include "app/window/main_window.h"
 #include "study/report.h"
 #include "toolkit/menus.h"
@@ -55,6 +56,42 @@ void MainWindow::BuildStudyMenu() {
       return true;
     })->setToolTip(square.Story);
   }
+  menu->addSeparator();
+  QAction* walk = Named("StepByStepx", menu->addAction("Step &by Step"));
+  walk->setCheckable(true);
+  connect(walk, &QAction::triggered, this,
+          [this](bool on) { runner_.RunBeside([this, on] { stepPanel_->setVisible(on); }); });
+}
+
+/// The walk stands in the board's place while its panel is open; the board behind it stays. A
+/// command that changes the board ends it.
+void MainWindow::BuildStepPanel() {
+  walkView_ = new WalkView(walkGrid_);
+  boardPlace_->addWidget(walkView_);
+  stepPanel_ = new StepPanel(walkView_, this);
+  addDockWidget(Qt::BottomDockWidgetArea, stepPanel_);
+  stepPanel_->hide();
+  connect(stepPanel_, &QDockWidget::visibilityChanged, this, &MainWindow::FollowSteps);
+  connect(walkView_, &GridView::CurrentCellShown, this,
+          [this](bool another) { ReadCurrentCell(*walkView_, another); });
+  watch_.Tell([this](const Deed& deed) {
+    if (deed.ChangedTheBoard()) stepPanel_->hide();
+  });
+}
+
+/// When the panel has come or gone.
+void MainWindow::FollowSteps() {
+  const bool shown = !stepPanel_->isHidden();
+  findChild<QAction*>("StepByStepx")->setChecked(shown);
+  const bool walking = boardPlace_->currentWidget() == walkView_;
+  if (shown == walking) return;
+  if (!shown) {
+    boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
+    return;
+  }
+  const auto square = SquareOn(board_);
+  boardPlace_->setCurrentWidget(walkView_);
+  stepPanel_->Begin(board_.GridSize, square ? square->Numbers() : std::vector<double>());
 }
 
 /// The panel beside the board, which the window makes room for.
