@@ -44,7 +44,7 @@ void FindHint(benchmark::State& state) {
   const auto made = MakePuzzle(*FreshSquare({8}, random, stage), {Grade::Hard}, random, stage);
   const Puzzle& puzzle = std::get<MadePuzzle>(made).Clues;
   for (auto _ : state)
-    benchmark::DoNotOptimize(NextStep(puzzle, Grade::Expert));
+    benchmark::DoNotOptimize(NextStep(puzzle, Grade::Expert, stage));
 }
 
 struct Measured {

@@ -134,6 +134,10 @@ class Reader {
       return;
     }
     if (request_.Command != Command::Build) {
+      if (request_.LimitToNine && request_.RulesWanted == Rules::Normal) {
+        Fail("the limit goes with the positive rules");
+      }
+      if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
       if (request_.Format == SquareFormat::Csv) Fail("the format is text or json");
       return;
     }

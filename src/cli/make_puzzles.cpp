@@ -18,7 +18,7 @@ MadePuzzle Make(const SquareRequest& request, Random& random) {
   SquareWish square{request.Size, {}, request.LimitToNine};
   if (request.Sum) square.Total = *request.Sum;
   const auto full = FreshSquare(square, random, stage);
-  if (!full) throw Impossible{"no square of this size has such a sum"};
+  if (!full) throw Impossible{"no square of this size and sum was found"};
   const auto made = MakePuzzle(*full, {request.Wanted, request.Clues}, random, stage);
   if (const auto* cannot = std::get_if<CannotMake>(&made)) throw Impossible{cannot->Why};
   return std::get<MadePuzzle>(made);

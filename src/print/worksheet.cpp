@@ -17,12 +17,14 @@ constexpr double kBetween = 6;  // puzzles
 constexpr double kLargestCell = 22;
 constexpr double kTextHeight = 4;
 constexpr double kSmallText = 3;
+constexpr double kReadable = 1;
 
 /// Texts are laid out in units of a thousandth of a millimetre, or fonts would be rounded to whole
 /// millimetres.
 constexpr double kUnits = 1000;
 
-/// Writes a line into `area`, smaller where it would not fit.
+/// Writes a line into `area`, smaller where it would not fit; not at all where it could not be
+/// read.
 void Write(QPainter& painter, const QRectF& area, int flags, const QString& text, double height,
            bool bold = false) {
   painter.save();
@@ -33,21 +35,28 @@ void Write(QPainter& painter, const QRectF& area, int flags, const QString& text
   font.setPixelSize(static_cast<int>(height * kUnits));
   const double width = QFontMetricsF(font, painter.device()).horizontalAdvance(text);
   const double room = area.width() * kUnits;
-  if (width > room) font.setPixelSize(static_cast<int>(height * kUnits * room / width));
+  const double fits = width > room ? height * room / width : height;
+  font.setPixelSize(std::max(1, static_cast<int>(fits * kUnits)));
   painter.setFont(font);
-  painter.drawText(QRectF(area.topLeft() * kUnits, area.size() * kUnits), flags, text);
+  if (fits >= kReadable)
+    painter.drawText(QRectF(area.topLeft() * kUnits, area.size() * kUnits), flags, text);
   painter.restore();
 }
 
-/// The board in the middle of `area`, with the numbers of `puzzle`; those of `clues` heavier.
-void PaintBoard(QPainter& painter, const QRectF& area, double side, const Puzzle& puzzle,
+/// Where a board stands in its slot: in the middle, with room for what is above and below it.
+QRectF BoardIn(const QRectF& slot, double side, int order) {
+  QRectF board(0, 0, order * side, order * side);
+  board.moveCenter(slot.adjusted(0, kCaption, 0, -kBelow).center());
+  return board;
+}
+
+/// The board with the numbers of `puzzle`; those of `clues` heavier.
+void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzle& puzzle,
                 const Puzzle& clues) {
   constexpr double kThin = 0.2;
   constexpr double kThick = 0.6;
   constexpr double kShareOfCell = 0.5;
   const int n = puzzle.Order;
-  QRectF board(0, 0, n * side, n * side);
-  board.moveCenter(area.center());
   for (int line = 0; line <= n; ++line) {
     painter.setPen(QPen(Qt::black, line % n == 0 ? kThick : kThin, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(board.topLeft() + QPointF(0, line * side),
@@ -163,31 +172,42 @@ void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
 
 void Worksheet::PaintPuzzle(QPainter& painter, const Slot& slot, double side) const {
   const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
-  const QRectF& area = slot.Area;
   const bool given = wish_.TotalGiven || !TotalCanBeFound(clues);
   const QString total = given ? QString::number(clues.Target) : "________";
-  Write(painter, {area.left(), area.top(), area.width(), kCaption}, Qt::AlignCenter,
-        QString("%1.   Total: %2").arg(slot.Number + 1).arg(total), kTextHeight, true);
-  PaintBoard(painter, area.adjusted(0, kCaption, 0, -kBelow), side, clues, clues);
-  const QRectF below(area.left(), area.bottom() - kBelow + 2, area.width(), kBelow - 2);
-  Write(painter, {below.left(), below.top(), below.width(), kTextHeight * 1.4}, Qt::AlignCenter,
-        Missing(clues), kTextHeight);
-  Write(painter, {below.left(), below.top() + 7, below.width(), kSmallText * 1.4}, Qt::AlignCenter,
-        CodeText(clues), kSmallText);
+  PaintCaptioned(painter, slot, side, clues,
+                 QString("%1.   Total: %2").arg(slot.Number + 1).arg(total), Missing(clues));
 }
 
 void Worksheet::PaintAnswer(QPainter& painter, const Slot& slot, double side) const {
   const MadePuzzle& made = puzzles_[static_cast<std::size_t>(slot.Number)];
-  const QRectF& area = slot.Area;
-  Write(painter, {area.left(), area.top(), area.width(), kCaption}, Qt::AlignCenter,
-        QString("%1.   %2, total %3")
-            .arg(slot.Number + 1)
-            .arg(NameOf(made.Needed))
-            .arg(made.Clues.Target),
+  PaintCaptioned(painter, slot, side, made.Solution,
+                 QString("%1.   %2, total %3")
+                     .arg(slot.Number + 1)
+                     .arg(NameOf(made.Needed))
+                     .arg(made.Clues.Target),
+                 {});
+}
+
+/// A board with what stands above it and, where there is such a line, right below it; then the code
+/// of its puzzle.
+void Worksheet::PaintCaptioned(QPainter& painter, const Slot& slot, double side,
+                               const Puzzle& shown, const QString& above,
+                               const QString& below) const {
+  const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
+  const QRectF board = BoardIn(slot.Area, side, clues.Order);
+  const double left = slot.Area.left();
+  const double width = slot.Area.width();
+  Write(painter, {left, board.top() - kCaption, width, kCaption}, Qt::AlignCenter, above,
         kTextHeight, true);
-  PaintBoard(painter, area.adjusted(0, kCaption, 0, -kBelow), side, made.Solution, made.Clues);
-  Write(painter, {area.left(), area.bottom() - kBelow + 2, area.width(), kSmallText * 1.4},
-        Qt::AlignCenter, CodeText(made.Clues), kSmallText);
+  PaintBoard(painter, board, side, shown, clues);
+  constexpr double kGap = 2;
+  constexpr double kLine = 7;
+  const double under = board.bottom() + kGap;
+  if (!below.isEmpty()) {
+    Write(painter, {left, under, width, kTextHeight * 1.4}, Qt::AlignCenter, below, kTextHeight);
+  }
+  Write(painter, {left, under + (below.isEmpty() ? 0 : kLine), width, kSmallText * 1.4},
+        Qt::AlignCenter, CodeText(clues), kSmallText);
 }
 
 }  // namespace numorra

@@ -46,6 +46,8 @@ class Worksheet {
   QRectF SlotArea(QSizeF size, int place) const;
   void PaintPuzzle(QPainter& painter, const Slot& slot, double side) const;
   void PaintAnswer(QPainter& painter, const Slot& slot, double side) const;
+  void PaintCaptioned(QPainter& painter, const Slot& slot, double side, const Puzzle& shown,
+                      const QString& above, const QString& below) const;
 
   std::vector<MadePuzzle> puzzles_;
   WorksheetWish wish_;

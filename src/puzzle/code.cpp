@@ -104,7 +104,7 @@ void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& mis
 
 /// Takes the puzzle's digits through the coder, one by one.
 void Pass(Coder& coder, Puzzle& puzzle) {
-  constexpr std::uint64_t kRules = 3;
+  constexpr std::uint64_t kRules = 3;  // of which one is free
   puzzle.Order = kMinOrder + static_cast<int>(coder.Digit(
                                  static_cast<std::uint64_t>(puzzle.Order - kMinOrder), kOrders));
   const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0
@@ -112,7 +112,6 @@ void Pass(Coder& coder, Puzzle& puzzle) {
                                                                         : 1,
                                           kRules);
   puzzle.Asked = rules == 0 ? Rules::Normal : Rules::Positive;
-  puzzle.LimitToNine = rules == 2;
   puzzle.Target =
       rules == 0
           ? NormalTotal(puzzle.Order)
@@ -209,7 +208,7 @@ std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
   Coder coder(std::move(number));
   Puzzle puzzle{kMinOrder, 0, Rules::Normal, false, {}};
   Pass(coder, puzzle);
-  const auto checked = PuzzleOf(StoredSquareOf(puzzle, true), puzzle.LimitToNine);
+  const auto checked = PuzzleOf(StoredSquareOf(puzzle, true));
   if (!coder.AllRead() || std::holds_alternative<AgainstRules>(checked)) return Unreadable{kBroken};
   return puzzle;
 }

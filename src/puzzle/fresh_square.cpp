@@ -14,9 +14,8 @@ std::vector<double> NumbersOf(const CellTable& square, int order) {
   return numbers;
 }
 
-Puzzle PuzzleOf(int order, std::int64_t total, Rules rules, bool limit,
-                const std::vector<double>& numbers) {
-  Puzzle puzzle{order, total, rules, limit, {}};
+Puzzle PuzzleOf(int order, std::int64_t total, Rules rules, const std::vector<double>& numbers) {
+  Puzzle puzzle{order, total, rules, false, {}};
   for (const double number : numbers)
     puzzle.Cells.push_back(static_cast<std::int64_t>(number));
   return puzzle;
@@ -29,7 +28,7 @@ std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, BuildS
   if (!wish.Total && !wish.LimitToNine) {
     std::vector<double> numbers = NumbersOf(NormalSquare(random, stage).Build(n), n);
     if (const auto varied = Varied(n, numbers, random)) numbers = *varied;
-    return PuzzleOf(n, NormalTotal(n), Rules::Normal, false, numbers);
+    return PuzzleOf(n, NormalTotal(n), Rules::Normal, numbers);
   }
   const auto total = static_cast<double>(wish.Total.value_or(NormalTotal(n)));
   const VariablePlan plan = PlanVariableSquare(n, total, wish.LimitToNine, false);
@@ -38,7 +37,7 @@ std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, BuildS
     const VariableBuild build = builder.Build(plan, {}, tries);
     if (build.Status == SolveStatus::CellValueTooSmall) return std::nullopt;
     if (build.Status == SolveStatus::TryAgain) continue;
-    return PuzzleOf(n, static_cast<std::int64_t>(build.Total), Rules::Positive, wish.LimitToNine,
+    return PuzzleOf(n, static_cast<std::int64_t>(build.Total), Rules::Positive,
                     NumbersOf(build.Square, n));
   }
   return std::nullopt;

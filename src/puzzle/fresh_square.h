@@ -13,7 +13,7 @@ namespace numorra {
 struct SquareWish {
   int Order = 4;
   std::optional<std::int64_t> Total = {};  ///< any other than the normal one; 1 to 32767
-  bool LimitToNine = false;
+  bool LimitToNine = false;  ///< of the square's numbers; a puzzle's gaps know no such limit
 };
 
 /// A full square by lot: a normal one, or one of any total where a total or the limit is wished

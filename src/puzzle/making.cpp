@@ -44,6 +44,7 @@ class Digger {
         if (have == clues) return true;
         if (have + static_cast<int>(cells.size()) > clues) continue;
         if (made.Clues.Cells[static_cast<std::size_t>(cells[0])] != 0) continue;
+        stage_.Yield();
         Puzzle more = made.Clues;
         for (const int cell : cells)
           more.Cells[static_cast<std::size_t>(cell)] =

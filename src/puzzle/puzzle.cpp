@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 
 #include "app/board/numbers.h"
 
@@ -14,6 +15,20 @@ std::string RangeOf(const Puzzle& puzzle) {
     return "none of the numbers 1 to " + std::to_string(puzzle.Most());
   }
   return "no whole number of 1 or more";
+}
+
+/// A number that stands in two cells: the one to blame is no given where the other is.
+AgainstRules Twice(const StoredSquare& square, Place first, Place second) {
+  const auto indexOf = [&](Place place) {
+    return static_cast<std::size_t>((place.Row - 1) * square.Order + place.Column - 1);
+  };
+  const auto given = [&](Place place) {
+    return !square.Givens.empty() && square.Givens[indexOf(place)];
+  };
+  if (given(second) && !given(first)) std::swap(first, second);
+  return {Decimal(*square.Cells[indexOf(second)]) + " in " + NameOf(second) + " stands in " +
+              NameOf(first) + " too",
+          second};
 }
 
 }  // namespace
@@ -56,9 +71,7 @@ std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool lim
                           place};
     }
     if (cell && square.Asked == Rules::Normal && !seen.emplace(*cell, index).second) {
-      return AgainstRules{Decimal(*cell) + " in " + NameOf(place) + " stands in " +
-                              NameOf(puzzle.PlaceOf(seen[*cell])) + " too",
-                          place};
+      return Twice(square, puzzle.PlaceOf(seen[*cell]), place);
     }
     puzzle.Cells.push_back(static_cast<std::int64_t>(cell.value_or(0)));
   }

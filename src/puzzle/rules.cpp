@@ -160,7 +160,7 @@ std::optional<Step> OnePossibility(const Puzzle& puzzle, Grade grade) {
 }
 
 /// A gap of which all numbers but one lead to a contradiction.
-std::optional<Step> Tried(const Puzzle& puzzle) {
+std::optional<Step> Tried(const Puzzle& puzzle, BuildStage& stage) {
   constexpr std::int64_t kMostTried = 12;
   Candidates board(puzzle);
   if (!board.Propagate(Grade::Hard)) return std::nullopt;
@@ -170,6 +170,7 @@ std::optional<Step> Tried(const Puzzle& puzzle) {
       std::vector<std::int64_t> possible;
       for (std::int64_t number = board.Low(cell); number <= board.High(cell); ++number) {
         if (!board.Allows(cell, number)) continue;
+        stage.Yield();
         const std::size_t mark = board.Mark();
         if (board.Put(cell, number) && board.Propagate(Grade::Hard)) possible.push_back(number);
         board.UndoTo(mark);
@@ -189,7 +190,7 @@ std::optional<Step> Tried(const Puzzle& puzzle) {
 
 }  // namespace
 
-std::optional<Step> NextStep(const Puzzle& puzzle, Grade most) {
+std::optional<Step> NextStep(const Puzzle& puzzle, Grade most, BuildStage& stage) {
   {
     Candidates board(puzzle);
     if (auto step = SingleGap(puzzle, board)) return step;
@@ -198,7 +199,7 @@ std::optional<Step> NextStep(const Puzzle& puzzle, Grade most) {
     if (grade > most) return std::nullopt;
     if (auto step = OnePossibility(puzzle, grade)) return step;
   }
-  return most == Grade::Expert ? Tried(puzzle) : std::nullopt;
+  return most == Grade::Expert ? Tried(puzzle, stage) : std::nullopt;
 }
 
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number) {

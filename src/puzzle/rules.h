@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/ports/build_stage.h"
 #include "puzzle/candidates.h"
 
 namespace numorra {
@@ -21,7 +22,9 @@ struct Step {
 /// The next number that the rules of a grade give, by the easiest of them that give any; nothing
 /// when they give none, or contradict each other. Expert gives what trying gives: a gap of which
 /// all numbers but one lead, by the hard rules, to a contradiction.
-std::optional<Step> NextStep(const Puzzle& puzzle, Grade most);
+///
+/// The stage is yielded to at every trial; what it throws ends it.
+std::optional<Step> NextStep(const Puzzle& puzzle, Grade most, BuildStage& stage);
 
 /// What is said of a number that trying alone has found.
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number);

@@ -148,11 +148,16 @@ class Search {
     return best;
   }
 
+  /// Each try is a level of the stack.
   template <class Act>
   End Try(Act act) {
+    constexpr int kMostLevels = 5000;
+    if (depth_ >= kMostLevels) return End::OutOfTime;
+    ++depth_;
     const std::size_t mark = board_.Mark();
     const End end = act() ? Descend() : End::AllSeen;
     board_.UndoTo(mark);
+    --depth_;
     return end;
   }
 
@@ -192,6 +197,7 @@ class Search {
   std::vector<std::int64_t> weights_;  ///< by line: 1 and how often it was found impossible
   bool randomly_ = false;
   std::int64_t nodes_ = 0;
+  int depth_ = 0;
   std::int64_t solutions_ = 0;  ///< as they were found, in restarts the same ones again
   std::int64_t most_ = 2;
   std::int64_t lastNode_ = 0;

@@ -220,8 +220,9 @@ TEST(Rules, GiveTheNextNumberAndWhy) {
       {"0 0 0 / 0 0 0 / 0 8 1", Grade::Easy,
        "2 numbers stand in row 3, the total is 15: the last is 6"},
   };
+  SilentStage stage;
   for (const Case& c : cases) {
-    const auto step = NextStep(PuzzleFrom(c.Rows, 15), Grade::Expert);
+    const auto step = NextStep(PuzzleFrom(c.Rows, 15), Grade::Expert, stage);
     if (std::string(c.Why).empty()) {
       EXPECT_EQ(step, std::nullopt) << c.Rows;
       continue;
@@ -243,7 +244,7 @@ TEST(Rules, LeadToTheSolution) {
       const SearchResult result = Solve(puzzle, {.Nodes = 5000}, random, stage);
       const auto* one = std::get_if<OneSolution>(&result);
       if (!one) continue;
-      while (const auto step = NextStep(puzzle, Grade::Expert)) {
+      while (const auto step = NextStep(puzzle, Grade::Expert, stage)) {
         auto& cell = puzzle.Cells[static_cast<std::size_t>(step->Cell)];
         ASSERT_EQ(cell, 0);
         ASSERT_EQ(step->Number, one->Solved.Cells[static_cast<std::size_t>(step->Cell)])

@@ -103,7 +103,7 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
   if (made.Needed == Grade::Easy && normal && clues < least) return "too few clues to be easy";
   auto hardest = Grade::Easy;
   Puzzle board = made.Clues;
-  while (const auto step = NextStep(board, std::min(made.Needed, Grade::Hard))) {
+  while (const auto step = NextStep(board, std::min(made.Needed, Grade::Hard), stage)) {
     auto& cell = board.Cells[static_cast<std::size_t>(step->Cell)];
     if (cell != 0 || step->Number != made.Solution.Cells[static_cast<std::size_t>(step->Cell)]) {
       return "a hint that leads astray: " + step->Why;

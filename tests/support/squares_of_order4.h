@@ -29,6 +29,7 @@ inline std::vector<Rows> SquaresOfOrder4() {
     const Row last = {34 - first[0] - second[0] - third[0], 34 - first[1] - second[1] - third[1],
                       34 - first[2] - second[2] - third[2], 34 - first[3] - second[3] - third[3]};
     if (first[0] + second[1] + third[2] + last[3] != 34) return;
+    if (first[3] + second[2] + third[1] + last[0] != 34) return;
     const Rows square{first, second, third, last};
     if (first[0] < last[0] && first[0] < last[3] && WhyNotNormal(square).empty()) {
       squares.push_back(square);

@@ -28,6 +28,7 @@ void Show(Board& board, const Puzzle& solved) {
 
 std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Random& random,
                     BuildStage& stage) {
+  const BusyPointer busy(stage);
   const std::vector<Place> entries = EntriesInTheWay(puzzle, givens, random, stage);
   if (entries.empty()) return "nothing can fill these gaps";
   std::string why = "nothing can fill these gaps: ";
@@ -47,7 +48,11 @@ std::string Seconds(double seconds) {
 /// The search for the board, gone on with when the player wants it.
 SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& stage,
                           Random& random) {
-  SearchResult result = Solve(puzzle, {.Seconds = kFirstSearch}, random, stage);
+  const auto search = [&](double seconds) {
+    const BusyPointer busy(stage);
+    return Solve(puzzle, {.Seconds = seconds}, random, stage);
+  };
+  SearchResult result = search(kFirstSearch);
   const auto* open = std::get_if<NotSettled>(&result);
   if (!open) return result;
   const std::string question = (open->Found ? "a way was found; whether it is the only one was "
@@ -55,7 +60,7 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& st
                                Seconds(kFirstSearch) + "\ngo on for " + Decimal(kLongSearch) +
                                " seconds more?";
   if (!dialogs.Ask(question)) return result;
-  SearchResult second = Solve(puzzle, {.Seconds = kLongSearch}, random, stage);
+  SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
   if (still && !still->Found) still->Found = open->Found;
   if (still) {
@@ -102,7 +107,6 @@ void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stag
   }
   const auto& puzzle = std::get<Puzzle>(read);
   random.Reseed();
-  const BusyPointer busy(stage);
   const SearchResult result = SearchLonger(puzzle, dialogs, stage, random);
   if (const auto* one = std::get_if<OneSolution>(&result)) {
     Show(board, one->Solved);

@@ -13,39 +13,55 @@ namespace {
 
 const SearchLimit kLimit{.Seconds = kFirstSearch};
 
-/// The entries that cannot stay, the givens of the board being right.
-std::vector<Place> WrongEntries(const Board& board, const Puzzle& puzzle, Random& random,
-                                BuildStage& stage) {
+/// Entries that cannot stay: all of them, or any one of them.
+struct Wrong {
+  std::vector<Place> Cells;
+  bool All = true;
+};
+
+/// The entries that differ from the only solution of the board's givens; nothing where there are no
+/// givens, or not one solution.
+std::optional<Wrong> AgainstGivens(const Board& board, const Puzzle& puzzle, Random& random,
+                                   BuildStage& stage) {
   const std::vector<bool> givens = StoredSquareOf(board).Givens;
-  if (givens.empty()) return EntriesInTheWay(puzzle, givens, random, stage);
+  if (givens.empty()) return std::nullopt;
   Puzzle clues = puzzle;
   for (std::size_t cell = 0; cell < givens.size(); ++cell) {
     if (!givens[cell]) clues.Cells[cell] = 0;
   }
   const SearchResult result = Solve(clues, kLimit, random, stage);
   const auto* one = std::get_if<OneSolution>(&result);
-  if (!one) return EntriesInTheWay(puzzle, givens, random, stage);
-  std::vector<Place> wrong;
+  if (!one) return std::nullopt;
+  Wrong wrong;
   for (std::size_t cell = 0; cell < givens.size(); ++cell) {
     const bool filled = puzzle.Cells[cell] != 0;
     if (filled && puzzle.Cells[cell] != one->Solved.Cells[cell]) {
-      wrong.push_back(puzzle.PlaceOf(static_cast<int>(cell)));
+      wrong.Cells.push_back(puzzle.PlaceOf(static_cast<int>(cell)));
     }
   }
   return wrong;
 }
 
-Remark CannotStay(const Board& board, const std::vector<Place>& wrong) {
+/// What stands in the way of a board that has no solution.
+Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, BuildStage& stage) {
+  if (auto wrong = AgainstGivens(board, puzzle, random, stage)) return *wrong;
+  return {EntriesInTheWay(puzzle, StoredSquareOf(board).Givens, random, stage), false};
+}
+
+Remark CannotStay(const Board& board, const Wrong& wrong) {
+  const std::vector<Place>& cells = wrong.Cells;
+  if (cells.empty()) return {"nothing can fill these gaps"};
   std::string text;
   constexpr std::size_t kMostNamed = 5;
-  for (std::size_t i = 0; i < std::min(kMostNamed, wrong.size()); ++i) {
-    text += (i > 0 ? "; " : "") + board.grid.Text(wrong[i].Row, wrong[i].Column) + " in " +
-            NameOf(wrong[i]);
+  for (std::size_t i = 0; i < std::min(kMostNamed, cells.size()); ++i) {
+    text += (i > 0 ? "; " : "") + board.grid.Text(cells[i].Row, cells[i].Column) + " in " +
+            NameOf(cells[i]);
   }
-  if (wrong.size() > kMostNamed) {
-    text += "; and " + std::to_string(wrong.size() - kMostNamed) + " more";
+  if (cells.size() > kMostNamed) {
+    text += "; and " + std::to_string(cells.size() - kMostNamed) + " more";
   }
-  return {text + (wrong.size() == 1 ? " cannot stay" : " cannot all stay"), wrong};
+  if (cells.size() == 1) return {text + " cannot stay", cells};
+  return {text + (wrong.All ? ": none of these can stay" : ": one of these cannot stay"), cells};
 }
 
 Remark Against(const AgainstRules& against) {
@@ -54,8 +70,26 @@ Remark Against(const AgainstRules& against) {
   return remark;
 }
 
-std::string NotInTime() {
-  return "whether it has a solution was not settled in 3 seconds";
+std::string NotInTime(const NotSettled& open) {
+  return open.Found ? "it has a solution; whether it is the only one was not settled in 3 seconds"
+                    : "whether it has a solution was not settled in 3 seconds";
+}
+
+/// The next number by rules, or else one of the solution that trying has to find.
+std::optional<Step> FindStep(const Puzzle& puzzle, const Puzzle& solved, BuildStage& stage) {
+  if (auto step = NextStep(puzzle, Grade::Expert, stage)) return step;
+  const Candidates board(puzzle);
+  for (int cell = 0; cell < board.Cells(); ++cell) {
+    if (board.Value(cell) != 0) continue;
+    const std::int64_t number = solved.Cells[static_cast<std::size_t>(cell)];
+    return Step{cell,
+                number,
+                Grade::Expert,
+                {puzzle.PlaceOf(cell)},
+                NameOf(puzzle.PlaceOf(cell)),
+                "only a longer search shows it: " + WhyTried(board, cell, number)};
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -66,7 +100,7 @@ Remark Hints::Next() {
     step_.reset();
     texts_ = texts;
     presses_ = 0;
-    const Remark remark = Begin();
+    Remark remark = Begin();
     if (!step_) return remark;
   }
   const Place place{step_->Cell / board_.GridSize + 1, step_->Cell % board_.GridSize + 1};
@@ -90,40 +124,22 @@ Remark Hints::Next() {
 }
 
 Remark Hints::Begin() {
-  if (!board_.HasGaps()) return {"the board has no gaps"};
   const auto read = PuzzleOf(StoredSquareOf(board_));
   if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
   const auto& puzzle = std::get<Puzzle>(read);
   random_.Reseed();
   const BusyPointer busy(stage_);
   const SearchResult result = Solve(puzzle, kLimit, random_, stage_);
+  if (std::holds_alternative<NoSolution>(result)) {
+    return CannotStay(board_, InTheWay(board_, puzzle, random_, stage_));
+  }
+  if (!board_.HasGaps()) return {"the board has no gaps"};
   if (const auto* one = std::get_if<OneSolution>(&result)) {
-    step_ = Find(puzzle, one->Solved);
+    step_ = FindStep(puzzle, one->Solved, stage_);
     return {};
   }
-  if (std::holds_alternative<SeveralSolutions>(result)) {
-    return {"this board has several solutions, so no number follows"};
-  }
-  if (std::holds_alternative<NotSettled>(result)) return {NotInTime()};
-  const std::vector<Place> wrong = WrongEntries(board_, puzzle, random_, stage_);
-  return wrong.empty() ? Remark{"nothing can fill these gaps"} : CannotStay(board_, wrong);
-}
-
-/// The next number by rules, or else one of the solution that trying has to find.
-std::optional<Step> Hints::Find(const Puzzle& puzzle, const Puzzle& solved) const {
-  if (auto step = NextStep(puzzle, Grade::Expert)) return step;
-  const Candidates board(puzzle);
-  for (int cell = 0; cell < board.Cells(); ++cell) {
-    if (board.Value(cell) != 0) continue;
-    const std::int64_t number = solved.Cells[static_cast<std::size_t>(cell)];
-    return Step{cell,
-                number,
-                Grade::Expert,
-                {puzzle.PlaceOf(cell)},
-                NameOf(puzzle.PlaceOf(cell)),
-                WhyTried(board, cell, number)};
-  }
-  return std::nullopt;
+  if (const auto* open = std::get_if<NotSettled>(&result)) return {NotInTime(*open)};
+  return {"this board has several solutions, so no number follows"};
 }
 
 Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
@@ -132,17 +148,12 @@ Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
   const auto& puzzle = std::get<Puzzle>(read);
   random.Reseed();
   const BusyPointer busy(stage);
-  const std::vector<bool> givens = StoredSquareOf(board).Givens;
-  if (!givens.empty()) {
-    const std::vector<Place> wrong = WrongEntries(board, puzzle, random, stage);
-    if (!wrong.empty()) return CannotStay(board, wrong);
-  }
   const SearchResult result = Solve(puzzle, kLimit, random, stage);
-  if (std::holds_alternative<NotSettled>(result)) return {NotInTime()};
-  if (!std::holds_alternative<NoSolution>(result)) return {"all entries can stay"};
-  const std::vector<Place> wrong = EntriesInTheWay(puzzle, givens, random, stage);
-  if (wrong.empty()) return {"these entries cannot all stay"};
-  return CannotStay(board, wrong);
+  if (std::holds_alternative<NoSolution>(result)) {
+    return CannotStay(board, InTheWay(board, puzzle, random, stage));
+  }
+  const auto* open = std::get_if<NotSettled>(&result);
+  return {open && !open->Found ? NotInTime(*open) : "all entries can stay"};
 }
 
 Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
@@ -162,7 +173,7 @@ Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
     return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
   }
   if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
-  if (!several) return {NotInTime()};
+  if (!several) return {NotInTime(std::get<NotSettled>(result))};
   if (!count) return {"several solutions"};
   return {(*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions"};
 }

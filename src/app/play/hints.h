@@ -29,7 +29,6 @@ class Hints {
 
  private:
   Remark Begin();
-  std::optional<Step> Find(const Puzzle& puzzle, const Puzzle& solved) const;
 
   Board& board_;
   Random& random_;

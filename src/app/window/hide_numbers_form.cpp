@@ -15,7 +15,12 @@ namespace numorra {
 
 QString DescriptionOf(const MadePuzzle& made) {
   const int clues = made.Clues.Order * made.Clues.Order - made.Clues.Gaps();
-  return QString("%1 clues, %2: %3").arg(clues).arg(NameOf(made.Needed), RulesOf(made.Needed));
+  QString description = QString("%1 clues, %2: ").arg(clues).arg(NameOf(made.Needed));
+  for (int grade = 0; grade <= static_cast<int>(made.Needed); ++grade) {
+    if (grade > 0) description += "; ";
+    description += RulesOf(static_cast<Grade>(grade));
+  }
+  return description;
 }
 
 HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& whyNot,
@@ -33,6 +38,9 @@ HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& wh
   setObjectName("HideNumbers");
   setWindowTitle("Hide Numbers");
   setAttribute(Qt::WA_DeleteOnClose);
+  runner_.OnEnd = [this](const std::string&) {
+    if (!testAttribute(Qt::WA_DeleteOnClose)) deleteLater();
+  };
   auto* fromFresh = Named(
       "FromFreshx", new QRadioButton(QString("A &fresh square of size %1").arg(fresh_.Order)));
   auto* another = Named("MakeAnotherx", new QPushButton("&Make Another"));
@@ -40,14 +48,16 @@ HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& wh
   take_ = Named("TakePuzzlex", buttons->button(QDialogButtonBox::Ok));
   told_->setWordWrap(true);
   told_->setTextFormat(Qt::PlainText);
-  told_->setMinimumHeight(3 * told_->fontMetrics().lineSpacing());
+  told_->setMinimumHeight(5 * told_->fontMetrics().lineSpacing());
   told_->setAlignment(Qt::AlignTop);
   fromBoard_->setEnabled(square_.has_value());
   fromBoard_->setToolTip(whyNot);
   (square_ ? fromBoard_ : fromFresh)->setChecked(true);
+  auto* why = new QLabel("(" + whyNot + ")");
+  why->setVisible(!square_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(fromBoard_);
-  if (!square_) column->addWidget(new QLabel("(" + whyNot + ")"));
+  column->addWidget(why);
   column->addWidget(fromFresh);
   column->addWidget(wish_);
   column->addWidget(told_, 1);
@@ -87,7 +97,7 @@ void HideNumbersForm::Make() {
     const bool board = fromBoard_->isChecked();
     const std::optional<Puzzle> square = board ? square_ : FreshSquare(fresh_, random_, stage);
     if (!square) {
-      told_->setText("There is no square of this size and sum.");
+      told_->setText("No square of this size and sum was found.");
       return;
     }
     auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
@@ -104,9 +114,10 @@ void HideNumbersForm::Make() {
   });
 }
 
-/// Closing stops what is being made.
+/// Closing stops what is being made, and what has been stopped deletes the form.
 void HideNumbersForm::done(int result) {
   runner_.Stop();
+  if (runner_.Running()) setAttribute(Qt::WA_DeleteOnClose, false);
   QDialog::done(result);
 }
 

@@ -40,7 +40,7 @@ class HideNumbersForm : public QDialog {
   std::optional<MadePuzzle> made_;
 };
 
-/// What is said of a puzzle: "14 clues, easy: lines with a single gap".
+/// What is said of a puzzle: its clues, its grade and the rules that this takes.
 QString DescriptionOf(const MadePuzzle& made);
 
 }  // namespace numorra

@@ -31,7 +31,7 @@ void MainWindow::BuildMenus() {
            {"PrintWorksheetx",
             "Print &Worksheet...",
             {Qt::CTRL | Qt::SHIFT | Qt::Key_P},
-            beside([this] { OpenWorksheet(); })},
+            [this] { runner_.Run("Print Worksheet", [this] { OpenWorksheet(); }); }},
            {},
            // Not every desktop names a standard key for it.
            {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }}});

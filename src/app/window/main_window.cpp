@@ -421,6 +421,7 @@ void MainWindow::Draw(const DrawingKind* kind) {
 /// Puts the drawing in the place of the board, or the board back.
 void MainWindow::ShowOverlay() {
   stepPanel_->hide();
+  ForgetRemark();
   if (!board_.OverlayShown) drawing_->SetKind(nullptr);
   boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
 }

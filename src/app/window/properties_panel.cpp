@@ -17,18 +17,18 @@ constexpr const char* kSquareGroup = "The square";
 constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",     "largest",
                                     "repeated", "standard form", "census number"};
 
-QString MarkFor(Answer answer) {
+char16_t MarkFor(Answer answer) {
   switch (answer) {
     case Answer::Holds:
-      return QString(QChar(0x2713));
+      return u'\u2713';
     case Answer::Fails:
-      return QString(QChar(0x2717));
+      return u'\u2717';
     case Answer::DoesNotApply:
-      return QString(QChar(0x2013));
+      return u'\u2013';
     case Answer::TooLarge:
       break;
   }
-  return "?";
+  return u'?';
 }
 
 QTreeWidgetItem* GroupNamed(QTreeWidget* tree, const QString& name) {
@@ -40,6 +40,15 @@ QTreeWidgetItem* GroupNamed(QTreeWidget* tree, const QString& name) {
   group->setFirstColumnSpanned(true);
   group->setExpanded(true);
   return group;
+}
+
+/// Writes what has changed, so that nothing else is painted anew.
+void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
+  const QString spoken = entry->text(0) + ": " + why;
+  if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
+  entry->setText(1, value);
+  entry->setData(0, Qt::AccessibleTextRole, spoken);
+  entry->setToolTip(1, why);
 }
 
 }  // namespace
@@ -82,14 +91,6 @@ QTreeWidgetItem* PropertiesPanel::AddEntry(const char* name, const QString& grou
   return new QTreeWidgetItem(GroupNamed(tree_, group), {QString(name)});
 }
 
-void PropertiesPanel::ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
-  const QString spoken = entry->text(0) + ": " + why;
-  if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
-  entry->setText(1, value);
-  entry->setData(0, Qt::AccessibleTextRole, spoken);
-  entry->setToolTip(1, why);
-}
-
 void PropertiesPanel::Show(const Report& report) {
   report_ = report;
   for (QTreeWidgetItem* entry : details_) {
@@ -103,7 +104,7 @@ void PropertiesPanel::Show(const Report& report) {
   for (std::size_t i = 0; i < terms_.size(); ++i) {
     const Judgement& found = report.Properties[i].Found;
     const QString word = WordFor(found.Says);
-    ShowEntry(terms_[i], MarkFor(found.Says) + " " + word,
+    ShowEntry(terms_[i], QChar(MarkFor(found.Says)) + QString(" ") + word,
               word + ", " + QString::fromStdString(found.Why));
   }
   tree_->setEnabled(true);

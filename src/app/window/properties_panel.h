@@ -31,7 +31,6 @@ class PropertiesPanel : public QDockWidget {
 
  private:
   QTreeWidgetItem* AddEntry(const char* name, const QString& group);
-  void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why);
   void ShowChosen();
   void Copy();
 

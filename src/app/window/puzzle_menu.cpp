@@ -29,7 +29,7 @@ void MainWindow::BuildPuzzleMenu() {
                         {{"HideNumbersx",
                           "&Hide Numbers...",
                           {},
-                          [this] { runner_.RunBeside([this] { OpenHideNumbers(); }); }},
+                          [this] { runner_.Run("Hide Numbers", [this] { OpenHideNumbers(); }); }},
                          {"EnterPuzzlex",
                           "&Enter Your Own",
                           {},
@@ -88,6 +88,7 @@ void MainWindow::CopyPuzzleCode() {
 
 /// The bar of a search takes the place of an older remark.
 void MainWindow::BeginSearch(const char* doing) {
+  stepPanel_->hide();
   remarkBar_->hide();
   searchStage_.ShowCount(doing);
 }
@@ -102,7 +103,8 @@ void MainWindow::ShowRemark(const Remark& remark) {
     if (remark.Where.size() == 1) view_->BringIntoView(place.Row, place.Column);
     lowest = std::max(lowest, view_->CellRect(place.Row, place.Column).bottom());
   }
-  const bool fromTop = lowest > view_->height() - remarkBar_->sizeHint().height() &&
+  const bool fromTop = !remark.Where.empty() &&
+                       lowest > view_->height() - remarkBar_->sizeHint().height() &&
                        view_->CellRect(remark.Where[0].Row, remark.Where[0].Column).top() > middle;
   QString text = QString::fromStdString(remark.Text);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
@@ -158,9 +160,9 @@ void MainWindow::OpenWorksheet() {
   if (const char* why = WhyNoBoardHas(fresh.Order)) return dialogs_.Tell(why);
   std::optional<MadePuzzle> puzzle;
   if (const auto clues = PuzzleOnBoard()) {
-    constexpr std::int64_t kNodes = 20'000;
+    constexpr double kAtOnce = 0.03;
     SilentStage stage;
-    const SearchResult result = Solve(*clues, {.Nodes = kNodes}, random_, stage);
+    const SearchResult result = Solve(*clues, {.Seconds = kAtOnce}, random_, stage);
     if (const auto* one = std::get_if<OneSolution>(&result)) {
       puzzle = MadePuzzle{*clues, one->Solved, GradeOf(*clues)};
     }

@@ -124,7 +124,7 @@ void StepPanel::GoTo(int step) {
 
 bool StepPanel::Asking() const {
   const WalkStep* const next = view_->TheWalk().Next();
-  return ask_->isChecked() && next && next->Number > 0;
+  return ask_->isChecked() && next != nullptr && next->Number > 0;
 }
 
 /// The sentence of the step, or the question about the next one.

@@ -89,6 +89,7 @@ void MainWindow::FollowSteps() {
     boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
     return;
   }
+  ForgetRemark();
   const auto square = SquareOn(board_);
   boardPlace_->setCurrentWidget(walkView_);
   stepPanel_->Begin(board_.GridSize, square ? square->Numbers() : std::vector<double>());
@@ -101,6 +102,7 @@ void MainWindow::BuildPropertiesPanel() {
   properties_->hide();
   connect(properties_, &PropertiesPanel::EvidenceChosen, this,
           [this](const std::vector<Place>& cells) {
+            if (remarkIsNew_) return;
             ForgetRemark();
             board_.grid.SetOutlined(cells);
             drawing_->update();
@@ -115,7 +117,7 @@ void MainWindow::BuildPropertiesPanel() {
 /// When the panel has come or gone.
 void MainWindow::FollowProperties() {
   const bool shown = !properties_->isHidden();
-  QAction* item = findChild<QAction*>("Propertiesx");
+  auto* item = findChild<QAction*>("Propertiesx");
   if (item->isChecked() == shown && widenedBy_.has_value() == shown) return;
   item->setChecked(shown);
   const int room = screen()->availableSize().width() - width();

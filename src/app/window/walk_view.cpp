@@ -12,6 +12,7 @@ WalkView::WalkView(Grid& grid, QWidget* parent) : GridView(grid, parent), grid_(
   setObjectName("WalkBoard");
   setAccessibleName("Board of the walk");
   SetFitting(true);
+  grid_.OnRepaint = nullptr;  // which would repaint all of it
 }
 
 void WalkView::Begin(int order, std::vector<WalkStep> steps) {

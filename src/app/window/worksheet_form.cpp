@@ -38,6 +38,9 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   setObjectName("PrintWorksheet");
   setWindowTitle("Print Worksheet");
   setAttribute(Qt::WA_DeleteOnClose);
+  runner_.OnEnd = [this](const std::string&) {
+    if (!testAttribute(Qt::WA_DeleteOnClose)) deleteLater();
+  };
   constexpr int kMostPuzzles = 200;
   count_->setRange(1, kMostPuzzles);
   count_->setValue(6);
@@ -62,8 +65,8 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   column->addWidget(fromFresh);
   column->addLayout(form);
   auto* layout = new QFormLayout;
-  layout->addRow("Puzzles on a p&age", perPage_);
-  layout->addRow("Pa&per", orientation_);
+  layout->addRow("Puzzles on a pag&e", perPage_);
+  layout->addRow("Pape&r", orientation_);
   layout->addRow("T&itle", title_);
   layout->addRow("", total_);
   column->addLayout(layout);
@@ -105,7 +108,7 @@ std::vector<MadePuzzle> WorksheetForm::Puzzles() {
   while (static_cast<int>(puzzles.size()) < count_->value()) {
     stage.Yield();
     const auto square = FreshSquare(fresh_, random_, stage);
-    if (!square) throw NoSet{"there is no square of this size and sum"};
+    if (!square) throw NoSet{"no square of this size and sum was found"};
     auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&made)) throw NoSet{cannot->Why};
     puzzles.push_back(std::get<MadePuzzle>(std::move(made)));
@@ -134,9 +137,10 @@ void WorksheetForm::Print() {
   });
 }
 
-/// Closing stops what is being made.
+/// Closing stops what is being made, and what has been stopped deletes the form.
 void WorksheetForm::done(int result) {
   runner_.Stop();
+  if (runner_.Running()) setAttribute(Qt::WA_DeleteOnClose, false);
   QDialog::done(result);
 }
 

@@ -44,14 +44,16 @@ TEST_F(HintsTest, PointAtWhatCannotStay) {
   Type(1, 1, "8");
   Type(1, 2, "6");
   Remark remark = hints_.Next();
-  EXPECT_EQ(remark.Text, "8 in row 1, column 1; 6 in row 1, column 2 cannot all stay");
+  EXPECT_EQ(remark.Text, "8 in row 1, column 1; 6 in row 1, column 2: none of these can stay");
   EXPECT_EQ(remark.Where, (std::vector<Place>{{1, 1}, {1, 2}}));
   Type(1, 2, "1");
   EXPECT_EQ(Check(), "8 in row 1, column 1 cannot stay");
   Type(1, 1, "6");
   EXPECT_EQ(Check(), "all entries can stay");
   Type(1, 1, "5");
-  EXPECT_EQ(Check(), "5 in row 2, column 2 stands in row 1, column 1 too");
+  EXPECT_EQ(Check(), "5 in row 1, column 1 stands in row 2, column 2 too") << "a given is right";
+  Read("8 1 6\n3 5 7\n2 9 4");
+  EXPECT_EQ(hints_.Next().Text, "nothing can fill these gaps");
 }
 
 TEST_F(HintsTest, SayWhatIsNoPuzzle) {
@@ -61,6 +63,11 @@ TEST_F(HintsTest, SayWhatIsNoPuzzle) {
   EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "4 solutions");
   EXPECT_TRUE(board_.grid.Given(1, 1));
   EXPECT_FALSE(board_.grid.Given(2, 2));
+  hints_.Next();
+  board_.grid.SetText(1, 2, "9");
+  EXPECT_EQ(Check(), "all entries can stay") << "of several solutions, one has it";
+  board_.grid.SetText(1, 2, "15");
+  EXPECT_EQ(Check(), "15 in row 1, column 2 cannot stay");
   Read("8 1 .\n. 5 .\n. . .");
   EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "one solution, easy");
   Read("8 1 .\n. 4 .\n. . .");
