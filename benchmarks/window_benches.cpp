@@ -176,11 +176,12 @@ std::vector<Command> Commands() {
        [](Stand& s) { s.Trigger("Varyx"); }},
       {"a step of a walk",
        [](Stand& s, int) {
-         if (s.Find<QWidget>("StepPanel").isVisible()) return;
-         s.Find<QRadioButton>("Option3").setChecked(true);
-         s.Click("SolveAuto");
-         s.Trigger("StepByStepx");
-         Stand::Settle();
+         if (!s.Find<QWidget>("StepPanel").isVisible()) {
+           s.Find<QRadioButton>("Option3").setChecked(true);
+           s.Click("SolveAuto");
+           s.Trigger("StepByStepx");
+           Stand::Settle();
+         }
          auto& steps = s.Find<QSlider>("StepSlider");
          steps.setValue(steps.maximum() / 2);
        },
