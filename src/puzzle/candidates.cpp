@@ -317,37 +317,31 @@ bool Candidates::PutSingles(bool& changed) {
   return Put(single.Cell, single.Number);
 }
 
-bool Candidates::Propagate(Grade grade) {
+/// Applies the rules to the lines that wait; numbers are put only when `put` says so.
+bool Candidates::ApplyWaiting(Grade grade, bool put) {
   failedLine_ = -1;
-  if (impossible_) return false;
+  while (!waiting_.empty()) {
+    const int line = waiting_.back();
+    waiting_.pop_back();
+    touched_[At(line)] = 0;
+    if (Apply(line, grade, put)) continue;
+    failedLine_ = line;
+    return false;
+  }
+  return true;
+}
+
+bool Candidates::Propagate(Grade grade) {
   for (;;) {
-    while (!waiting_.empty()) {
-      const int line = waiting_.back();
-      waiting_.pop_back();
-      touched_[At(line)] = 0;
-      if (Apply(line, grade, true)) continue;
-      failedLine_ = line;
-      return false;
-    }
-    if (grade == Grade::Easy) return true;
+    if (impossible_ || !ApplyWaiting(grade, true)) return false;
     bool changed = false;
-    if (!PutSingles(changed)) return false;
+    if (grade > Grade::Easy && !PutSingles(changed)) return false;
     if (!changed) return true;
   }
 }
 
 bool Candidates::Narrow(Grade grade) {
-  failedLine_ = -1;
-  if (impossible_) return false;
-  while (!waiting_.empty()) {
-    const int line = waiting_.back();
-    waiting_.pop_back();
-    touched_[At(line)] = 0;
-    if (Apply(line, grade, false)) continue;
-    failedLine_ = line;
-    return false;
-  }
-  return true;
+  return !impossible_ && ApplyWaiting(grade, false);
 }
 
 std::int64_t LeastSum(std::vector<std::int64_t> low, bool different) {

@@ -95,6 +95,7 @@ class Candidates {
   void KeepBits(int cell, std::int64_t low, std::int64_t high);
   bool Narrowed(int cell);
   void Touch(int line);
+  bool ApplyWaiting(Grade grade, bool put);
   bool Apply(int line, Grade grade, bool put);
   bool ApplyPair(int line, int a, int b);
   bool ApplyBounds(int line);
