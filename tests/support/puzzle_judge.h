@@ -94,7 +94,7 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
   std::string why = slow::WhyNotMagic(rows, static_cast<double>(made.Clues.Target));
   if (!why.empty()) return why;
   const bool normal = made.Clues.Asked == Rules::Normal;
-  if (n <= 4 && SlowCounter(made.Clues).Count() != 1) return "not one solution";
+  if (n <= 4 && normal && SlowCounter(made.Clues).Count() != 1) return "not one solution";
   const SearchResult result = Solve(made.Clues, {.Nodes = 100'000}, random, stage);
   const auto* one = std::get_if<OneSolution>(&result);
   if (!one || one->Solved.Cells != made.Solution.Cells) return "not this solution alone";
