@@ -60,13 +60,7 @@ Result BuildVariable(const SquareRequest& request, Random& random) {
   throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
 }
 
-/// The numbers in reading order, and back.
-std::vector<double> NumbersOf(const CellTable& square, int order) {
-  std::vector<double> numbers;
-  ForEachCell(order, [&](int r, int c) { numbers.push_back(square(r, c)); });
-  return numbers;
-}
-
+/// The other way round than NumbersOf.
 CellTable TableOf(int order, const std::vector<double>& numbers) {
   CellTable table;
   auto number = numbers.begin();

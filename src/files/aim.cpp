@@ -6,6 +6,7 @@
 
 #include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 
 namespace numorra {
 namespace {
@@ -56,8 +57,7 @@ std::optional<Aim> AimOf(const StoredSquare& square) {
   const bool gaps =
       std::any_of(square.Cells.begin(), square.Cells.end(), [](const auto& cell) { return !cell; });
   if (gaps && MayBeNormal(square)) {
-    const double n = square.Order;
-    return Aim{n * (n * n + 1) / 2, Rules::Normal};
+    return Aim{static_cast<double>(NormalTotal(square.Order)), Rules::Normal};
   }
   const auto sum = FirstFullLine(square);
   return sum ? std::optional(Aim{*sum, square.Asked}) : std::nullopt;

@@ -42,13 +42,7 @@ Candidates::Candidates(const Puzzle& puzzle)
     const std::int64_t number = puzzle.Cells[At(cell)];
     if (number == 0) continue;
     if (number < 1 || number > most_) impossible_ = true;
-    values_[At(cell)] = low_[At(cell)] = high_[At(cell)] = number;
-    count_[At(cell)] = 1;
-    --gaps_;
-    for (const int line : map_.LinesOf(cell)) {
-      rest_[At(line)] -= number;
-      --open_[At(line)];
-    }
+    Take(cell, number);
   }
   for (int line = 0; line < map_.Lines(); ++line)
     Touch(line);
@@ -198,11 +192,8 @@ void Candidates::KeepBits(int cell, std::int64_t low, std::int64_t high) {
   }
 }
 
-bool Candidates::Put(int cell, std::int64_t number) {
-  if (Value(cell) != 0) return Value(cell) == number;
-  if (!Allows(cell, number)) return false;
-  KeepBits(cell, number, number);
-  Save(cell, true);
+/// Makes a gap a cell with a number, which its lines no longer need.
+void Candidates::Take(int cell, std::int64_t number) {
   values_[At(cell)] = low_[At(cell)] = high_[At(cell)] = number;
   count_[At(cell)] = 1;
   --gaps_;
@@ -211,6 +202,14 @@ bool Candidates::Put(int cell, std::int64_t number) {
     --open_[At(line)];
     Touch(line);
   }
+}
+
+bool Candidates::Put(int cell, std::int64_t number) {
+  if (Value(cell) != 0) return Value(cell) == number;
+  if (!Allows(cell, number)) return false;
+  KeepBits(cell, number, number);
+  Save(cell, true);
+  Take(cell, number);
   if (!IsNormal()) return true;
   bool possible = true;
   for (int other = 0; other < Cells(); ++other) {

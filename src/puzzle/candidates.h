@@ -90,6 +90,7 @@ class Candidates {
   std::uint64_t* Bits(int cell) { return &bits_[At(cell) * words_]; }
   const std::uint64_t* Bits(int cell) const { return &bits_[At(cell) * words_]; }
 
+  void Take(int cell, std::int64_t number);
   void StartSets();
   void Save(int cell, bool placed, std::size_t word = 0);
   void KeepBits(int cell, std::int64_t low, std::int64_t high);

@@ -8,12 +8,6 @@
 namespace numorra {
 namespace {
 
-std::vector<double> NumbersOf(const CellTable& square, int order) {
-  std::vector<double> numbers;
-  ForEachCell(order, [&](int r, int c) { numbers.push_back(square(r, c)); });
-  return numbers;
-}
-
 Puzzle PuzzleOf(int order, std::int64_t total, Rules rules, const std::vector<double>& numbers) {
   Puzzle puzzle{order, total, rules, false, {}};
   for (const double number : numbers)

@@ -1,5 +1,6 @@
 #include "puzzle/line_map.h"
 
+#include <array>
 #include <memory>
 
 #include "app/board/orders.h"

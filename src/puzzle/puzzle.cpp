@@ -33,11 +33,6 @@ AgainstRules Twice(const StoredSquare& square, Place first, Place second) {
 
 }  // namespace
 
-std::int64_t NormalTotal(int order) {
-  const std::int64_t n = order;
-  return n * (n * n + 1) / 2;
-}
-
 std::int64_t Puzzle::Most() const {
   if (Asked == Rules::Normal) return std::int64_t{Order} * Order;
   const std::int64_t fits = std::max<std::int64_t>(1, Target - Order + 1);

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "app/board/orders.h"
 #include "app/board/place.h"
 #include "files/stored_square.h"
 
@@ -42,8 +43,5 @@ std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool lim
 
 /// The puzzle with its gaps as a square to be shown or stored. `givens`: its numbers are givens.
 StoredSquare StoredSquareOf(const Puzzle& puzzle, bool givens);
-
-/// The target of the normal squares of an order.
-std::int64_t NormalTotal(int order);
 
 }  // namespace numorra

@@ -148,4 +148,10 @@ void ComputeTotals(CellTable& cells, int order) {
   cells(0, last) = cells(last, 0) = other.Total();
 }
 
+std::vector<double> NumbersOf(const CellTable& cells, int order) {
+  std::vector<double> numbers;
+  ForEachCell(order, [&](int r, int c) { numbers.push_back(cells(r, c)); });
+  return numbers;
+}
+
 }  // namespace numorra

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 #include "app/board/cell_table.h"
 #include "app/board/grid.h"
@@ -110,5 +111,8 @@ void ForEachCell(int order, Visit visit) {
 
 /// Stores the totals of the n x n block of `cells` around it, as Board::ComputeTotals does.
 void ComputeTotals(CellTable& cells, int order);
+
+/// The numbers of the n x n block of `cells` in reading order.
+std::vector<double> NumbersOf(const CellTable& cells, int order);
 
 }  // namespace numorra

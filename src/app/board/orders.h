@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 
 #include "app/board/numbers.h"
 
@@ -18,6 +19,12 @@ inline constexpr const char* kOrderTooLarge = "grid size should be 50x50 or smal
 inline const char* WhyNoBoardHas(int order) {
   if (order < kMinOrder) return kOrderTooSmall;
   return order > kMaxOrder ? kOrderTooLarge : nullptr;
+}
+
+/// What every line of a square of the numbers 1 to order x order adds up to.
+inline std::int64_t NormalTotal(int order) {
+  const std::int64_t n = order;
+  return n * (n * n + 1) / 2;
 }
 
 /// The least that a cell of a base board may hold.

@@ -70,6 +70,18 @@ Remark Against(const AgainstRules& against) {
   return remark;
 }
 
+/// What `say` says of the puzzle on the board and of what a search finds out about it, while the
+/// pointer is busy; or what breaks the rules.
+template <class Say>
+Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say say) {
+  const auto read = PuzzleOf(StoredSquareOf(board));
+  if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
+  const auto& puzzle = std::get<Puzzle>(read);
+  random.Reseed();
+  const BusyPointer busy(stage);
+  return say(puzzle, Solve(puzzle, kLimit, random, stage));
+}
+
 std::string NotInTime(const NotSettled& open) {
   return open.Found ? "it has a solution; whether it is the only one was not settled in 3 seconds"
                     : "whether it has a solution was not settled in 3 seconds";
@@ -124,58 +136,49 @@ Remark Hints::Next() {
 }
 
 Remark Hints::Begin() {
-  const auto read = PuzzleOf(StoredSquareOf(board_));
-  if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
-  const auto& puzzle = std::get<Puzzle>(read);
-  random_.Reseed();
-  const BusyPointer busy(stage_);
-  const SearchResult result = Solve(puzzle, kLimit, random_, stage_);
-  if (std::holds_alternative<NoSolution>(result)) {
-    return CannotStay(board_, InTheWay(board_, puzzle, random_, stage_));
-  }
-  if (!board_.HasGaps()) return {"the board has no gaps"};
-  if (const auto* one = std::get_if<OneSolution>(&result)) {
-    step_ = FindStep(puzzle, one->Solved, stage_);
-    return {};
-  }
-  if (const auto* open = std::get_if<NotSettled>(&result)) return {NotInTime(*open)};
-  return {"this board has several solutions, so no number follows"};
+  const auto say = [this](const Puzzle& puzzle, const SearchResult& result) -> Remark {
+    if (std::holds_alternative<NoSolution>(result)) {
+      return CannotStay(board_, InTheWay(board_, puzzle, random_, stage_));
+    }
+    if (!board_.HasGaps()) return {"the board has no gaps"};
+    if (const auto* one = std::get_if<OneSolution>(&result)) {
+      step_ = FindStep(puzzle, one->Solved, stage_);
+      return {};
+    }
+    if (const auto* open = std::get_if<NotSettled>(&result)) return {NotInTime(*open)};
+    return {"this board has several solutions, so no number follows"};
+  };
+  return AfterSearch(board_, random_, stage_, say);
 }
 
 Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
-  const auto read = PuzzleOf(StoredSquareOf(board));
-  if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
-  const auto& puzzle = std::get<Puzzle>(read);
-  random.Reseed();
-  const BusyPointer busy(stage);
-  const SearchResult result = Solve(puzzle, kLimit, random, stage);
-  if (std::holds_alternative<NoSolution>(result)) {
-    return CannotStay(board, InTheWay(board, puzzle, random, stage));
-  }
-  const auto* open = std::get_if<NotSettled>(&result);
-  return {open && !open->Found ? NotInTime(*open) : "all entries can stay"};
+  const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
+    if (std::holds_alternative<NoSolution>(result)) {
+      return CannotStay(board, InTheWay(board, puzzle, random, stage));
+    }
+    const auto* open = std::get_if<NotSettled>(&result);
+    return {open && !open->Found ? NotInTime(*open) : "all entries can stay"};
+  };
+  return AfterSearch(board, random, stage, say);
 }
 
 Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
   if (!board.HasGaps()) return {"a puzzle has gaps: empty some cells with Backspace first"};
-  const auto read = PuzzleOf(StoredSquareOf(board));
-  if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
-  const auto& puzzle = std::get<Puzzle>(read);
-  random.Reseed();
-  const BusyPointer busy(stage);
-  constexpr std::int64_t kMostCounted = 100;
-  const SearchResult result = Solve(puzzle, kLimit, random, stage);
-  const bool several = std::holds_alternative<SeveralSolutions>(result);
-  const auto count = several ? CountSolutions(puzzle, kMostCounted, kLimit, stage) : std::nullopt;
-  ForEachCell(board.GridSize,
-              [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.Text(r, c).empty()); });
-  if (std::holds_alternative<OneSolution>(result)) {
-    return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
-  }
-  if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
-  if (!several) return {NotInTime(std::get<NotSettled>(result))};
-  if (!count) return {"several solutions"};
-  return {(*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions"};
+  const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
+    constexpr std::int64_t kMostCounted = 100;
+    const bool several = std::holds_alternative<SeveralSolutions>(result);
+    const auto count = several ? CountSolutions(puzzle, kMostCounted, kLimit, stage) : std::nullopt;
+    ForEachCell(board.GridSize,
+                [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.Text(r, c).empty()); });
+    if (std::holds_alternative<OneSolution>(result)) {
+      return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
+    }
+    if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
+    if (!several) return {NotInTime(std::get<NotSettled>(result))};
+    if (!count) return {"several solutions"};
+    return {(*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions"};
+  };
+  return AfterSearch(board, random, stage, say);
 }
 
 }  // namespace numorra

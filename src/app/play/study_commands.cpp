@@ -115,7 +115,7 @@ bool LayOutSpecial(const SpecialKind& kind, Board& board, SquareBoxes& boxes, Di
   LayOut(board, boxes,
          {.Order = order,
           .Cells = CellsOf(kind.Build(order, random)),
-          .Total = order * (order * order + 1) / 2,
+          .Total = static_cast<double>(NormalTotal(order)),
           .Asked = Rules::Normal});
   return true;
 }

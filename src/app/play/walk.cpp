@@ -51,7 +51,7 @@ void Walk::GoTo(int step) {
 /// Full lines of numbers have their totals, those that are right in their colour.
 void Walk::ShowTotals() {
   const int n = order_;
-  const double target = static_cast<double>(n) * (n * n + 1) / 2;
+  const double target = static_cast<double>(NormalTotal(n));
   const auto show = [&](Place total, auto textAt) {
     double sum = 0;
     bool full = true;

@@ -17,7 +17,6 @@ class BoardBar : public QFrame {
   BoardBar(QWidget* over, const char* name, const char* buttonName, const char* buttonText);
 
   void ShowText(const QString& text, bool atTop = false);
-  QString Text() const { return text_->text(); }
 
   QPushButton* const Button;
 
