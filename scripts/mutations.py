@@ -1,0 +1,87 @@
+"""The loop behind scripts/mutate: TREE BUILD COUNT SEED.
+
+A change replaces one token by another of its kind: a comparison, a sign, a constant, true and
+false, and and or, a negation. One that does not compile is drawn again; one that makes a test
+fail, crash or take more than a minute has died.
+"""
+
+import pathlib
+import random
+import re
+import subprocess
+import sys
+
+# What stays out of the lot: comments, texts, characters, lines for the preprocessor.
+SKIPPED = re.compile(
+    r"""//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)'(?:\\.|[^'\\\n])+'"""
+    r"""|^[ \t]*\#(?:\\\n|[^\n])*""",
+    re.DOTALL | re.MULTILINE,
+)
+# The formatter puts spaces around an operator with two sides, and none into a template's brackets.
+TOKEN = re.compile(
+    r"(?<= )(?:==|!=|<=|>=|<|>|&&|\|\||\+=|-=|[-+*/%])(?=[ \n])"
+    r"|\+\+|--|\b(?:true|false)\b|(?<![\w.'])\d+(?![\w.'])|!(?=[\w(])"
+)
+OTHERS = {
+    "==": ["!="], "!=": ["=="], "<": ["<=", ">="], "<=": ["<", ">"], ">": [">=", "<="],
+    ">=": [">", "<"], "&&": ["||"], "||": ["&&"], "+": ["-"], "-": ["+"], "*": ["/"],
+    "/": ["*"], "%": ["/"], "+=": ["-="], "-=": ["+="], "++": ["--"], "--": ["++"],
+    "true": ["false"], "false": ["true"], "!": [""],
+}  # fmt: skip
+
+
+def tokens(file):
+    """The places of a file that may change, as (file, start, token)."""
+    text = file.read_text()
+    blank = SKIPPED.sub(lambda skipped: re.sub(r"[^\n]", " ", skipped[0]), text)
+    return [(file, found.start(), found[0]) for found in TOKEN.finditer(blank)]
+
+
+def runs(*command):
+    return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
+
+
+def main():
+    tree, build = map(pathlib.Path, sys.argv[1:3])
+    count, seed = map(int, sys.argv[3:5])
+    targets = subprocess.run(
+        ["ninja", "-C", build, "-t", "targets", "all"], capture_output=True, text=True, check=True
+    ).stdout
+    programs = sorted(set(re.findall(r"^(test_\w+): ", targets, re.MULTILINE)))
+    rooms = "^(" + "|".join(program[len("test_") :] for program in programs) + ")$"
+
+    def builds():
+        return runs("ninja", "-C", build, *programs)
+
+    def passes():
+        return runs("ctest", "--test-dir", build, "-R", rooms, "-j2", "--timeout", "60", "--stop-on-failure")
+
+    if not builds() or not passes():
+        sys.exit("The tests must pass before anything is changed")
+    lot = random.Random(seed)
+    places = [place for file in sorted((tree / "src").rglob("*")) if file.suffix in (".cpp", ".h") for place in tokens(file)]
+    lot.shuffle(places)
+    tried = died = 0
+    for file, start, token in places:
+        if tried == count:
+            break
+        other = lot.choice(OTHERS.get(token) or [str(int(token) + 1), str(int(token) - 1)])
+        text = file.read_text()
+        file.write_text(text[:start] + other + text[start + len(token) :])
+        compiled = builds()
+        lives = compiled and passes()
+        file.write_text(text)
+        tried += compiled
+        died += compiled and not lives
+        if lives:
+            number = text.count("\n", 0, start)
+            column = start - text.rfind("\n", 0, start)
+            print(
+                f"{file.relative_to(tree)}:{number + 1}:{column}: {token} -> {other or 'nothing'}\n"
+                f"    {text.splitlines()[number].strip()}",
+                flush=True,
+            )
+    print(f"{tried} changes from seed {seed}: {died} died, {tried - died} live, of {len(places)} places")
+
+
+main()
