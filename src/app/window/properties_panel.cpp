@@ -31,15 +31,13 @@ char16_t MarkFor(Answer answer) {
   return u'?';
 }
 
-QTreeWidgetItem* GroupNamed(QTreeWidget* tree, const QString& name) {
-  for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-    if (tree->topLevelItem(i)->text(0) == name) return tree->topLevelItem(i);
+QTreeWidgetItem* GroupNamed(QList<QTreeWidgetItem*>& groups, const QString& name) {
+  for (QTreeWidgetItem* group : groups) {
+    if (group->text(0) == name) return group;
   }
-  auto* group = new QTreeWidgetItem(tree, {name});
-  group->setFlags(Qt::ItemIsEnabled);
-  group->setFirstColumnSpanned(true);
-  group->setExpanded(true);
-  return group;
+  groups.append(new QTreeWidgetItem({name}));
+  groups.back()->setFlags(Qt::ItemIsEnabled);
+  return groups.back();
 }
 
 /// Writes what has changed, so that nothing else is painted anew.
@@ -53,19 +51,28 @@ void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why)
 
 }  // namespace
 
-PropertiesPanel::PropertiesPanel(QWidget* parent)
-    : QDockWidget("Properties", parent),
-      tree_(Named("PropertyTree", new QTreeWidget)),
-      explained_(Named("PropertyEvidence", new QLabel)) {
+PropertiesPanel::PropertiesPanel(QWidget* parent) : QDockWidget("Properties", parent) {
   setObjectName("PropertiesPanel");
   setFeatures(DockWidgetClosable | DockWidgetMovable);
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+}
+
+/// No start waits for what it may never need.
+void PropertiesPanel::setVisible(bool visible) {
+  if (visible && !tree_) Furnish();
+  QDockWidget::setVisible(visible);
+}
+
+void PropertiesPanel::Furnish() {
+  tree_ = Named("PropertyTree", new QTreeWidget);
   tree_->setAccessibleName("Properties of the square");
   tree_->setColumnCount(2);
   tree_->setHeaderHidden(true);
   tree_->setIndentation(tree_->indentation() / 2);
+  AddEntries();
   tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   tree_->header()->setStretchLastSection(true);
+  explained_ = Named("PropertyEvidence", new QLabel);
   explained_->setWordWrap(true);
   explained_->setTextFormat(Qt::PlainText);
   explained_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -79,16 +86,21 @@ PropertiesPanel::PropertiesPanel(QWidget* parent)
   column->addWidget(explained_);
   column->addWidget(copy, 0, Qt::AlignLeft);
   setWidget(content);
-  for (const char* name : kDetails)
-    details_.push_back(AddEntry(name, kSquareGroup));
-  for (const Term& term : Terms())
-    terms_.push_back(AddEntry(term.Name, term.Group));
   connect(tree_, &QTreeWidget::currentItemChanged, this, &PropertiesPanel::ShowChosen);
   connect(copy, &QPushButton::clicked, this, &PropertiesPanel::Copy);
 }
 
-QTreeWidgetItem* PropertiesPanel::AddEntry(const char* name, const QString& group) {
-  return new QTreeWidgetItem(GroupNamed(tree_, group), {QString(name)});
+/// All at once: a tree lays itself out anew at each that is added to it.
+void PropertiesPanel::AddEntries() {
+  QList<QTreeWidgetItem*> groups;
+  for (const char* name : kDetails)
+    details_.push_back(new QTreeWidgetItem(GroupNamed(groups, kSquareGroup), {name}));
+  for (const Term& term : Terms())
+    terms_.push_back(new QTreeWidgetItem(GroupNamed(groups, term.Group), {term.Name}));
+  tree_->addTopLevelItems(groups);
+  for (QTreeWidgetItem* group : groups)
+    group->setFirstColumnSpanned(true);
+  tree_->expandAll();
 }
 
 void PropertiesPanel::Show(const Report& report) {

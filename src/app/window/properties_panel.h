@@ -21,21 +21,24 @@ class PropertiesPanel : public QDockWidget {
  public:
   explicit PropertiesPanel(QWidget* parent = nullptr);
 
-  /// Shows what a square is; without a report, `why` there is none.
+  /// Shows what a square is, once the panel is open; without a report, `why` there is none.
   void Show(const Report& report);
   void ShowNone(const QString& why);
+
+  void setVisible(bool visible) override;
 
  Q_SIGNALS:
   /// The cells that the chosen entry is about; none when there is no such entry.
   void EvidenceChosen(const std::vector<Place>& cells);
 
  private:
-  QTreeWidgetItem* AddEntry(const char* name, const QString& group);
+  void Furnish();
+  void AddEntries();
   void ShowChosen();
   void Copy();
 
-  QTreeWidget* tree_;
-  QLabel* explained_;
+  QTreeWidget* tree_ = nullptr;  ///< none before the panel is first opened
+  QLabel* explained_ = nullptr;
   std::vector<QTreeWidgetItem*> details_;
   std::vector<QTreeWidgetItem*> terms_;  ///< by Terms()
   std::optional<Report> report_;
