@@ -51,7 +51,7 @@ def main():
     rooms = "^(" + "|".join(program[len("test_") :] for program in programs) + ")$"
 
     def builds():
-        return runs("ninja", "-C", build, *programs)
+        return runs("ninja", "-C", build, "numorra-square", *programs)
 
     def passes():
         return runs("ctest", "--test-dir", build, "-R", rooms, "-j2", "--timeout", "60", "--stop-on-failure")
@@ -59,7 +59,8 @@ def main():
     if not builds() or not passes():
         sys.exit("The tests must pass before anything is changed")
     lot = random.Random(seed)
-    places = [place for file in sorted((tree / "src").rglob("*")) if file.suffix in (".cpp", ".h") for place in tokens(file)]
+    files = sorted(file for file in (tree / "src").rglob("*") if file.suffix in (".cpp", ".h"))
+    places = [place for file in files for place in tokens(file)]
     lot.shuffle(places)
     tried = died = 0
     for file, start, token in places:
