@@ -1,10 +1,12 @@
 #include "print/page_printer.h"
 
 #include <QPagedPaintDevice>
+#include <QPaintEngine>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include "app/board/runtime_error.h"
+#include "print/paper.h"
 
 namespace numorra {
 
@@ -26,6 +28,15 @@ void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
   if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
 }
 
+void PrintPages(QPrinter& printer, const PaintedPages& pages) {
+  const auto paint = [&](QPagedPaintDevice& paper) {
+    PaintPages(paper, printer.resolution(), pages);
+  };
+  const bool previewed = printer.paintEngine()->type() == QPaintEngine::Picture;
+  if (previewed) return paint(printer);
+  PrintOn(printer, paint);
+}
+
 void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageOrientation(pages.Orientation);
@@ -35,7 +46,7 @@ void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
   std::string failed;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* device) {
     try {
-      PaintPages(*device, device->resolution(), pages);
+      PrintPages(*device, pages);
     } catch (const std::exception& error) {
       failed = error.what();  // exceptions must not pass through the toolkit
     }

@@ -5,6 +5,7 @@
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPrinter>
 #include <QSizeF>
 #include <QString>
 #include <QWidget>
@@ -37,5 +38,8 @@ class PreviewedPages : public PagePrinter {
 
 /// Paints the pages on a device of so many dots an inch, on to a new page between them.
 void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages);
+
+/// Paints the pages on a printer, or into the preview that it stands for.
+void PrintPages(QPrinter& printer, const PaintedPages& pages);
 
 }  // namespace numorra

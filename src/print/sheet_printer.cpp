@@ -1,12 +1,10 @@
 #include "print/sheet_printer.h"
 
-#include <QBuffer>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPrintDialog>
 
 #include "app/board/runtime_error.h"
-#include "toolkit/whole_file.h"
+#include "print/paper.h"
 
 namespace numorra {
 namespace {
@@ -33,19 +31,6 @@ void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
 }
 
-void PrintPdf(const QPrinter& device, const std::string& text) {
-  QBuffer file;
-  file.open(QIODevice::WriteOnly);
-  {
-    QPdfWriter writer(&file);
-    writer.setPageLayout(device.pageLayout());
-    writer.setResolution(device.resolution());
-    writer.setTitle(device.docName());
-    PaintSheet(writer, text);
-  }
-  WriteWholeFile(device.outputFileName(), file.data());
-}
-
 }  // namespace
 
 QPrinter& PaperPrinter::Device() {
@@ -69,12 +54,7 @@ void PaperPrinter::PrintTo(const QString& pdfFile) {
 }
 
 void PaperPrinter::Print(const std::string& text) {
-  QPrinter& device = Device();
-  if (!device.outputFileName().isEmpty()) return PrintPdf(device, text);
-  PaintSheet(device, text);
-  if (device.printerState() == QPrinter::Error) {
-    throw RuntimeError(Fault::PrinterError, "the page could not be finished");
-  }
+  PrintOn(Device(), [&](QPagedPaintDevice& paper) { PaintSheet(paper, text); });
 }
 
 }  // namespace numorra

@@ -83,6 +83,7 @@ Judgement JudgeMagic(const Facts& facts) {
 Judgement JudgePandiagonal(const Facts& facts) {
   if (Judgement magic = JudgeMagic(facts); !magic) return magic;
   const std::vector<Line> broken = BrokenDiagonals(facts.N());
+  if (broken.empty()) return DoesNotApply("a single cell has no broken diagonals");
   if (Judgement diagonals = DiagonalsReachTotal(facts, broken); !diagonals) return diagonals;
   return Holds("all " + std::to_string(2 * facts.N()) + " wrapped diagonals add up to " +
                    facts.Shown(facts.Total) + ", such as " + NameOf(broken.front(), facts.N()),

@@ -8,7 +8,9 @@
 #include <QTemporaryDir>
 
 #include "app/board/runtime_error.h"
+#include "print/page_printer.h"
 #include "print/sheet.h"
+#include "print/sheet_printer.h"
 #include "support/full_disk.h"
 #include "support/window_fixture.h"
 
@@ -164,6 +166,11 @@ TEST(PaperPrinters, FailWithARunTimeErrorAndKeepTheFileThatWasThere) {
     PaperPrinter printer;
     printer.PrintTo(name);
     EXPECT_THROW(printer.Print("text\r\n"), RuntimeError) << name.toStdString();
+    QPrinter paper;
+    paper.setOutputFileName(name);
+    const PaintedPages pages{
+        "p", 2, {}, [](QPainter& painter, QSizeF, int) { painter.drawText(9, 9, "sheet"); }};
+    EXPECT_THROW(PrintPages(paper, pages), RuntimeError) << name.toStdString();
   }
   ASSERT_TRUE(old.open(QFile::ReadOnly));
   EXPECT_EQ(old.readAll(), "what was there");

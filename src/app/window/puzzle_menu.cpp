@@ -65,9 +65,10 @@ void MainWindow::BuildPuzzleMenu() {
   });
 }
 
-/// The puzzle that stands on the board: its givens alone where it has any.
+/// The puzzle that stands on the board: its givens alone where it has any. Boards of one or two
+/// rows, which Auto builds of their numbers, are none.
 std::optional<Puzzle> MainWindow::PuzzleOnBoard() const {
-  if (!board_.Shown() || !board_.HasGaps()) return std::nullopt;
+  if (!board_.Shown() || !board_.HasGaps() || WhyNoBoardHas(board_.GridSize)) return std::nullopt;
   StoredSquare square = StoredSquareOf(board_);
   for (std::size_t cell = 0; cell < square.Givens.size(); ++cell) {
     if (!square.Givens[cell]) square.Cells[cell].reset();
@@ -81,7 +82,7 @@ void MainWindow::CopyPuzzleCode() {
   const auto puzzle = PuzzleOnBoard();
   if (!puzzle || puzzle->Order > kMostCodedOrder) {
     return dialogs_.Tell(
-        "there is a code for boards with gaps, up to size 10, that keep their rules");
+        "there is a code for boards with gaps, of size 3 to 10, that keep their rules");
   }
   QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(*puzzle)));
 }
@@ -137,6 +138,8 @@ void MainWindow::OpenHideNumbers() {
     const auto read = PuzzleOf(StoredSquareOf(board_), false);
     if (const auto* against = std::get_if<AgainstRules>(&read)) {
       whyNot = QString::fromStdString(against->Why);
+    } else if (const char* none = WhyNoBoardHas(board_.GridSize)) {
+      whyNot = none;
     } else if (Candidates(std::get<Puzzle>(read)).Propagate(Grade::Easy)) {
       square = std::get<Puzzle>(read);
     } else {

@@ -1,5 +1,7 @@
+#include <atomic>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <thread>
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -7,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "app/board/position.h"
+#include "app/board/runtime_error.h"
 #include "app/window/square_files.h"
 #include "support/full_disk.h"
 #include "support/window_fixture.h"
@@ -157,6 +160,39 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   Trigger("SaveAsx", "/nowhere/at/all.json");
   EXPECT_EQ(dialogs_.Take().size(), 1U);
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
+}
+
+/// Somebody else cuts the file short, takes it away and writes it again all the while.
+TEST_F(FilesTest, AFileThatChangesWhileItIsReadIsReadWholeOrRefused) {
+  const QString name = In("restless");
+  std::atomic<bool> goesOn = true;
+  std::thread other([&] {
+    for (int turn = 0; goesOn; ++turn) {
+      QFile file(name);
+      if (turn % 3 == 2) {
+        file.remove();
+      } else if (file.open(QFile::WriteOnly)) {
+        file.write(turn % 3 == 0 ? QByteArray(kPuzzle) : QByteArray(kPuzzle).left(150));
+      }
+    }
+  });
+  int read = 0, refused = 0;
+  for (int attempt = 0; attempt < 20'000 && (attempt < 300 || read == 0 || refused == 0);
+       ++attempt) {
+    try {
+      const auto square = OpenSquare(name);
+      const auto* whole = std::get_if<StoredSquare>(&square);
+      ++(whole ? read : refused);
+      EXPECT_TRUE(whole ? whole->Cells.size() == 9 : !std::get<Unreadable>(square).Why.empty());
+    } catch (const RuntimeError& error) {
+      ++refused;
+      EXPECT_NE(std::string(error.what()).find(name.toStdString()), std::string::npos);
+    }
+  }
+  goesOn = false;
+  other.join();
+  EXPECT_GT(read, 0);
+  EXPECT_GT(refused, 0);
 }
 
 TEST_F(FilesTest, AFileDroppedOntoTheWindowOpens) {

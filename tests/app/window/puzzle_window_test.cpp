@@ -28,13 +28,39 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   Trigger("FillGapsx");
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   Trigger("CopyPuzzleCodex");
-  EXPECT_EQ(dialogs_.Take(),
-            Messages{"there is a code for boards with gaps, up to size 10, that keep their rules"});
+  EXPECT_EQ(
+      dialogs_.Take(),
+      Messages{"there is a code for boards with gaps, of size 3 to 10, that keep their rules"});
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
   Trigger("UndoMovex");
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_FALSE(Find<QWidget>("SearchBar").isVisible());
   ExpectSettled();
+}
+
+/// Auto builds one or two rows of their numbers: everything that can be done to them leaves a
+/// board.
+TEST_F(PuzzleWindowTest, BoardsThatAreTooSmallForAnythingComeToNoHarm) {
+  Trigger("Propertiesx");
+  for (const char* size : {"1", "2"}) {
+    for (const bool gap : {false, true}) {
+      Make("SolveAuto", size);
+      Trigger("CheckTotalsx");
+      if (gap) QTest::keyClick(&window_.View(), Qt::Key_Backspace);
+      Type("Text1", "4");
+      for (const char* item :
+           {"Copyx", "Varyx", "Complementx", "StandardFormx", "EnterPuzzlex", "Hintx",
+            "CheckEntriesx", "HideNumbersx", "PrintWorksheetx", "CopyPuzzleCodex", "StepByStepx",
+            "FillGapsx", "UndoMovex", "RedoMovex", "DrawingNumbersx", "FitBoardx", "FitBoardx"}) {
+        Trigger(item);
+        for (auto* form : window_.findChildren<QDialog*>())
+          form->close();
+        QCoreApplication::processEvents();
+        ExpectSettled();
+      }
+      dialogs_.Take();
+    }
+  }
 }
 
 /// Order 10, a dozen numbers: the search takes its seconds, and Stop ends it at once.

@@ -1,0 +1,71 @@
+#include "files/aim.h"
+#include "files/square_text.h"
+#include "fuzz/check.h"
+#include "support/puzzle_judge.h"
+
+using namespace numorra;
+
+namespace {
+
+bool Solves(const Puzzle& solved, const Puzzle& puzzle) {
+  slow::Rows rows(static_cast<std::size_t>(puzzle.Order));
+  for (std::size_t cell = 0; cell < solved.Cells.size(); ++cell) {
+    if (puzzle.Cells[cell] != 0 && puzzle.Cells[cell] != solved.Cells[cell]) return false;
+    if (solved.Cells[cell] < 1 || solved.Cells[cell] > puzzle.Most()) return false;
+    rows[cell / rows.size()].push_back(static_cast<double>(solved.Cells[cell]));
+  }
+  if (puzzle.Asked == Rules::Normal) return slow::WhyNotNormal(rows).empty();
+  return slow::WhyNotMagic(rows, static_cast<double>(puzzle.Target)).empty();
+}
+
+/// Every hint is right where there is one solution.
+void FollowHints(Puzzle board, const Puzzle& solved, BuildStage& stage) {
+  while (const auto step = NextStep(board, Grade::Hard, stage)) {
+    const auto cell = static_cast<std::size_t>(step->Cell);
+    Check(board.Cells[cell] == 0 && step->Number == solved.Cells[cell] && !step->Why.empty());
+    board.Cells[cell] = step->Number;
+  }
+}
+
+}  // namespace
+
+/// Boards with any numbers and gaps, of which the first byte chooses the rules: what is said of
+/// their solutions is so, and where a plain search can count them, their number is that.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  auto read = ReadSquareText(TextOf(data + 1, size - 1));
+  auto* square = std::get_if<StoredSquare>(&read);
+  constexpr int kMostOrder = 6;
+  if (!square || square->Order > kMostOrder) return 0;
+  square->Asked = data[0] % 2 == 0 ? Rules::Normal : Rules::Positive;
+  const auto aim = AimOf(*square);
+  if (aim) square->Total = aim->Target;
+  const auto asked = PuzzleOf(*square, data[0] % 3 == 0);
+  if (const auto* against = std::get_if<AgainstRules>(&asked)) {
+    Check(!against->Why.empty());
+    return 0;
+  }
+  const auto& puzzle = std::get<Puzzle>(asked);
+  SeededRandom random(1);
+  SilentStage stage;
+  const SearchResult result = Solve(puzzle, {.Nodes = 100}, random, stage);
+  int solutions = 0;
+  if (const auto* one = std::get_if<OneSolution>(&result)) {
+    Check(Solves(one->Solved, puzzle));
+    FollowHints(puzzle, one->Solved, stage);
+    solutions = 1;
+  } else if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
+    Check(Solves(several->First, puzzle) && Solves(several->Second, puzzle) &&
+          several->First.Cells != several->Second.Cells);
+    solutions = 2;
+  } else if (const auto* open = std::get_if<NotSettled>(&result)) {
+    Check(!open->Found || Solves(*open->Found, puzzle));
+    return 0;
+  }
+  constexpr int kMostPlainGaps = 7;
+  constexpr int kMostPlainNumber = 16;
+  if (puzzle.Gaps() <= kMostPlainGaps && puzzle.Most() <= kMostPlainNumber) {
+    Check(SlowCounter(puzzle).Count() == solutions);
+  }
+  return 0;
+}

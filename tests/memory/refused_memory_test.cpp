@@ -1,0 +1,87 @@
+#include <algorithm>
+#include <new>
+
+#include "app/board/position.h"
+#include "app/play/fill_gaps.h"
+#include "app/play/hints.h"
+#include "app/play/lay_out.h"
+#include "app/play/study_commands.h"
+#include "memory/granted.h"
+#include "puzzle/code.h"
+#include "puzzle/fresh_square.h"
+#include "puzzle/making.h"
+#include "study/report.h"
+#include "support/invariants.h"
+#include "support/play_harness.h"
+
+namespace numorra {
+namespace {
+
+class RefusedMemory : public PlayTest {
+ protected:
+  void LayOutText(std::string rows) {
+    std::replace(rows.begin(), rows.end(), '/', '\n');
+    LayOut(board_, boxes_, std::get<StoredSquare>(ReadSquareOrCode(rows)));
+  }
+
+  /// Runs a command again and again, each time refusing memory a little later, until all that it
+  /// asks for is granted; how often it was refused. After each refusal the board is whole, and
+  /// what was on it when `searches`.
+  template <class Command>
+  int Refuse(const char* board, bool searches, Command command) {
+    long later = 0;
+    for (int refused = 0;; ++refused, later += 1 + later / 20) {
+      LayOutText(board);
+      const Position before = PositionOf(board_);
+      try {
+        granted = later;
+        command();
+        const bool all = granted >= 0;
+        granted = -1;
+        EXPECT_TRUE(all);
+        return refused;
+      } catch (const std::bad_alloc&) {
+        granted = -1;
+      }
+      EXPECT_EQ(WhyInvalid(board_), "") << "after " << later << " requests";
+      EXPECT_TRUE(!searches || PositionOf(board_) == before) << "after " << later << " requests";
+      EXPECT_FALSE(stage_.Busy);
+      dialogs_.Take();
+    }
+  }
+
+  PlainBoxes boxes_{"4", "34"};
+  NotingStage stage_;
+  SeededRandom lot_{1};
+};
+
+constexpr const char* kOpen = "1 . . . / . 6 . . / . . 11 . / . . . .";
+constexpr const char* kOne = "8 1 . / . 5 . / . . .";
+constexpr const char* kFull = "16 3 2 13 / 5 10 11 8 / 9 6 7 12 / 4 15 14 1";
+
+TEST_F(RefusedMemory, EndsASearchAndLeavesTheBoard) {
+  const auto fill = [&] { FillGaps(board_, false, dialogs_, stage_, lot_); };
+  EXPECT_GT(Refuse(kOpen, true, fill), 20);
+  EXPECT_GT(Refuse(kOne, true, [&] { Hints(board_, lot_, stage_).Next(); }), 20);
+  EXPECT_GT(Refuse(kOne, true, [&] { CheckEntries(board_, lot_, stage_); }), 10);
+  EXPECT_GT(Refuse(kOpen, true, [&] { EnterPuzzle(board_, lot_, stage_); }), 20);
+}
+
+TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {
+  const auto vary = [&] { VaryBoard(board_, dialogs_, lot_); };
+  EXPECT_GT(Refuse(kFull, false, vary), 5);
+  EXPECT_GT(Refuse(kFull, false, [&] { ComplementBoard(board_, boxes_, dialogs_); }), 3);
+  EXPECT_GT(Refuse(kFull, false, [&] { BringToStandardForm(board_, dialogs_); }), 3);
+  EXPECT_GT(Refuse(kFull, false, [&] { LayOutFamous(FamousSquares().back(), board_, boxes_); }), 3);
+  const auto special = [&] { LayOutSpecial(kSpecialKinds[1], board_, boxes_, dialogs_, lot_); };
+  EXPECT_GT(Refuse(kFull, false, special), 3);
+  EXPECT_GT(Refuse(kFull, true, [&] { TextOf(Study(*SquareOn(board_))); }), 20);
+  const auto make = [&] {
+    const auto square = FreshSquare({4}, lot_, stage_);
+    CodeOf(std::get<MadePuzzle>(MakePuzzle(*square, {Grade::Hard}, lot_, stage_)).Clues);
+  };
+  EXPECT_GT(Refuse(kFull, true, make), 20);
+}
+
+}  // namespace
+}  // namespace numorra
