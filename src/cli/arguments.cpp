@@ -23,7 +23,8 @@ Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
 any total, 4 x 4 with a top row of your choice, or of a special kind.
 
   --size N                 how many cells a side has, 3 to 50
-  --sum T                  the total wanted instead of that of 1 to N x N
+  --sum T                  the total wanted instead of that of 1 to N x N, up to
+                           32767
   --limit-to-9             no number above 9; the total is then at most 5 x N
   --corner V               the number wanted at the top left
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
@@ -41,7 +42,7 @@ any total, 4 x 4 with a top row of your choice, or of a special kind.
 
 study says what squares are, and why. It reads rows of numbers from a file or
 from the standard input, squares separated by empty lines; a JSON object a line
-says the same to programs.
+says the same to programs. JSON is written, and opened by the window, not read.
 
 complete fills the gaps (nothing, or one of - . _ between separators) of squares
 that it reads as study does, and says whether there is one way, several or none.

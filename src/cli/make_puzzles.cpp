@@ -24,6 +24,18 @@ MadePuzzle Make(const SquareRequest& request, Random& random) {
   return std::get<MadePuzzle>(made);
 }
 
+/// Tells where a wish could not be met.
+void TellDifference(const SquareRequest& request, const MadePuzzle& made, std::ostream& err) {
+  const auto total = static_cast<double>(made.Clues.Target);
+  if (request.Sum && total != *request.Sum) {
+    err << kProgramName << "the total is " << Decimal(total) << "\n";
+  }
+  if (made.Needed != request.Wanted) {
+    err << kProgramName << "this square gives no puzzle that is " << NameOf(request.Wanted)
+        << ": this one is " << NameOf(made.Needed) << "\n";
+  }
+}
+
 void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
   const StoredSquare stored = StoredSquareOf(made.Clues, true);
   const std::string code = made.Clues.Order <= kMostCodedOrder ? CodeOf(made.Clues) : "";
@@ -57,6 +69,7 @@ void MakePuzzles(const SquareRequest& request, const Streams& streams) {
   ClockSeededRandom random(request.Seed ? static_cast<Clock&>(seeded) : timeOfDay);
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     const MadePuzzle made = Make(request, random);
+    TellDifference(request, made, streams.Err);
     if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
     Write(made, request.Format, streams.Out);
   }

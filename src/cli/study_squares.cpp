@@ -13,12 +13,14 @@ bool StudySquares(const SquareRequest& request, const Streams& streams) {
   const bool allRead = ReadSquares(request.File, streams, [&](const StoredSquare& square) {
     std::vector<double> numbers;
     for (const auto& cell : square.Cells) {
-      if (cell) numbers.push_back(*cell);
-    }
-    if (numbers.size() < square.Cells.size()) {
-      streams.Err << kProgramName << "a square with gaps cannot be studied\n";
-      allFull = false;
-      return;
+      if (!cell) {
+        const int at = static_cast<int>(numbers.size());
+        streams.Err << kProgramName << NameOf({at / square.Order + 1, at % square.Order + 1})
+                    << " is empty: only full squares can be studied\n";
+        allFull = false;
+        return;
+      }
+      numbers.push_back(*cell);
     }
     const Report report = Study(NumberSquare(square.Order, std::move(numbers)));
     if (request.Format == SquareFormat::Json) {

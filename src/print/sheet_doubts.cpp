@@ -10,8 +10,9 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
   const int order = grid.Rows() - 2;
   SheetDoubts doubts;
   CellTable cells;
-  bool wide = false;
+  bool wide = false, gaps = false;
   ForEachCell(order, [&](int r, int c) {
+    gaps = gaps || grid.Text(r, c).empty();
     cells(r, c) = Val(grid.Text(r, c));
     wide = wide || grid.Text(r, c).size() > kSheetPlaces;
   });
@@ -20,7 +21,9 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
   for (int line = 1; line <= order; ++line)
     agree = agree && cells(line, 0) == cells(0, 0) && cells(0, line) == cells(0, 0);
   const std::string sum = Decimal(total);
-  if (!agree) {
+  if (gaps) {
+    // Lines with gaps say nothing about the total.
+  } else if (!agree) {
     doubts.Total = "The lines of this square do not all add up to " + sum + ".";
   } else if (cells(0, 0) != AsShown(total)) {
     doubts.TheLines = cells(0, 0);

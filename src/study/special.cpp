@@ -48,8 +48,8 @@ std::string WhyNotUltramagic(int order) {
                   "were it pandiagonal, each number would have its partner to 17 two cells on in "
                   "a diagonal, and not opposite");
   }
-  const std::string why = WhyNotPandiagonal(order);
-  return why.empty() ? why : NoneOf("ultramagic", order, why);
+  if (WhyNotPandiagonal(order).empty()) return "";
+  return NoneOf("ultramagic", order, "there is no pandiagonal one, as it would have to be");
 }
 
 std::string WhyNotBordered(int order) {

@@ -3,22 +3,20 @@
 #include <QFileDialog>
 
 namespace numorra {
-namespace {
-
-QString Choose(QFileDialog& dialog) {
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+QString FileDialogs::Choose(QFileDialog& dialog) {
+  if (dialog.exec() != QDialog::Accepted) return {};
+  folder_ = dialog.directory().absolutePath();
+  return dialog.selectedFiles().value(0);
 }
 
-}  // namespace
-
 QString FileDialogs::ToOpen(QWidget* window, const QString& title, const QString& kinds) {
-  QFileDialog dialog(window, title, QString(), kinds);
+  QFileDialog dialog(window, title, folder_, kinds);
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Choose(dialog);
 }
 
 QString FileDialogs::ToSave(QWidget* window, const QString& title, const QString& kinds) {
-  QFileDialog dialog(window, title, QString(), kinds);
+  QFileDialog dialog(window, title, folder_, kinds);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   const auto takeSuffix = [&dialog](const QString& kind) {
     dialog.setDefaultSuffix(kind.section("*.", 1).section(')', 0, 0));

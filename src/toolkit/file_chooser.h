@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QWidget>
 
@@ -19,11 +20,16 @@ class FileChooser {
   virtual QString ToSave(QWidget* window, const QString& title, const QString& kinds) = 0;
 };
 
-/// The toolkit's own dialogs.
+/// The toolkit's own dialogs, each in the folder of the one before.
 class FileDialogs : public FileChooser {
  public:
   QString ToOpen(QWidget* window, const QString& title, const QString& kinds) override;
   QString ToSave(QWidget* window, const QString& title, const QString& kinds) override;
+
+ private:
+  QString Choose(QFileDialog& dialog);
+
+  QString folder_;
 };
 
 }  // namespace numorra

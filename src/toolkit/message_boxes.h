@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QWidget>
 
 #include "app/ports/dialogs.h"
@@ -11,12 +13,16 @@ class MessageBoxes : public Dialogs {
  public:
   explicit MessageBoxes(QWidget* window) : window_(window) {}
 
+  std::function<void()> BeforeBox;  ///< brings up to date what is seen beside a box
+
   void Tell(const std::string& message) override;
   bool Ask(const std::string& question) override;
   std::optional<std::string> AskText(const std::string& prompt,
                                      const std::string& initial) override;
 
  private:
+  void Prepare() const;
+
   QWidget* window_;
 };
 

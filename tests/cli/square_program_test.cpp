@@ -115,9 +115,7 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_NE(text.Out.find("\n\n4 x 4\n"), std::string::npos);
   const Outcome json = RunWith("study - --format json", "8;1;6\r\n3;5;7\r\n4;9;2\r\n\r\n1,2\n");
   EXPECT_EQ(json.Status, 1);
-  EXPECT_EQ(json.Err,
-            "numorra-square: this is no square of numbers\n"
-            "copy 3x3 to 50x50 numbers from a table or a text\n");
+  EXPECT_EQ(json.Err, "numorra-square: line 5: this is no square of numbers\n");
   EXPECT_EQ(json.Out.find("{\"order\": 3, \"total\": 15, \"properties\": {\"semi-magic\": true, "),
             0U);
   EXPECT_NE(json.Out.find("\"compact\": null"), std::string::npos);
@@ -131,7 +129,11 @@ TEST(SquareProgram, StudiesWhatItReads) {
             "numorra-square: line 2: \"x\" is no number\n"
             "numorra-square: line 7: \"y\" is no number\n");
   EXPECT_EQ(RunWith("study", "1 2 3\n4 _ 6\n7 8 9\n").Err,
-            "numorra-square: a square with gaps cannot be studied\n");
+            "numorra-square: row 2, column 2 is empty: only full squares can be studied\n");
+  EXPECT_EQ(
+      RunWith("study", "\n{\"order\": 3}").Err,
+      "numorra-square: this is JSON, which the window opens; here squares are read as text or "
+      "codes\n");
   EXPECT_EQ(RunWith("study", "\n").Err, "numorra-square: there is no square to read\n");
   EXPECT_EQ(RunWith("study /no/such/file").Err, "numorra-square: '/no/such/file' cannot be read\n");
   EXPECT_EQ(RunWith("study /").Status, 1);
@@ -180,6 +182,10 @@ TEST(SquareProgram, MakesPuzzles) {
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --clues 3 --seed 1").Status, 1);
+  EXPECT_EQ(RunWith("puzzle --size 3 --grade expert --seed 1").Err,
+            "numorra-square: this square gives no puzzle that is expert: this one is hard\n");
+  EXPECT_EQ(RunWith("puzzle --size 4 --sum 50 --limit-to-9 --seed 1").Err,
+            "numorra-square: the total is 20\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --grade odd").Status, 2);
   EXPECT_EQ(RunWith("puzzle --size 4 --sum 90 --format csv --seed 2").Status, 0);
 }

@@ -3,8 +3,10 @@
 #include <chrono>
 
 #include "app/board/numbers.h"
+#include "app/board/position.h"
 #include "app/board/totals_check.h"
 #include "app/play/lay_out.h"
+#include "study/line.h"
 
 namespace numorra {
 namespace {
@@ -26,11 +28,27 @@ void Show(Board& board, const Puzzle& solved) {
   RefreshTotals(board);
 }
 
+/// ": column 9 adds up to 135, not 369" of the first line without a gap of which something like it
+/// is true.
+std::string FullWrongLine(const Puzzle& puzzle) {
+  for (const Line line : MagicLines(puzzle.Order)) {
+    bool full = true;
+    const std::int64_t sum = SumOf(line, puzzle.Order, [&](std::size_t cell) {
+      full = full && puzzle.Cells[cell] != 0;
+      return puzzle.Cells[cell];
+    });
+    if (!full || sum == puzzle.Target) continue;
+    return ": " + NameOf(line, puzzle.Order) + " adds up to " + std::to_string(sum) + ", not " +
+           std::to_string(puzzle.Target);
+  }
+  return {};
+}
+
 std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Random& random,
                     BuildStage& stage) {
   const BusyPointer busy(stage);
   const std::vector<Place> entries = EntriesInTheWay(puzzle, givens, random, stage);
-  if (entries.empty()) return "nothing can fill these gaps";
+  if (entries.empty()) return "nothing can fill these gaps" + FullWrongLine(puzzle);
   std::string why = "nothing can fill these gaps: ";
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const auto cell =
@@ -118,6 +136,15 @@ void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stag
   } else {
     dialogs.Tell(WhyNone(puzzle, stored.Givens, random, stage));
   }
+}
+
+void EmptyBoard(Board& board) {
+  Position position = PositionOf(board);
+  for (std::size_t cell = 0; cell < position.Texts.size(); ++cell) {
+    if (position.Givens.empty() || !position.Givens[cell]) position.Texts[cell].clear();
+  }
+  position.Checked = position.Judged = true;
+  Restore(board, position);
 }
 
 }  // namespace numorra

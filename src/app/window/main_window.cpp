@@ -300,6 +300,7 @@ void MainWindow::ConnectBoard() {
   watch_.Tell([this](const Deed& deed) { undo_.Note(deed); });
   watch_.Tell([this](const Deed&) { ShowState(); });
   board_.OnOverlay = [this] { ShowOverlay(); };
+  messageBoxes_.BeforeBox = [this] { state_->Show(board_); };
   connect(view_, &GridView::CellPressed, this,
           [this](int row, int column, Qt::MouseButton button, QPoint position) {
             const auto press = [=, this] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QMainWindow>
 #include <QStackedLayout>
 
@@ -80,6 +81,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void CopyPuzzleCode();
   void BuildPropertiesPanel();
   void BuildStepPanel();
+  void MakeRoomFor(QDockWidget* panel);
   void FollowSteps();
   void FollowProperties();
   void StudyBoard();
@@ -147,9 +149,9 @@ class MainWindow : public QMainWindow, private BuildOptions {
   PropertiesPanel* properties_ = nullptr;
   StepPanel* stepPanel_ = nullptr;
   WalkView* walkView_ = nullptr;
-  std::optional<int> widenedBy_;  ///< by so many pixels for the panel; nothing while it is hidden
-  bool studied_ = false;          ///< the panel shows what the board is now
-  QList<QAction*> needBoard_;     ///< the menu items that work on one
+  QHash<QDockWidget*, QSize> roomFor_;  ///< what the window grew by for each panel in sight
+  bool studied_ = false;                ///< the panel shows what the board is now
+  QList<QAction*> needBoard_;           ///< the menu items that work on one
   QAction* undoItem_ = nullptr;
   QAction* redoItem_ = nullptr;
   QAction* saveItem_ = nullptr;

@@ -11,7 +11,6 @@
 #include "app/window/worksheet_form.h"
 #include "puzzle/code.h"
 #include "toolkit/menus.h"
-#include "toolkit/named.h"
 
 namespace numorra {
 
@@ -35,6 +34,19 @@ void MainWindow::BuildPuzzleMenu() {
                           {},
                           remark("Enter Your Own", "Looking for solutions",
                                  [this] { return EnterPuzzle(board_, random_, searchStage_); })},
+                         {"EmptyBoardx",
+                          "E&mpty Board",
+                          {},
+                          [this] {
+                            RunOnCurrentCell("Empty Board", [this] {
+                              EmptyBoard(board_);
+                              menu_->EnableEditing(true);
+                            });
+                          }},
+                         {"CopyPuzzleCodex",
+                          "C&opy Code",
+                          {},
+                          [this] { runner_.RunBeside([this] { CopyPuzzleCode(); }); }},
                          {},
                          {"Hintx",
                           "H&int",
@@ -55,10 +67,7 @@ void MainWindow::BuildPuzzleMenu() {
   connect(searchBar_->Button, &QPushButton::clicked, this, [this] { runner_.Run("Stop", [] {}); });
   connect(remarkBar_->Button, &QPushButton::clicked, this, &MainWindow::ForgetRemark);
   state_->setContextMenuPolicy(Qt::ActionsContextMenu);
-  auto* copyCode = Named("CopyPuzzleCodex", new QAction("Copy Puzzle Code", state_));
-  state_->addAction(copyCode);
-  connect(copyCode, &QAction::triggered, this,
-          [this] { runner_.RunBeside([this] { CopyPuzzleCode(); }); });
+  state_->addAction(findChild<QAction*>("CopyPuzzleCodex"));
   watch_.Tell([this](const Deed& deed) {
     if (deed.ChangedTheBoard() && !remarkIsNew_) ForgetRemark();
     remarkIsNew_ = false;

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPdfWriter>
 
+#include "app/board/runtime_error.h"
 #include "app/window/square_json.h"
 #include "files/square_text.h"
 #include "puzzle/code.h"
@@ -27,6 +28,10 @@ bool EndsIn(const QString& name, const char* ending) {
 
 /// Writes what `paint` paints in an area of `size` pixels, `dpi` to the inch.
 void Export(const QString& name, QSize size, int dpi, const std::function<void(QPainter&)>& paint) {
+  if (!EndsIn(name, ".pdf") && !EndsIn(name, ".png")) {
+    const std::string why = name.toStdString() + " is neither a .png nor a .pdf file";
+    throw RuntimeError(Fault::FileError, why);
+  }
   QBuffer file;
   file.open(QIODevice::WriteOnly);
   if (EndsIn(name, ".pdf")) {

@@ -81,7 +81,10 @@ StepPanel::StepPanel(WalkView* view, QWidget* parent)
   connect(this, &QDockWidget::visibilityChanged, this, [this](bool on) {
     if (!on) Play(false);
   });
-  connect(view_, &GridView::CellPressed, this, [this](int r, int c) { Answer({r, c}); });
+  connect(view_, &GridView::CellPressed, this, [this](int r, int c) {
+    view_->MoveTo(r, c);
+    Answer(view_->Current());
+  });
   connect(view_, &GridView::CellWanted, this, [this](int r, int c) { view_->MoveTo(r, c); });
   connect(view_, &GridView::MarkWanted, this, [this] { Answer(view_->Current()); });
   connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
@@ -122,9 +125,10 @@ void StepPanel::GoTo(int step) {
   ShowStep();
 }
 
+/// Where the first number goes follows from nothing; it is shown.
 bool StepPanel::Asking() const {
   const WalkStep* const next = view_->TheWalk().Next();
-  return ask_->isChecked() && next != nullptr && next->Number > 0;
+  return ask_->isChecked() && next != nullptr && next->Number > 1;
 }
 
 /// The sentence of the step, or the question about the next one.

@@ -82,6 +82,7 @@ void MainWindow::BuildStepPanel() {
 /// When the panel has come or gone.
 void MainWindow::FollowSteps() {
   const bool shown = !stepPanel_->isHidden();
+  MakeRoomFor(stepPanel_);
   findChild<QAction*>("StepByStepx")->setChecked(shown);
   const bool walking = boardPlace_->currentWidget() == walkView_;
   if (shown == walking) return;
@@ -95,7 +96,22 @@ void MainWindow::FollowSteps() {
   stepPanel_->Begin(board_.GridSize, square ? square->Numbers() : std::vector<double>());
 }
 
-/// The panel beside the board, which the window makes room for.
+/// The window grows with a panel that comes, as far as the screen goes, and shrinks as it goes.
+void MainWindow::MakeRoomFor(QDockWidget* panel) {
+  const bool shown = !panel->isHidden();
+  if (roomFor_.contains(panel) == shown) return;
+  QSize change = QSize(0, 0) - roomFor_.take(panel);
+  if (shown) {
+    const QSize hint = panel->sizeHint();
+    const bool below = dockWidgetArea(panel) == Qt::BottomDockWidgetArea;
+    const QSize wanted = below ? QSize(0, hint.height()) : QSize(hint.width(), 0);
+    const QSize free = (screen()->availableSize() - size()).expandedTo({0, 0});
+    change = roomFor_[panel] = wanted.boundedTo(free);
+  }
+  if (!isMaximized() && !isFullScreen()) resize(size() + change);
+}
+
+/// The panel beside the board.
 void MainWindow::BuildPropertiesPanel() {
   properties_ = new PropertiesPanel(this);
   addDockWidget(Qt::RightDockWidgetArea, properties_);
@@ -117,14 +133,8 @@ void MainWindow::BuildPropertiesPanel() {
 /// When the panel has come or gone.
 void MainWindow::FollowProperties() {
   const bool shown = !properties_->isHidden();
-  auto* item = findChild<QAction*>("Propertiesx");
-  if (item->isChecked() == shown && widenedBy_.has_value() == shown) return;
-  item->setChecked(shown);
-  const int room = screen()->availableSize().width() - width();
-  const int change = shown ? std::clamp(properties_->sizeHint().width(), 0, std::max(0, room))
-                           : -widenedBy_.value_or(0);
-  widenedBy_ = shown ? std::optional(change) : std::nullopt;
-  if (!isMaximized() && !isFullScreen()) resize(width() + change, height());
+  findChild<QAction*>("Propertiesx")->setChecked(shown);
+  MakeRoomFor(properties_);
   if (shown) {
     StudyBoard();
   } else {

@@ -47,6 +47,7 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   for (const int number : {1, 2, 4, 6})
     perPage_->addItem(QString::number(number), number);
   orientation_->addItems({"portrait", "landscape"});
+  perPage_->setCurrentIndex(perPage_->count() - 1);
   total_->setChecked(true);
   auto* fromFresh = Named("SheetFreshx",
                           new QRadioButton(QString("&Fresh puzzles of size %1").arg(fresh_.Order)));

@@ -57,14 +57,25 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
   Fill();
   LayOutGaps("8 1 0 / 0 4 0 / 0 0 0", 15, Rules::Normal, {0, 1, 4});
   Fill();
+  LayOutGaps("8 1 6 / 3 2 0 / 4 7 0", 15);
+  Fill();
   LayOutGaps("8 8 0 / 0 4 0 / 0 0 0", 15);
   Fill();
   EXPECT_EQ(dialogs_.Take(),
             (Messages{"nothing can fill these gaps: 4 in row 2, column 2 cannot stay",
                       "nothing can fill these gaps",
+                      "nothing can fill these gaps: column 2 adds up to 10, not 15",
                       "nothing can fill these gaps: 8 in row 1, column 2 stands in row 1, column 1 "
                       "too"}));
   EXPECT_EQ(At(1, 3), "");
+}
+
+TEST_F(FillGapsTest, EmptiesAllThatIsNotGiven) {
+  LayOutGaps("8 1 6 / 3 0 0 / 4 0 2", 15, Rules::Normal, {0, 8});
+  EmptyBoard(board_);
+  EXPECT_EQ(At(1, 1) + At(1, 2) + At(2, 1) + At(3, 3), "82");
+  EXPECT_TRUE(board_.grid.Given(1, 1) && board_.TotalsChecked);
+  EXPECT_EQ(board_.grid.Text(0, 0), "10");
 }
 
 /// A stopped search leaves the board as it was, and nothing behind.

@@ -159,6 +159,8 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   }
   Trigger("SaveAsx", "/nowhere/at/all.json");
   EXPECT_EQ(dialogs_.Take().size(), 1U);
+  Trigger("ExportPicturex", "a.gif");
+  EXPECT_EQ(dialogs_.Take(), Messages{"File error: a.gif is neither a .png nor a .pdf file"});
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
 }
 

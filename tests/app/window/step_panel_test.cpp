@@ -62,13 +62,14 @@ TEST_F(StepPanelTest, PlaysExamplesAndEndsWithAChangeOfTheBoard) {
 TEST_F(StepPanelTest, AsksWhereNumbersGo) {
   Toggle();
   Find<QCheckBox>("AskMex").setChecked(true);
+  Click("StepNextx");
   EXPECT_FALSE(Find<QPushButton>("StepNextx").isEnabled());
   const auto click = [&](int row, int column) {
     QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, View().CellRect(row, column).center());
   };
-  click(1, 3);
-  EXPECT_EQ(View().TheWalk().At(), 1);
+  EXPECT_EQ(View().TheWalk().At(), 1) << "where the first number goes follows from nothing";
   click(4, 4);
+  QTest::keyClick(&View(), Qt::Key_Return);
   EXPECT_EQ(View().TheWalk().At(), 1);
   EXPECT_EQ(Sentence(),
             "No, not row 4, column 4: 2 goes up and to the right, out of the board at the top, so "
