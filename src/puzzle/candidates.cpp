@@ -40,13 +40,11 @@ Candidates::Candidates(const Puzzle& puzzle)
       touched_(At(map_.Lines())) {
   for (int cell = 0; cell < Cells(); ++cell) {
     const std::int64_t number = puzzle.Cells[At(cell)];
-    if (number == 0) continue;
-    if (number < 1 || number > most_) impossible_ = true;
-    Take(cell, number);
+    if (number != 0) Take(cell, number);
   }
   for (int line = 0; line < map_.Lines(); ++line)
     Touch(line);
-  if (puzzle.Asked == Rules::Normal && !impossible_) StartSets();
+  if (puzzle.Asked == Rules::Normal) StartSets();
 }
 
 /// Gives each gap the numbers that are missing, and each number's cell that number.

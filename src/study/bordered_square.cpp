@@ -76,8 +76,7 @@ Ring EvenRing(int order, Random& random) {
   const int first = 2 * random.Between(0, pairs) + 1;  // of the block
   std::vector<int> neighbours;
   for (int k = 1; k < 4 * p - 2; k += 2) {
-    if (k == first) k += block;
-    if (k < 4 * p - 2) neighbours.push_back(k);
+    if (k < first || k >= first + block) neighbours.push_back(k);
   }
   Shuffle(std::span(neighbours), random);
   const auto onTop = std::span(neighbours).first(static_cast<std::size_t>(p - 2));

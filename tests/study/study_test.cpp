@@ -191,6 +191,10 @@ TEST(Study, ShowsEvidence) {
        "400000001",
        "bimagic", Answer::TooLarge,
        "the squares of numbers like 400000001 are too large to be added exactly", 0},
+      {"500001 500001 500001 / 500001 500001 500001 / 500001 500001 500001", "bimagic",
+       Answer::Holds, "the squares in every line add up to 750003000003", 0},
+      {"500001 500001 500001 / 500001 500001 500001 / 500001 500001 500001", "trimagic",
+       Answer::TooLarge, "the cubes of numbers like 500001 are too large to be added exactly", 0},
   };
   for (const Told& told : cases) {
     const Judgement found = Find(StudyOf(ParseRows(told.Rows)), told.Term);

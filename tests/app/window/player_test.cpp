@@ -123,6 +123,10 @@ TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
   EXPECT_TRUE(visible());
   Key(Qt::Key_PageDown);
   EXPECT_EQ(Where().first, 50);
+  for (int press = 0; press < 50; ++press)
+    Key(Qt::Key_PageUp);
+  EXPECT_EQ(Where().first, 1) << "and stays there";
+  Key(Qt::Key_End, Qt::ControlModifier);
   Key(Qt::Key_Return);
   EXPECT_EQ(Where(), (std::pair{1, 50})) << "checked, then down from the last row";
   Key(Qt::Key_End, Qt::ControlModifier);

@@ -87,6 +87,7 @@ TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
   EXPECT_EQ(Rows()[0], (std::vector<double>{24, 12, 18, 15}));
   EXPECT_EQ(slow::WhyNotMagic(Rows(), 69), "");
   EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked());
+  EXPECT_FALSE(window_.TheBoard().TotalsChecked) << "it waits for F9";
 }
 
 /// A window whose builds let events through at every yield.

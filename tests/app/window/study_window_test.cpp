@@ -38,6 +38,9 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_TRUE(Entry("famous")->text(1).startsWith("Lo Shu"));
   EXPECT_TRUE(Entry("census number")->isHidden());
   EXPECT_EQ(Entry("sum")->text(1), "15 in 8 of 8 lines");
+  for (const Term& term : Terms())
+    EXPECT_EQ(Entry(term.Name)->parent()->text(0), term.Group);
+  EXPECT_EQ(Entry("sum")->parent()->text(0), "The square");
 
   Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("magic"));
   EXPECT_TRUE(TheGrid().Outlined().empty());
