@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
 #include <QTest>
 
 #include "app/window/main_window.h"
@@ -80,6 +81,18 @@ class WindowTest : public testing::Test {
     EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisibleTo(&window_));
     EXPECT_FALSE(Find<QLabel>("IterationCount").isVisible());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  }
+
+  /// Whether what is on the screen is what a whole repaint of the widget would show.
+  bool IsSeenWhole(QWidget& widget) {
+    QCoreApplication::processEvents();
+    const QRect place(widget.mapTo(&window_, QPoint()), widget.size());
+    const QImage screen = window_.screen()->grabWindow(window_.winId()).toImage();
+    EXPECT_FALSE(screen.isNull());
+    const auto comparable = [](const QImage& image) {
+      return image.convertToFormat(QImage::Format_RGB32);
+    };
+    return comparable(screen.copy(place)) == comparable(widget.grab().toImage());
   }
 
   std::string SumBox() { return Find<QLineEdit>("Text4").text().toStdString(); }

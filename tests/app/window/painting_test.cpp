@@ -125,6 +125,27 @@ TEST_F(PaintingTest, AScrolledBoardShowsItsOtherCells) {
   EXPECT_FALSE(InSight(1, 1));
 }
 
+/// Whatever little was painted anew: nothing of before is left standing.
+TEST_F(PaintingTest, EveryKeyLeavesAWholePicture) {
+  for (const auto& [order, sum] : {std::pair{"3", "18"}, {"11", "671"}, {"50", "5000"}}) {
+    Make("SolveManual", order, sum);
+    dialogs_.Take();
+    ClickCell(2, 2);
+    const auto keys = {Qt::Key_7,     Qt::Key_Right, Qt::Key_Down,   Qt::Key_9,         Qt::Key_0,
+                       Qt::Key_Up,    Qt::Key_Left,  Qt::Key_Left,   Qt::Key_Backspace, Qt::Key_End,
+                       Qt::Key_Space, Qt::Key_Home,  Qt::Key_Return, Qt::Key_PageDown,  Qt::Key_4};
+    for (const Qt::Key key : keys) {
+      QTest::keyClick(&window_.View(), key);
+      EXPECT_TRUE(IsSeenWhole(*window_.View().viewport())) << order << ", key " << key;
+      dialogs_.Take();
+    }
+    QTest::keyClick(&window_.View(), Qt::Key_Space, Qt::ShiftModifier);
+    EXPECT_TRUE(IsSeenWhole(*window_.View().viewport())) << "a marked row";
+    QTest::keyClick(&window_.View(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_TRUE(IsSeenWhole(*window_.View().viewport())) << "scrolled";
+  }
+}
+
 /// A value cell that is shaded in the colour of wrong totals is none.
 TEST_F(PaintingTest, ShadesAreNoVerdicts) {
   Make("SolveManual", "3", "15");

@@ -12,6 +12,11 @@ class StepPanelTest : public WindowTest {
     QCoreApplication::processEvents();
   }
   WalkView& View() { return *window_.findChild<WalkView*>(); }
+  static bool Near(const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+               std::abs(a.blue() - b.blue()) <
+           12;
+  }
   std::string Sentence() { return Find<QLabel>("StepSentence").text().toStdString(); }
 };
 
@@ -41,6 +46,40 @@ TEST_F(StepPanelTest, WalksTheSquareOnTheBoardByKeys) {
   Toggle();
   EXPECT_TRUE(window_.View().isVisible());
   ExpectSettled();
+}
+
+/// A step repaints what it changes and no more; what is seen is what a whole repaint would show.
+TEST_F(StepPanelTest, ShowsEveryStepWhole) {
+  Toggle();
+  for (const int example : {0, 1, 2}) {
+    Find<QComboBox>("WalkChoice").setCurrentIndex(example);
+    Q_EMIT Find<QComboBox>("WalkChoice").activated(example);
+    for (const int step : {1, 2, 3, 4, 6, 7, 5, 2, 1, 0}) {
+      Find<QSlider>("StepSlider").setValue(step);
+      EXPECT_TRUE(IsSeenWhole(*View().viewport())) << "step " << step << " of example " << example;
+      const QImage whole = View().viewport()->grab().toImage();
+      const WalkStep* done = View().TheWalk().Done();
+      if (!done || !done->Arrow) continue;
+      const auto [from, to] = *done->Arrow;
+      const auto centre = [&](Place at) { return View().CellRect(at.Row, at.Column).center(); };
+      const QLineF way(centre(from), centre(to));
+      const auto ink = [&](double share) {
+        int found = 0;
+        for (int x = -3; x <= 3; ++x) {
+          for (int y = -3; y <= 3; ++y) {
+            const QColor pixel = whole.pixelColor(way.pointAt(share).toPoint() + QPoint(x, y));
+            found += Near(pixel, QColor(200, 90, 0)) ? 1 : 0;
+          }
+        }
+        return found;
+      };
+      EXPECT_GT(ink(0.5), 0) << "the arrow's shaft";
+      EXPECT_EQ(ink(0) + ink(1), 0) << "numbers stay readable";
+      const double side = View().CellRect(1, 1).width();
+      EXPECT_GT(ink(1 - 0.36 * side / way.length()), ink(0.36 * side / way.length()))
+          << "its head is where the step leads";
+    }
+  }
 }
 
 TEST_F(StepPanelTest, PlaysExamplesAndEndsWithAChangeOfTheBoard) {

@@ -22,6 +22,41 @@ class StudyWindowTest : public WindowTest {
   }
 };
 
+/// Between an outlined cell and any other there is a line, and nowhere else.
+TEST_F(StudyWindowTest, EvidenceIsOutlinedOnBoardAndDrawing) {
+  Open();
+  const auto lines = [](const QImage& picture, QRect around) {
+    int found = 0;
+    for (int y = around.top(); y <= around.bottom(); ++y) {
+      for (int x = around.left(); x <= around.right(); ++x)
+        found += picture.valid(x, y) && picture.pixelColor(x, y) == QColor(150, 30, 140) ? 1 : 0;
+    }
+    return found;
+  };
+  Trigger("LoShux");
+  Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("pandiagonal"));
+  const std::vector<Place>& outlined = TheGrid().Outlined();
+  EXPECT_EQ(outlined.size(), 3U);
+  const auto marked = [&](int row, int column) {
+    return std::find(outlined.begin(), outlined.end(), Place{row, column}) != outlined.end();
+  };
+  const QImage board = window_.View().viewport()->grab().toImage();
+  for (int row = 1; row <= 3; ++row) {
+    for (int column = 1; column <= 4; ++column) {
+      const bool upright = marked(row, column - 1) != marked(row, column);
+      const bool level = marked(column - 1, row) != marked(column, row);
+      const QPoint left = window_.View().CellRect(row, column).topLeft();
+      const QPoint top = window_.View().CellRect(column, row).topLeft();
+      const int half = window_.View().CellRect(1, 1).width() / 2;
+      EXPECT_EQ(lines(board, QRect(left + QPoint(-2, half), QSize(5, 1))) > 0, upright);
+      EXPECT_EQ(lines(board, QRect(top + QPoint(half, -2), QSize(1, 5))) > 0, level);
+    }
+  }
+  Click("Command1");
+  auto& drawing = Find<Drawing>("Picture1");
+  EXPECT_GT(lines(drawing.grab().toImage(), drawing.rect()), 100);
+}
+
 TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   auto& panel = Find<QDockWidget>("PropertiesPanel");
   EXPECT_FALSE(panel.isVisible());
