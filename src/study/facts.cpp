@@ -16,11 +16,12 @@ std::vector<std::size_t> CellsByNumber(const NumberSquare& square) {
   const auto& numbers = square.Numbers();
   std::vector<std::size_t> cells(numbers.size());
   const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
-  const double span = *most - *least;
+  const double lowest = *least;
+  const double span = *most - lowest;
   constexpr double kNear = 16;
   if (square.One() == 1 && square.HasUnits() && span <= kNear * static_cast<double>(cells.size())) {
     const auto slot = [&](std::size_t cell) {
-      return static_cast<std::size_t>(numbers[cell] - *least);
+      return static_cast<std::size_t>(numbers[cell] - lowest);
     };
     std::vector<std::size_t> ends(static_cast<std::size_t>(span) + 2);
     for (std::size_t cell = 0; cell < cells.size(); ++cell)
