@@ -50,7 +50,7 @@ Its exit status is 3 for none and 4 for what was not settled in time.
 
   --rules normal|positive  each of 1 to N x N once, or any whole numbers of 1 or
                            more; without it what the square suggests
-  --sum T                  the total, where the square does not tell it
+  --sum T                  the total, instead of the one that the square tells
   --limit-to-9             no number above 9, by the positive rules
   --seconds S              how long to search for each square: 3
   --format text|json       JSON is one object a line

@@ -39,12 +39,15 @@ Completed AnswerOf(const SearchResult& result) {
 }
 
 Completed Complete(StoredSquare square, const SquareRequest& request, Random& random) {
-  if (request.Sum) square.Total = *request.Sum;
-  if (request.RulesWanted) square.Asked = *request.RulesWanted;
   if (const auto aim = AimOf(square)) {
     square.Total = aim->Target;
-    if (!request.RulesWanted) square.Asked = aim->Asked;
+    square.Asked = aim->Asked;
   }
+  if (request.Sum && square.Total != *request.Sum) {
+    square.Total = *request.Sum;
+    square.Asked = Rules::Positive;
+  }
+  square.Asked = request.RulesWanted.value_or(square.Asked);
   const auto puzzle = PuzzleOf(square, request.LimitToNine);
   if (const auto* against = std::get_if<AgainstRules>(&puzzle)) {
     return {"none", Completion::Impossible, {}, {}, against->Why};
@@ -77,7 +80,7 @@ void Write(const Completed& completed, double seconds, const SquareRequest& requ
 }  // namespace
 
 Completion CompleteSquares(const SquareRequest& request, const Streams& streams) {
-  TickingClock clock(request.Seed.value_or(0));
+  TickingClock clock(0);
   ClockSeededRandom random(clock);
   auto worst = Completion::Completed;
   bool first = true;

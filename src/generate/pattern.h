@@ -19,8 +19,6 @@ class Pattern {
  public:
   static constexpr std::size_t kMaxCells = 16;
 
-  void Clear() { size_ = 0; }
-
   /// Adds `weight` to the cell's.
   void Add(int row, int column, int weight) {
     for (std::size_t i = 0; i < size_; ++i) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/board/board.h"
+#include "app/board/orders.h"
 #include "generate/stepping.h"
 
 namespace numorra {
@@ -303,6 +304,7 @@ std::vector<WalkStep> WalkLux(const Numbers& square) {
 }  // namespace
 
 std::vector<WalkStep> WalkOf(int order, const std::vector<double>& numbers) {
+  if (WhyNoBoardHas(order)) return {};
   const Numbers square(order, numbers);
   if (!square.IsNormal()) return {};
   if (order % 2 == 1) return WalkOdd(square);

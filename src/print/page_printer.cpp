@@ -1,5 +1,7 @@
 #include "print/page_printer.h"
 
+#include <exception>
+
 #include <QPagedPaintDevice>
 #include <QPaintEngine>
 #include <QPrintPreviewDialog>
@@ -43,16 +45,16 @@ void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
   printer.setDocName(pages.Name);
   QPrintPreviewDialog dialog(&printer, window);
   dialog.setWindowTitle(pages.Name);
-  std::string failed;
+  std::exception_ptr failed;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* device) {
     try {
       PrintPages(*device, pages);
-    } catch (const std::exception& error) {
-      failed = error.what();  // exceptions must not pass through the toolkit
+    } catch (...) {
+      failed = std::current_exception();  // which must not pass through the toolkit
     }
   });
   dialog.exec();
-  if (!failed.empty()) throw RuntimeError(Fault::PrinterError, failed.c_str());
+  if (failed) std::rethrow_exception(failed);
 }
 
 }  // namespace numorra

@@ -25,8 +25,8 @@ class PagePrinter {
  public:
   virtual ~PagePrinter() = default;
 
-  /// Shows the pages; they are printed where the player says so. Throws PrinterError when that
-  /// cannot begin or fails on the way.
+  /// Shows the pages; they are printed where the player says so. Throws PrinterError and FileError
+  /// when that cannot begin or fails on the way.
   virtual void Preview(QWidget* window, const PaintedPages& pages) = 0;
 };
 

@@ -107,10 +107,7 @@ void Pass(Coder& coder, Puzzle& puzzle) {
   constexpr std::uint64_t kRules = 3;  // of which one is free
   puzzle.Order = kMinOrder + static_cast<int>(coder.Digit(
                                  static_cast<std::uint64_t>(puzzle.Order - kMinOrder), kOrders));
-  const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0
-                                          : puzzle.LimitToNine          ? 2
-                                                                        : 1,
-                                          kRules);
+  const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0 : 1, kRules);
   puzzle.Asked = rules == 0 ? Rules::Normal : Rules::Positive;
   puzzle.Target =
       rules == 0

@@ -23,8 +23,7 @@ inline constexpr int kMostCodedOrder = 10;
 /// Throws nothing; the order is at most kMostCodedOrder.
 std::string CodeOf(const Puzzle& puzzle);
 
-/// Whether a text is meant to be a code: it begins as one, and is one word but for blanks and
-/// hyphens.
+/// Whether a text is meant to be a code: its first letters are NP, capitals or not.
 bool LooksLikeCode(const std::string& text);
 
 /// The puzzle that a code holds, capitals or not; I and L are read as 1 and O as 0. Or what is

@@ -12,7 +12,7 @@ namespace numorra {
 /// Which full square a puzzle is to be made from.
 struct SquareWish {
   int Order = 4;
-  std::optional<std::int64_t> Total = {};  ///< any other than the normal one; 1 to 32767
+  std::optional<std::int64_t> Total = {};  ///< any other than the normal one, 1 or more
   bool LimitToNine = false;  ///< of the square's numbers; a puzzle's gaps know no such limit
 };
 

@@ -1,7 +1,6 @@
 #include "puzzle/making.h"
 
 #include <algorithm>
-#include <numeric>
 #include <vector>
 
 #include "puzzle/rules.h"

@@ -10,11 +10,13 @@
 namespace numorra {
 namespace {
 
-std::string RangeOf(const Puzzle& puzzle) {
+/// What a number is that the puzzle cannot hold.
+std::string WhatIs(double number, const Puzzle& puzzle) {
   if (puzzle.Asked == Rules::Normal || puzzle.LimitToNine) {
     return "none of the numbers 1 to " + std::to_string(puzzle.Most());
   }
-  return "no whole number of 1 or more";
+  if (number < 1 || number != std::floor(number)) return "no whole number of 1 or more";
+  return "more than the sum leaves for one cell, " + std::to_string(puzzle.Most());
 }
 
 /// A number that stands in two cells: the one to blame is no given where the other is.
@@ -62,7 +64,7 @@ std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool lim
     const Place place = puzzle.PlaceOf(index);
     if (cell &&
         (*cell < 1 || *cell > static_cast<double>(puzzle.Most()) || *cell != std::floor(*cell))) {
-      return AgainstRules{Decimal(*cell) + " in " + NameOf(place) + " is " + RangeOf(puzzle),
+      return AgainstRules{Decimal(*cell) + " in " + NameOf(place) + " is " + WhatIs(*cell, puzzle),
                           place};
     }
     if (cell && square.Asked == Rules::Normal && !seen.emplace(*cell, index).second) {

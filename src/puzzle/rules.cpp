@@ -64,19 +64,12 @@ LineTakes Taken(const Candidates& board, int line, int cell,
   LineTakes takes;
   if (others.size() == 1) {
     for (const std::int64_t number : numbers) {
-      if (rest != 2 * number && board.Allows(others[0], rest - number)) {
-        takes.Numbers.push_back(number);
-      }
+      const bool differs = !board.IsNormal() || rest != 2 * number;
+      if (differs && board.Allows(others[0], rest - number)) takes.Numbers.push_back(number);
     }
     takes.Said = LineName(board, line) + " needs " + std::to_string(rest) + " for this cell and " +
                  PlaceName(board, others[0]) + ", which can hold " +
                  Range(board.Low(others[0]), board.High(others[0]));
-    if (!board.IsNormal()) {
-      takes.Numbers.clear();
-      for (const std::int64_t number : numbers) {
-        if (board.Allows(others[0], rest - number)) takes.Numbers.push_back(number);
-      }
-    }
     return takes;
   }
   const auto sumOf = [&](auto boundOf) {

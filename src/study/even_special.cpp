@@ -1,4 +1,3 @@
-#include <numeric>
 #include <utility>
 
 #include "study/special.h"

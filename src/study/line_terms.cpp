@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <numeric>
 
 #include "study/terms.h"
@@ -104,11 +103,13 @@ Judgement JudgeSemiPandiagonal(const Facts& facts) {
 }
 
 Judgement JudgeBimagic(const Facts& facts) {
-  return All(facts, {"magic"}, PowersAreMagic(facts, 2));
+  if (Judgement magic = All(facts, {"magic"}, Holds({})); !magic) return magic;
+  return PowersAreMagic(facts, 2);
 }
 
 Judgement JudgeTrimagic(const Facts& facts) {
-  return All(facts, {"bimagic"}, PowersAreMagic(facts, 3));
+  if (Judgement bimagic = All(facts, {"bimagic"}, Holds({})); !bimagic) return bimagic;
+  return PowersAreMagic(facts, 3);
 }
 
 Judgement JudgeHeterosquare(const Facts& facts) {

@@ -1,6 +1,5 @@
 #include "study/number_square.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 

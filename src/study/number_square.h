@@ -25,7 +25,6 @@ class NumberSquare {
 
   int Order() const { return order_; }
   const std::vector<double>& Numbers() const { return numbers_; }
-  double Number(int i, int j) const { return numbers_[Index(i, j)]; }
 
   bool HasUnits() const { return !units_.empty(); }
   const std::vector<std::int64_t>& Units() const { return units_; }

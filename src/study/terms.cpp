@@ -1,7 +1,6 @@
 #include "study/terms.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace numorra {
 

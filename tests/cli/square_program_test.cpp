@@ -155,6 +155,12 @@ TEST(SquareProgram, CompletesWhatItReads) {
   EXPECT_EQ(
       RunWith("complete --rules positive --sum 30 --limit-to-9", ". . .\n. . .\n. . .\n").Status,
       3);
+  for (const auto& [sum, answer] :
+       {std::pair{"", "one"}, {" --sum 34", "one"}, {" --sum 50", "none"}}) {
+    const std::string said =
+        RunWith(std::string("complete") + sum, "16 . . 13\n5 10 11 8\n9 6 7 12\n4 . . 1\n").Out;
+    EXPECT_EQ(said.substr(0, said.find_first_of(":\n")), answer) << sum;
+  }
   std::string hard;
   for (int row = 0; row < 12; ++row) {
     for (int column = 0; column < 12; ++column)

@@ -122,6 +122,7 @@ TEST(Walk, KnowsWhatItCannotExplain) {
   EXPECT_TRUE(WalkOf(5, {1, 23, 16, 4, 21, 15, 14, 7, 18, 11, 24, 17, 13,
                          9, 2,  20, 8, 19, 12, 6,  5, 3,  10, 22, 25})
                   .empty());
+  EXPECT_TRUE(WalkOf(1, {1}).empty() && WalkOf(2, {1, 4, 3, 2}).empty());
   EXPECT_TRUE(WalkOf(3, {0.5, 9, 2, 3, 5, 7, 8, 1, 6}).empty());
 }
 

@@ -161,6 +161,20 @@ TEST_F(SearchTest, KnowsThePositiveRules) {
   EXPECT_EQ(indexOf("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 1'000'000'000'000, false), 1U);
 }
 
+/// Bounds that close in on each other by ones do so for a while only.
+TEST_F(SearchTest, EndsOnLargeNumbers) {
+  const std::int64_t many = 1'000'000'000'000;
+  const Puzzle puzzle{
+      4,
+      4 * many,
+      Rules::Positive,
+      false,
+      {many + 1, 0, 0, many, 0, many - 1, many, 0, 0, many, many, 0, many, 0, 0, many}};
+  const SearchResult result = Solve(puzzle, {.Nodes = 3}, random_, stage_);
+  EXPECT_FALSE(std::holds_alternative<OneSolution>(result) ||
+               std::holds_alternative<SeveralSolutions>(result));
+}
+
 TEST_F(SearchTest, StopsWhenItIsTold) {
   const Puzzle empty = PuzzleFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
   EXPECT_TRUE(std::holds_alternative<NotSettled>(Find(empty, 1)));
@@ -188,6 +202,11 @@ TEST(Puzzle, SaysWhatBreaksTheRules) {
   StoredSquare square{
       .Order = 3, .Cells = {8, {}, 6, {}, 5, {}, {}, {}, 2}, .Asked = Rules::Normal};
   EXPECT_EQ(why(square), "");
+  EXPECT_EQ(why({.Order = 3,
+                 .Cells = {20, {}, {}, {}, {}, {}, {}, {}, {}},
+                 .Total = 15,
+                 .Asked = Rules::Positive}),
+            "20 in row 1, column 1 is more than the sum leaves for one cell, 13");
   square.Cells[4] = 8;
   EXPECT_EQ(why(square), "8 in row 2, column 2 stands in row 1, column 1 too");
   square.Cells[4] = 10;

@@ -185,6 +185,8 @@ TEST(Study, ShowsEvidence) {
        "the squares in row 2 add up to 0.83, those in row 1 to 1.01", 3},
       {"99999999999999 0.0001 0 / 0 0 0 / 0 0 0", "magic", Answer::TooLarge,
        "the numbers have too many digits to be added exactly", 0},
+      {"0.9 0.00000000000001 5 / 1 2 3 / 4 6 7", "bimagic", Answer::TooLarge,
+       "the numbers have too many digits to be added exactly", 0},
       {"400000001 1 1 / 1 1 1 / 1 1 1", "bimagic", Answer::Fails,
        "not magic: row 1 adds up to 400000003, not 3", 3},
       {"400000001 400000001 400000001 / 400000001 400000001 400000001 / 400000001 400000001 "

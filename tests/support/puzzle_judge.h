@@ -29,6 +29,9 @@ class SlowCounter {
   }
 
   int Count() {
+    for (int cell = 0; cell < n_ * n_; ++cell) {
+      if (!Possible(cell / n_, cell % n_)) return 0;
+    }
     Fill(0);
     return found_;
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/board/numbers.h"
 #include "app/board/position.h"
 #include "app/board/totals_check.h"
 #include "app/play/fill_gaps.h"
@@ -50,7 +51,10 @@ Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, BuildSt
 
 Remark CannotStay(const Board& board, const Wrong& wrong) {
   const std::vector<Place>& cells = wrong.Cells;
-  if (cells.empty()) return {"nothing can fill these gaps"};
+  if (cells.empty()) {
+    return {board.HasGaps() ? "nothing can fill these gaps"
+                            : "not all lines of the board are right"};
+  }
   std::string text;
   constexpr std::size_t kMostNamed = 5;
   for (std::size_t i = 0; i < std::min(kMostNamed, cells.size()); ++i) {
@@ -83,8 +87,9 @@ Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say sa
 }
 
 std::string NotInTime(const NotSettled& open) {
-  return open.Found ? "it has a solution; whether it is the only one was not settled in 3 seconds"
-                    : "whether it has a solution was not settled in 3 seconds";
+  const char* const what = open.Found ? "it has a solution; whether it is the only one was"
+                                      : "whether it has a solution was";
+  return what + (" not settled in " + Decimal(kFirstSearch)) + " seconds";
 }
 
 /// The next number by rules, or else one of the solution that trying has to find.
@@ -107,10 +112,10 @@ std::optional<Step> FindStep(const Puzzle& puzzle, const Puzzle& solved, BuildSt
 }  // namespace
 
 Remark Hints::Next() {
-  const std::vector<std::string> texts = PositionOf(board_).Texts;
-  if (!step_ || texts != texts_) {
+  Position now = PositionOf(board_);
+  if (!step_ || IsChange(position_, now) || position_.Asked != now.Asked) {
     step_.reset();
-    texts_ = texts;
+    position_ = std::move(now);
     presses_ = 0;
     Remark remark = Begin();
     if (!step_) return remark;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/board/board.h"
+#include "app/board/position.h"
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
 #include "puzzle/rules.h"
@@ -33,7 +34,7 @@ class Hints {
   Board& board_;
   Random& random_;
   BuildStage& stage_;
-  std::vector<std::string> texts_;  ///< of the board that the step is for
+  Position position_;  ///< of the board that the step is for
   std::optional<Step> step_;
   int presses_ = 0;
 };

@@ -1,7 +1,6 @@
 #include "app/play/study_commands.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"

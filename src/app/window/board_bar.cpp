@@ -13,7 +13,7 @@ BoardBar::BoardBar(QWidget* over, const char* name, const char* buttonName, cons
   setObjectName(name);
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
-  Button->setShortcut(Qt::Key_Escape);
+  Button->setToolTip("Esc");
   text_->setWordWrap(true);
   text_->setTextFormat(Qt::PlainText);
   auto* row = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include "app/window/main_window.h"
 #include "app/window/square_files.h"
@@ -8,6 +9,14 @@
 #include "toolkit/menus.h"
 
 namespace numorra {
+
+/// Esc takes away what has come last: a search, a remark, the full screen.
+void MainWindow::Escape() {
+  for (const BoardBar* bar : {searchBar_, remarkBar_}) {
+    if (bar->isVisible()) return bar->Button->click();
+  }
+  if (size_->FullScreen()) size_->ToggleFullScreen();
+}
 
 /// The menu bar. What changes the board is a command; what only shows, writes or opens something
 /// runs beside one.
@@ -105,6 +114,7 @@ void MainWindow::BuildMenus() {
   checkItem_ = findChild<QAction*>("CheckTotalsx");
   size_ = new ViewControl(this, view_, {leftColumn_, properties_}, findChild<QAction*>("FitBoardx"),
                           findChild<QAction*>("FullScreenx"));
+  new QShortcut(Qt::Key_Escape, this, [this] { Escape(); });
 }
 
 }  // namespace numorra

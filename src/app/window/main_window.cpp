@@ -1,12 +1,10 @@
 #include "app/window/main_window.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHBoxLayout>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 

@@ -69,6 +69,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
  private:
   void ArrangeFrames();
   void BuildMenus();
+  void Escape();
   void BuildStudyMenu();
   void BuildPuzzleMenu();
   void BeginSearch(const char* doing);

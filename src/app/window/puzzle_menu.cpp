@@ -99,7 +99,7 @@ void MainWindow::CopyPuzzleCode() {
 /// The bar of a search takes the place of an older remark.
 void MainWindow::BeginSearch(const char* doing) {
   stepPanel_->hide();
-  remarkBar_->hide();
+  ForgetRemark();
   searchStage_.ShowCount(doing);
 }
 
@@ -133,7 +133,9 @@ SquareWish MainWindow::FreshWish() const {
   wish.Order = ToInt16(Val(square_->Size()));
   if (board_.SolveMode != ModeVariable) return wish;
   wish.LimitToNine = LimitToNine();
-  const int total = ToInt16(Val(square_->Sum()));
+  constexpr auto kMost = static_cast<double>(Puzzle::kMostTarget);
+  const auto total =
+      static_cast<std::int64_t>(std::clamp(AsShown(Val(square_->Sum())), 1.0, kMost));
   if (total != NormalTotal(wish.Order)) wish.Total = total;
   return wish;
 }

@@ -15,11 +15,8 @@ ViewControl::ViewControl(QMainWindow* window, GridView* view, std::vector<QWidge
       view_(view),
       beside_(std::move(beside)),
       fit_(fit),
-      full_(full),
-      leave_(new QShortcut(Qt::Key_Escape, window)) {
-  leave_->setEnabled(false);
+      full_(full) {
   window_->installEventFilter(this);
-  connect(leave_, &QShortcut::activated, this, &ViewControl::ToggleFullScreen);
 }
 
 void ViewControl::Zoom(int direction, QPoint fixed) {
@@ -74,8 +71,7 @@ void ViewControl::ScrollBack() {
 
 void ViewControl::ShowMarks() {
   fit_->setChecked(view_->Fitting());
-  full_->setChecked(before_.has_value());
-  leave_->setEnabled(before_.has_value());
+  full_->setChecked(FullScreen());
 }
 
 }  // namespace numorra

@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QMainWindow>
-#include <QShortcut>
 
 #include "app/window/grid_view.h"
 
@@ -28,6 +27,7 @@ class ViewControl : public QObject {
 
   /// The board and the menu bar alone, fitted; leaving brings back what there was.
   void ToggleFullScreen();
+  bool FullScreen() const { return before_.has_value(); }
 
   /// Notices when the desktop, or another command, has ended the full screen.
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -53,7 +53,6 @@ class ViewControl : public QObject {
   std::vector<QWidget*> beside_;
   QAction* fit_;
   QAction* full_;
-  QShortcut* leave_;
   std::optional<Before> before_;
   QPoint scrolled_;  ///< where the view is to be again
 };

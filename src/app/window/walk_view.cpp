@@ -1,7 +1,6 @@
 #include "app/window/walk_view.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QPaintEvent>
 #include <QPainter>

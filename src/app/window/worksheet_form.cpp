@@ -1,6 +1,7 @@
 #include "app/window/worksheet_form.h"
 
 #include <QFormLayout>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include "app/window/form_stage.h"
@@ -100,6 +101,8 @@ void WorksheetForm::ShowMaking(bool making) {
 
 std::vector<MadePuzzle> WorksheetForm::Puzzles() {
   if (fromBoard_->isChecked()) return {*board_};
+  ShowMaking(true);
+  const auto done = qScopeGuard([this] { ShowMaking(false); });
   std::vector<MadePuzzle> puzzles;
   FormStage stage(runner_, [&] {
     told_->setText(
@@ -119,12 +122,10 @@ std::vector<MadePuzzle> WorksheetForm::Puzzles() {
 
 void WorksheetForm::Print() {
   runner_.Run("Worksheet", [this] {
-    ShowMaking(true);
     try {
       const WorksheetWish wish{perPage_->currentData().toInt(), title_->text(),
                                total_->isChecked()};
       const Worksheet sheet(Puzzles(), wish);
-      ShowMaking(false);
       printer_.Preview(
           this, {title_->text(), sheet.Pages(),
                  orientation_->currentIndex() == 0 ? QPageLayout::Portrait : QPageLayout::Landscape,
@@ -132,7 +133,6 @@ void WorksheetForm::Print() {
                    sheet.PaintPage(painter, size, page);
                  }});
     } catch (const NoSet& none) {
-      ShowMaking(false);
       told_->setText(QString::fromStdString(none.Why));
     }
   });

@@ -53,7 +53,24 @@ TEST_F(HintsTest, PointAtWhatCannotStay) {
   Type(1, 1, "5");
   EXPECT_EQ(Check(), "5 in row 1, column 1 stands in row 2, column 2 too") << "a given is right";
   Read("8 1 6\n3 5 7\n2 9 4");
-  EXPECT_EQ(hints_.Next().Text, "nothing can fill these gaps");
+  EXPECT_EQ(hints_.Next().Text, "not all lines of the board are right");
+}
+
+/// The same cells with another total are another board.
+TEST_F(HintsTest, BelongToOneTotal) {
+  const auto layOut = [this](double total) {
+    LayOut(board_, boxes_,
+           {.Order = 3,
+            .Cells = {5, 5, {}, 5, 5, {}, {}, {}, {}},
+            .Total = total,
+            .Asked = Rules::Positive});
+  };
+  layOut(15);
+  hints_.Next();
+  hints_.Next();
+  layOut(18);
+  hints_.Next();
+  EXPECT_EQ(At(1, 3), "") << "the third press is the first one again";
 }
 
 TEST_F(HintsTest, SayWhatIsNoPuzzle) {

@@ -75,8 +75,8 @@ TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
     note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
   for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
     if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      const QString key = button->shortcut().toString();
-      if (key != "Esc") note(key, button->text());  // those of bars that are never there together
+      const bool bars = button->toolTip() == "Esc";  // whose bars have that key
+      if (!bars) note(button->shortcut().toString(), button->text());
     } else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) {
       note(QKeySequence::mnemonic(label->text()).toString(), label->text());
     }

@@ -25,7 +25,10 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   Trigger("CopyPuzzleCodex");
   Trigger("Pastex");
   EXPECT_TRUE(TheGrid().Given(1, 2));
+  Trigger("Hintx");
+  EXPECT_FALSE(TheGrid().Outlined().empty());
   Trigger("FillGapsx");
+  EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(
@@ -138,6 +141,17 @@ TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
   Await([&] { return !bar.isVisible(); });
   EXPECT_TRUE(TheGrid().Outlined().empty());
   ExpectSettled();
+}
+
+TEST_F(MakingWindowTest, ABoardOfALargeTotalGivesPuzzles) {
+  QGuiApplication::clipboard()->setText("80000 10000 60000\n30000 50000 70000\n40000 90000 20000");
+  Find<QAction>("Pastex").trigger();
+  dialogs_.Take();
+  Find<QAction>("HideNumbersx").trigger();
+  auto* form = window_.findChild<QDialog*>("HideNumbers");
+  ASSERT_NE(form, nullptr);
+  EXPECT_TRUE(form->findChild<QRadioButton*>("FromBoardx")->isChecked());
+  Await([&] { return form->findChild<QPushButton*>("TakePuzzlex")->isEnabled(); });
 }
 
 TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {

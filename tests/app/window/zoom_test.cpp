@@ -87,6 +87,19 @@ TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
   EXPECT_FALSE(window_.View().Fitting() || Find<QAction>("FullScreenx").isChecked());
 }
 
+TEST_F(ZoomTest, EscapeTakesWhatCameLastAway) {
+  Make("SolveAuto", "4");
+  Trigger("FullScreenx");
+  Trigger("Hintx");
+  auto& remark = Find<QWidget>("RemarkBar");
+  EXPECT_TRUE(remark.isVisible());
+  QTest::keyClick(&window_.View(), Qt::Key_Escape);
+  EXPECT_FALSE(remark.isVisible());
+  EXPECT_TRUE(Find<QAction>("FullScreenx").isChecked());
+  QTest::keyClick(&window_.View(), Qt::Key_Escape);
+  EXPECT_FALSE(Find<QAction>("FullScreenx").isChecked());
+}
+
 /// The desktop, or another command, may end the full screen too.
 TEST_F(ZoomTest, FullScreenThatEndsByItselfGivesEverythingBack) {
   Make("SolveAuto", "50");
