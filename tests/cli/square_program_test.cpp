@@ -107,6 +107,7 @@ TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
 
 TEST(SquareProgram, StudiesWhatItReads) {
   const std::string squares = RunWith("--size 4 --count 2").Out;
+  EXPECT_EQ(RunWith("--size 4 --count 1").Status, 0);
   const Outcome text = RunWith("study", squares);
   EXPECT_EQ(text.Status, 0);
   EXPECT_NE(

@@ -12,6 +12,7 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   h.Boxes = PlainBoxes("3", "15");
   BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
   EXPECT_EQ(h.TheBoard.BaseValue, 5);
+  EXPECT_EQ(h.TheBoard.Asked, Rules::Positive);
   EXPECT_EQ(ShownRows(h.TheBoard.grid), slow::Rows(3, {6, 6, 6}));
   for (const auto& [r, c] : {std::pair{1, 0}, {0, 3}, {0, 0}, {0, 4}, {4, 0}}) {
     EXPECT_EQ(h.TheBoard.grid.Text(r, c), "18");
@@ -33,6 +34,7 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
   EXPECT_EQ(ShownRows(h.TheBoard.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
   EXPECT_EQ(h.TheBoard.CellFlags(2, 2), 0);
+  EXPECT_EQ(h.TheBoard.Asked, Rules::Normal);
   EXPECT_EQ(h.TheBoard.grid.Background(0, 0), ColorTable[kRightTotal]);
   EXPECT_EQ(h.TheBoard.grid.Background(1, 0), ColorTable[kWrongTotal]);
 }
