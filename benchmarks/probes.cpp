@@ -60,7 +60,8 @@ int RunProbeChild(const std::string& kind) {
   char* argv[] = {name, nullptr};
   const QApplication application(argc, argv);
   std::unique_ptr<QMainWindow> window;
-  if (kind == "ours") {
+  const bool panels = kind == "panels";
+  if (kind == "ours" || panels) {
     window = std::make_unique<MainWindow>();
   } else {
     window = std::make_unique<QMainWindow>();
@@ -73,7 +74,8 @@ int RunProbeChild(const std::string& kind) {
   QApplication::exec();
   std::printf("painted\n");
   std::fflush(stdout);
-  if (kind == "ours") {
+  if (panels) window->findChild<QAction*>("Propertiesx")->trigger();
+  if (kind == "ours" || panels) {
     window->findChild<QLineEdit*>("Text1")->setText("50");
     window->findChild<QPushButton*>("SolveAuto")->click();
     for (int i = 0; i < 3; ++i)
