@@ -59,8 +59,8 @@ def main():
     if not builds() or not passes():
         sys.exit("The tests must pass before anything is changed")
     lot = random.Random(seed)
-    files = sorted(file for file in (tree / "src").rglob("*") if file.suffix in (".cpp", ".h"))
-    places = [place for file in files for place in tokens(file)]
+    # A change in a header builds half the program anew; few of them hold any logic.
+    places = [place for file in sorted((tree / "src").rglob("*.cpp")) for place in tokens(file)]
     lot.shuffle(places)
     tried = died = 0
     for file, start, token in places:
