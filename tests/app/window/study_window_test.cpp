@@ -33,23 +33,31 @@ TEST_F(StudyWindowTest, EvidenceIsOutlinedOnBoardAndDrawing) {
     }
     return found;
   };
-  Trigger("LoShux");
-  Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("pandiagonal"));
-  const std::vector<Place>& outlined = TheGrid().Outlined();
-  EXPECT_EQ(outlined.size(), 3U);
-  const auto marked = [&](int row, int column) {
-    return std::find(outlined.begin(), outlined.end(), Place{row, column}) != outlined.end();
-  };
-  const QImage board = window_.View().viewport()->grab().toImage();
-  for (int row = 1; row <= 3; ++row) {
-    for (int column = 1; column <= 4; ++column) {
-      const bool upright = marked(row, column - 1) != marked(row, column);
-      const bool level = marked(column - 1, row) != marked(column, row);
-      const QPoint left = window_.View().CellRect(row, column).topLeft();
-      const QPoint top = window_.View().CellRect(column, row).topLeft();
-      const int half = window_.View().CellRect(1, 1).width() / 2;
-      EXPECT_EQ(lines(board, QRect(left + QPoint(-2, half), QSize(5, 1))) > 0, upright);
-      EXPECT_EQ(lines(board, QRect(top + QPoint(half, -2), QSize(1, 5))) > 0, level);
+  const std::tuple<const char*, const char*, std::size_t> cases[] = {
+      {"8 1 6\n3 5 7\n4 9 2", "pandiagonal", 3},
+      {"8 1 6\n8 5 7\n4 9 2", "normal", 2},
+      {"8 1 6\n3 5 7\n4 9 3", "magic", 3}};
+  for (const auto& [text, term, cells] : cases) {
+    QGuiApplication::clipboard()->setText(text);
+    Trigger("Pastex");
+    dialogs_.Take();
+    Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry(term));
+    const std::vector<Place>& outlined = TheGrid().Outlined();
+    EXPECT_EQ(outlined.size(), cells);
+    const auto marked = [&](int row, int column) {
+      return std::find(outlined.begin(), outlined.end(), Place{row, column}) != outlined.end();
+    };
+    const QImage board = window_.View().viewport()->grab().toImage();
+    for (int row = 1; row <= 3; ++row) {
+      for (int column = 1; column <= 4; ++column) {
+        const bool upright = marked(row, column - 1) != marked(row, column);
+        const bool level = marked(column - 1, row) != marked(column, row);
+        const QPoint left = window_.View().CellRect(row, column).topLeft();
+        const QPoint top = window_.View().CellRect(column, row).topLeft();
+        const int half = window_.View().CellRect(1, 1).width() / 2;
+        EXPECT_EQ(lines(board, QRect(left + QPoint(-2, half), QSize(5, 1))) > 0, upright) << term;
+        EXPECT_EQ(lines(board, QRect(top + QPoint(half, -2), QSize(1, 5))) > 0, level) << term;
+      }
     }
   }
   Click("Command1");
