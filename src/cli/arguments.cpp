@@ -42,7 +42,8 @@ any total, 4 x 4 with a top row of your choice, or of a special kind.
 
 study says what squares are, and why. It reads rows of numbers from a file or
 from the standard input, squares separated by empty lines; a JSON object a line
-says the same to programs. JSON is written, and opened by the window, not read.
+says the same to programs. Squares written as JSON are for the window to open; they
+are not read here.
 
 complete fills the gaps (nothing, or one of - . _ between separators) of squares
 that it reads as study does, and says whether there is one way, several or none.

@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "app/board/board.h"
 
 namespace numorra {

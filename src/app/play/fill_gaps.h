@@ -14,8 +14,9 @@ inline constexpr double kLongSearch = 30;
 
 /// Fills the board's gaps so that all lines are right by the board's rules; what stands in it
 /// stays. Fills and says so when this is one of several ways; says when there is none, and which
-/// entry alone, or which full line, is in the way; asks whether to go on when that was not settled in time. The board
-/// changes at the end or not at all. `limitToNine`: no number above 9, by the positive rules.
+/// entry alone, or which full line, is in the way; asks whether to go on when that was not settled
+/// in time. The board changes at the end or not at all. `limitToNine`: no number above 9, by the
+/// positive rules.
 void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stage, Random& random);
 
 /// Empties every cell that is not given: to start a puzzle over, or to enter one. Keys reach the
