@@ -85,9 +85,8 @@ Result BuildSquare(const SquareRequest& request, Random& random) {
 }  // namespace
 
 void BuildSquares(const SquareRequest& request, const Streams& streams) {
-  SystemClock timeOfDay;
-  TickingClock seeded(request.Seed.value_or(0));
-  ClockSeededRandom random(request.Seed ? static_cast<Clock&>(seeded) : timeOfDay);
+  const auto clock = ClockFrom(request.Seed);
+  ClockSeededRandom random(*clock);
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     Result result = BuildSquare(request, random);
     if (request.Vary) {

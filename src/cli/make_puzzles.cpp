@@ -64,9 +64,8 @@ void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
 }  // namespace
 
 void MakePuzzles(const SquareRequest& request, const Streams& streams) {
-  SystemClock timeOfDay;
-  TickingClock seeded(request.Seed.value_or(0));
-  ClockSeededRandom random(request.Seed ? static_cast<Clock&>(seeded) : timeOfDay);
+  const auto clock = ClockFrom(request.Seed);
+  ClockSeededRandom random(*clock);
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     const MadePuzzle made = Make(request, random);
     TellDifference(request, made, streams.Err);

@@ -14,8 +14,7 @@ bool StudySquares(const SquareRequest& request, const Streams& streams) {
     std::vector<double> numbers;
     for (const auto& cell : square.Cells) {
       if (!cell) {
-        const int at = static_cast<int>(numbers.size());
-        streams.Err << kProgramName << NameOf({at / square.Order + 1, at % square.Order + 1})
+        streams.Err << kProgramName << NameOf(PlaceAt(numbers.size(), square.Order))
                     << " is empty: only full squares can be studied\n";
         allFull = false;
         return;

@@ -4,6 +4,7 @@
 
 #include "app/board/numbers.h"
 #include "app/board/runtime_error.h"
+#include "generate/blocks.h"
 #include "generate/proposal.h"
 #include "generate/stepping.h"
 #include "transform/turning_square.h"
@@ -16,24 +17,6 @@ constexpr std::size_t kMaxAttempts = 501;
 
 /// How often another attempt than the last is drawn for; more than any working random source needs.
 constexpr int kMaxDraws = 1000;
-
-/// The order in which Conway's letters number the 2 x 2 block of an odd square's cell: the offsets
-/// to its first number of the upper left, upper right, lower left and lower right cell.
-struct LuxBlock {
-  int UpperLeft, UpperRight, LowerLeft, LowerRight;
-};
-constexpr LuxBlock kL{3, 0, 1, 2};
-constexpr LuxBlock kU{0, 3, 1, 2};
-constexpr LuxBlock kX{0, 3, 2, 1};
-
-/// The letter at (row, column) of the odd square of order 2k + 1: k + 1 rows of L, one of U, the
-/// rest X, and the middle U changed with the L above it.
-LuxBlock LuxLetter(int row, int column, int k) {
-  const bool middle = column == k + 1;
-  if (row == k + 1) return middle ? kU : kL;
-  if (row == k + 2) return middle ? kL : kU;
-  return row <= k ? kL : kX;
-}
 
 }  // namespace
 
@@ -82,12 +65,9 @@ CellTable NormalSquare::BuildLuxSquare(int k) {
   stage_.ShowCount("");
   CellTable cells;
   ForEachCell(oddOrder, [&](int i, int j) {
-    const double first = 4 * odd(i, j) - 3;
-    const LuxBlock letter = LuxLetter(i, j, k);
-    cells(2 * i - 1, 2 * j - 1) = first + letter.UpperLeft;
-    cells(2 * i - 1, 2 * j) = first + letter.UpperRight;
-    cells(2 * i, 2 * j - 1) = first + letter.LowerLeft;
-    cells(2 * i, 2 * j) = first + letter.LowerRight;
+    double number = 4 * odd(i, j) - 3;
+    for (const int place : LuxLetterAt(i - 1, j - 1, oddOrder).Places)
+      cells(2 * i - 1 + place / 2, 2 * j - 1 + place % 2) = number++;
   });
   // One step for each L of the first k + 1 rows, each cell of the odd square and each block.
   Count((k + 1) * oddOrder + 2 * oddOrder * oddOrder);
@@ -103,10 +83,7 @@ CellTable NormalSquare::BuildDoublyEvenSquare(int m) {
   TurningSquare square(order);
   ForEachCell(order, [&](int i, int j) {
     const int value = (i - 1) * order + j;
-    const int inRow = (i - 1) % 4;
-    const int inColumn = (j - 1) % 4;
-    const bool onBlockDiagonal = inRow == inColumn || inRow + inColumn == 3;
-    square(i, j) = onBlockDiagonal ? order * order + 1 - value : value;
+    square(i, j) = OnBlockDiagonal(i - 1, j - 1) ? order * order + 1 - value : value;
   });
   for (int turn = 0; turn < LastPickOrTurns; ++turn)
     square.RotateBoard90();

@@ -4,6 +4,7 @@
 
 #include "app/board/board.h"
 #include "app/board/orders.h"
+#include "generate/blocks.h"
 #include "generate/stepping.h"
 
 namespace numorra {
@@ -153,13 +154,6 @@ Cell Turned(Cell cell, int turns, int n) {
   return cell;
 }
 
-bool OnBlockDiagonal(Cell cell) {
-  constexpr int kBlock = 4;
-  const int row = cell.Row % kBlock;
-  const int column = cell.Column % kBlock;
-  return row == column || row + column == kBlock - 1;
-}
-
 /// How often the construction for orders 4k has to be turned to give the square.
 std::optional<int> QuarterTurnsOf(const Numbers& square) {
   const int n = square.Order();
@@ -167,7 +161,7 @@ std::optional<int> QuarterTurnsOf(const Numbers& square) {
     bool same = true;
     for (int i = 0; i < n * n && same; ++i) {
       const Cell cell{i / n, i % n};
-      const int number = OnBlockDiagonal(cell) ? n * n - i : i + 1;
+      const int number = OnBlockDiagonal(cell.Row, cell.Column) ? n * n - i : i + 1;
       same = square.At(Turned(cell, turns, n)) == number;
     }
     if (same) return turns;
@@ -190,7 +184,7 @@ std::vector<WalkStep> WalkDoublyEven(const Numbers& square) {
       const Place place = placeOf({row, column});
       step.Written.emplace_back(place, std::to_string(row * n + column + 1));
       step.Marked.push_back(place);
-      if (OnBlockDiagonal({row, column})) marked.push_back(place);
+      if (OnBlockDiagonal(row, column)) marked.push_back(place);
     }
     const Place first = step.Marked.front();
     step.Sentence = (*turns % 2 == 0 ? "row " + std::to_string(first.Row)
@@ -203,7 +197,7 @@ std::vector<WalkStep> WalkDoublyEven(const Numbers& square) {
       {{}, marked, {}, "the cells on the two diagonals of every 4 x 4 block are marked", 0});
   for (int i = 0; i < n * n / 2; ++i) {
     const Cell cell{i / n, i % n};
-    if (!OnBlockDiagonal(cell)) continue;
+    if (!OnBlockDiagonal(cell.Row, cell.Column)) continue;
     const Place here = placeOf(cell);
     const Place there = placeOf({n - 1 - cell.Row, n - 1 - cell.Column});
     const std::string small = std::to_string(i + 1);
@@ -217,23 +211,6 @@ std::vector<WalkStep> WalkDoublyEven(const Numbers& square) {
   return walk;
 }
 
-/// The letters of Conway's LUX, each the places of a block's numbers in order: 0 upper left, 1
-/// upper right, 2 lower left, 3 lower right.
-struct Letter {
-  char Name;
-  int Places[4];
-};
-constexpr Letter kLetters[] = {{'L', {1, 2, 3, 0}}, {'U', {0, 2, 3, 1}}, {'X', {0, 3, 2, 1}}};
-
-/// The letter of a block, before and after the middle L and U have changed places.
-const Letter& LetterAt(Cell block, int m, bool exchanged) {
-  const int k = (m - 1) / 2;
-  const bool middle = exchanged && block.Column == k;
-  if (block.Row == k) return kLetters[middle ? 1 : 0];
-  if (block.Row == k + 1) return kLetters[middle ? 0 : 1];
-  return kLetters[block.Row < k ? 0 : 2];
-}
-
 Place PlaceInBlock(Cell block, int place) {
   return {2 * block.Row + place / 2 + 1, 2 * block.Column + place % 2 + 1};
 }
@@ -245,7 +222,7 @@ std::vector<Place> PlacesOfBlock(Cell block) {
   return places;
 }
 
-void WriteLetter(WalkStep& step, Cell block, const Letter& letter) {
+void WriteLetter(WalkStep& step, Cell block, const LuxLetter& letter) {
   for (const Place place : PlacesOfBlock(block))
     step.Written.emplace_back(place, std::string(1, letter.Name));
 }
@@ -256,7 +233,7 @@ std::vector<WalkStep> WalkLux(const Numbers& square) {
   std::vector<double> odd;
   for (int block = 0; block < m * m; ++block) {
     const Cell at{block / m, block % m};
-    const Place first = PlaceInBlock(at, LetterAt(at, m, true).Places[0]);
+    const Place first = PlaceInBlock(at, LuxLetterAt(at.Row, at.Column, m).Places[0]);
     odd.push_back((square.At({first.Row - 1, first.Column - 1}) + 3) / 4.0);
   }
   const Numbers blocks(m, odd);
@@ -266,23 +243,23 @@ std::vector<WalkStep> WalkLux(const Numbers& square) {
 
   WalkStep letters{{}, {}, {}, "", 0};
   for (int block = 0; block < m * m; ++block)
-    WriteLetter(letters, {block / m, block % m}, LetterAt({block / m, block % m}, m, false));
+    WriteLetter(letters, {block / m, block % m}, LuxLetterOfRow(block / m, m));
   letters.Sentence = "every block of four cells gets a letter: " + std::to_string(k + 1) +
                      " rows of L, one of U, " +
                      (k == 1 ? "none of X" : std::to_string(k - 1) + " of X");
   WalkStep exchange{{}, {}, {}, "in the middle an L and the U below it change places", 0};
   for (const Cell block : {Cell{k, k}, Cell{k + 1, k}}) {
-    WriteLetter(exchange, block, LetterAt(block, m, true));
+    WriteLetter(exchange, block, LuxLetterAt(block.Row, block.Column, m));
     const std::vector<Place> places = PlacesOfBlock(block);
     exchange.Marked.insert(exchange.Marked.end(), places.begin(), places.end());
   }
   std::vector<WalkStep> walk{letters, exchange};
   for (int number = 1; number <= m * m; ++number) {
     const Cell block = blocks.CellOf(number);
-    const Letter& letter = LetterAt(block, m, true);
+    const LuxLetter& letter = LuxLetterAt(block.Row, block.Column, m);
     WalkStep step{{}, PlacesOfBlock(block), {}, {}, 4 * number - 3};
     for (int i = 0; i < 4; ++i) {
-      const Place place = PlaceInBlock(block, letter.Places[i]);
+      const Place place = PlaceInBlock(block, letter.Places[static_cast<std::size_t>(i)]);
       if (square.At({place.Row - 1, place.Column - 1}) != 4 * number - 3 + i) return {};
       step.Written.emplace_back(place, std::to_string(4 * number - 3 + i));
     }
@@ -320,17 +297,17 @@ std::vector<double> ExampleToWalk(int order) {
   if (order % 4 == 0) {
     for (int i = 0; i < order * order; ++i)
       write(i / order, i % order,
-            OnBlockDiagonal({i / order, i % order}) ? order * order - i : i + 1);
+            OnBlockDiagonal(i / order, i % order) ? order * order - i : i + 1);
     return numbers;
   }
   CellTable odd;
   FillByStepping(odd, m, 1, (m + 1) / 2, kSteppings[0]);
   ForEachCell(m, [&](int r, int c) {
     if (m == order) return write(r - 1, c - 1, odd(r, c));
-    const Letter& letter = LetterAt({r - 1, c - 1}, m, true);
-    for (int i = 0; i < 4; ++i) {
-      const Place place = PlaceInBlock({r - 1, c - 1}, letter.Places[i]);
-      write(place.Row - 1, place.Column - 1, 4 * odd(r, c) - 3 + i);
+    double number = 4 * odd(r, c) - 3;
+    for (const int place : LuxLetterAt(r - 1, c - 1, m).Places) {
+      const Place here = PlaceInBlock({r - 1, c - 1}, place);
+      write(here.Row - 1, here.Column - 1, number++);
     }
   });
   return numbers;

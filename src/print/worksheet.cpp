@@ -66,7 +66,7 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
   }
   for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell) {
     if (puzzle.Cells[cell] == 0) continue;
-    const Place place = puzzle.PlaceOf(static_cast<int>(cell));
+    const Place place = puzzle.PlaceOf(cell);
     const QRectF here(board.left() + (place.Column - 1) * side,
                       board.top() + (place.Row - 1) * side, side, side);
     Write(painter, here.adjusted(side / 10, 0, -side / 10, 0), Qt::AlignCenter,

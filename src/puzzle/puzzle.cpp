@@ -21,15 +21,12 @@ std::string WhatIs(double number, const Puzzle& puzzle) {
 
 /// A number that stands in two cells: the one to blame is no given where the other is.
 AgainstRules Twice(const StoredSquare& square, Place first, Place second) {
-  const auto indexOf = [&](Place place) {
-    return static_cast<std::size_t>((place.Row - 1) * square.Order + place.Column - 1);
-  };
   const auto given = [&](Place place) {
-    return !square.Givens.empty() && square.Givens[indexOf(place)];
+    return !square.Givens.empty() && square.Givens[IndexOf(place, square.Order)];
   };
   if (given(second) && !given(first)) std::swap(first, second);
-  return {Decimal(*square.Cells[indexOf(second)]) + " in " + NameOf(second) + " stands in " +
-              NameOf(first) + " too",
+  return {Decimal(*square.Cells[IndexOf(second, square.Order)]) + " in " + NameOf(second) +
+              " stands in " + NameOf(first) + " too",
           second};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,7 +30,7 @@ struct Puzzle {
 
   int Gaps() const;
 
-  Place PlaceOf(int cell) const { return {cell / Order + 1, cell % Order + 1}; }
+  Place PlaceOf(std::integral auto cell) const { return PlaceAt(cell, Order); }
 };
 
 /// A square that breaks its rules as it stands: one sentence, and the cell where there is one.

@@ -15,13 +15,13 @@ std::string LineName(const Candidates& board, int line) {
 }
 
 std::string PlaceName(const Candidates& board, int cell) {
-  return NameOf(Place{cell / board.Order() + 1, cell % board.Order() + 1});
+  return NameOf(PlaceAt(cell, board.Order()));
 }
 
 std::vector<Place> PlacesOf(const Candidates& board, const std::vector<int>& cells) {
   std::vector<Place> places;
   for (const int cell : cells)
-    places.push_back({cell / board.Order() + 1, cell % board.Order() + 1});
+    places.push_back(PlaceAt(cell, board.Order()));
   return places;
 }
 

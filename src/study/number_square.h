@@ -40,10 +40,7 @@ class NumberSquare {
     return static_cast<std::size_t>(i) * static_cast<std::size_t>(order_) +
            static_cast<std::size_t>(j);
   }
-  Place PlaceOf(std::size_t index) const {
-    const auto n = static_cast<std::size_t>(order_);
-    return {static_cast<int>(index / n) + 1, static_cast<int>(index % n) + 1};
-  }
+  Place PlaceOf(std::size_t index) const { return PlaceAt(index, order_); }
 
  private:
   int order_;

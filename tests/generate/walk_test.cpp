@@ -57,6 +57,8 @@ void ExpectWalk(int order, const std::vector<double>& square) {
       }
       board[{place.Row, place.Column}] = text;
     }
+    for (const Place place : step.Marked)
+      EXPECT_EQ(place, PlaceAt(IndexOf(place, order), order)) << "outside: " << step.Sentence;
     if (order % 2 == 1 && i > 0) {
       ExpectTrueMove(step, steps[i - 1].Written[0].first, step.Written[0].first, order);
     }
@@ -65,6 +67,7 @@ void ExpectWalk(int order, const std::vector<double>& square) {
       EXPECT_TRUE(Says(step.Sentence, std::to_string(step.Number)));
     }
   }
+  ASSERT_EQ(board.size(), square.size());
   for (int r = 1; r <= order; ++r) {
     for (int c = 1; c <= order; ++c) {
       const auto at = static_cast<std::size_t>((r - 1) * order + c - 1);

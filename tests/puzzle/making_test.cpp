@@ -85,6 +85,10 @@ TEST_F(MakingTest, KeepsToTheCluesAndTheSymmetry) {
     EXPECT_EQ(Clues(std::get<MadePuzzle>(result).Clues), clues);
     EXPECT_EQ(WhyUnfair(std::get<MadePuzzle>(result)), "");
   }
+  for (int draw = 0; draw < 5; ++draw) {
+    const auto result = Make(Fresh(5), {Grade::Hard, 13});
+    EXPECT_EQ(std::get<MadePuzzle>(result).Needed, Grade::Hard) << "clues are added with care";
+  }
   const auto symmetric = Make(Fresh(5), {Grade::Medium, 17, true});
   ASSERT_TRUE(std::holds_alternative<MadePuzzle>(symmetric));
   const Puzzle& clues = std::get<MadePuzzle>(symmetric).Clues;

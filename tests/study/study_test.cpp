@@ -55,10 +55,16 @@ slow::Answers AnswersOf(const Report& report) {
 
 void ExpectAgreement(const slow::Rows& rows) {
   const slow::Answers expected = slow::Classify(rows);
-  const slow::Answers found = AnswersOf(StudyOf(rows));
+  const Report report = StudyOf(rows);
+  const slow::Answers found = AnswersOf(report);
   ASSERT_EQ(found.size(), expected.size());
   for (const auto& [term, answer] : expected)
     EXPECT_EQ(found.at(term), answer) << term << " at order " << rows.size();
+  const int n = static_cast<int>(rows.size());
+  for (const Property& property : report.Properties) {
+    for (const Place place : property.Found.Cells)
+      ASSERT_EQ(place, PlaceAt(IndexOf(place, n), n)) << "outside: " << property.What->Name;
+  }
 }
 
 TEST(Study, KnowsAllSquaresOfOrder4) {
@@ -183,6 +189,8 @@ TEST(Study, ShowsEvidence) {
        "all rows, columns and both main diagonals add up to 1.5", 0},
       {"0.8 0.1 0.6 / 0.3 0.5 0.7 / 0.4 0.9 0.2", "bimagic", Answer::Fails,
        "the squares in row 2 add up to 0.83, those in row 1 to 1.01", 3},
+      {"1e-13 1e-13 1e-13 / 1e-13 1e-13 1e-13 / 1e-13 1e-13 1e-13", "magic", Answer::Holds,
+       "all rows, columns and both main diagonals add up to 0.0000000000003", 0},
       {"99999999999999 0.0001 0 / 0 0 0 / 0 0 0", "magic", Answer::TooLarge,
        "the numbers have too many digits to be added exactly", 0},
       {"0.9 0.00000000000001 5 / 1 2 3 / 4 6 7", "bimagic", Answer::TooLarge,
@@ -203,6 +211,19 @@ TEST(Study, ShowsEvidence) {
     EXPECT_EQ(found.Says, told.Says) << told.Term << " of " << told.Rows;
     EXPECT_EQ(found.Why, told.Why);
     EXPECT_EQ(found.Cells.size(), told.Cells) << told.Term << " of " << told.Rows;
+  }
+}
+
+TEST(Study, TellsWhatIsShortEnoughToBeRead) {
+  for (const int order : {10, 11}) {
+    std::vector<double> numbers;
+    for (int number = 0; number < order * order; ++number)
+      numbers.push_back(number < 24 ? number / 2 : number);
+    std::map<std::string, std::string> details;
+    for (const auto& [name, text] : StudyOf(Square(order, numbers)).Details)
+      details[name] = text;
+    EXPECT_EQ(details["repeated"], "0, 1, 2, 3, 4, 5, 6, 7, 8, 9 and 2 more");
+    EXPECT_EQ(details.contains("standard form"), order == 10);
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <regex>
 #include <string>
 
 #include "puzzle/code.h"
@@ -82,6 +83,15 @@ class SlowCounter {
   int found_ = 0;
 };
 
+/// Whether a reason of two gaps in a line tells what the other holds, and so the number.
+inline bool IsDecisive(const Step& step) {
+  static const std::regex twoGaps(R"(needs (\d+) for this cell and .*, which can hold (\d+): )");
+  std::smatch found;
+  return step.Why.find(" for this cell and ") == std::string::npos ||
+         (std::regex_search(step.Why, found, twoGaps) &&
+          std::stoll(found[1]) - std::stoll(found[2]) == step.Number);
+}
+
 /// What is wrong with a puzzle that was made; empty when it has one solution, every hint leads
 /// there, its grade is what its hints need, and its code reads back.
 inline std::string WhyUnfair(const MadePuzzle& made) {
@@ -111,6 +121,7 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
     if (cell != 0 || step->Number != made.Solution.Cells[static_cast<std::size_t>(step->Cell)]) {
       return "a hint that leads astray: " + step->Why;
     }
+    if (!IsDecisive(*step)) return "a reason that is none: " + step->Why;
     hardest = std::max(hardest, step->Needed);
     cell = step->Number;
   }

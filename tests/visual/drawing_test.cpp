@@ -84,7 +84,8 @@ TEST_F(VisualTest, DrawingsFollowTheColour) {
   EXPECT_EQ(middle(), QColor(242, 142, 242)) << "drawn again";
 }
 
-/// Each step of the way lies between the cells of two numbers that follow each other.
+/// Each step of the way lies between the cells of two numbers that follow each other, with an arrow
+/// head half way.
 TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   Type("Text1", "5");
   Click("SolveAuto");
@@ -98,9 +99,15 @@ TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   const QImage image = drawing.grab().toImage();
   for (int number = 1; number < 25; ++number) {
     const QPointF from = centres[number], to = centres[number + 1];
+    const auto expectHue = [&](QPointF at) {
+      EXPECT_GT(image.pixelColor(at.toPoint()).hsvSaturation(), 100) << number;
+    };
     for (const double share : {0.3, 0.7})
-      EXPECT_GT(image.pixelColor((from + (to - from) * share).toPoint()).hsvSaturation(), 100)
-          << number;
+      expectHue(from + (to - from) * share);
+    const QPointF ahead = (to - from) / std::hypot(to.x() - from.x(), to.y() - from.y());
+    const QPointF barbs = (from + to) / 2 - ahead * 4;
+    for (const double aside : {-4.0, 4.0})
+      expectHue(barbs + QPointF(-ahead.y(), ahead.x()) * aside);
   }
   EXPECT_EQ(image.pixelColor(centres[1].toPoint()), QColor(Qt::white)) << "the ring at the start";
   EXPECT_EQ(image.pixelColor(centres[25].toPoint()).hsvHue(), 0) << "the red square at the end";

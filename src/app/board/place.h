@@ -1,5 +1,7 @@
 #pragma once
 
+#include <concepts>
+#include <cstddef>
 #include <string>
 
 namespace numorra {
@@ -11,6 +13,17 @@ struct Place {
 
   bool operator==(const Place&) const = default;
 };
+
+/// The place of the cell at `index`, counted from 0 in reading order, on a board of order x order.
+Place PlaceAt(std::integral auto index, int order) {
+  const int cell = static_cast<int>(index);
+  return {cell / order + 1, cell % order + 1};
+}
+
+/// Where the place comes in reading order, from 0.
+inline std::size_t IndexOf(Place place, int order) {
+  return static_cast<std::size_t>((place.Row - 1) * order + place.Column - 1);
+}
 
 /// How the player is told of a cell: "row 1, column 2".
 inline std::string NameOf(Place place) {

@@ -28,6 +28,11 @@ std::uint64_t SystemClock::NanosecondsSinceMidnight() {
   return static_cast<std::uint64_t>(duration_cast<nanoseconds>(whole + fraction).count());
 }
 
+std::unique_ptr<Clock> ClockFrom(std::optional<std::uint64_t> seed) {
+  if (seed) return std::make_unique<TickingClock>(*seed);
+  return std::make_unique<SystemClock>();
+}
+
 ClockSeededRandom::ClockSeededRandom(Clock& clock) : clock_(clock) {
   Reseed();
 }

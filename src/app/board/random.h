@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -30,6 +32,9 @@ class TickingClock : public Clock {
  private:
   std::uint64_t now_;
 };
+
+/// A clock that repeats its run from the seed; the machine's time where there is none.
+std::unique_ptr<Clock> ClockFrom(std::optional<std::uint64_t> seed);
 
 /// Random numbers for the whole program. Tests put in their own.
 class Random {

@@ -51,10 +51,8 @@ std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Rando
   if (entries.empty()) return "nothing can fill these gaps" + FullWrongLine(puzzle);
   std::string why = "nothing can fill these gaps: ";
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    const auto cell =
-        static_cast<std::size_t>((entries[i].Row - 1) * puzzle.Order + entries[i].Column - 1);
-    why +=
-        (i > 0 ? ", or " : "") + std::to_string(puzzle.Cells[cell]) + " in " + NameOf(entries[i]);
+    const std::int64_t number = puzzle.Cells[IndexOf(entries[i], puzzle.Order)];
+    why += (i > 0 ? ", or " : "") + std::to_string(number) + " in " + NameOf(entries[i]);
   }
   return why + " cannot stay";
 }
@@ -106,7 +104,7 @@ std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const std::vector<bool>
     const auto* open = std::get_if<NotSettled>(&result);
     const bool possible =
         open ? open->Found.has_value() : !std::holds_alternative<NoSolution>(result);
-    if (possible) entries.push_back(puzzle.PlaceOf(static_cast<int>(cell)));
+    if (possible) entries.push_back(puzzle.PlaceOf(cell));
     without.Cells[cell] = puzzle.Cells[cell];
   }
   return entries;

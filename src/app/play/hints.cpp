@@ -37,7 +37,7 @@ std::optional<Wrong> AgainstGivens(const Board& board, const Puzzle& puzzle, Ran
   for (std::size_t cell = 0; cell < givens.size(); ++cell) {
     const bool filled = puzzle.Cells[cell] != 0;
     if (filled && puzzle.Cells[cell] != one->Solved.Cells[cell]) {
-      wrong.Cells.push_back(puzzle.PlaceOf(static_cast<int>(cell)));
+      wrong.Cells.push_back(puzzle.PlaceOf(cell));
     }
   }
   return wrong;
@@ -120,7 +120,7 @@ Remark Hints::Next() {
     Remark remark = Begin();
     if (!step_) return remark;
   }
-  const Place place{step_->Cell / board_.GridSize + 1, step_->Cell % board_.GridSize + 1};
+  const Place place = PlaceAt(step_->Cell, board_.GridSize);
   switch (++presses_) {
     case 1:
       return {"look at " + step_->WhereName, step_->Where};

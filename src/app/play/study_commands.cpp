@@ -70,10 +70,9 @@ void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs) {
   const std::vector<double> complement = ComplementOf(*numbers);
   for (std::size_t cell = 0; cell < complement.size(); ++cell) {
     if (DigitsOf(Decimal(complement[cell])) <= kMostCellDigits) continue;
-    const auto n = static_cast<std::size_t>(board.GridSize);
-    const Place place{static_cast<int>(cell / n) + 1, static_cast<int>(cell % n) + 1};
-    dialogs.Tell("the complement of " + Decimal((*numbers)[cell]) + " in " + NameOf(place) +
-                 " has more than " + std::to_string(kMostCellDigits) + " digits");
+    dialogs.Tell("the complement of " + Decimal((*numbers)[cell]) + " in " +
+                 NameOf(PlaceAt(cell, board.GridSize)) + " has more than " +
+                 std::to_string(kMostCellDigits) + " digits");
     return;
   }
   const auto [least, most] = std::minmax_element(numbers->begin(), numbers->end());

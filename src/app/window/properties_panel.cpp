@@ -71,7 +71,6 @@ void PropertiesPanel::Furnish() {
   tree_->setIndentation(tree_->indentation() / 2);
   AddEntries();
   tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  tree_->header()->setStretchLastSection(true);
   explained_ = Named("PropertyEvidence", new QLabel);
   explained_->setWordWrap(true);
   explained_->setTextFormat(Qt::PlainText);

@@ -8,6 +8,7 @@
 
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
+#include "app/board/place.h"
 
 namespace numorra {
 namespace {
@@ -53,9 +54,8 @@ bool HasTooManyDigits(double number) {
   return AsShown(number) != number || DigitsOf(Decimal(number)) > kMostCellDigits;
 }
 
-QString Place(std::size_t cell, int order) {
-  const int index = static_cast<int>(cell);
-  return QString("row %1, column %2: ").arg(index / order + 1).arg(index % order + 1);
+QString In(std::size_t cell, int order) {
+  return QString::fromStdString(NameOf(PlaceAt(cell, order))) + ": ";
 }
 
 StoredSquare Read(const QByteArray& bytes) {
@@ -75,9 +75,9 @@ StoredSquare Read(const QByteArray& bytes) {
   const auto cells = CellsIn(object, "rows", square.Order);
   for (std::size_t cell = 0; cell < cells.size(); ++cell) {
     const QJsonValue& value = cells[cell];
-    if (!value.isNull() && !value.isDouble()) Fail(Place(cell, square.Order) + "this is no number");
+    if (!value.isNull() && !value.isDouble()) Fail(In(cell, square.Order) + "this is no number");
     if (value.isDouble() && HasTooManyDigits(value.toDouble())) {
-      Fail(Place(cell, square.Order) +
+      Fail(In(cell, square.Order) +
            QString("the number has more than %1 digits").arg(kMostCellDigits));
     }
     square.Cells.push_back(value.isNull() ? std::nullopt : std::optional(value.toDouble()));
@@ -97,10 +97,10 @@ StoredSquare Read(const QByteArray& bytes) {
     const auto givens = CellsIn(object, "givens", square.Order);
     for (std::size_t cell = 0; cell < givens.size(); ++cell) {
       if (!givens[cell].isBool()) {
-        Fail(Place(cell, square.Order) + "\"givens\" has neither true nor false");
+        Fail(In(cell, square.Order) + "\"givens\" has neither true nor false");
       }
       if (givens[cell].toBool() && !square.Cells[cell]) {
-        Fail(Place(cell, square.Order) + "a gap cannot be given");
+        Fail(In(cell, square.Order) + "a gap cannot be given");
       }
       square.Givens.push_back(givens[cell].toBool());
     }

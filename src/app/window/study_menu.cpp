@@ -139,7 +139,7 @@ void MainWindow::FollowProperties() {
     StudyBoard();
   } else {
     studied_ = false;
-    board_.grid.SetOutlined({});
+    if (remarkBar_->isHidden()) board_.grid.SetOutlined({});
   }
 }
 

@@ -25,19 +25,25 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   Trigger("CopyPuzzleCodex");
   Trigger("Pastex");
   EXPECT_TRUE(TheGrid().Given(1, 2));
+  Trigger("Propertiesx");
   Trigger("Hintx");
+  Trigger("Propertiesx");
   EXPECT_FALSE(TheGrid().Outlined().empty());
   Trigger("FillGapsx");
   EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
+  const Messages noCode = {
+      "there is a code for boards with gaps, of size 3 to 10, that keep their rules"};
   Trigger("CopyPuzzleCodex");
-  EXPECT_EQ(
-      dialogs_.Take(),
-      Messages{"there is a code for boards with gaps, of size 3 to 10, that keep their rules"});
+  EXPECT_EQ(dialogs_.Take(), noCode);
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
   Trigger("UndoMovex");
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_FALSE(Find<QWidget>("SearchBar").isVisible());
+  Make("SolveAuto", "11");
+  QTest::keyClick(&window_.View(), Qt::Key_Backspace);
+  Trigger("CopyPuzzleCodex");
+  EXPECT_EQ(dialogs_.Take(), noCode);
   ExpectSettled();
 }
 
@@ -124,17 +130,28 @@ TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
   form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(2);
   auto* take = form->findChild<QPushButton*>("TakePuzzlex");
   Await([&] { return take->isEnabled(); });
-  EXPECT_TRUE(form->findChild<QLabel*>("PuzzleTold")->text().contains(" clues, "));
+  const QString told = form->findChild<QLabel*>("PuzzleTold")->text();
+  EXPECT_TRUE(told.contains(" clues, hard: lines with a single gap; ") &&
+              told.contains(RulesOf(Grade::Hard)))
+      << told.toStdString();
   form->findChild<QPushButton*>("CopyCodex")->click();
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP1"));
   take->click();
   EXPECT_TRUE(window_.TheBoard().HasGivens());
   EXPECT_TRUE(window_.TheBoard().HasGaps());
+  Find<QAction>("FitBoardx").trigger();
   auto& bar = Find<QWidget>("RemarkBar");
   for (int press = 0; press < 100 && window_.TheBoard().HasGaps(); ++press) {
     QTest::keyClick(&window_.View(), Qt::Key_H, Qt::ControlModifier);
     EXPECT_TRUE(bar.isVisible());
-    EXPECT_NE(bar.accessibleName(), "");
+    const QString text = bar.accessibleName();
+    EXPECT_EQ(text, text.left(1).toUpper() + text.mid(1));
+    if (!text.contains(" row ")) continue;
+    for (const Place place : TheGrid().Outlined()) {
+      const QRect cell = window_.View().CellRect(place.Row, place.Column);
+      const QPoint corner = window_.View().mapTo(bar.parentWidget(), cell.topLeft());
+      EXPECT_FALSE(bar.geometry().intersects({corner, cell.size()})) << text.toStdString();
+    }
   }
   EXPECT_EQ(slow::WhyNotNormal(Rows()), "");
   QTest::keyClick(&window_.View(), Qt::Key_Escape);

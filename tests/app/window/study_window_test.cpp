@@ -69,10 +69,11 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   auto& panel = Find<QDockWidget>("PropertiesPanel");
   EXPECT_FALSE(panel.isVisible());
   EXPECT_FALSE(Find<QAction>("Varyx").isEnabled());
-  const int before = window_.width();
+  const QSize before = window_.size();
   Open();
   EXPECT_TRUE(panel.isVisible());
-  EXPECT_GT(window_.width(), before);
+  EXPECT_GT(window_.width(), before.width());
+  EXPECT_EQ(window_.height(), before.height());
   EXPECT_EQ(Find<QLabel>("PropertyEvidence").text(), "There is no board to study.");
 
   Trigger("LoShux");
@@ -103,7 +104,7 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_EQ(TheGrid().Outlined().size(), 0U);
   panel.close();
   EXPECT_FALSE(Find<QAction>("Propertiesx").isChecked());
-  EXPECT_EQ(window_.width(), before);
+  EXPECT_EQ(window_.size(), before);
 }
 
 TEST_F(StudyWindowTest, FullScreenHidesThePanelAndBringsItBack) {
