@@ -47,6 +47,7 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
       {"--size 50 --sum 32767", 32767, ""},
       {"--size 8 --sum 77 --limit-to-9", 40, "numorra-square: the total is 40\n"},
       {"--size 7 --corner 3", 175, ""},
+      {"--size 3 --sum 1", 6, "numorra-square: the total is 6\n"},
       {"--size 5 --sum 50 --corner 900", 50,
        "numorra-square: corner value 900 is out of reach for this size and sum\n"},
       {"--top-row 30,9,19,95", 153, ""},

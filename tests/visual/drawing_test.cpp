@@ -17,6 +17,23 @@ class VisualTest : public WindowTest {
 
 TEST_F(VisualTest, BarsMixTheColourThatTheFillReadsFromTheLabels) {
   EXPECT_EQ(Label("lblRedDegree").toInt(), Find<QScrollBar>("hsrRed").value());
+  EXPECT_EQ(Label("lblRedDegree") + Label("lblGreenDegree") + Label("lblBlueDegree"), "2090160");
+  const char* const rows[][3] = {{"PicRGB0", "hsrRed", "lblRedDegree"},
+                                 {"PicRGB1", "hsrGreen", "lblGreenDegree"},
+                                 {"PicRGB2", "hsrBlue", "lblBlueDegree"}};
+  int above = 0;
+  for (const auto& row : rows) {
+    const QRect swatch = Find<QWidget>(row[0]).geometry();
+    const QRect bar = Find<QWidget>(row[1]).geometry();
+    const QRect degree = Find<QWidget>(row[2]).geometry();
+    EXPECT_TRUE(swatch.right() < bar.left() && bar.right() < degree.left()) << row[1];
+    EXPECT_GT(bar.width(), 2 * degree.width());
+    EXPECT_NEAR(swatch.center().y(), bar.center().y(), 1);
+    EXPECT_NEAR(degree.center().y(), bar.center().y(), 1);
+    EXPECT_GT(bar.top(), above);
+    above = bar.bottom();
+  }
+  EXPECT_GT(Find<QWidget>("picColorToUse").geometry().top(), above);
   Find<QScrollBar>("hsrRed").setValue(7);
   Find<QScrollBar>("hsrBlue").setValue(9);
   Find<QScrollBar>("hsrGreen").setValue(200);
@@ -84,6 +101,33 @@ TEST_F(VisualTest, DrawingsFollowTheColour) {
   EXPECT_EQ(middle(), QColor(242, 142, 242)) << "drawn again";
 }
 
+/// Areas are in proportion, the largest circle fills its cell, and all stand in the middle.
+TEST_F(VisualTest, CirclesAreAsLargeAsTheirNumbers) {
+  Make("SolveAuto", "3");
+  Click("Command1");
+  auto& drawing = Find<Drawing>("Picture1");
+  drawing.resize(316, 316);
+  const QImage image = drawing.grab().toImage();
+  ForEachCell(3, [&](int r, int c) {
+    const QRect cell(8 + 100 * (c - 1), 8 + 100 * (r - 1), 100, 100);
+    const QColor shade = image.pixelColor(cell.center());
+    QRect circle;
+    int area = 0;
+    for (int y = cell.top(); y <= cell.bottom(); ++y) {
+      for (int x = cell.left(); x <= cell.right(); ++x) {
+        if (image.pixelColor(x, y) != shade) continue;
+        circle |= QRect(x, y, 1, 1);
+        ++area;
+      }
+    }
+    const double number = std::stod(TheGrid().Text(r, c));
+    EXPECT_NEAR(circle.width(), 99 * std::sqrt(number / 9), 2.5) << number;
+    EXPECT_NEAR(circle.height(), circle.width(), 1);
+    EXPECT_NEAR(area, std::acos(-1) / 4 * circle.width() * circle.height(), 0.05 * area);
+    EXPECT_LE((circle.center() - cell.center()).manhattanLength(), 2);
+  });
+}
+
 /// Each step of the way lies between the cells of two numbers that follow each other, with an arrow
 /// head half way.
 TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
@@ -111,6 +155,13 @@ TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   }
   EXPECT_EQ(image.pixelColor(centres[1].toPoint()), QColor(Qt::white)) << "the ring at the start";
   EXPECT_EQ(image.pixelColor(centres[25].toPoint()).hsvHue(), 0) << "the red square at the end";
+  for (const QPoint side : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
+    EXPECT_EQ(image.pixelColor(centres[1].toPoint() + 8 * side), QColor(Qt::white));
+    EXPECT_LT(image.pixelColor(centres[1].toPoint() + 12 * side).lightness(), 100);
+    EXPECT_EQ(image.pixelColor(centres[25].toPoint() + 9 * side).hsvHue(), 0);
+    EXPECT_LT(image.pixelColor(centres[25].toPoint() + 12 * side).lightness(), 100);
+    EXPECT_GT(image.pixelColor(centres[25].toPoint() + 17 * side).lightness(), 100);
+  }
 }
 
 /// Every cell of a drawing has more ink, or other, when its number is shown.

@@ -31,7 +31,7 @@ void BoardBar::ShowText(const QString& text, bool atTop) {
   Place();
   show();
   raise();
-  if (!news) return;
+  if (!news || !QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
 }

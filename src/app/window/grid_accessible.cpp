@@ -199,6 +199,7 @@ void InstallGridAccessibility() {
 }
 
 void ReadCurrentCell(GridView& view, bool another) {
+  if (!QAccessible::isActive()) return;
   const Grid& grid = view.Cells();
   QAccessibleEvent event(&view, another ? QAccessible::Focus : QAccessible::NameChanged);
   event.setChild(grid.CurrentRow() * grid.Columns() + grid.CurrentColumn());

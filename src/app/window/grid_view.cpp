@@ -20,6 +20,10 @@ namespace {
 constexpr int kGuideAlpha = 36;  // of 255
 constexpr double kLargestZoom = 8;
 
+QRect Inside(const QRect& frame, int width) {
+  return frame.adjusted(width, width, -width, -width);
+}
+
 MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
   if (modifiers.testFlag(Qt::ShiftModifier)) return MarkedLine::Row;
   return modifiers.testFlag(Qt::ControlModifier) ? MarkedLine::Column : MarkedLine::Cell;
@@ -342,13 +346,12 @@ void GridView::PaintGuides(QPainter& painter) {
     if (line != column) tintCell(row, line);
     if (line != row) tintCell(line, column);
   }
-  painter.setBrush(Qt::NoBrush);
   const auto frameTotal = [&](int r, int c) {
     const int width = std::max(1, painter_.Edge(1) / 24);
-    painter.setPen(QPen(GridPainter::TextColour(Look(), grid_.At(r, c)), width, Qt::SolidLine,
-                        Qt::SquareCap, Qt::MiterJoin));
-    const int inside = (width + 1) / 2;
-    painter.drawRect(CellRect(r, c).adjusted(inside, inside, -inside - 2, -inside - 2));
+    const QRect frame = CellRect(r, c).adjusted(1, 1, -2, -2);
+    const QColor colour = GridPainter::TextColour(Look(), grid_.At(r, c));
+    for (const QRect& side : QRegion(frame) - Inside(frame, width))
+      painter.fillRect(side, colour);
   };
   painter.setClipRect(QRect(0, scrolling.top(), scrolling.left(), scrolling.height()));
   frameTotal(row, 0);
@@ -356,9 +359,14 @@ void GridView::PaintGuides(QPainter& painter) {
   frameTotal(0, column);
 }
 
-void GridView::PaintOutlined(QPainter& painter) {
+/// What scrolls, and the line before it, on which frames may lie.
+void GridView::ClipToScrollingCells(QPainter& painter) const {
   const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
+}
+
+void GridView::PaintOutlined(QPainter& painter) {
+  ClipToScrollingCells(painter);
   PaintOutline(painter, grid_.Outlined(), [this](Place place) {
     return QRectF(CellRect(place.Row, place.Column).adjusted(0, 0, -1, -1));
   });
@@ -369,19 +377,13 @@ void GridView::PaintOutlined(QPainter& painter) {
 void GridView::PaintCurrentCell(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
-  const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
-  painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
+  ClipToScrollingCells(painter);
   const QRect cell = CellRect(row, column);
-  const QRect edge = cell.adjusted(0, 0, -1, -1);
-  painter.setBrush(ToQColor(grid_.Background(row, column)));
+  const QRect withItsLines = cell.adjusted(-1, -1, 0, 0);
   const int ring = std::max(2, painter_.Edge(1) / 16);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), ring, Qt::SolidLine, Qt::SquareCap,
-                      Qt::MiterJoin));
-  const int moved = ring / 2 - 1;
-  painter.drawRect(edge.adjusted(moved, moved, -moved, -moved));
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(Qt::white);
-  painter.drawRect(edge.adjusted(ring - 1, ring - 1, -ring, -ring));
+  painter.fillRect(withItsLines, palette().color(QPalette::Highlight));
+  painter.fillRect(Inside(withItsLines, ring), Qt::white);
+  painter.fillRect(Inside(withItsLines, ring + 1), ToQColor(grid_.Background(row, column)));
   painter_.PaintText(painter, Look(), cell, grid_.At(row, column));
 }
 

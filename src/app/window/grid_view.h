@@ -98,6 +98,7 @@ class GridView : public QAbstractScrollArea {
   void PaintInvitation(QPainter& painter);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);
+  void ClipToScrollingCells(QPainter& painter) const;
   void PaintCurrentCell(QPainter& painter);
   void PaintOutlined(QPainter& painter);
   bool Navigate(int key, bool toTheVeryEnd);

@@ -41,6 +41,7 @@ void StateLine::Show(const Board& board) {
   state_ = state;
   setAccessibleName(state);
   Cut();
+  if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }

@@ -48,6 +48,8 @@ TEST(SetupBoard, ForgetsMarksColoursAndTexts) {
   EXPECT_EQ(board.grid.Text(1, 1), "");
   board.ResizeBoard();
   EXPECT_EQ(board.grid.Rows(), 5);
+  for (int column = 0; column < 5; ++column)
+    EXPECT_EQ(board.grid.Background(4, column), kWindowBackground);
 }
 
 }  // namespace

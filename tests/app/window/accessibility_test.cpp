@@ -50,6 +50,43 @@ TEST_F(AccessibilityTest, TheBoardIsReadCellByCell) {
       std::tuple(1, 3, 1, 1));
 }
 
+TEST_F(AccessibilityTest, EveryCellIsFoundByIndexPlaceAndPoint) {
+  auto* board = QAccessible::queryAccessibleInterface(&window_.View());
+  auto* table = board->tableInterface();
+  EXPECT_EQ(board->childCount() + table->selectedCellCount(), 0);
+  EXPECT_TRUE(table->selectedCells().isEmpty());
+  Make("SolveManual", "3", "15");
+  ClickCell(2, 3);
+  ClickCell(2, 4);
+  for (int line = 0; line < 5; ++line) {
+    for (int column = 0; column < 5; ++column) {
+      auto* cell = table->cellAt(line, column);
+      const QPoint at = cell->rect().center();
+      EXPECT_EQ(board->childAt(at.x(), at.y()), cell) << line << ", " << column;
+      EXPECT_EQ(board->child(5 * line + column), cell);
+      EXPECT_TRUE(cell->isValid() && cell->childCount() == 0 && cell->parent() == board);
+      const bool current = line == 2 && column == 3;
+      EXPECT_EQ(cell->state().selected, current);
+      EXPECT_EQ(cell->state().focused, current);
+      EXPECT_EQ(cell->state().readOnly, line == 0 || column == 0);
+    }
+    EXPECT_FALSE(table->isRowSelected(line) || table->isColumnSelected(line));
+    EXPECT_EQ(table->rowDescription(line), QString::number(line));
+    EXPECT_EQ(table->columnDescription(line), QString::number(line));
+  }
+  EXPECT_EQ(table->selectedCells(), QList{table->cellAt(2, 3)});
+  EXPECT_EQ(table->selectedCellCount(), 1);
+  EXPECT_EQ(board->focusChild(), table->cellAt(2, 3));
+  EXPECT_EQ(Cell(2, 4), "marked for a swap");
+  for (const auto& [row, column] : {std::pair(-1, 0), {0, -1}, {5, 0}, {0, 5}})
+    EXPECT_EQ(table->cellAt(row, column), nullptr);
+  EXPECT_EQ(board->child(-1), nullptr);
+  EXPECT_EQ(board->child(25), nullptr);
+  auto* last = table->cellAt(4, 4);
+  Make("SolveAuto", "2");
+  EXPECT_FALSE(last->isValid());
+}
+
 TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
   Click("SolveManual");
   QCoreApplication::processEvents();

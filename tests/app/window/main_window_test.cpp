@@ -155,5 +155,21 @@ TEST(RealBoxes, SpeakUnderTheApplicationTitleAndMayBeLeft) {
   }
 }
 
+TEST_F(WindowTest, ControlsLieSideBySideInTheirFrames) {
+  for (const auto* frame : window_.centralWidget()->findChildren<QGroupBox*>()) {
+    if (frame->objectName() == "Frame1") continue;  // whose board has bars over it
+    std::vector<QRect> taken;
+    for (const auto* control : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      if (!control->isVisible()) continue;
+      const QRect place = control->geometry();
+      EXPECT_TRUE(frame->rect().contains(place)) << control->objectName().toStdString();
+      for (const QRect& other : taken)
+        EXPECT_FALSE(other.intersects(place)) << control->objectName().toStdString();
+      taken.push_back(place);
+    }
+    EXPECT_FALSE(taken.empty()) << frame->title().toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace numorra

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <set>
 
 #include <QScrollBar>
 
@@ -172,6 +173,67 @@ TEST_F(PaintingTest, TheCurrentLinesTotalsAreFramed) {
     };
     EXPECT_EQ(framed(row), line == 2) << line;
     EXPECT_EQ(framed(column), line == 4) << line;
+  }
+}
+
+TEST_F(PaintingTest, NumbersStandInTheMiddleOfTheirCells) {
+  for (const char* order : {"3", "11", "32"}) {
+    Make("SolveAuto", order);
+    image_ = window_.View().viewport()->grab().toImage();
+    for (int column = 2; column <= 3; ++column) {
+      const QRect cell = window_.View().CellRect(1, column).adjusted(0, 0, -1, -1);
+      const QColor ground = Ground(1, column);
+      QRect ink;
+      for (int y = cell.top(); y < cell.bottom(); ++y) {
+        for (int x = cell.left(); x < cell.right(); ++x) {
+          const int contrast = image_.pixelColor(x, y).lightness() - ground.lightness();
+          if (std::abs(contrast) > 100) ink |= QRect(x, y, 1, 1);
+        }
+      }
+      EXPECT_NEAR(ink.left() - cell.left(), cell.right() - ink.right(), 3) << order;
+      EXPECT_NEAR(ink.top() - cell.top(), cell.bottom() - ink.bottom(), 4) << order;
+      EXPECT_GT(ink.height(), cell.height() / 5);
+    }
+  }
+}
+
+/// From outside to the middle, the same on all four sides and at every zoom: a ring of the
+/// highlight, a white line, the ground; at totals a frame within the ground.
+TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
+  Make("SolveManual", "3", "15");
+  ClickCell(2, 2);
+  for (const double zoom : {1.0, 2.0, 3.0, 4.0}) {
+    window_.View().SetZoom(zoom, {});
+    image_ = window_.View().viewport()->grab().toImage();
+    const QRect cell = window_.View().CellRect(2, 2);
+    const int quarter = cell.height() / 4;
+    const auto look = [&](const QRect& from, const QColor& ink) {
+      std::set<std::string> seen;
+      const std::pair<QPoint, QPoint> ways[] = {{{from.left(), from.top() + quarter}, {1, 0}},
+                                                {{from.right(), from.bottom() - quarter}, {-1, 0}},
+                                                {{from.left() + quarter, from.top()}, {0, 1}},
+                                                {{from.left() + quarter, from.bottom()}, {0, -1}}};
+      for (const auto& [start, step] : ways) {
+        std::string way;
+        for (int i = 0; i < quarter; ++i) {
+          const QColor at = image_.pixelColor(start + step * i);
+          way += at == ink ? 'i' : at == Qt::white ? 'w' : '.';
+        }
+        seen.insert(way.substr(0, way.find_last_not_of('.') + 1));
+      }
+      return seen;
+    };
+    const auto ring = static_cast<std::size_t>(std::max(2, cell.width() / 16));
+    EXPECT_EQ(
+        look(cell.adjusted(-1, -1, 0, 0), window_.View().palette().color(QPalette::Highlight)),
+        std::set{std::string(ring, 'i') + "w"})
+        << zoom;
+    const auto frame = static_cast<std::size_t>(std::max(1, cell.width() / 24));
+    for (const QRect& total : {window_.View().CellRect(2, 0), window_.View().CellRect(0, 2)}) {
+      EXPECT_EQ(look(total.adjusted(0, 0, -1, -1), ToQColor(TheGrid().Foreground(2, 0))),
+                std::set{"." + std::string(frame, 'i')})
+          << zoom;
+    }
   }
 }
 

@@ -134,6 +134,7 @@ TEST_F(PlayerTest, KeysMoveTheCurrentCellAndBringItIntoView) {
   Key(Qt::Key_Plus, Qt::KeypadModifier);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102");
   Key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(TheGrid().Text(Where().first, 50), "101");
   Key(Qt::Key_Up, Qt::AltModifier);
   Key(Qt::Key_Plus);
   EXPECT_EQ(TheGrid().Text(Where().first, 50), "102") << "not the keypad's";

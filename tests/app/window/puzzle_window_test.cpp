@@ -107,7 +107,9 @@ struct KeepingPages : PagePrinter {
       pages.Paint(painter, {210, 297}, page);
       Pictures.push_back(picture);
     }
+    Orientation = pages.Orientation;
   }
+  QPageLayout::Orientation Orientation;
   std::vector<QImage> Pictures;
 };
 
@@ -192,6 +194,10 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
   print->click();
   EXPECT_EQ(pages_.Pictures.size(), 8U) << "four pages of puzzles, four of answers";
   EXPECT_NE(pages_.Pictures[0], pages_.Pictures[4]);
+  EXPECT_EQ(pages_.Orientation, QPageLayout::Portrait);
+  form->findChild<QComboBox*>("Orientation")->setCurrentText("landscape");
+  print->click();
+  EXPECT_EQ(pages_.Orientation, QPageLayout::Landscape);
 }
 
 }  // namespace

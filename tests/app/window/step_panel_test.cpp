@@ -17,6 +17,11 @@ class StepPanelTest : public WindowTest {
                std::abs(a.blue() - b.blue()) <
            12;
   }
+  bool Seen(const QString& text) {
+    const auto labels = Find<QDockWidget>("StepPanel").findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&](const QLabel* label) { return label->text() == text; });
+  }
   std::string Sentence() { return Find<QLabel>("StepSentence").text().toStdString(); }
 };
 
@@ -31,9 +36,9 @@ TEST_F(StepPanelTest, WalksTheSquareOnTheBoardByKeys) {
   EXPECT_FALSE(Find<QPushButton>("StepBackx").isEnabled());
   for (int step = 0; step < 25; ++step) {
     QTest::keyClick(&next, Qt::Key_Space);
-    EXPECT_NE(Sentence(), "");
+    EXPECT_TRUE(Sentence().starts_with(std::to_string(step + 1) + " ")) << Sentence();
   }
-  EXPECT_FALSE(next.isEnabled());
+  EXPECT_FALSE(next.isEnabled() || Find<QPushButton>("PlayStepsx").isEnabled());
   EXPECT_EQ(ShownRows(View().Cells()), built);
   EXPECT_EQ(View().Cells().VerdictOf(0, 0), Verdict::Right);
   Click("StepBackx");
@@ -122,6 +127,11 @@ TEST_F(StepPanelTest, AsksWhereNumbersGo) {
   EXPECT_EQ(here, (Place{5, 4}));
   QTest::keyClick(&View(), Qt::Key_Return);
   EXPECT_EQ(View().TheWalk().At(), 2);
+  EXPECT_TRUE(Seen("step 2 of 25, 1 of 3 right"));
+  Find<QSlider>("StepSlider").setValue(25);
+  EXPECT_TRUE(Seen("step 25 of 25, 1 of 3 right"));
+  Find<QCheckBox>("AskMex").setChecked(false);
+  EXPECT_TRUE(Seen("step 25 of 25"));
 }
 
 }  // namespace
