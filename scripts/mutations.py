@@ -48,15 +48,22 @@ def main():
         ["ninja", "-C", build, "-t", "targets", "all"], capture_output=True, text=True, check=True
     ).stdout
     programs = sorted(set(re.findall(r"^(test_\w+): ", targets, re.MULTILINE)))
-    rooms = "^(" + "|".join(program[len("test_") :] for program in programs) + ")$"
+    rooms = [program[len("test_") :] for program in programs]
 
     def builds():
         return runs("ninja", "-C", build, "numorra-square", *programs)
 
-    def passes():
-        return runs("ctest", "--test-dir", build, "-R", rooms, "-j2", "--timeout", "60", "--stop-on-failure")
+    def pass_in(some):
+        pattern = "^(" + "|".join(some) + ")$"
+        return runs("ctest", "--test-dir", build, "-R", pattern, "-j2", "--timeout", "60", "--stop-on-failure")
 
-    if not builds() or not passes():
+    def passes(file):
+        """Most that die do so by the tests of their own room, which go first."""
+        name = {"window": "app"}.get(file.parent.name, file.parent.name)
+        own = [room for room in rooms if room == name]
+        return (not own or pass_in(own)) and pass_in([room for room in rooms if room not in own])
+
+    if not builds() or not pass_in(rooms):
         sys.exit("The tests must pass before anything is changed")
     lot = random.Random(seed)
     # A change in a header builds half the program anew; few of them hold any logic.
@@ -70,7 +77,7 @@ def main():
         text = file.read_text()
         file.write_text(text[:start] + other + text[start + len(token) :])
         compiled = builds()
-        lives = compiled and passes()
+        lives = compiled and passes(file)
         file.write_text(text)
         tried += compiled
         died += compiled and not lives

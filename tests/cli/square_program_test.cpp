@@ -74,8 +74,8 @@ TEST(SquareProgram, RepeatsARunFromItsSeed) {
 
 TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
   for (const char* line :
-       {"", "--size 9 --limit-to-9 --corner 3", "--size", "--size 2", "--size 51", "--size 8x",
-        "--size 99999999999", "--size=", "--size 8 --format xml", "--size 8 --sum 0",
+       {"", "puzzle", "--size 9 --limit-to-9 --corner 3", "--size", "--size 2", "--size 51",
+        "--size 8x", "--size 99999999999", "--size=", "--size 8 --format xml", "--size 8 --sum 0",
         "--top-row 1,2,3,4 --size 4", "--top-row 1,2,3,4 --sum 10", "--seed -1 --size 8", "--bogus",
         "8", "--size 8 --help=x", "--format csv"}) {
     const Outcome run = RunWith(line);

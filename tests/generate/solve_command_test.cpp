@@ -88,6 +88,8 @@ TEST_F(SolveCommandTest, RefusesAndKeepsTheBoard) {
   Boxes.SumText = "1000000";
   EXPECT_THROW(Commands.Auto(), RuntimeError);
   EXPECT_EQ(ShownRows(TheBoard.grid), before);
+  Auto("20", "3000");
+  EXPECT_EQ(TheDialogs.Take(), Messages{}) << "the largest that is quick";
   TheDialogs.Answers = {true};
   Auto("21", "3000");
   TheDialogs.Take();
