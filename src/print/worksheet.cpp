@@ -56,19 +56,16 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
   constexpr double kThin = 0.2;
   constexpr double kThick = 0.6;
   constexpr double kShareOfCell = 0.5;
-  const int n = puzzle.Order;
-  for (int line = 0; line <= n; ++line) {
-    painter.setPen(QPen(Qt::black, line % n == 0 ? kThick : kThin, Qt::SolidLine, Qt::SquareCap));
-    painter.drawLine(board.topLeft() + QPointF(0, line * side),
-                     board.topRight() + QPointF(0, line * side));
-    painter.drawLine(board.topLeft() + QPointF(line * side, 0),
-                     board.bottomLeft() + QPointF(line * side, 0));
-  }
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(Qt::black, kThick));
+  painter.drawRect(board);
+  painter.setPen(QPen(Qt::black, kThin));
   for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell) {
-    if (puzzle.Cells[cell] == 0) continue;
     const Place place = puzzle.PlaceOf(cell);
     const QRectF here(board.left() + (place.Column - 1) * side,
                       board.top() + (place.Row - 1) * side, side, side);
+    painter.drawRect(here);
+    if (puzzle.Cells[cell] == 0) continue;
     Write(painter, here.adjusted(side / 10, 0, -side / 10, 0), Qt::AlignCenter,
           QString::number(puzzle.Cells[cell]), side * kShareOfCell, clues.Cells[cell] != 0);
   }

@@ -55,7 +55,8 @@ std::string Range(std::int64_t low, std::int64_t high) {
   return low == high ? std::to_string(low) : std::to_string(low) + " to " + std::to_string(high);
 }
 
-/// Of `numbers`, those that the line takes in `cell`, given what its other gaps may hold.
+/// Of `numbers`, those that the line takes in `cell`, given what its other gaps may hold on a board
+/// that is narrowed down: a single other gap holds what the cell leaves of the line's rest.
 LineTakes Taken(const Candidates& board, int line, int cell,
                 const std::vector<std::int64_t>& numbers) {
   std::vector<int> others = board.GapsOf(line);
@@ -63,13 +64,10 @@ LineTakes Taken(const Candidates& board, int line, int cell,
   const std::int64_t rest = board.Rest(line);
   LineTakes takes;
   if (others.size() == 1) {
-    for (const std::int64_t number : numbers) {
-      const bool differs = !board.IsNormal() || rest != 2 * number;
-      if (differs && board.Allows(others[0], rest - number)) takes.Numbers.push_back(number);
-    }
+    const std::int64_t held = board.Low(others[0]);
+    takes.Numbers = {rest - held};
     takes.Said = LineName(board, line) + " needs " + std::to_string(rest) + " for this cell and " +
-                 PlaceName(board, others[0]) + ", which can hold " +
-                 Range(board.Low(others[0]), board.High(others[0]));
+                 PlaceName(board, others[0]) + ", which can hold " + std::to_string(held);
     return takes;
   }
   const auto sumOf = [&](auto boundOf) {

@@ -73,11 +73,29 @@ TEST(SquareProgram, RepeatsARunFromItsSeed) {
 }
 
 TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
-  for (const char* line :
-       {"", "puzzle", "--size 9 --limit-to-9 --corner 3", "--size", "--size 2", "--size 51",
-        "--size 8x", "--size 99999999999", "--size=", "--size 8 --format xml", "--size 8 --sum 0",
-        "--top-row 1,2,3,4 --size 4", "--top-row 1,2,3,4 --sum 10", "--seed -1 --size 8", "--bogus",
-        "8", "--size 8 --help=x", "--format csv"}) {
+  for (const char* line : {"",
+                           "puzzle",
+                           "--size 9 --limit-to-9 --corner 3",
+                           "--size",
+                           "--size 2",
+                           "--size 51",
+                           "--size 8x",
+                           "--size 99999999999",
+                           "--size=",
+                           "--size 8 --format xml",
+                           "--size 8 --sum 0",
+                           "--top-row 1,2,3,4 --size 4",
+                           "--size 5 --corner x",
+                           "--size 5 --corner 0",
+                           "--size 5 --sum x",
+                           "--size 5 --count x",
+                           "--size 5 --seed x",
+                           "--top-row 1,2,3,4 --sum 10",
+                           "--seed -1 --size 8",
+                           "--bogus",
+                           "8",
+                           "--size 8 --help=x",
+                           "--format csv"}) {
     const Outcome run = RunWith(line);
     EXPECT_EQ(run.Status, 2) << line;
     EXPECT_EQ(run.Out, "") << line;

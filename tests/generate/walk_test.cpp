@@ -112,6 +112,9 @@ TEST(Walk, SaysWhatAClassNeedsToHear) {
   const std::vector<WalkStep> six = WalkOf(6, ExampleToWalk(6));
   EXPECT_EQ(six[0].Sentence,
             "every block of four cells gets a letter: 2 rows of L, one of U, none of X");
+  EXPECT_EQ(six[2].Sentence,
+            "block 1 goes to row 1, column 2 of the blocks; its numbers are 1 to "
+            "4, in the order of the letter L");
   EXPECT_EQ(six[1].Sentence, "in the middle an L and the U below it change places");
   EXPECT_EQ(
       six[3].Sentence,

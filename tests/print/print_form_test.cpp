@@ -125,19 +125,14 @@ TEST_F(PrintTest, ClosesWhenItsCommandHasEnded) {
   EXPECT_FALSE(Form() && Form()->isVisible());
 }
 
-TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
+TEST(PaperPrinters, PrintTheSheetAsItStands) {
   const QTemporaryDir folder;
   const QString pdf = folder.filePath("sheet.pdf");
   Board board;
   ShowCounted(board, 30);
-  const std::string sheet = SolutionSheet(board.grid, 13515);
-  PaperPrinter printer;
-  printer.PrintTo(pdf);
-  printer.Print(sheet);
-
-  QProcess reader;
-  reader.start("pdftotext", {"-fixed", "4.8", "-nopgbrk", pdf, "-"});
-  ASSERT_TRUE(reader.waitForFinished());
+  std::string longer;
+  for (int line = 1; line <= 100; ++line)
+    longer += "line " + std::to_string(line) + "\r\n";
   const auto lines = [](const QString& text) {
     QStringList kept;
     for (const QString& line : text.split('\n')) {
@@ -145,14 +140,23 @@ TEST(PaperPrinters, PrintTheSheetAsItStandsOnOnePage) {
     }
     return kept;
   };
-  EXPECT_EQ(lines(reader.readAllStandardOutput()),
-            lines(QString::fromStdString(sheet).remove('\r')));
-  reader.start("pdfinfo", {pdf});
-  ASSERT_TRUE(reader.waitForFinished());
-  const QString info = reader.readAllStandardOutput();
-  EXPECT_TRUE(info.contains(QRegularExpression("Pages:\\s+1\\n"))) << info.toStdString();
-  EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+(841|842|792)")))
-      << info.toStdString();
+  QProcess reader;
+  for (const auto& [sheet, pages] :
+       {std::pair(SolutionSheet(board.grid, 13515), "1"), {longer, "2"}}) {
+    PaperPrinter printer;
+    printer.PrintTo(pdf);
+    printer.Print(sheet);
+    reader.start("pdftotext", {"-fixed", "4.8", "-nopgbrk", pdf, "-"});
+    ASSERT_TRUE(reader.waitForFinished());
+    EXPECT_EQ(lines(reader.readAllStandardOutput()),
+              lines(QString::fromStdString(sheet).remove('\r')));
+    reader.start("pdfinfo", {pdf});
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString info = reader.readAllStandardOutput();
+    EXPECT_TRUE(info.contains(QRegularExpression(QString("Pages:\\s+%1\\n").arg(pages))));
+    EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+(841|842|792)")))
+        << info.toStdString();
+  }
 }
 
 TEST(PaperPrinters, FailWithARunTimeErrorAndKeepTheFileThatWasThere) {

@@ -85,6 +85,8 @@ TEST_F(HintsTest, SayWhatIsNoPuzzle) {
   EXPECT_EQ(Check(), "all entries can stay") << "of several solutions, one has it";
   board_.grid.SetText(1, 2, "15");
   EXPECT_EQ(Check(), "15 in row 1, column 2 cannot stay");
+  Read("1 . . .\n. . . .\n. . . .\n. . . .");
+  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "at least 100 solutions");
   Read("8 1 .\n. 5 .\n. . .");
   EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "one solution, easy");
   Read("8 1 .\n. 4 .\n. . .");

@@ -88,7 +88,7 @@ TEST_F(AccessibilityTest, EveryCellIsFoundByIndexPlaceAndPoint) {
 }
 
 TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
-  Click("SolveManual");
+  Make("SolveManual", "5", "25");
   QCoreApplication::processEvents();
   QSignalSpy told(&window_.View(), &GridView::CurrentCellShown);
   const std::pair<Qt::Key, QVariantList> keys[] = {

@@ -176,6 +176,40 @@ TEST_F(PaintingTest, TheCurrentLinesTotalsAreFramed) {
   }
 }
 
+/// The value block has lines all around and between its cells, and nothing else has any before it
+/// is judged; wrong totals have a notch of a quarter of their side.
+TEST_F(PaintingTest, LinesAndNotchesAreWhereTheyBelong) {
+  Make("SolveAuto", "3");
+  window_.View().SetZoom(2, {});
+  const QColor line = window_.View().palette().color(QPalette::Mid);
+  const auto grab = [&] { image_ = window_.View().viewport()->grab().toImage(); };
+  grab();
+  for (int row = 0; row < 5; ++row) {
+    for (int column = 0; column < 5; ++column) {
+      const QRect cell = window_.View().CellRect(row, column);
+      const bool level = row < 4 && column >= 1 && column < 4;
+      const bool upright = column < 4 && row >= 1 && row < 4;
+      if (row <= 1 && column <= 1) continue;  // the current cell and its ring
+      const QColor below = image_.pixelColor(cell.center().x(), cell.bottom());
+      const QColor beside = image_.pixelColor(cell.right(), cell.center().y());
+      EXPECT_EQ(below.rgb() == line.rgb(), level) << row << ", " << column;
+      EXPECT_EQ(beside.rgb() == line.rgb(), upright) << row << ", " << column;
+    }
+  }
+  Make("SolveManual", "3", "18");
+  grab();
+  const QRect total = window_.View().CellRect(2, 0);
+  const int side = total.width() / 4;
+  const QColor notch = ToQColor(ColorTable[kTotalText]);
+  for (const int along : {2, side / 2, side - 2})
+    EXPECT_EQ(image_.pixelColor(total.right() - 1, total.top() + along), notch) << along;
+  for (const int along : {2, side / 2, side - 2})
+    EXPECT_EQ(image_.pixelColor(total.right() - along, total.top() + 1), notch) << along;
+  EXPECT_NE(image_.pixelColor(total.right() - 1, total.top() + side + 3), notch);
+  EXPECT_NE(image_.pixelColor(total.right() - side - 3, total.top() + 1), notch);
+  EXPECT_NE(image_.pixelColor(total.right() - side + 4, total.top() + side - 4), notch);
+}
+
 TEST_F(PaintingTest, NumbersStandInTheMiddleOfTheirCells) {
   for (const char* order : {"3", "11", "32"}) {
     Make("SolveAuto", order);
@@ -201,11 +235,11 @@ TEST_F(PaintingTest, NumbersStandInTheMiddleOfTheirCells) {
 /// highlight, a white line, the ground; at totals a frame within the ground.
 TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
   Make("SolveManual", "3", "15");
-  ClickCell(2, 2);
-  for (const double zoom : {1.0, 2.0, 3.0, 4.0}) {
+  for (const auto& [at, zoom] : {std::pair(2, 1.0), {2, 2.0}, {1, 3.0}, {1, 4.0}}) {
+    ClickCell(at, at);
     window_.View().SetZoom(zoom, {});
     image_ = window_.View().viewport()->grab().toImage();
-    const QRect cell = window_.View().CellRect(2, 2);
+    const QRect cell = window_.View().CellRect(at, at);
     const int quarter = cell.height() / 4;
     const auto look = [&](const QRect& from, const QColor& ink) {
       std::set<std::string> seen;
@@ -216,8 +250,8 @@ TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
       for (const auto& [start, step] : ways) {
         std::string way;
         for (int i = 0; i < quarter; ++i) {
-          const QColor at = image_.pixelColor(start + step * i);
-          way += at == ink ? 'i' : at == Qt::white ? 'w' : '.';
+          const QColor pixel = image_.pixelColor(start + step * i);
+          way += pixel == ink ? 'i' : pixel == Qt::white ? 'w' : '.';
         }
         seen.insert(way.substr(0, way.find_last_not_of('.') + 1));
       }
@@ -229,8 +263,8 @@ TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
         std::set{std::string(ring, 'i') + "w"})
         << zoom;
     const auto frame = static_cast<std::size_t>(std::max(1, cell.width() / 24));
-    for (const QRect& total : {window_.View().CellRect(2, 0), window_.View().CellRect(0, 2)}) {
-      EXPECT_EQ(look(total.adjusted(0, 0, -1, -1), ToQColor(TheGrid().Foreground(2, 0))),
+    for (const QRect& total : {window_.View().CellRect(at, 0), window_.View().CellRect(0, at)}) {
+      EXPECT_EQ(look(total.adjusted(0, 0, -1, -1), ToQColor(TheGrid().Foreground(at, 0))),
                 std::set{"." + std::string(frame, 'i')})
           << zoom;
     }
