@@ -156,6 +156,8 @@ TEST(SquareProgram, StudiesWhatItReads) {
       "numorra-square: this is JSON, which the window opens; here squares are read as text or "
       "codes\n");
   EXPECT_EQ(RunWith("study", "\n").Err, "numorra-square: there is no square to read\n");
+  EXPECT_EQ(RunWith("study one two").Err,
+            "numorra-square: one file at a time, not 'two' too; try --help\n");
   EXPECT_EQ(RunWith("study /no/such/file").Err, "numorra-square: '/no/such/file' cannot be read\n");
   EXPECT_EQ(RunWith("study /").Status, 1);
 }

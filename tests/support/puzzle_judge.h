@@ -83,13 +83,23 @@ class SlowCounter {
   int found_ = 0;
 };
 
-/// Whether a reason of two gaps in a line tells what the other holds, and so the number.
+/// Whether a reason of two gaps in a line tells what the other holds, and so the number; and one of
+/// more gaps a range within the line's rest that has the number in it.
 inline bool IsDecisive(const Step& step) {
   static const std::regex twoGaps(R"(needs (\d+) for this cell and .*, which can hold (\d+): )");
+  static const std::regex more(
+      R"(needs (\d+) for its \d+ gaps, so it takes (\d+)( to (\d+))? here)");
   std::smatch found;
-  return step.Why.find(" for this cell and ") == std::string::npos ||
-         (std::regex_search(step.Why, found, twoGaps) &&
-          std::stoll(found[1]) - std::stoll(found[2]) == step.Number);
+  if (std::regex_search(step.Why, found, twoGaps)) {
+    return std::stoll(found[1]) - std::stoll(found[2]) == step.Number;
+  }
+  if (std::regex_search(step.Why, found, more)) {
+    const std::int64_t low = std::stoll(found[2]);
+    if (!found[3].matched) return step.Number == low;
+    const std::int64_t high = std::stoll(found[4]);
+    return low < high && low <= step.Number && step.Number <= high && high < std::stoll(found[1]);
+  }
+  return step.Why.find("needs") == std::string::npos;
 }
 
 /// What is wrong with a puzzle that was made; empty when it has one solution, every hint leads

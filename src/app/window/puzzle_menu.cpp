@@ -107,15 +107,13 @@ void MainWindow::BeginSearch(const char* doing) {
 void MainWindow::ShowRemark(const Remark& remark) {
   remarkIsNew_ = true;
   board_.grid.SetOutlined(remark.Where);
-  const int middle = view_->height() / 2;
-  int lowest = 0;
+  QRect cells;
   for (const Place place : remark.Where) {
     if (remark.Where.size() == 1) view_->BringIntoView(place.Row, place.Column);
-    lowest = std::max(lowest, view_->CellRect(place.Row, place.Column).bottom());
+    cells |= view_->CellRect(place.Row, place.Column);
   }
-  const bool fromTop = !remark.Where.empty() &&
-                       lowest > view_->height() - remarkBar_->sizeHint().height() &&
-                       view_->CellRect(remark.Where[0].Row, remark.Where[0].Column).top() > middle;
+  const bool fromTop = cells.bottom() > view_->height() - remarkBar_->sizeHint().height() &&
+                       cells.top() > view_->height() / 2;
   QString text = QString::fromStdString(remark.Text);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
   remarkBar_->ShowText(text + ".", fromTop);

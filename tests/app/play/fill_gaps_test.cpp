@@ -61,13 +61,17 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
   Fill();
   LayOutGaps("8 8 0 / 0 4 0 / 0 0 0", 15);
   Fill();
+  LayOutGaps("8 0 2 / 0 0 0 / 0 0 0", 15);
+  Fill();
   EXPECT_EQ(dialogs_.Take(),
             (Messages{"nothing can fill these gaps: 4 in row 2, column 2 cannot stay",
                       "nothing can fill these gaps",
                       "nothing can fill these gaps: column 2 adds up to 10, not 15",
                       "nothing can fill these gaps: 8 in row 1, column 2 stands in row 1, column 1 "
-                      "too"}));
-  EXPECT_EQ(At(1, 3), "");
+                      "too",
+                      "nothing can fill these gaps: 8 in row 1, column 1, or 2 in row 1, column 3 "
+                      "cannot stay"}));
+  EXPECT_EQ(At(2, 1), "");
 }
 
 TEST_F(FillGapsTest, EmptiesAllThatIsNotGiven) {

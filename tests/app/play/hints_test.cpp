@@ -37,6 +37,10 @@ TEST_F(HintsTest, TellWhereWhyAndWhat) {
     hints_.Next();
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   EXPECT_EQ(hints_.Next().Text, "the board has no gaps");
+  Read(". 12 . .\n2 13 . .\n14 1 . .\n. 8 5 .");
+  hints_.Next();
+  EXPECT_EQ(hints_.Next().Text,
+            "16 can stand in row 2, column 3 alone: the lines of every other gap rule it out");
 }
 
 TEST_F(HintsTest, PointAtWhatCannotStay) {
