@@ -1,6 +1,7 @@
 #pragma once
 
-#include <regex>
+#include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "puzzle/code.h"
@@ -86,20 +87,18 @@ class SlowCounter {
 /// Whether a reason of two gaps in a line tells what the other holds, and so the number; and one of
 /// more gaps a range within the line's rest that has the number in it.
 inline bool IsDecisive(const Step& step) {
-  static const std::regex twoGaps(R"(needs (\d+) for this cell and .*, which can hold (\d+): )");
-  static const std::regex more(
-      R"(needs (\d+) for its \d+ gaps, so it takes (\d+)( to (\d+))? here)");
-  std::smatch found;
-  if (std::regex_search(step.Why, found, twoGaps)) {
-    return std::stoll(found[1]) - std::stoll(found[2]) == step.Number;
+  const char* const reason = std::strstr(step.Why.c_str(), "needs ");
+  if (!reason) return true;
+  long long rest = 0, low = 0, high = 0;
+  char end = 0;
+  if (std::sscanf(reason, "needs %lld for this cell and row %*d, column %*d, which can hold %lld%c",
+                  &rest, &low, &end) == 3) {
+    return end == ':' && rest - low == step.Number;
   }
-  if (std::regex_search(step.Why, found, more)) {
-    const std::int64_t low = std::stoll(found[2]);
-    if (!found[3].matched) return step.Number == low;
-    const std::int64_t high = std::stoll(found[4]);
-    return low < high && low <= step.Number && step.Number <= high && high < std::stoll(found[1]);
-  }
-  return step.Why.find("needs") == std::string::npos;
+  const int found = std::sscanf(
+      reason, "needs %lld for its %*d gaps, so it takes %lld to %lld here", &rest, &low, &high);
+  if (found == 2) return step.Number == low;
+  return found == 3 && low < high && low <= step.Number && step.Number <= high && high < rest;
 }
 
 /// What is wrong with a puzzle that was made; empty when it has one solution, every hint leads

@@ -96,6 +96,8 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_TRUE(Find<QLabel>("PropertyEvidence").text().contains("row 3 adds up to 16, not 15"));
   EXPECT_EQ(Entry("magic")->data(0, Qt::AccessibleTextRole).toString(),
             "magic: fails, row 3 adds up to 16, not 15");
+  Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("pandiagonal"));
+  EXPECT_LT(panel.minimumSizeHint().width(), 2 * before.width() / 3) << "its text is wrapped";
   Click("CopyPropertiesx");
   EXPECT_TRUE(
       QGuiApplication::clipboard()->text().contains("\nprime: fails, 1 in row 3, column 2"));
