@@ -27,6 +27,7 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_TRUE(TheGrid().Given(1, 2));
   Trigger("Propertiesx");
   Trigger("Hintx");
+  EXPECT_EQ(Find<QWidget>("RemarkBar").accessibleName(), "Look at row 1.");
   Trigger("Propertiesx");
   EXPECT_FALSE(TheGrid().Outlined().empty());
   Trigger("FillGapsx");
