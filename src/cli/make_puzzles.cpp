@@ -47,9 +47,9 @@ void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
     case SquareFormat::Json: {
       std::string json = JsonOf(stored);
       json.erase(json.rfind('}'));
-      out << json << ", \"solution\": " << JsonRowsOf(StoredSquareOf(made.Solution, false))
-          << ", \"grade\": \"" << NameOf(made.Needed) << "\", \"clues\": " << clues;
-      if (!code.empty()) out << ", \"code\": \"" << code << "\"";
+      out << json << R"(, "solution": )" << JsonRowsOf(StoredSquareOf(made.Solution, false))
+          << R"(, "grade": ")" << NameOf(made.Needed) << R"(", "clues": )" << clues;
+      if (!code.empty()) out << R"(, "code": ")" << code << "\"";
       out << "}\n";
       break;
     }

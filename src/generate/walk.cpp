@@ -43,9 +43,7 @@ class Numbers {
   int Order() const { return n_; }
   bool IsNormal() const { return isNormal_; }
   Cell CellOf(int number) const { return cells_[static_cast<std::size_t>(number)]; }
-  int At(Cell cell) const {
-    return static_cast<int>(numbers_[static_cast<std::size_t>(cell.Row * n_ + cell.Column)]);
-  }
+  int At(Cell cell) const { return static_cast<int>(numbers_[IndexOf(PlaceOf(cell), n_)]); }
 
  private:
   int n_;
@@ -216,10 +214,8 @@ Place PlaceInBlock(Cell block, int place) {
 }
 
 std::vector<Place> PlacesOfBlock(Cell block) {
-  std::vector<Place> places;
-  for (int place = 0; place < 4; ++place)
-    places.push_back(PlaceInBlock(block, place));
-  return places;
+  return {PlaceInBlock(block, 0), PlaceInBlock(block, 1), PlaceInBlock(block, 2),
+          PlaceInBlock(block, 3)};
 }
 
 void WriteLetter(WalkStep& step, Cell block, const LuxLetter& letter) {
@@ -289,15 +285,17 @@ std::vector<WalkStep> WalkOf(int order, const std::vector<double>& numbers) {
 }
 
 std::vector<double> ExampleToWalk(int order) {
-  std::vector<double> numbers(static_cast<std::size_t>(order * order));
+  const auto side = static_cast<std::size_t>(order);
+  std::vector<double> numbers(side * side);
   const auto write = [&](int i, int j, double number) {
-    numbers[static_cast<std::size_t>(i * order + j)] = number;
+    numbers[IndexOf(PlaceOf({i, j}), order)] = number;
   };
   const int m = order % 2 == 1 ? order : order / 2;
   if (order % 4 == 0) {
-    for (int i = 0; i < order * order; ++i)
+    for (int i = 0; i < order * order; ++i) {
       write(i / order, i % order,
             OnBlockDiagonal(i / order, i % order) ? order * order - i : i + 1);
+    }
     return numbers;
   }
   CellTable odd;

@@ -128,8 +128,10 @@ QRectF Worksheet::SlotArea(QSizeF size, int place) const {
   const double width = (size.width() - 2 * kMargin - (grid.width() - 1) * kBetween) / grid.width();
   const double height =
       (size.height() - 2 * kMargin - kHeader - (grid.height() - 1) * kBetween) / grid.height();
-  return {kMargin + place % grid.width() * (width + kBetween),
-          kMargin + kHeader + place / grid.width() * (height + kBetween), width, height};
+  const int row = place / grid.width();
+  const int column = place % grid.width();
+  return {kMargin + column * (width + kBetween), kMargin + kHeader + row * (height + kBetween),
+          width, height};
 }
 
 double Worksheet::CellSide(QSizeF size, int order) const {

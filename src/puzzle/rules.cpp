@@ -20,6 +20,7 @@ std::string PlaceName(const Candidates& board, int cell) {
 
 std::vector<Place> PlacesOf(const Candidates& board, const std::vector<int>& cells) {
   std::vector<Place> places;
+  places.reserve(cells.size());
   for (const int cell : cells)
     places.push_back(PlaceAt(cell, board.Order()));
   return places;
@@ -72,6 +73,7 @@ LineTakes Taken(const Candidates& board, int line, int cell,
   }
   const auto sumOf = [&](auto boundOf) {
     std::vector<std::int64_t> bounds;
+    bounds.reserve(others.size());
     for (const int other : others)
       bounds.push_back(boundOf(other));
     return LeastSum(std::move(bounds), board.IsNormal());
