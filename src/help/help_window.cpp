@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kSideMargin = 60;             // twips: 120 on both sides together
 constexpr qint64 kLargestFile = 256 << 10;  // a longer page would keep the window busy for seconds
+constexpr int kDeepestTables = 4;           // as would tables deeper in each other
 
 }  // namespace
 
@@ -33,10 +34,13 @@ bool FolderBrowser::Serves(const QUrl& name) const {
   return StandsIn(folder_, url) && file.isFile() && file.size() <= kLargestFile;
 }
 
-QVariant FolderBrowser::loadResource(int, const QUrl& name) {
+QVariant FolderBrowser::loadResource(int type, const QUrl& name) {
   if (!Serves(name)) return {};
   QFile file(Absolute(name).toLocalFile());
-  return file.open(QFile::ReadOnly) ? file.readAll() : QVariant();
+  if (!file.open(QFile::ReadOnly)) return {};
+  const QByteArray content = file.readAll();
+  const bool page = type == QTextDocument::HtmlResource;
+  return page && DepthOfTables(content) > kDeepestTables ? QVariant() : content;
 }
 
 void FolderBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
