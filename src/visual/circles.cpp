@@ -27,8 +27,8 @@ QPolygonF UnitCircle(double radius) {
   return circle;
 }
 
-/// The numbers over the circles, each on a plate of its circle's shade, so that it can be read
-/// where it is wider than its circle.
+/// The numbers over the circles, each in a halo of its circle's shade, so that it can be read where
+/// it is wider than its circle.
 void PaintNumbers(QPainter& painter, const DrawingArea& area, const std::vector<ValuedCell>& path,
                   const Shading& shading) {
   const QSizeF size(area.Side * 0.8, area.Side * 0.36);
@@ -36,15 +36,15 @@ void PaintNumbers(QPainter& painter, const DrawingArea& area, const std::vector<
     QRectF place(QPointF(), size);
     place.moveCenter(area.Centre(cell.Row, cell.Column));
     const Colour shade = shading.Of(cell.Value).value_or(area.Picked);
-    painter.fillRect(place, ToQColor(shade));
     DrawingArea::PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place,
-                             ToQColor(ReadableOn(shade)));
+                             ToQColor(ReadableOn(shade)), ToQColor(shade));
   }
 }
 
 void PaintCircles(QPainter& painter, const DrawingArea& area) {
   area.PaintCells(painter, kGround, kRules);
   const auto path = ValuePath(area.TheBoard);
+  if (path.empty()) return;
   const double largest = path.back().Value;
   if (largest <= 0) return;
   const Shading shading(area.TheBoard, area.Picked);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 
 #include "visual/outline.h"
 
@@ -25,7 +26,7 @@ void DrawingArea::PaintCells(QPainter& painter, const QColor& ground, const QCol
 }
 
 void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
-                              const QColor& ink) {
+                              const QColor& ink, const QColor& halo) {
   const QString text = QString::fromStdString(number);
   QFont font = painter.font();
   font.setPixelSize(std::max(1, static_cast<int>(place.height())));
@@ -33,9 +34,13 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
   if (width > place.width()) {
     font.setPixelSize(std::max(1, static_cast<int>(place.height() * place.width() / width)));
   }
-  painter.setFont(font);
-  painter.setPen(ink);
-  painter.drawText(place, Qt::AlignCenter, text);
+  QPainterPath letters;
+  letters.addText({}, font, text);
+  letters.translate(place.center() - letters.boundingRect().center());
+  constexpr double kShareOfHeight = 0.2;
+  const double around = std::max(1.5, font.pixelSize() * kShareOfHeight);
+  painter.strokePath(letters, QPen(halo, around, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(letters, ink);
 }
 
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {

@@ -26,9 +26,10 @@ struct DrawingArea {
     return Block.topLeft() + QPointF(column - 0.5, row - 0.5) * Side;
   }
 
-  /// Writes a number in the middle of `place`, as large as that lets it be.
+  /// Writes a number in the middle of `place`, as large as that lets it be, with a thin halo that
+  /// keeps it readable on whatever is drawn there.
   static void PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
-                          const QColor& ink);
+                          const QColor& ink, const QColor& halo);
 
   /// Fills the block and rules its cells.
   void PaintCells(QPainter& painter, const QColor& ground, const QColor& rules) const;

@@ -14,7 +14,7 @@ struct ValuedCell {
 };
 
 /// The cells from the smallest value to the largest, equal values in reading order: the path that
-/// shows how a square was made.
+/// shows how a square was made. Gaps are not on it.
 std::vector<ValuedCell> ValuePath(const Board& board);
 
 }  // namespace numorra

@@ -62,6 +62,7 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
   const Hues hues(ground);
   area.PaintCells(painter, ground, area.Palette.color(QPalette::Mid));
   const auto path = ValuePath(area.TheBoard);
+  if (path.empty()) return;
   const double side = area.Side;
   const double pen = std::clamp(side / 12, 0.8, 3.0);
   const auto steps = static_cast<double>(path.size() - 1);
@@ -89,8 +90,8 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
   for (const ValuedCell& cell : path) {
     const QPointF corner = area.Centre(cell.Row, cell.Column) - QPointF(side, side) / 2;
     const QRectF place(corner + QPointF(1, 1), QSizeF(side * 0.48, side * 0.3));
-    painter.fillRect(place, ground);
-    DrawingArea::PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place, ink);
+    DrawingArea::PaintNumber(painter, area.TheBoard.grid.Text(cell.Row, cell.Column), place, ink,
+                             ground);
   }
 }
 

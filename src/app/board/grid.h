@@ -33,6 +33,9 @@ class Grid {
     bool Given = false;   ///< a fixed number, which the player cannot change
     Verdict Judged = Verdict::Unjudged;
 
+    /// Whether a value cell holds no number: nothing, or a sign whose digits are still to come.
+    bool IsGap() const { return Text.empty() || Text == "-"; }
+
     /// The colours that it is shown in: those of its verdict, or else its own.
     Colour Background() const;
     Colour Foreground() const;
