@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+
 #include "app/board/runtime_error.h"
 #include "app/ports/build_stage.h"
 #include "support/stand_ins.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 namespace {
@@ -77,6 +82,23 @@ TEST_F(CommandRunnerTest, RunsTheNewerCommandAfterOneThatNeverYieldsAndNoneAtThe
     log_ += "first ";
   });
   EXPECT_EQ(log_, "first second");
+}
+
+TEST_F(CommandRunnerTest, SlotsStayInsideTheBoundary) {
+  QPushButton button("&Press");
+  QSlider slider;
+  OnClick(runner_, &button, &button, [] { throw RuntimeError(Fault::Overflow); });
+  OnSignal(runner_, &slider, &QSlider::valueChanged, &slider,
+           [this](int value) { log_ += std::to_string(value); });
+  button.click();
+  slider.setValue(7);
+  EXPECT_EQ(dialogs_.Take(), Messages{"Overflow"});
+  EXPECT_EQ(log_, "7");
+  button.animateClick();
+  button.setEnabled(false);
+  constexpr int kPressed = 100;  // milliseconds, as the toolkit has it
+  QTest::qWait(2 * kPressed);
+  EXPECT_EQ(dialogs_.Take(), Messages{}) << "disabled while it was down";
 }
 
 }  // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <type_traits>
+#include <utility>
+
+#include <QAbstractButton>
+
+#include "toolkit/command_runner.h"
+
+namespace numorra {
+
+/// Connects a signal to what it does, inside the runner's boundary for errors: nothing that a slot
+/// throws may pass through the toolkit. `act` takes the signal's arguments, or none.
+template <class Sender, class Signal, class Act>
+void OnSignal(CommandRunner& runner, const Sender* sender, Signal signal, QObject* context,
+              Act act) {
+  QObject::connect(sender, signal, context, [&runner, act = std::move(act)](const auto&... told) {
+    runner.RunBeside([&] {
+      if constexpr (std::is_invocable_v<const Act&, decltype(told)...>) {
+        act(told...);
+      } else {
+        act();
+      }
+    });
+  });
+}
+
+/// The same for a click. A button that was disabled while it was pressed does nothing: one that is
+/// pressed by its letter stays down for a moment, and the toolkit then clicks it all the same.
+template <class Act>
+void OnClick(CommandRunner& runner, const QAbstractButton* button, QObject* context, Act act) {
+  OnSignal(runner, button, &QAbstractButton::clicked, context, [button, act = std::move(act)] {
+    if (button->isEnabled()) act();
+  });
+}
+
+}  // namespace numorra
