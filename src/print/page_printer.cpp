@@ -6,11 +6,40 @@
 #include <QPaintEngine>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QProgressDialog>
 
 #include "app/board/runtime_error.h"
 #include "print/paper.h"
 
 namespace numorra {
+namespace {
+
+constexpr int kMoment = 300;  // milliseconds
+
+/// The same pages, counted in a box over the window where they take longer than a moment.
+PaintedPages Counted(const PaintedPages& pages, QWidget* window) {
+  const auto box = std::make_shared<QProgressDialog>("", "&Stop", 0, pages.Count, window);
+  box->setObjectName("PagesProgress");
+  box->setWindowTitle(pages.Name);
+  box->setWindowModality(Qt::WindowModal);
+  box->setMinimumDuration(kMoment);
+  PaintedPages counted = pages;
+  counted.Paint = [paint = pages.Paint, count = pages.Count, box](QPainter& painter, QSizeF size,
+                                                                  int page) {
+    box->setLabelText(QString("Laying out page %1 of %2").arg(page + 1).arg(count));
+    box->setValue(page);  // which lets events run
+    if (box->wasCanceled()) throw PagesStopped();
+    paint(painter, size, page);
+  };
+  return counted;
+}
+
+/// Whether what is painted is recorded for a preview, which cannot be aborted.
+bool IsPreview(const QPrinter& printer) {
+  return printer.paintEngine()->type() == QPaintEngine::Picture;
+}
+
+}  // namespace
 
 void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
   constexpr double kMillimetresPerInch = 25.4;
@@ -34,8 +63,7 @@ void PrintPages(QPrinter& printer, const PaintedPages& pages) {
   const auto paint = [&](QPagedPaintDevice& paper) {
     PaintPages(paper, printer.resolution(), pages);
   };
-  const bool previewed = printer.paintEngine()->type() == QPaintEngine::Picture;
-  if (previewed) return paint(printer);
+  if (IsPreview(printer)) return paint(printer);
   PrintOn(printer, paint);
 }
 
@@ -48,7 +76,10 @@ void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
   std::exception_ptr failed;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* device) {
     try {
-      PrintPages(*device, pages);
+      PrintPages(*device, Counted(pages, &dialog));
+    } catch (const PagesStopped&) {
+      if (!IsPreview(*device)) device->abort();
+      QMetaObject::invokeMethod(&dialog, "reject", Qt::QueuedConnection);
     } catch (...) {
       failed = std::current_exception();  // which must not pass through the toolkit
     }

@@ -30,7 +30,8 @@ class PagePrinter {
   virtual void Preview(QWidget* window, const PaintedPages& pages) = 0;
 };
 
-/// The toolkit's preview, with its own way to the printer and to PDF files.
+/// The toolkit's preview, with its own way to the printer and to PDF files. Pages that take their
+/// time are counted in a box that can stop them, which closes the preview.
 class PreviewedPages : public PagePrinter {
  public:
   void Preview(QWidget* window, const PaintedPages& pages) override;
@@ -38,6 +39,9 @@ class PreviewedPages : public PagePrinter {
 
 /// Paints the pages on a device of so many dots an inch, on to a new page between them.
 void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages);
+
+/// Thrown when the player stops pages that are being painted.
+struct PagesStopped {};
 
 /// Paints the pages on a printer, or into the preview that it stands for.
 void PrintPages(QPrinter& printer, const PaintedPages& pages);

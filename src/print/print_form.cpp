@@ -7,11 +7,12 @@
 #include "print/sheet.h"
 #include "print/sheet_doubts.h"
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 
-PrintForm::PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
-                     QWidget* parent)
+PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer,
+                     Dialogs& dialogs, QWidget* parent)
     : QDialog(parent),
       Text1(new QPlainTextEdit),
       TotalDoubt(Named("TotalDoubt", new QLabel)),
@@ -60,17 +61,15 @@ PrintForm::PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer
   runner_.OnEnd = [this](const std::string&) {
     if (closing_) QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
   };
-  connect(UseTotalx, &QPushButton::clicked, this, [this] {
+  OnClick(runner_, UseTotalx, this, [this] {
     runner_.Run("Use total", [this] {
-      const SheetDoubts doubts = DoubtsOf(grid_, Total());
-      if (doubts.TheLines) boxes_.SetSum(Decimal(*doubts.TheLines));
+      linesTotal_ = DoubtsOf(grid_, Total()).TheLines;
       Preview();
     });
   });
-  connect(PrintGridx, &QPushButton::clicked, this, [this] { Print(PuzzleSheet, "grid printed"); });
-  connect(PrintSolx, &QPushButton::clicked, this,
-          [this] { Print(SolutionSheet, "solution printed"); });
-  connect(Closex, &QPushButton::clicked, this, &QDialog::close);
+  OnClick(runner_, PrintGridx, this, [this] { Print(PuzzleSheet, "grid printed"); });
+  OnClick(runner_, PrintSolx, this, [this] { Print(SolutionSheet, "solution printed"); });
+  OnClick(runner_, Closex, this, [this] { close(); });
 }
 
 void PrintForm::showEvent(QShowEvent* event) {
@@ -80,6 +79,7 @@ void PrintForm::showEvent(QShowEvent* event) {
 
 /// The sheet as it will be, and what may be wrong with it.
 void PrintForm::Preview() {
+  if (linesTotal_ && !DoubtsOf(grid_, *linesTotal_).Total.empty()) linesTotal_.reset();
   const double total = Total();
   Text1->setPlainText(QString::fromStdString(PreviewSheet(grid_, total)));
   const SheetDoubts doubts = DoubtsOf(grid_, total);
@@ -112,7 +112,7 @@ void PrintForm::done(int result) {
 }
 
 double PrintForm::Total() const {
-  return Val(boxes_.Sum());
+  return linesTotal_.value_or(Val(boxes_.Sum()));
 }
 
 }  // namespace numorra

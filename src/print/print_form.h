@@ -19,7 +19,9 @@ class PrintForm : public QDialog {
   Q_OBJECT
 
  public:
-  PrintForm(const Grid& grid, SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
+  /// The caption's total is what the sum box says, or what the lines add up to once the player has
+  /// chosen that; the box itself stays as it is.
+  PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
             QWidget* parent);
 
   QPlainTextEdit* const Text1;
@@ -43,10 +45,11 @@ class PrintForm : public QDialog {
   void Preview();
 
   const Grid& grid_;
-  SquareBoxes& boxes_;
+  const SquareBoxes& boxes_;
   SheetPrinter& printer_;
   Dialogs& dialogs_;
   CommandRunner runner_;
+  std::optional<double> linesTotal_;  ///< in the place of the sum box's
   bool closing_ = false;
 };
 

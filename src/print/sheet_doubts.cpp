@@ -12,7 +12,7 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
   CellTable cells;
   bool wide = false, gaps = false;
   ForEachCell(order, [&](int r, int c) {
-    gaps = gaps || grid.Text(r, c).empty();
+    gaps = gaps || grid.At(r, c).IsGap();
     cells(r, c) = Val(grid.Text(r, c));
     wide = wide || grid.Text(r, c).size() > kSheetPlaces;
   });

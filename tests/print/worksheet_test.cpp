@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QImage>
 #include <QPdfWriter>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 #include "print/page_printer.h"
 #include "puzzle/fresh_square.h"
@@ -191,6 +195,28 @@ TEST_F(WorksheetTest, HasRoomForEverything) {
       }
     }
   }
+}
+
+/// Many pages are counted while they are laid out, and Stop closes the preview at once.
+TEST(Previews, CanBeStopped) {
+  constexpr int kPages = 400;
+  int painted = 0;
+  const PaintedPages pages{"p", kPages, {}, [&](QPainter&, QSizeF, int) {
+                             ++painted;
+                             QTest::qSleep(5);
+                           }};
+  QTimer watch;
+  QString told;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) return;
+    told = box->labelText();
+    box->cancel();
+  });
+  watch.start(0);
+  PreviewedPages().Preview(nullptr, pages);
+  EXPECT_TRUE(told.endsWith(" of 400")) << told.toStdString();
+  EXPECT_TRUE(painted > 0 && painted < kPages) << painted;
 }
 
 TEST_F(WorksheetTest, LeavesTheTotalToBeFound) {
