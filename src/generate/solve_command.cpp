@@ -120,8 +120,9 @@ SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
   if (build.LeftFlat) ports_.TheDialogs.Tell("cannot create matrix");
   passCount_ = build.PassCount;
   const bool built = build.Status == SolveStatus::Built;
-  if (built || showFailed) Show(build);
-  if (built && lastPlan_->BaseValue < kLowestGoodBase) {
+  const bool shown = built || showFailed;
+  if (shown) Show(build);
+  if (shown && lastPlan_->BaseValue < kLowestGoodBase) {
     ports_.TheDialogs.Tell("result may not look good\ntotal sum for this grid is too small");
   }
   if (size3 && lastPlan_->Sum != build.Total) {
