@@ -124,6 +124,9 @@ std::optional<double> CellIn(const std::string& field, std::size_t line) {
 /// The square in a text of which the first line has the number `firstLine`.
 StoredSquare Read(const std::string& text, std::size_t firstLine) {
   if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
+  if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
+    throw Unreadable{"this text is in UTF-16: save it as UTF-8"};
+  }
   const std::vector<Line> lines = Lines(Plain(text), firstLine);
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {

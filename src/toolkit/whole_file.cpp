@@ -1,5 +1,8 @@
 #include "toolkit/whole_file.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -11,6 +14,13 @@ namespace {
 
 [[noreturn]] void Fail(const QString& what) {
   throw RuntimeError(Fault::FileError, what.toStdString());
+}
+
+/// Whether links lead from there to each other and to no file.
+bool IsLinkInACircle(const QString& name) {
+  std::error_code error;
+  (void)std::filesystem::status(name.toStdString(), error);
+  return error == std::errc::too_many_symbolic_link_levels;
 }
 
 }  // namespace
@@ -31,6 +41,10 @@ QByteArray ReadWholeFile(const QString& name, qint64 mostBytes) {
 
 /// All bytes at once, as the toolkit forgets a write that failed when a later one does not.
 void WriteWholeFile(const QString& name, const QByteArray& bytes) {
+  if (IsLinkInACircle(name)) Fail(name + " is a link that leads to no file");
+  if (const QFileInfo info(name); info.exists() && !info.isFile()) {
+    Fail(name + " is no regular file");
+  }
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
       !file.commit()) {

@@ -36,6 +36,9 @@ std::string Decimal(double value);
 /// exact.
 inline constexpr int kMostCellDigits = 14;
 
+/// The most digits that the total of 50 such numbers has.
+inline constexpr int kMostTotalDigits = 16;
+
 /// How many digits the plain decimal `number` has, zeros in front and behind its point's last digit
 /// left out: 3 for "-012.50".
 int DigitsOf(std::string_view number);

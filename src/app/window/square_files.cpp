@@ -1,6 +1,7 @@
 #include "app/window/square_files.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QPdfWriter>
 
 #include "app/board/runtime_error.h"
@@ -64,8 +65,14 @@ std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
 }
 
 void SaveSquare(const QString& name, const StoredSquare& square) {
-  const std::string text = EndsIn(name, ".csv") ? CsvOf(square) : JsonOf(square);
-  WriteWholeFile(name, QByteArray::fromStdString(text));
+  const bool csv = EndsIn(name, ".csv");
+  const QString suffix = QFileInfo(name).suffix();
+  if (!csv && !suffix.isEmpty() && !EndsIn(name, ".json")) {
+    throw RuntimeError(
+        Fault::FileError,
+        name.toStdString() + " is neither a .json nor a .csv file: Export Picture writes pictures");
+  }
+  WriteWholeFile(name, QByteArray::fromStdString(csv ? CsvOf(square) : JsonOf(square)));
 }
 
 void ExportBoard(const QString& name, GridView& view) {

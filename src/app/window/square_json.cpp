@@ -49,9 +49,9 @@ std::vector<QJsonValue> CellsIn(const QJsonObject& object, const char* member, i
   return cells;
 }
 
-/// Whether more digits were written than a cell takes; of more than 15 a double keeps some.
-bool HasTooManyDigits(double number) {
-  return AsShown(number) != number || DigitsOf(Decimal(number)) > kMostCellDigits;
+/// Whether more digits were written than that; of more than 15 a double keeps some.
+bool HasMoreDigits(double number, int most) {
+  return AsShown(number) != number || DigitsOf(Decimal(number)) > most;
 }
 
 QString In(std::size_t cell, int order) {
@@ -76,7 +76,7 @@ StoredSquare Read(const QByteArray& bytes) {
   for (std::size_t cell = 0; cell < cells.size(); ++cell) {
     const QJsonValue& value = cells[cell];
     if (!value.isNull() && !value.isDouble()) Fail(In(cell, square.Order) + "this is no number");
-    if (value.isDouble() && HasTooManyDigits(value.toDouble())) {
+    if (value.isDouble() && HasMoreDigits(value.toDouble(), kMostCellDigits)) {
       Fail(In(cell, square.Order) +
            QString("the number has more than %1 digits").arg(kMostCellDigits));
     }
@@ -85,6 +85,9 @@ StoredSquare Read(const QByteArray& bytes) {
   if (object.contains("total")) {
     if (!object["total"].isDouble()) Fail("\"total\" is no number");
     square.Total = object["total"].toDouble();
+    if (HasMoreDigits(*square.Total, kMostTotalDigits)) {
+      Fail(QString("\"total\" has more than %1 digits").arg(kMostTotalDigits));
+    }
   }
   if (object.contains("rules")) {
     const std::string rules = object["rules"].toString().toStdString();
