@@ -65,12 +65,14 @@ void TurnBoard(Board& board, const Symmetry& symmetry) {
   board.ReadGrid();
   CellTable gaps, givens;
   ForEachCell(board.GridSize, [&](int r, int c) {
-    gaps(r, c) = board.grid.Text(r, c).empty() ? 1 : 0;
+    gaps(r, c) = board.grid.At(r, c).IsGap() ? 1 : 0;
     givens(r, c) = board.grid.Given(r, c) ? 1 : 0;
   });
   for (CellTable* cells : {&board.BoardValues, &gaps, &givens})
     symmetry.Turn(*cells, board.GridSize);
+  const bool told = board.WinTold;
   board.ShowBoard();
+  board.WinTold = told;
   ForEachCell(board.GridSize, [&](int r, int c) {
     if (gaps(r, c) != 0) board.grid.SetText(r, c, "");
     board.grid.SetGiven(r, c, givens(r, c) != 0);

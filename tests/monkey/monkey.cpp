@@ -3,6 +3,7 @@
 #include <map>
 #include <sstream>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputDialog>
@@ -29,7 +30,7 @@ const Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left, Qt::Key_Ri
                          Qt::Key_Space, Qt::Key_Return, Qt::Key_Menu, Qt::Key_Backspace,
                          Qt::Key_0,     Qt::Key_5,      Qt::Key_9,    Qt::Key_Escape};
 
-/// What the state line has to say, by the slow checker.
+/// What the state line has to say, by the slow checker and the totals that are seen.
 std::string StateByHand(const Board& board) {
   if (!board.Shown()) return "";
   const Grid& grid = board.grid;
@@ -39,7 +40,7 @@ std::string StateByHand(const Board& board) {
   int gaps = 0;
   ForEachCell(n, [&](int r, int c) {
     const std::string& text = grid.Text(r, c);
-    gaps += text.empty();
+    gaps += text.empty() || text == "-";
     const std::string number = Decimal(Val(text));
     ++numbers[number];
     lines[static_cast<std::size_t>(r - 1)].push_back(number);
@@ -49,23 +50,33 @@ std::string StateByHand(const Board& board) {
   });
   std::ostringstream state;
   state << n << " x " << n << ", sum " << Decimal(board.TargetTotal) << ": ";
-  const auto right = std::count_if(lines.begin(), lines.end(), [&](const auto& line) {
+  auto right = std::count_if(lines.begin(), lines.end(), [&](const auto& line) {
     return Decimal(Val(paper::Sum(line))) == Decimal(board.TargetTotal);
   });
+  bool equal = numbers.size() == 1 && numbers.begin()->first == Decimal(board.BaseValue);
+  if (board.TotalsJudged) {
+    right = 0;
+    for (int line = 0; line <= n + 1; ++line) {
+      right += grid.VerdictOf(0, line) == Verdict::Right;
+      right += line > 0 && line <= n && grid.VerdictOf(line, 0) == Verdict::Right;
+    }
+    equal = board.UntouchedBase;
+  }
   const auto repeated = std::count_if(numbers.begin(), numbers.end(),
                                       [](const auto& number) { return number.second > 1; });
   if (gaps > 0) {
     state << gaps << (gaps == 1 ? " cell to fill" : " cells to fill");
+  } else if (equal) {
+    state << "all cells are still equal";
   } else if (right < 2 * n + 2) {
     state << right << " of " << 2 * n + 2 << " lines right";
-  } else if (numbers.size() == 1 && numbers.begin()->first == Decimal(board.BaseValue)) {
-    state << "all cells are still equal";
   } else {
     state << "magic";
     if (repeated > 0) {
       state << ", " << repeated << (repeated == 1 ? " number" : " numbers") << " more than once";
     }
   }
+  if (board.TotalsChecked && !board.NewEntry) state << ", Enter checks";
   if (!board.TotalsChecked) state << ", F9 to play";
   return state.str();
 }
@@ -113,7 +124,9 @@ std::string Monkey::Step() {
                  {"board", &Monkey::PressBoard, 8},    {"key ", &Monkey::PressKey, 8},
                  {"text ", &Monkey::TypeText, 2},      {"copy", &Monkey::CopyText, 1},
                  {"bar", &Monkey::DragBar, 1},         {"entry", &Monkey::PickEntry, 1},
-                 {"resize", &Monkey::Resize, 1},       {"close", &Monkey::Close, 1}};
+                 {"resize", &Monkey::Resize, 1},       {"close", &Monkey::Close, 1},
+                 {"state", &Monkey::ChangeState, 1},   {"tool ", &Monkey::PressLikeATool, 5},
+                 {"digits", &Monkey::TypeDigits, 6}};
   if (!window_.isVisible()) window_.show();
   if (QWidget* popup = QApplication::activePopupWidget(); popup && Below(3) != 0) popup->close();
   int weights = 0;
@@ -205,6 +218,32 @@ void Monkey::PressKey() {
   }
 }
 
+/// Maximizes, fills the screen, or ends either, in any order.
+void Monkey::ChangeState() {
+  const Qt::WindowStates states[] = {Qt::WindowMaximized, Qt::WindowFullScreen, Qt::WindowNoState,
+                                     Qt::WindowMaximized | Qt::WindowFullScreen};
+  window_.setWindowState(Any(states));
+}
+
+/// An assistive tool presses whatever there is, hidden or disabled.
+void Monkey::PressLikeATool() {
+  const auto widgets = Front()->findChildren<QWidget*>();
+  if (widgets.isEmpty()) return;
+  QWidget* widget = Any(widgets);
+  LastDone += widget->objectName().toStdString();
+  QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
+  QAccessibleActionInterface* actions = seen ? seen->actionInterface() : nullptr;
+  const QStringList names = actions ? actions->actionNames() : QStringList();
+  if (!names.isEmpty()) actions->doAction(Any(names));
+}
+
+/// Types into the current cell and leaves it there.
+void Monkey::TypeDigits() {
+  const Qt::Key digits[] = {Qt::Key_1, Qt::Key_6, Qt::Key_8, Qt::Key_Backspace};
+  for (int typed = Below(3); typed >= 0; --typed)
+    QTest::keyClick(&window_.View(), Any(digits));
+}
+
 void Monkey::CopyText() {
   QGuiApplication::clipboard()->setText(Any(Texts()));
 }
@@ -280,7 +319,14 @@ std::string Monkey::WhyWrong() {
   if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return "a box is left open";
   if (board.Shown() && board.grid.Visible() == board.OverlayShown) return "nothing is in sight";
   const QString state = window_.findChild<QWidget*>("BoardState")->accessibleName();
-  if (state.toStdString() != StateByHand(board))
+  const auto* walk = window_.findChild<WalkView*>();
+  if (walk->isVisibleTo(&window_) !=
+      window_.findChild<QDockWidget*>("StepPanel")->isVisibleTo(&window_)) {
+    return "a walk without its panel, or a panel without its walk";
+  }
+  if (walk->isVisibleTo(&window_)) {
+    if (!state.contains(": step ")) return "of a walk the state line says " + state.toStdString();
+  } else if (state.toStdString() != StateByHand(board))
     return "the state line says " + state.toStdString();
   return WhyInvalid(board);
 }

@@ -56,6 +56,9 @@ class Monkey {
   void Build();
   void PressBoard();
   void PressKey();
+  void ChangeState();
+  void PressLikeATool();
+  void TypeDigits();
   void CopyText();
   void Resize() { window_.resize(1 + Below(1200), 1 + Below(900)); }
   void Close() { Front()->close(); }

@@ -22,18 +22,24 @@ inline std::string WhyInvalid(const Board& board) {
   }
   // A number that is being typed counts when its cell is left.
   const bool typing = board.TotalsChecked && !board.NewEntry;
-  const auto counted = [&](int r, int c) {
-    const bool here = typing && r == grid.CurrentRow() && c == grid.CurrentColumn();
-    return here ? Decimal(board.BoardValues(r, c)) : grid.Text(r, c);
+  const auto typedInto = [&](Place at) {
+    return typing && at == Place{grid.CurrentRow(), grid.CurrentColumn()};
   };
-  const bool judged = grid.VerdictOf(0, 0) != Verdict::Unjudged;
+  const bool judged = board.TotalsJudged;
+  const bool puzzle = board.HasGivens();
   if (judged && !board.TotalsChecked) return "a verdict before any check";
   const std::string target = Decimal(board.TargetTotal);
   std::string why;
-  const auto judge = [&](int row, int column, auto cellAt) {
+  const auto judge = [&](int row, int column, auto placeAt) {
     std::vector<std::string> line;
-    for (int i = 1; i <= n; ++i)
-      line.push_back(cellAt(i));
+    bool unfinished = false, counted = true;
+    for (int i = 1; i <= n; ++i) {
+      const Place at = placeAt(i);
+      const Grid::Cell& cell = grid.At(at.Row, at.Column);
+      if (typedInto(at)) counted = false;
+      line.push_back(typedInto(at) ? Decimal(board.BoardValues(at.Row, at.Column)) : cell.Text);
+      unfinished = unfinished || (puzzle && cell.IsGap());
+    }
     const std::string where = " at " + std::to_string(row) + ", " + std::to_string(column);
     const std::string sum = paper::Sum(line);
     const bool exact = DigitsOf(sum) <= 15 || sum.find('.') == std::string::npos;
@@ -42,19 +48,22 @@ inline std::string WhyInvalid(const Board& board) {
     const Verdict verdict = grid.VerdictOf(row, column);
     const bool untouched = board.UntouchedBase && (row != 0 || column != 0);
     const bool right = shown == target && !untouched;
-    if (judged && verdict != (right ? Verdict::Right : Verdict::Wrong)) why += "not judged" + where;
-    if (!judged && verdict != Verdict::Unjudged) why += "judged" + where;
-    const Colour colour =
-        !judged ? kWindowBackground : ColorTable[right ? kRightTotal : kWrongTotal];
+    const Verdict due = !judged || unfinished ? Verdict::Unjudged
+                        : right               ? Verdict::Right
+                                              : Verdict::Wrong;
+    if (puzzle && !counted) return;  // whether a line is finished is seen when its cell is left
+    if (verdict != due) why += "wrongly judged" + where;
+    const Colour colour = due == Verdict::Unjudged ? kWindowBackground
+                                                   : ColorTable[right ? kRightTotal : kWrongTotal];
     if (grid.Background(row, column) != colour) why += "a wrong colour" + where;
   };
   for (int i = 1; i <= n; ++i) {
-    judge(i, 0, [&](int c) { return counted(i, c); });
-    judge(0, i, [&](int r) { return counted(r, i); });
+    judge(i, 0, [&](int c) { return Place{i, c}; });
+    judge(0, i, [&](int r) { return Place{r, i}; });
   }
-  judge(0, 0, [&](int k) { return counted(k, k); });
-  judge(0, n + 1, [&](int k) { return counted(k, n + 1 - k); });
-  judge(n + 1, 0, [&](int k) { return counted(k, n + 1 - k); });
+  judge(0, 0, [&](int k) { return Place{k, k}; });
+  judge(0, n + 1, [&](int k) { return Place{k, n + 1 - k}; });
+  judge(n + 1, 0, [&](int k) { return Place{k, n + 1 - k}; });
   return why;
 }
 

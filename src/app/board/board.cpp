@@ -20,7 +20,7 @@ bool AnyCell(const Board& board, Is is) {
 }  // namespace
 
 bool Board::HasGaps() const {
-  return AnyCell(*this, [](const Grid::Cell& cell) { return cell.Text.empty(); });
+  return AnyCell(*this, [](const Grid::Cell& cell) { return cell.IsGap(); });
 }
 
 bool Board::HasGivens() const {
@@ -32,15 +32,15 @@ bool Board::HasTotal() const {
 }
 
 void Board::SetOverlayShown(bool shown) {
-  if (shown == OverlayShown) return;
+  if (shown != OverlayShown) grid.SetVisible(!shown);
   OverlayShown = shown;
-  grid.SetVisible(!shown);
-  if (OnOverlay) OnOverlay();
+  if (OnShown) OnShown();
 }
 
 void Board::SetupBoard() {
   MarkedRow = -1;
   MarkedCol = -1;
+  TotalsJudged = false;
   const ScopedFlag busy(BoardBusy);
   const int last = GridSize + 1;
   grid.Reshape(GridSize + 2, GridSize + 2);  // which leaves every cell in the window's background
@@ -63,6 +63,7 @@ void Board::ComputeTotals() {
 }
 
 void Board::ShowBoard() {
+  WinTold = false;
   ForEachCell(GridSize, [this](int row, int column) {
     grid.SetText(row, column, Decimal(BoardValues(row, column)));
   });

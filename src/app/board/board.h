@@ -40,6 +40,8 @@ struct Board {
   bool CheckRunning = false;   ///< while a totals check runs
   bool UntouchedBase = false;  ///< the last check found every cell at BaseValue
   bool NewEntry = false;       ///< the next digit typed replaces the current cell's text
+  bool TotalsJudged = false;   ///< a check has judged the totals of the board in the grid
+  bool WinTold = false;        ///< the player has been congratulated on the board as it stands
 
   std::int16_t MarkedRow = -1;  ///< the cell, row or column remembered for a swap; -1 = none
   std::int16_t MarkedCol = -1;
@@ -47,15 +49,18 @@ struct Board {
   /// Whether a drawing covers the board. The grid is invisible while one does.
   bool OverlayShown = false;
 
-  /// Raised when a drawing has come or gone.
-  std::function<void()> OnOverlay;
+  /// Raised whenever a command shows the board, or a drawing of it, seen before or not.
+  std::function<void()> OnShown;
 
   /// Whether a board of GridSize stands in the grid.
   bool Shown() const { return GridSize > 0 && grid.Rows() == GridSize + 2; }
 
-  /// Whether any cell is empty, or given.
+  /// Whether any cell is a gap, or given.
   bool HasGaps() const;
   bool HasGivens() const;
+
+  /// Whether the player has typed into the current cell and not yet left it.
+  bool Typing() const { return Shown() && TotalsChecked && !NewEntry; }
 
   /// Whether the main diagonal's total is other than 0: what can be shaded and drawn.
   bool HasTotal() const;

@@ -14,6 +14,7 @@ void UnjudgeTotals(Board& board) {
     board.grid.Judge(line, 0, Verdict::Unjudged);
     board.grid.Judge(0, line, Verdict::Unjudged);
   }
+  board.TotalsJudged = board.UntouchedBase = false;
 }
 
 }  // namespace
@@ -27,8 +28,10 @@ Position PositionOf(const Board& board) {
   position.Base = board.BaseValue;
   position.Texts.reserve(static_cast<std::size_t>(board.GridSize) *
                          static_cast<std::size_t>(board.GridSize));
-  ForEachCell(board.GridSize,
-              [&](int row, int column) { position.Texts.push_back(grid.Text(row, column)); });
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    const Grid::Cell& cell = grid.At(row, column);
+    position.Texts.push_back(cell.IsGap() ? std::string() : cell.Text);
+  });
   position.Asked = board.Asked;
   if (board.HasGivens()) {
     position.Givens.reserve(position.Texts.size());
@@ -36,7 +39,9 @@ Position PositionOf(const Board& board) {
                 [&](int row, int column) { position.Givens.push_back(grid.Given(row, column)); });
   }
   position.Checked = board.TotalsChecked;
-  position.Judged = grid.VerdictOf(0, 0) != Verdict::Unjudged;
+  position.Judged = board.TotalsJudged;
+  position.Typing = board.Typing();
+  position.WinTold = board.WinTold;
   position.Row = grid.CurrentRow();
   position.Column = grid.CurrentColumn();
   return position;
@@ -49,7 +54,7 @@ void Restore(Board& board, const Position& position) {
     board.SetOverlayShown(false);
     grid.Reshape(0, 0);
     grid.SetVisible(false);
-    board.TotalsChecked = board.UntouchedBase = false;
+    board.TotalsChecked = board.TotalsJudged = board.UntouchedBase = false;
     return;
   }
   board.NewEntry = true;  // what was typed is gone, not to be checked
@@ -71,12 +76,13 @@ void Restore(Board& board, const Position& position) {
     Recount(board);
   } else {
     UnjudgeTotals(board);
-    board.UntouchedBase = false;
   }
   board.TotalsChecked = position.Checked;
   if (!board.HasTotal()) board.SetOverlayShown(false);
   grid.SetVisible(!board.OverlayShown);
   board.ReturnTo(position.Row, position.Column);
+  board.NewEntry = !position.Typing;
+  board.WinTold = position.WinTold;
 }
 
 bool IsChange(const Position& before, const Position& after) {

@@ -20,6 +20,8 @@ struct Position {
   std::vector<bool> Givens = {};  ///< by cell; empty when there are none
   bool Checked = false;           ///< a check has been made, so that keys reach the board
   bool Judged = false;            ///< the totals are coloured
+  bool Typing = false;            ///< the current cell was typed into and not yet left
+  bool WinTold = false;           ///< the player has been congratulated on it
   int Row = 0;                    ///< the current cell
   int Column = 0;
 
@@ -29,9 +31,8 @@ struct Position {
 /// The board as it stands.
 Position PositionOf(const Board& board);
 
-/// Shows the board as it stood, recounted without a word where its totals were judged; the current
-/// cell counts as freshly entered. Shades stay while the order does; a drawing stays where the
-/// board has a total to draw.
+/// Shows the board as it stood, recounted without a word where its totals were judged. Shades stay
+/// while the order does; a drawing stays where the board has a total to draw.
 void Restore(Board& board, const Position& position);
 
 /// Whether a player would call the second a change of the first: another order, target, text or

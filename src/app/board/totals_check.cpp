@@ -4,6 +4,28 @@
 #include "app/board/scoped_flag.h"
 
 namespace numorra {
+namespace {
+
+/// Takes over what the grid shows; whoever was congratulated was so on other numbers.
+void ReadChanges(Board& board) {
+  const CellTable before = board.BoardValues;
+  board.ReadGrid();
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    if (board.BoardValues(row, column) != before(row, column)) board.WinTold = false;
+  });
+}
+
+/// How many gaps each line has, where its total stands.
+CellTable GapsOf(const Board& board) {
+  CellTable gaps;
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    gaps(row, column) = board.grid.At(row, column).IsGap() ? 1 : 0;
+  });
+  ComputeTotals(gaps, board.GridSize);
+  return gaps;
+}
+
+}  // namespace
 
 Finding Recount(Board& board) {
   Grid& grid = board.grid;
@@ -13,20 +35,27 @@ Finding Recount(Board& board) {
   const ScopedFlag running(board.CheckRunning);
   const RedrawLock lock(grid);
 
-  board.ReadGrid();
+  ReadChanges(board);
   bool changed = false;
   ForEachCell(board.GridSize, [&](int row, int column) {
     if (board.BoardValues(row, column) != board.BaseValue) changed = true;
   });
   board.ComputeTotals();
+  const CellTable gaps = board.HasGivens() ? GapsOf(board) : CellTable();
 
   bool offTarget = false;
+  bool unfinished = false;
   const auto judge = [&](int row, int column) {
     const double total = board.BoardValues(row, column);
     const bool right = total == target;
-    if (!right) offTarget = true;
     grid.SetText(row, column, Decimal(total));
-    grid.Judge(row, column, right ? Verdict::Right : Verdict::Wrong);
+    if (gaps(row, column) > 0) {
+      unfinished = true;
+      grid.Judge(row, column, Verdict::Unjudged);
+    } else {
+      if (!right) offTarget = true;
+      grid.Judge(row, column, right ? Verdict::Right : Verdict::Wrong);
+    }
   };
   for (int line = 1; line <= board.GridSize; ++line) {
     judge(line, 0);
@@ -37,27 +66,38 @@ Finding Recount(Board& board) {
   judge(0, 0);
   grid.SetCurrent(0, 0);
 
-  board.TotalsChecked = true;
+  board.TotalsChecked = board.TotalsJudged = true;
   board.UntouchedBase = !changed;
-  if (!changed) {
-    board.MarkAllTotalsWrong();
-    return Finding::UntouchedBase;
-  }
-  return offTarget ? Finding::Wrong : Finding::Right;
+  if (!changed) board.MarkAllTotalsWrong();
+  if (changed && !unfinished && !offTarget) return Finding::Right;
+  board.WinTold = false;
+  if (!changed) return Finding::UntouchedBase;
+  return unfinished ? Finding::Unfinished : Finding::Wrong;
 }
 
 Finding CheckTotals(Board& board, Dialogs& dialogs) {
+  ForEachCell(board.GridSize, [&](int row, int column) {
+    if (board.grid.At(row, column).IsGap()) board.grid.SetText(row, column, "");
+  });
   const Finding finding = Recount(board);
-  if (finding == Finding::Right) dialogs.Tell("WELL DONE, YOU GOT IT");
+  if (finding == Finding::Right && !board.WinTold) {
+    board.WinTold = true;
+    dialogs.Tell("WELL DONE, YOU GOT IT");
+  }
   return finding;
 }
 
-void RefreshTotals(Board& board) {
-  if (!board.TotalsChecked) return;
+void RecountInPlace(Board& board) {
   const int row = board.grid.CurrentRow();
   const int column = board.grid.CurrentColumn();
+  const bool typing = board.Typing();
   Recount(board);
   board.ReturnTo(row, column);
+  if (typing) board.NewEntry = false;
+}
+
+void RefreshTotals(Board& board) {
+  if (board.TotalsChecked) RecountInPlace(board);
 }
 
 }  // namespace numorra

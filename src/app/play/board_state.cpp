@@ -11,22 +11,23 @@ namespace {
 struct Tally {
   int Gaps = 0;
   int RightLines = 0;
-  int Repeated = 0;  ///< numbers that stand more than once
-  bool AllBase = true;
+  int Repeated = 0;        ///< numbers that stand more than once
+  bool Untouched = false;  ///< every cell holds the base value
 };
 
 Tally Count(const Board& board) {
   const int n = board.GridSize;
-  Tally tally;
+  Tally tally{.Untouched = true};
   CellTable cells;
   std::vector<double> numbers;
   ForEachCell(n, [&](int r, int c) {
-    const std::string& text = board.grid.Text(r, c);
-    if (text.empty()) ++tally.Gaps;
-    cells(r, c) = Val(text);
-    if (cells(r, c) != board.BaseValue) tally.AllBase = false;
+    const Grid::Cell& cell = board.grid.At(r, c);
+    if (cell.IsGap()) ++tally.Gaps;
+    cells(r, c) = Val(cell.Text);
+    if (cells(r, c) != board.BaseValue) tally.Untouched = false;
     numbers.push_back(cells(r, c));
   });
+  if (board.TotalsJudged) tally.Untouched = board.UntouchedBase;
   std::sort(numbers.begin(), numbers.end());
   for (auto number = numbers.begin(); number != numbers.end();) {
     const auto next = std::upper_bound(number, numbers.end(), *number);
@@ -34,13 +35,17 @@ Tally Count(const Board& board) {
     number = next;
   }
   ComputeTotals(cells, n);
-  const auto judge = [&](double total) { tally.RightLines += total == board.TargetTotal ? 1 : 0; };
+  const auto judge = [&](int row, int column) {
+    const bool right = board.TotalsJudged ? board.grid.VerdictOf(row, column) == Verdict::Right
+                                          : cells(row, column) == board.TargetTotal;
+    tally.RightLines += right ? 1 : 0;
+  };
   for (int line = 1; line <= n; ++line) {
-    judge(cells(line, 0));
-    judge(cells(0, line));
+    judge(line, 0);
+    judge(0, line);
   }
-  judge(cells(0, 0));
-  judge(cells(0, n + 1));
+  judge(0, 0);
+  judge(0, n + 1);
   return tally;
 }
 
@@ -50,22 +55,26 @@ std::string Counted(int count, const char* one, const char* more) {
 
 std::string Progress(const Tally& tally, int lines) {
   if (tally.Gaps > 0) return Counted(tally.Gaps, "cell to fill", "cells to fill");
+  if (tally.Untouched) return "all cells are still equal";
   if (tally.RightLines < lines) {
     return std::to_string(tally.RightLines) + " of " + std::to_string(lines) + " lines right";
   }
-  if (tally.AllBase) return "all cells are still equal";
   if (tally.Repeated == 0) return "magic";
   return "magic, " + Counted(tally.Repeated, "number", "numbers") + " more than once";
 }
 
 }  // namespace
 
+std::string StateHead(int order, double target) {
+  const std::string size = std::to_string(order);
+  return size + " x " + size + ", sum " + Decimal(target) + ": ";
+}
+
 std::string StateOf(const Board& board) {
   if (!board.Shown()) return {};
-  const std::string order = std::to_string(board.GridSize);
   const int lines = 2 * board.GridSize + 2;
-  std::string state = order + " x " + order + ", sum " + Decimal(board.TargetTotal) + ": " +
-                      Progress(Count(board), lines);
+  std::string state = StateHead(board.GridSize, board.TargetTotal) + Progress(Count(board), lines);
+  if (board.Typing()) state += ", Enter checks";
   if (!board.TotalsChecked) state += ", F9 to play";
   return state;
 }

@@ -12,9 +12,8 @@ namespace numorra {
 /// board.
 std::string BoardText(const Board& board);
 
-/// Shows a text as ReadSquareOrCode takes it as a board of the Variable mode, to be checked and
-/// played, as LayOut does. False, with a message that says what
-/// is wrong and nothing changed, for any other text.
+/// Shows a text as ReadSquareOrCode takes it as a board, to be checked and played, as LayOut does.
+/// False, with a message that says what is wrong and nothing changed, for any other text.
 bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text);
 
 }  // namespace numorra

@@ -46,8 +46,7 @@ void EditCommands::Run(const EditCommand& command) {
   refused_ = false;
   command.Act(*this);
   if (refused_ || command.Code == 0) return;
-  history_.Record(command.Code,
-                  command.Caption + (command.SaysBase ? Str(board_.BaseValue) : std::string()));
+  history_.Record(command.Code, WordsFor(command, board_.BaseValue));
 }
 
 void EditCommands::Redo() {

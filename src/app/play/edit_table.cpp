@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/board/numbers.h"
 #include "app/play/edit_commands.h"
 #include "transform/symmetry.h"
 
@@ -55,6 +56,10 @@ const EditCommand* FindFirst(Suits suits) {
 const std::vector<EditCommand>& EditTable() {
   static const std::vector<EditCommand> table = MakeTable();
   return table;
+}
+
+std::string WordsFor(const EditCommand& command, double baseValue) {
+  return command.Caption + (command.SaysBase ? Str(baseValue) : std::string());
 }
 
 const EditCommand* FindEdit(const std::string& name) {

@@ -25,6 +25,9 @@ struct EditCommand {
 /// and deeds together. Symmetries are taken from their own table.
 const std::vector<EditCommand>& EditTable();
 
+/// What the command does, in words: its caption, with the base value where it writes that.
+std::string WordsFor(const EditCommand& command, double baseValue);
+
 /// The commands by name, and by the code under which one was recorded; null where there is none.
 const EditCommand* FindEdit(const std::string& name);
 const EditCommand* FindEdit(double code);

@@ -19,7 +19,7 @@ void Show(Board& board, const Puzzle& solved) {
   board.ReadGrid();
   std::size_t cell = 0;
   ForEachCell(board.GridSize, [&](int r, int c) {
-    if (board.grid.Text(r, c).empty()) {
+    if (board.grid.At(r, c).IsGap()) {
       board.BoardValues(r, c) = static_cast<double>(solved.Cells[cell]);
     }
     ++cell;

@@ -174,7 +174,8 @@ Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
     const bool several = std::holds_alternative<SeveralSolutions>(result);
     const auto count = several ? CountSolutions(puzzle, kMostCounted, kLimit, stage) : std::nullopt;
     ForEachCell(board.GridSize,
-                [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.Text(r, c).empty()); });
+                [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
+    RefreshTotals(board);  // lines with gaps are unfinished from now on
     if (std::holds_alternative<OneSolution>(result)) {
       return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
     }

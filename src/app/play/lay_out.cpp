@@ -35,7 +35,11 @@ void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square) {
                     .Column = 1};
   for (const auto& cell : square.Cells)
     position.Texts.push_back(cell ? Decimal(*cell) : "");
-  board.SolveMode = ModeVariable;
+  const bool puzzle = !square.Givens.empty() || std::find(square.Cells.begin(), square.Cells.end(),
+                                                          std::nullopt) != square.Cells.end();
+  const bool normal =
+      aim.Asked == Rules::Normal && aim.Target == static_cast<double>(NormalTotal(square.Order));
+  if (!puzzle || !normal) board.SolveMode = ModeVariable;
   boxes.SetSize(Decimal(square.Order));
   boxes.SetSum(Decimal(aim.Target));
   Restore(board, Position());  // a new board: no shade, mark or drawing of the old one stays

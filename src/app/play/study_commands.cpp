@@ -19,7 +19,7 @@ std::optional<std::vector<double>> FullBoard(const Board& board, Dialogs& dialog
   std::optional<Place> gap;
   ForEachCell(board.GridSize, [&](int r, int c) {
     const std::string& text = board.grid.Text(r, c);
-    if (text.empty() && !gap) gap = Place{r, c};
+    if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
     numbers.push_back(Val(text));
   });
   if (!gap) return numbers;
@@ -84,7 +84,7 @@ void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs) {
   target.Subtract(board.TargetTotal);
   if (target.Total() != board.TargetTotal) {
     board.TargetTotal = target.Total();
-    boxes.SetSum(Decimal(board.TargetTotal));
+    if (board.SolveMode == ModeVariable) boxes.SetSum(Decimal(board.TargetTotal));
   }
   Replace(board, complement);
 }

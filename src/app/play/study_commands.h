@@ -21,7 +21,7 @@ std::optional<NumberSquare> SquareOn(const Board& board);
 void VaryBoard(Board& board, Dialogs& dialogs, Random& random);
 
 /// largest + smallest - number in each cell. The target goes along, so that lines that were right
-/// stay right, and where it is another the sum box does, too.
+/// stay right; in the Variable mode the sum box does, too.
 void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs);
 
 /// That of its eight images which is smallest in reading order.

@@ -4,6 +4,7 @@
 
 #include "app/board/board.h"
 #include "app/board/numbers.h"
+#include "app/play/board_state.h"
 
 namespace numorra {
 namespace {
@@ -32,6 +33,7 @@ const WalkStep* Walk::Find(int step) const {
 }
 
 void Walk::GoTo(int step) {
+  if (order_ == 0) return;
   const RedrawLock lock(grid_);
   if (step < at_) {
     const int row = grid_.CurrentRow();
@@ -74,6 +76,11 @@ void Walk::ShowTotals() {
   show({0, 0}, [&](int i) -> const std::string& { return text(i, i); });
   for (const Place total : {Place{0, n + 1}, Place{n + 1, 0}})
     show(total, [&](int i) -> const std::string& { return text(i, n + 1 - i); });
+}
+
+std::string StateOf(const Walk& walk) {
+  return StateHead(walk.Order(), static_cast<double>(NormalTotal(walk.Order()))) + "step " +
+         std::to_string(walk.At()) + " of " + std::to_string(walk.Steps());
 }
 
 }  // namespace numorra

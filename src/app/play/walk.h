@@ -17,10 +17,11 @@ class Walk {
   /// Begins before the first step, at 0.
   void Begin(int order, std::vector<WalkStep> steps);
 
+  int Order() const { return order_; }
   int Steps() const { return static_cast<int>(steps_.size()); }
   int At() const { return at_; }
 
-  /// Shows the board after so many steps, 0 to Steps().
+  /// Shows the board after so many steps, 0 to Steps(); nothing before a walk has begun.
   void GoTo(int step);
 
   /// The step that was done last, and the one that comes next; null where there is none.
@@ -36,5 +37,8 @@ class Walk {
   std::vector<WalkStep> steps_;
   int at_ = 0;
 };
+
+/// Where the walk is, for the line that tells the board's state: "5 x 5, sum 65: step 3 of 25".
+std::string StateOf(const Walk& walk);
 
 }  // namespace numorra

@@ -6,28 +6,21 @@
 
 namespace numorra {
 
-/// A line of text with a button, over the board's lower edge, or its upper one where that would
-/// cover what it speaks of. It moves nothing when it comes and goes, Esc presses its button, and
+/// A line of text with a button, in a place of its own below the board. Esc presses its button, and
 /// screen readers read it.
 class BoardBar : public QFrame {
   Q_OBJECT
 
  public:
-  /// `over`: what it lies on. `button`: the button's object name and text.
-  BoardBar(QWidget* over, const char* name, const char* buttonName, const char* buttonText);
+  /// `button`: the button's object name and text.
+  BoardBar(const char* name, const char* buttonName, const char* buttonText);
 
-  void ShowText(const QString& text, bool atTop = false);
+  void ShowText(const QString& text);
 
   QPushButton* const Button;
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
-  void Place();
-
   QLabel* text_;
-  bool atTop_ = false;
 };
 
 }  // namespace numorra

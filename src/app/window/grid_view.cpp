@@ -85,6 +85,16 @@ void GridView::SetZoom(double zoom, QPoint fixed) {
   viewport()->update();
 }
 
+void GridView::SetZoom(double zoom) {
+  const int row = grid_.CurrentRow();
+  const int column = grid_.CurrentColumn();
+  const QRect cell = CellRect(row, column);
+  const bool inSight =
+      grid_.Visible() && CurrentInBlock() && viewport()->rect().contains(cell.center());
+  SetZoom(zoom, inSight ? cell.center() : viewport()->rect().center());
+  if (inSight) BringIntoView(row, column);
+}
+
 void GridView::SetFitting(bool fitting) {
   fitting_ = fitting;
   shape_.reset();
@@ -310,13 +320,18 @@ void GridView::UpdateScrollBars() {
   if (shape_ == shape) return;
   shape_ = shape;
   if (fitting_) Fit();
-  const auto set = [this](QScrollBar* bar, int lines, int length) {
-    bar->setRange(0, std::max(0, painter_.Edge(lines) - length));
-    bar->setPageStep(std::max(1, length - painter_.Edge(Grid::kFixedLines)));
+  const QSize table(painter_.Edge(shape.width()), painter_.Edge(shape.height()));
+  const QSize whole = maximumViewportSize();
+  // What fits needs no bars, even where each of them is only in the other's way.
+  const bool fits = table.boundedTo(whole) == table;
+  const QSize room = fits ? whole : viewport()->size();
+  const auto set = [this](QScrollBar* bar, int length, int seen) {
+    bar->setRange(0, std::max(0, length - seen));
+    bar->setPageStep(std::max(1, seen - painter_.Edge(Grid::kFixedLines)));
     bar->setSingleStep(painter_.Edge(1));
   };
-  set(horizontalScrollBar(), shape.width(), viewport()->width());
-  set(verticalScrollBar(), shape.height(), viewport()->height());
+  set(horizontalScrollBar(), table.width(), room.width());
+  set(verticalScrollBar(), table.height(), room.height());
 }
 
 bool GridView::CurrentInBlock() const {
@@ -327,7 +342,8 @@ bool GridView::CurrentInBlock() const {
 }
 
 /// Leads the eye along the current row and column to their totals: plain cells are tinted, totals
-/// get a frame in the colour of their text. Shaded cells show their shade and nothing else.
+/// that are there get a frame in the colour of their text. Shaded cells show their shade and
+/// nothing else.
 void GridView::PaintGuides(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
@@ -347,6 +363,7 @@ void GridView::PaintGuides(QPainter& painter) {
     if (line != row) tintCell(line, column);
   }
   const auto frameTotal = [&](int r, int c) {
+    if (grid_.Text(r, c).empty()) return;
     const int width = std::max(1, painter_.Edge(1) / 24);
     const QRect frame = CellRect(r, c).adjusted(1, 1, -2, -2);
     const QColor colour = GridPainter::TextColour(Look(), grid_.At(r, c));

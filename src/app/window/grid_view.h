@@ -32,6 +32,10 @@ class GridView : public QAbstractScrollArea {
   /// How much larger than at 100 % cells are drawn; what is drawn at `fixed` stays there. Leaves
   /// the fitting.
   void SetZoom(double zoom, QPoint fixed);
+
+  /// The same about the current cell where that is in sight, which then stays so, or else about the
+  /// middle of the view.
+  void SetZoom(double zoom);
   double Zoom() const { return painter_.Zoom(); }
 
   /// Draws the whole board as large as the view lets it be, whatever size the view takes on.

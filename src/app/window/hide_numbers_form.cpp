@@ -10,6 +10,7 @@
 #include "puzzle/code.h"
 #include "puzzle/rules.h"
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 
@@ -69,17 +70,17 @@ HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& wh
   column->addLayout(row);
   wish_->SetOrder(square_ ? square_->Order : fresh_.Order);
 
-  connect(wish_, &PuzzleWishBox::Changed, this, &HideNumbersForm::Make);
-  connect(another, &QPushButton::clicked, this, &HideNumbersForm::Make);
-  connect(fromBoard_, &QRadioButton::toggled, this, [this](bool board) {
+  OnSignal(runner_, wish_, &PuzzleWishBox::Changed, this, [this] { Make(); });
+  OnClick(runner_, another, this, [this] { Make(); });
+  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, [this](bool board) {
     wish_->SetOrder(board ? square_->Order : fresh_.Order);
     Make();
   });
-  connect(copy_, &QPushButton::clicked, this, [this] {
+  OnClick(runner_, copy_, this, [this] {
     QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(made_->Clues)));
   });
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+  OnClick(runner_, buttons->button(QDialogButtonBox::Cancel), this, [this] { reject(); });
+  OnClick(runner_, take_, this, [this] {
     Q_EMIT Taken(*made_);
     accept();
   });

@@ -7,15 +7,13 @@
 #include "help/about_window.h"
 #include "help/help_window.h"
 #include "toolkit/menus.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 
 /// Esc takes away what has come last: a search, a remark, the full screen.
 void MainWindow::Escape() {
-  for (const BoardBar* bar : {searchBar_, remarkBar_}) {
-    if (bar->isVisible()) return bar->Button->click();
-  }
-  if (size_->FullScreen()) size_->ToggleFullScreen();
+  if (!place_->DismissBar() && size_->FullScreen()) size_->ToggleFullScreen();
 }
 
 /// The menu bar. What changes the board is a command; what only shows, writes or opens something
@@ -35,7 +33,7 @@ void MainWindow::BuildMenus() {
             beside([this] { Save(); })},
            {"ExportPicturex", "&Export Picture...", none, beside([this] { Export(); })},
            {},
-           {"PrintSol", "&Print Solution...", QKeySequence::keyBindings(QKeySequence::Print),
+           {"PrintSol", "&Print Solution", QKeySequence::keyBindings(QKeySequence::Print),
             beside([this] { OpenPrintForm(); })},
            {"PrintWorksheetx",
             "Print &Worksheet...",
@@ -72,8 +70,7 @@ void MainWindow::BuildMenus() {
            {},
            {"CheckTotalsx", "Check &Totals", {Qt::Key_F9}, [this] { CheckTheTotals(); }}});
   const auto zoom = [&](int direction) {
-    return beside(
-        [this, direction] { size_->Zoom(direction, view_->viewport()->rect().center()); });
+    return beside([this, direction] { size_->Zoom(direction); });
   };
   AddMenu(menuBar(), "&View",
           {{"ZoomInx", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)},
@@ -91,7 +88,7 @@ void MainWindow::BuildMenus() {
             })},
            {},
            {"DrawingNumbersx", "Numbers in &Drawings", none, beside([this] {
-              drawing_->SetNumbers(findChild<QAction*>("DrawingNumbersx")->isChecked());
+              place_->Picture->SetNumbers(findChild<QAction*>("DrawingNumbersx")->isChecked());
             }),
             true},
            {"Propertiesx",
@@ -112,9 +109,11 @@ void MainWindow::BuildMenus() {
   saveItem_ = findChild<QAction*>("SaveAsx");
   exportItem_ = findChild<QAction*>("ExportPicturex");
   checkItem_ = findChild<QAction*>("CheckTotalsx");
-  size_ = new ViewControl(this, view_, {leftColumn_, properties_}, findChild<QAction*>("FitBoardx"),
-                          findChild<QAction*>("FullScreenx"));
-  new QShortcut(Qt::Key_Escape, this, [this] { Escape(); });
+  size_ = new ViewControl(this, place_, {leftColumn_, properties_},
+                          findChild<QAction*>("FitBoardx"), findChild<QAction*>("FullScreenx"));
+  room_ = new PanelRoom(this);  // behind it, so as to know of a new state before it does
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  OnSignal(runner_, escape, &QShortcut::activated, this, [this] { Escape(); });
 }
 
 }  // namespace numorra

@@ -24,6 +24,7 @@
 #include "print/print_form.h"
 #include "print/sheet.h"
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 #include "toolkit/twips.h"
 #include "visual/shading.h"
 
@@ -33,7 +34,7 @@ namespace {
 // Distances in twips.
 constexpr int kGap = 30;      // left of the column of frames, and right of it
 constexpr int kInside = 90;   // around and between a frame's controls
-constexpr int kMargin = 120;  // around the board, and right of its frame and below it
+constexpr int kMargin = 120;  // right of the board's frame and below it
 
 /// Room for the largest proposal, a board of order 14, where the screen has it.
 constexpr double kShareOfScreen = 0.95;
@@ -71,16 +72,11 @@ MainWindow::MainWindow(const World& world)
       corners_(new CornersFrame),
       colours_(new ColourPicker),
       draw_(new DrawFrame),
-      solution_(Named("Frame1", new QGroupBox("Solution"))),
-      view_(new GridView(board_.grid)),
-      drawing_(new Drawing(board_)),
-      boardPlace_(new QStackedLayout),
+      place_(new BoardPlace(board_)),
       menu_(new BoardMenu(this)),
       state_(new StateLine),
-      searchBar_(new BoardBar(solution_, "SearchBar", "StopSearchx", "Stop")),
-      remarkBar_(new BoardBar(solution_, "RemarkBar", "CloseRemarkx", "Close")),
       stage_(*solve_, runner_),
-      searchStage_(*searchBar_, runner_),
+      searchStage_(*place_, runner_),
       hints_(board_, random_, searchStage_),
       cellEntry_(board_, dialogs_),
       edit_(board_, dialogs_, random_, history_),
@@ -90,7 +86,6 @@ MainWindow::MainWindow(const World& world)
       topRowCommand_(board_, *square_, dialogs_, stage_, random_) {
   setObjectName("Form1");
   setAcceptDrops(true);
-  view_->setAccessibleName("Board");
   setWindowTitle(kApplicationTitle);
   ArrangeFrames();
   BuildPropertiesPanel();
@@ -133,15 +128,7 @@ void MainWindow::ArrangeFrames() {
   leftColumn_ = new ColumnScroller(left);
   columns->addWidget(leftColumn_);
 
-  // The board's distance is to the frame's own edge, which the style has moved inwards.
-  auto* board = new QVBoxLayout(solution_);
-  const QMargins edge = solution_->contentsMargins();
-  board->setContentsMargins(margin - edge.left(), margin, margin - edge.right(),
-                            margin - edge.bottom());
-  board->addLayout(boardPlace_);
-  boardPlace_->addWidget(view_);
-  boardPlace_->addWidget(drawing_);
-  columns->addWidget(solution_, 1);
+  columns->addWidget(place_, 1);
 }
 
 /// The board as text for tables and texts, and as a picture for drawings.
@@ -150,7 +137,8 @@ void MainWindow::CopyBoard(bool withPicture) {
   auto* copied = new QMimeData;
   copied->setText(QString::fromStdString(BoardText(board_)));
   if (withPicture) {
-    copied->setImageData(board_.OverlayShown ? drawing_->grab().toImage() : view_->Picture());
+    copied->setImageData(board_.OverlayShown ? place_->Picture->grab().toImage()
+                                             : View().Picture());
   }
   QGuiApplication::clipboard()->setMimeData(copied);
 }
@@ -182,10 +170,10 @@ void MainWindow::Open(const QString& name) {
   });
 }
 
-/// A board that came from elsewhere is one of the Variable mode, and has the keyboard.
+/// A board that came from elsewhere is in its mode, and has the keyboard.
 void MainWindow::ShowLaidOut() {
-  SetSolveMode(ModeVariable);
-  view_->setFocus();
+  SetSolveMode(board_.SolveMode);
+  View().setFocus();
   BringCurrentCellIntoView();
 }
 
@@ -198,19 +186,16 @@ void MainWindow::Export() {
   const QString name = files_.ToSave(this, "Export Picture", kPictureKinds);
   if (name.isEmpty()) return;
   if (board_.OverlayShown) {
-    ExportDrawing(name, *drawing_);
+    ExportDrawing(name, *place_->Picture);
   } else {
-    ExportBoard(name, *view_);
+    ExportBoard(name, View());
   }
 }
 
 /// Counts and colours whatever board is shown, without a word: from then on it can be played.
 void MainWindow::CheckTheTotals() {
   RunOnCurrentCell("Check Totals", [this] {
-    const int row = board_.grid.CurrentRow();
-    const int column = board_.grid.CurrentColumn();
-    Recount(board_);
-    board_.ReturnTo(row, column);
+    RecountInPlace(board_);
     menu_->EnableEditing(true);
   });
 }
@@ -242,7 +227,7 @@ void MainWindow::OpenPrintForm() {
 
 void MainWindow::ConnectControls() {
   const auto command = [this](QPushButton* button, CommandRunner::Command body) {
-    connect(button, &QPushButton::clicked, this,
+    OnClick(runner_, button, this,
             [this, button, body = std::move(body)] { runner_.Run(CaptionOf(button), body); });
   };
   const auto build = [&](QPushButton* button, CommandRunner::Command body) {
@@ -254,7 +239,7 @@ void MainWindow::ConnectControls() {
   build(solve_->SolveAuto, [this] { solveCommand_.Auto(); });
   build(solve_->SolveManual, [this] {
     BuildManualBoard(board_, *square_, dialogs_, stage_);
-    view_->setFocus();
+    View().setFocus();
   });
   build(solve_->SolveAgain, [this] { solveCommand_.Again(); });
   connect(corners_->Combo1, &CornerBox::Entered, this, [this] {
@@ -278,15 +263,16 @@ void MainWindow::ConnectControls() {
   });
   connect(draw_, &DrawFrame::Chosen, this,
           [this](const DrawingKind* kind) { runner_.Run("Draw", [this, kind] { Draw(kind); }); });
-  connect(colours_, &ColourPicker::Changed, this,
-          [this] { runner_.RunBeside([this] { drawing_->SetColour(colours_->Picked()); }); });
+  connect(colours_, &ColourPicker::Changed, this, [this] {
+    runner_.RunBeside([this] { place_->Picture->SetColour(colours_->Picked()); });
+  });
   for (const Mode mode : {ModeNormal, ModeVariable}) {
     QRadioButton* option = mode == ModeNormal ? solve_->Option3 : solve_->Option4;
     connect(option, &QRadioButton::toggled, this, [this, mode, option](bool on) {
       if (on) runner_.Run(CaptionOf(option), [this, mode] { SetSolveMode(mode); });
     });
   }
-  connect(square_->Text1, &QLineEdit::textChanged, this, [this] { FollowSize(); });
+  OnSignal(runner_, square_->Text1, &QLineEdit::textChanged, this, [this] { FollowSize(); });
   for (QLineEdit* box : {square_->Text1, square_->Text4}) {
     connect(box, &QLineEdit::returnPressed, solve_->SolveAuto, &QPushButton::click);
   }
@@ -297,31 +283,39 @@ void MainWindow::ConnectBoard() {
   runner_.OnEnd = [this](const std::string& name) { watch_.End(name); };
   watch_.Tell([this](const Deed& deed) { undo_.Note(deed); });
   watch_.Tell([this](const Deed&) { ShowState(); });
-  board_.OnOverlay = [this] { ShowOverlay(); };
-  messageBoxes_.BeforeBox = [this] { state_->Show(board_); };
-  connect(view_, &GridView::CellPressed, this,
+  board_.OnShown = [this] {
+    stepPanel_->hide();
+    place_->ShowBoard();
+  };
+  messageBoxes_.BeforeBox = [this] { ShowStateLine(); };
+  GridView* const view = place_->View;
+  connect(view, &GridView::CellPressed, this,
           [this](int row, int column, Qt::MouseButton button, QPoint position) {
             const auto press = [=, this] {
               return PressBoard(board_, dialogs_, row, column, ButtonOf(button));
             };
             Press(press, position);
           });
-  connect(view_, &GridView::MenuWanted, this, [this] {
+  connect(view, &GridView::MenuWanted, this, [this] {
     const auto press = [this] {
       return PressBoard(board_, dialogs_, board_.grid.CurrentRow(), board_.grid.CurrentColumn(),
                         PressedButton::Right);
     };
     Press(press);
   });
-  connect(view_, &GridView::MarkWanted, this, [this](MarkedLine line) {
+  connect(view, &GridView::MarkWanted, this, [this](MarkedLine line) {
     Press([this, line] { return MarkByKey(board_, dialogs_, line); });
   });
-  connect(view_, &GridView::CurrentCellShown, this,
-          [this](bool another) { ReadCurrentCell(*view_, another); });
-  connect(view_, &GridView::CellWanted, this, [this](int row, int column) {
+  for (GridView* cells : std::initializer_list<GridView*>{view, place_->Walk}) {
+    OnSignal(runner_, cells, &GridView::CurrentCellShown, this,
+             [cells](bool another) { ReadCurrentCell(*cells, another); });
+    OnSignal(runner_, cells, &GridView::ZoomWanted, this,
+             [this](int direction, QPoint at) { size_->Zoom(direction, at); });
+  }
+  connect(view, &GridView::CellWanted, this, [this](int row, int column) {
     RunOnCurrentCell("move", [this, row, column] { board_.grid.SetCurrent(row, column); });
   });
-  connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
+  connect(view, &GridView::CharacterTyped, this, [this](char32_t character) {
     if (character == U'\r') {
       RunOnCurrentCell("check", [this] { cellEntry_.PressEnter(); });
     } else {
@@ -329,24 +323,23 @@ void MainWindow::ConnectBoard() {
                        [this, character] { cellEntry_.TypeCharacter(character); });
     }
   });
-  connect(view_, &GridView::ZoomWanted, this, [this](int direction, QPoint at) {
-    runner_.RunBeside([this, direction, at] { size_->Zoom(direction, at); });
-  });
-  connect(view_, &GridView::KeypadPressed, this, [this](int sign) {
+  connect(view, &GridView::KeypadPressed, this, [this](int sign) {
     RunOnCurrentCell(
         "step", [this, sign] { sign > 0 ? cellEntry_.KeypadPlus() : cellEntry_.KeypadMinus(); });
   });
   connect(menu_, &BoardMenu::Chosen, this, [this](const EditCommand* command) {
-    RunOnCurrentCell(command->Caption, [this, command] { edit_.Run(*command); });
+    RunOnCurrentCell(WordsFor(*command, board_.BaseValue),
+                     [this, command] { edit_.Run(*command); });
   });
   connect(menu_, &BoardMenu::RedoChosen, this,
           [this] { RunOnCurrentCell(history_.Caption, [this] { edit_.Redo(); }); });
 }
 
-/// Runs a command that acts on the board, which then has the keyboard.
+/// Runs a command that acts on the board, which then has the keyboard and is not hidden by a walk.
 void MainWindow::RunOnBoard(const std::string& name, CommandRunner::Command command) {
   runner_.Run(name, [this, command = std::move(command)] {
-    view_->setFocus();
+    stepPanel_->hide();
+    View().setFocus();
     if (board_.Shown()) command();
   });
 }
@@ -360,7 +353,7 @@ void MainWindow::RunOnCurrentCell(const std::string& name, CommandRunner::Comman
 }
 
 void MainWindow::BringCurrentCellIntoView() {
-  view_->BringIntoView(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
+  View().BringIntoView(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
 }
 
 /// What the boxes say before the first proposal replaces it is what the program starts from.
@@ -405,24 +398,25 @@ void MainWindow::ShowState() {
   };
   showStep(undoItem_, "&Undo", undo_.CanUndo(), undo_.CanUndo() ? undo_.UndoName() : "");
   showStep(redoItem_, "&Redo", undo_.CanRedo(), undo_.CanRedo() ? undo_.RedoName() : "");
-  if (board_.OverlayShown) drawing_->update();
-  state_->Show(board_);
+  if (board_.OverlayShown) place_->Picture->update();
+  ShowStateLine();
+}
+
+/// What is told is what is in sight.
+void MainWindow::ShowStateLine() {
+  if (place_->Walking()) {
+    state_->Show(place_->Walk->TheWalk());
+  } else {
+    state_->Show(board_);
+  }
 }
 
 /// Covers the board with a drawing of it, where there is something to draw.
 void MainWindow::Draw(const DrawingKind* kind) {
   if (!board_.HasTotal()) return;
-  drawing_->SetKind(kind);
-  drawing_->SetColour(colours_->Picked());
+  place_->Picture->SetKind(kind);
+  place_->Picture->SetColour(colours_->Picked());
   board_.SetOverlayShown(true);
-}
-
-/// Puts the drawing in the place of the board, or the board back.
-void MainWindow::ShowOverlay() {
-  stepPanel_->hide();
-  ForgetRemark();
-  if (!board_.OverlayShown) drawing_->SetKind(nullptr);
-  boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
 }
 
 bool MainWindow::LimitToNine() const {
@@ -454,7 +448,7 @@ void MainWindow::Press(std::function<PressOutcome()> press, std::optional<QPoint
     if (outcome == PressOutcome::Done) return;
     menu_->ShowBaseValue(Str(board_.BaseValue));
     if (!menuPosition) BringCurrentCellIntoView();
-    menu_->popup(menuPosition.value_or(view_->CurrentCellPosition()));
+    menu_->popup(menuPosition.value_or(View().CurrentCellPosition()));
   });
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QHash>
 #include <QMainWindow>
-#include <QStackedLayout>
 
 #include "app/board/board.h"
 #include "app/board/random.h"
@@ -13,9 +11,10 @@
 #include "app/play/hints.h"
 #include "app/play/undo_history.h"
 #include "app/window/board_menu.h"
+#include "app/window/board_place.h"
 #include "app/window/corners_frame.h"
-#include "app/window/grid_view.h"
 #include "app/window/limit_frame.h"
+#include "app/window/panel_room.h"
 #include "app/window/properties_panel.h"
 #include "app/window/search_stage.h"
 #include "app/window/solve_frame.h"
@@ -35,7 +34,6 @@
 #include "toolkit/message_boxes.h"
 #include "visual/colour_picker.h"
 #include "visual/draw_frame.h"
-#include "visual/drawing.h"
 
 namespace numorra {
 
@@ -59,7 +57,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   ~MainWindow() override;
 
   const Board& TheBoard() const { return board_; }
-  GridView& View() { return *view_; }
+  GridView& View() { return *place_->View; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -72,9 +70,6 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void Escape();
   void BuildStudyMenu();
   void BuildPuzzleMenu();
-  void BeginSearch(const char* doing);
-  void ShowRemark(const Remark& remark);
-  void ForgetRemark();
   SquareWish FreshWish() const;
   void OpenHideNumbers();
   void OpenWorksheet();
@@ -82,7 +77,6 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void CopyPuzzleCode();
   void BuildPropertiesPanel();
   void BuildStepPanel();
-  void MakeRoomFor(QDockWidget* panel);
   void FollowSteps();
   void FollowProperties();
   void StudyBoard();
@@ -102,7 +96,7 @@ class MainWindow : public QMainWindow, private BuildOptions {
   void Draw(const DrawingKind* kind);
   void BringCurrentCellIntoView();
   void ShowState();
-  void ShowOverlay();
+  void ShowStateLine();
   void CopyBoard(bool withPicture);
   void PasteFromClipboard();
   void Open(const QString& name);
@@ -124,7 +118,6 @@ class MainWindow : public QMainWindow, private BuildOptions {
   FileChooser& files_;
   CommandRunner runner_;
   Board board_;
-  Grid walkGrid_;
   BoardWatch watch_{board_};
   CommandHistory history_;
   UndoHistory undo_;
@@ -136,23 +129,16 @@ class MainWindow : public QMainWindow, private BuildOptions {
   CornersFrame* corners_;
   ColourPicker* colours_;
   DrawFrame* draw_;
-  QGroupBox* solution_;
-  GridView* view_;
-  Drawing* drawing_;
-  QStackedLayout* boardPlace_;
+  BoardPlace* place_;
   BoardMenu* menu_;
   StateLine* state_;
-  BoardBar* searchBar_;
-  BoardBar* remarkBar_;
-  bool remarkIsNew_ = false;  ///< the running command has made it
   QWidget* leftColumn_ = nullptr;
   ViewControl* size_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
   StepPanel* stepPanel_ = nullptr;
-  WalkView* walkView_ = nullptr;
-  QHash<QDockWidget*, QSize> roomFor_;  ///< what the window grew by for each panel in sight
-  bool studied_ = false;                ///< the panel shows what the board is now
-  QList<QAction*> needBoard_;           ///< the menu items that work on one
+  PanelRoom* room_ = nullptr;
+  bool studied_ = false;       ///< the panel shows what the board is now
+  QList<QAction*> needBoard_;  ///< the menu items that work on one
   QAction* undoItem_ = nullptr;
   QAction* redoItem_ = nullptr;
   QAction* saveItem_ = nullptr;

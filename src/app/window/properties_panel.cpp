@@ -6,9 +6,11 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 namespace {
@@ -31,6 +33,35 @@ char16_t MarkFor(Answer answer) {
   return u'?';
 }
 
+/// Breaks values into lines, which the toolkit's trees leave to their delegates.
+class WrappingDelegate : public QStyledItemDelegate {
+ public:
+  explicit WrappingDelegate(QTreeView* tree) : QStyledItemDelegate(tree), tree_(tree) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem wrapped = option;
+    wrapped.features |= QStyleOptionViewItem::WrapText;
+    QStyledItemDelegate::paint(painter, wrapped, index);
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize line = QStyledItemDelegate::sizeHint(option, index);
+    if (index.column() == 0) return line;
+    const int margin = 1 + tree_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    const QRect room(0, 0, tree_->columnWidth(index.column()) - 2 * margin, kTallest);
+    const QString value = index.data().toString();
+    const QRect text = tree_->fontMetrics().boundingRect(room, Qt::TextWordWrap, value);
+    const bool broken = text.height() > line.height();
+    return {room.width(), broken ? text.height() + line.height() / 3 : line.height()};
+  }
+
+ private:
+  static constexpr int kTallest = 10'000;  // pixels
+
+  QTreeView* tree_;
+};
+
 QTreeWidgetItem* GroupNamed(QList<QTreeWidgetItem*>& groups, const QString& name) {
   for (QTreeWidgetItem* group : groups) {
     if (group->text(0) == name) return group;
@@ -51,7 +82,8 @@ void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why)
 
 }  // namespace
 
-PropertiesPanel::PropertiesPanel(QWidget* parent) : QDockWidget("Properties", parent) {
+PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
+    : QDockWidget("Properties", parent), runner_(runner) {
   setObjectName("PropertiesPanel");
   setFeatures(DockWidgetClosable | DockWidgetMovable);
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
@@ -69,8 +101,12 @@ void PropertiesPanel::Furnish() {
   tree_->setColumnCount(2);
   tree_->setHeaderHidden(true);
   tree_->setIndentation(tree_->indentation() / 2);
+  tree_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  tree_->setItemDelegate(new WrappingDelegate(tree_));
   AddEntries();
   tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  connect(tree_->header(), &QHeaderView::sectionResized, tree_, &QTreeView::doItemsLayout,
+          Qt::QueuedConnection);
   explained_ = Named("PropertyEvidence", new QLabel);
   explained_->setWordWrap(true);
   explained_->setTextFormat(Qt::PlainText);
@@ -85,8 +121,8 @@ void PropertiesPanel::Furnish() {
   column->addWidget(explained_);
   column->addWidget(copy, 0, Qt::AlignLeft);
   setWidget(content);
-  connect(tree_, &QTreeWidget::currentItemChanged, this, &PropertiesPanel::ShowChosen);
-  connect(copy, &QPushButton::clicked, this, &PropertiesPanel::Copy);
+  OnSignal(runner_, tree_, &QTreeWidget::currentItemChanged, this, [this] { ShowChosen(); });
+  OnClick(runner_, copy, this, [this] { Copy(); });
 }
 
 /// All at once: a tree lays itself out anew at each that is added to it.
@@ -97,6 +133,12 @@ void PropertiesPanel::AddEntries() {
   for (const Term& term : Terms())
     terms_.push_back(new QTreeWidgetItem(GroupNamed(groups, term.Group), {term.Name}));
   tree_->addTopLevelItems(groups);
+  for (const auto& entries : {details_, terms_}) {
+    for (QTreeWidgetItem* entry : entries) {
+      for (const int column : {0, 1})
+        entry->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
+    }
+  }
   for (QTreeWidgetItem* group : groups)
     group->setFirstColumnSpanned(true);
   tree_->expandAll();

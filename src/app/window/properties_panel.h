@@ -9,6 +9,7 @@
 
 #include "app/board/place.h"
 #include "study/report.h"
+#include "toolkit/command_runner.h"
 
 namespace numorra {
 
@@ -19,7 +20,7 @@ class PropertiesPanel : public QDockWidget {
   Q_OBJECT
 
  public:
-  explicit PropertiesPanel(QWidget* parent = nullptr);
+  PropertiesPanel(CommandRunner& runner, QWidget* parent);
 
   /// Shows what a square is, once the panel is open; without a report, `why` there is none.
   void Show(const Report& report);
@@ -37,6 +38,7 @@ class PropertiesPanel : public QDockWidget {
   void ShowChosen();
   void Copy();
 
+  CommandRunner& runner_;
   QTreeWidget* tree_ = nullptr;  ///< none before the panel is first opened
   QLabel* explained_ = nullptr;
   std::vector<QTreeWidgetItem*> details_;

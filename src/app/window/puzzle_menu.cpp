@@ -11,6 +11,7 @@
 #include "app/window/worksheet_form.h"
 #include "puzzle/code.h"
 #include "toolkit/menus.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 
@@ -19,8 +20,8 @@ void MainWindow::BuildPuzzleMenu() {
   const auto remark = [this](const char* name, const char* doing, auto body) {
     return [this, name, doing, body] {
       RunOnCurrentCell(name, [this, doing, body] {
-        BeginSearch(doing);
-        ShowRemark(body());
+        searchStage_.ShowCount(doing);
+        place_->ShowRemark(body());
       });
     };
   };
@@ -59,19 +60,17 @@ void MainWindow::BuildPuzzleMenu() {
                                  [this] { return CheckEntries(board_, random_, searchStage_); })},
                          {"FillGapsx", "&Fill Gaps", {}, [this] {
                             RunOnCurrentCell("Fill Gaps", [this] {
-                              BeginSearch("Filling the gaps");
+                              place_->ForgetRemark();
+                              searchStage_.ShowCount("Filling the gaps");
                               FillGaps(board_, LimitToNine(), dialogs_, searchStage_, random_);
                             });
                           }}});
   needBoard_ += menu->actions().mid(1);
-  connect(searchBar_->Button, &QPushButton::clicked, this, [this] { runner_.Run("Stop", [] {}); });
-  connect(remarkBar_->Button, &QPushButton::clicked, this, &MainWindow::ForgetRemark);
+  OnClick(runner_, place_->SearchBar->Button, this, [this] { runner_.Run("Stop", [] {}); });
+  OnClick(runner_, place_->RemarkBar->Button, this, [this] { place_->ForgetRemark(); });
   state_->setContextMenuPolicy(Qt::ActionsContextMenu);
   state_->addAction(findChild<QAction*>("CopyPuzzleCodex"));
-  watch_.Tell([this](const Deed& deed) {
-    if (deed.ChangedTheBoard() && !remarkIsNew_) ForgetRemark();
-    remarkIsNew_ = false;
-  });
+  watch_.Tell([this](const Deed& deed) { place_->EndCommand(deed.ChangedTheBoard()); });
 }
 
 /// The puzzle that stands on the board: its givens alone where it has any. Boards of one or two
@@ -94,35 +93,6 @@ void MainWindow::CopyPuzzleCode() {
         "there is a code for boards with gaps, of size 3 to 10, that keep their rules");
   }
   QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(*puzzle)));
-}
-
-/// The bar of a search takes the place of an older remark.
-void MainWindow::BeginSearch(const char* doing) {
-  stepPanel_->hide();
-  ForgetRemark();
-  searchStage_.ShowCount(doing);
-}
-
-/// What is said of the board stays until the board changes; its cells are pointed at.
-void MainWindow::ShowRemark(const Remark& remark) {
-  remarkIsNew_ = true;
-  board_.grid.SetOutlined(remark.Where);
-  QRect cells;
-  for (const Place place : remark.Where) {
-    if (remark.Where.size() == 1) view_->BringIntoView(place.Row, place.Column);
-    cells |= view_->CellRect(place.Row, place.Column);
-  }
-  const bool fromTop = cells.bottom() > view_->height() - remarkBar_->sizeHint().height() &&
-                       cells.top() > view_->height() / 2;
-  QString text = QString::fromStdString(remark.Text);
-  if (!text.isEmpty()) text[0] = text[0].toUpper();
-  remarkBar_->ShowText(text + ".", fromTop);
-}
-
-void MainWindow::ForgetRemark() {
-  if (remarkBar_->isHidden()) return;
-  remarkBar_->hide();
-  board_.grid.SetOutlined({});
 }
 
 /// What a fresh square is to be like, by the boxes.
@@ -156,7 +126,7 @@ void MainWindow::OpenHideNumbers() {
     }
   }
   auto* form = new HideNumbersForm(square, whyNot, fresh, random_, dialogs_, this);
-  connect(form, &HideNumbersForm::Taken, this, [this](const MadePuzzle& made) {
+  OnSignal(runner_, form, &HideNumbersForm::Taken, this, [this](const MadePuzzle& made) {
     runner_.Run("Hide Numbers", [this, made] {
       LayOut(board_, *square_, StoredSquareOf(made.Clues, true));
       ShowLaidOut();

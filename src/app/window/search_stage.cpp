@@ -10,14 +10,15 @@ void SearchStage::ShowBusy(bool busy) {
     QGuiApplication::setOverrideCursor(Qt::BusyCursor);
   } else {
     QGuiApplication::restoreOverrideCursor();
-    bar_.hide();
+    place_.SearchBar->hide();
   }
 }
 
 void SearchStage::Yield() {
   if (runner_.YieldIsDue()) {
     constexpr int kMilliseconds = 1000;
-    bar_.ShowText(QString("%1, for %2 s").arg(doing_).arg(sinceStart_.elapsed() / kMilliseconds));
+    place_.ShowSearch(
+        QString("%1, for %2 s").arg(doing_).arg(sinceStart_.elapsed() / kMilliseconds));
   }
   runner_.Yield();
 }

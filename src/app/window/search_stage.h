@@ -1,17 +1,17 @@
 #pragma once
 
 #include "app/ports/build_stage.h"
-#include "app/window/board_bar.h"
+#include "app/window/board_place.h"
 #include "toolkit/command_runner.h"
 
 namespace numorra {
 
-/// The window as the stage of a search: a bar over the board says how long it has been at it. It
+/// The window as the stage of a search: a bar below the board says how long it has been at it. It
 /// comes with the first yield that lets events run and goes with the search. Stopping is a command
 /// that takes the search's place.
 class SearchStage : public BuildStage {
  public:
-  SearchStage(BoardBar& bar, CommandRunner& runner) : bar_(bar), runner_(runner) {}
+  SearchStage(BoardPlace& place, CommandRunner& runner) : place_(place), runner_(runner) {}
 
   using BuildStage::ShowCount;
   void ShowBusy(bool busy) override;
@@ -20,7 +20,7 @@ class SearchStage : public BuildStage {
   void Yield() override;
 
  private:
-  BoardBar& bar_;
+  BoardPlace& place_;
   CommandRunner& runner_;
   QString doing_;
   QElapsedTimer sinceStart_;

@@ -27,16 +27,25 @@ StateLine::StateLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StateLine::Show(const Board& board) {
-  const QString state = QString::fromStdString(StateOf(board));
-  QString tip = state;
+  QString cell;
   if (board.Shown()) {
     const Grid& grid = board.grid;
-    tip += QString("\nrow %1, column %2: %3")
+    cell = QString("\nrow %1, column %2: %3")
                .arg(grid.CurrentRow())
                .arg(grid.CurrentColumn())
                .arg(QString::fromStdString(grid.Text(grid.CurrentRow(), grid.CurrentColumn())));
   }
-  setToolTip(tip);
+  ShowText(StateOf(board), cell);
+}
+
+void StateLine::Show(const Walk& walk) {
+  ShowText(StateOf(walk), {});
+}
+
+/// The state, with more of it in the tool-tip.
+void StateLine::ShowText(const std::string& told, const QString& more) {
+  const QString state = QString::fromStdString(told);
+  setToolTip(state + more);
   if (state == state_) return;
   state_ = state;
   setAccessibleName(state);

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "app/board/board.h"
+#include "app/play/walk.h"
 
 namespace numorra {
 
@@ -15,8 +16,9 @@ class StateLine : public QLabel {
  public:
   explicit StateLine(QWidget* parent = nullptr);
 
-  /// Shows the board's state, and has a new one read aloud.
+  /// Shows the state of the board, or of a walk in its place, and has a new one read aloud.
   void Show(const Board& board);
+  void Show(const Walk& walk);
 
   QSize sizeHint() const override;
 
@@ -24,6 +26,7 @@ class StateLine : public QLabel {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void ShowText(const std::string& state, const QString& more);
   void Cut();
 
   QString state_;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 namespace {
@@ -21,7 +22,7 @@ QString Sentence(const std::string& text) {
 
 }  // namespace
 
-StepPanel::StepPanel(WalkView* view, QWidget* parent)
+StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
     : QDockWidget("Step by Step", parent),
       view_(view),
       choice_(Named("WalkChoice", new QComboBox)),
@@ -64,32 +65,37 @@ StepPanel::StepPanel(WalkView* view, QWidget* parent)
   column->addLayout(row);
   setWidget(content);
 
-  connect(choice_, &QComboBox::activated, this, &StepPanel::BeginChosen);
-  connect(back_, &QPushButton::clicked, this, [this] { GoTo(view_->TheWalk().At() - 1); });
-  connect(next_, &QPushButton::clicked, this, [this] { GoTo(view_->TheWalk().At() + 1); });
-  connect(play_, &QPushButton::toggled, this, &StepPanel::Play);
-  connect(steps_, &QSlider::valueChanged, this, &StepPanel::GoTo);
-  connect(speed_, &QSlider::valueChanged, this,
-          [this](int speed) { timer_.setInterval(kSlowest / (speed * speed)); });
-  connect(ask_, &QCheckBox::toggled, this, [this] {
+  const auto on = [&](const auto* sender, auto signal, auto act) {
+    OnSignal(runner, sender, signal, this, std::move(act));
+  };
+  const auto goOn = [this] { GoTo(view_->TheWalk().At() + 1); };
+  OnClick(runner, back_, this, [this] { GoTo(view_->TheWalk().At() - 1); });
+  OnClick(runner, next_, this, goOn);
+  on(choice_, &QComboBox::activated, [this] { BeginChosen(); });
+  on(play_, &QPushButton::toggled, [this](bool play) { Play(play); });
+  on(steps_, &QSlider::valueChanged, [this](int step) { GoTo(step); });
+  on(speed_, &QSlider::valueChanged,
+     [this](int speed) { timer_.setInterval(kSlowest / (speed * speed)); });
+  on(ask_, &QCheckBox::toggled, [this] {
     asked_ = right_ = 0;
     Play(false);
     ShowStep();
   });
-  timer_.setInterval(kSlowest / (speed_->value() * speed_->value()));
-  connect(&timer_, &QTimer::timeout, this, [this] { GoTo(view_->TheWalk().At() + 1); });
-  connect(this, &QDockWidget::visibilityChanged, this, [this](bool on) {
-    if (!on) Play(false);
+  on(&timer_, &QTimer::timeout, goOn);
+  on(this, &QDockWidget::visibilityChanged, [this](bool shown) {
+    if (!shown) Play(false);
   });
-  connect(view_, &GridView::CellPressed, this, [this](int r, int c) {
+  on(view_, &GridView::CellPressed, [this](int r, int c, Qt::MouseButton, QPoint) {
     view_->MoveTo(r, c);
     Answer(view_->Current());
   });
-  connect(view_, &GridView::CellWanted, this, [this](int r, int c) { view_->MoveTo(r, c); });
-  connect(view_, &GridView::MarkWanted, this, [this] { Answer(view_->Current()); });
-  connect(view_, &GridView::CharacterTyped, this, [this](char32_t character) {
+  on(view_, &GridView::CellWanted, [this](int r, int c) { view_->MoveTo(r, c); });
+  on(view_, &GridView::MarkWanted, [this] { Answer(view_->Current()); });
+  on(view_, &GridView::CharacterTyped, [this](char32_t character) {
     if (character == U'\r') Answer(view_->Current());
   });
+  timer_.setInterval(kSlowest / (speed_->value() * speed_->value()));
+  ShowStep();
 }
 
 void StepPanel::Begin(int order, const std::vector<double>& numbers) {
@@ -106,6 +112,7 @@ void StepPanel::Begin(int order, const std::vector<double>& numbers) {
 }
 
 void StepPanel::BeginChosen() {
+  if (choice_->count() == 0) return;
   Play(false);
   const int example = choice_->currentData().toInt();
   const int order = example == 0 ? order_ : example;
@@ -147,6 +154,7 @@ void StepPanel::ShowStep() {
   back_->setEnabled(walk.At() > 0);
   next_->setEnabled(walk.At() < walk.Steps() && !Asking());
   play_->setEnabled(walk.At() < walk.Steps() && !ask_->isChecked());
+  Q_EMIT StepShown();
   if (!QAccessible::isActive()) return;
   sentence_->setAccessibleName(text);
   QAccessibleEvent event(sentence_, QAccessible::NameChanged);

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "app/window/walk_view.h"
+#include "toolkit/command_runner.h"
 
 namespace numorra {
 
@@ -18,11 +19,15 @@ class StepPanel : public QDockWidget {
   Q_OBJECT
 
  public:
-  explicit StepPanel(WalkView* view, QWidget* parent = nullptr);
+  StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent);
 
   /// Offers the square on the board, where it is one that can be explained, and the examples, and
   /// begins with the first of them. `numbers`: of the board, empty without a full one.
   void Begin(int order, const std::vector<double>& numbers);
+
+ Q_SIGNALS:
+  /// Another step, or another walk, is shown.
+  void StepShown();
 
  private:
   void BeginChosen();

@@ -1,14 +1,11 @@
-#include <algorithm>
-
 #include <QMenu>
-#include <QScreen>
 
 #include "app/play/study_commands.h"
-#include "app/window/grid_accessible.h"
 #include "app/window/main_window.h"
 #include "study/report.h"
 #include "toolkit/menus.h"
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 
@@ -63,17 +60,14 @@ void MainWindow::BuildStudyMenu() {
           [this](bool on) { runner_.RunBeside([this, on] { stepPanel_->setVisible(on); }); });
 }
 
-/// The walk stands in the board's place while its panel is open; the board behind it stays. A
-/// command that changes the board ends it.
+/// The walk stands in the board's place while its panel is open; the board behind it stays.
+/// Whatever shows the board, or acts on it, ends it.
 void MainWindow::BuildStepPanel() {
-  walkView_ = new WalkView(walkGrid_);
-  boardPlace_->addWidget(walkView_);
-  stepPanel_ = new StepPanel(walkView_, this);
+  stepPanel_ = new StepPanel(place_->Walk, runner_, this);
   addDockWidget(Qt::BottomDockWidgetArea, stepPanel_);
   stepPanel_->hide();
-  connect(stepPanel_, &QDockWidget::visibilityChanged, this, &MainWindow::FollowSteps);
-  connect(walkView_, &GridView::CurrentCellShown, this,
-          [this](bool another) { ReadCurrentCell(*walkView_, another); });
+  OnSignal(runner_, stepPanel_, &QDockWidget::visibilityChanged, this, [this] { FollowSteps(); });
+  OnSignal(runner_, stepPanel_, &StepPanel::StepShown, this, [this] { ShowStateLine(); });
   watch_.Tell([this](const Deed& deed) {
     if (deed.ChangedTheBoard()) stepPanel_->hide();
   });
@@ -82,48 +76,28 @@ void MainWindow::BuildStepPanel() {
 /// When the panel has come or gone.
 void MainWindow::FollowSteps() {
   const bool shown = !stepPanel_->isHidden();
-  MakeRoomFor(stepPanel_);
+  room_->Follow(stepPanel_);
   findChild<QAction*>("StepByStepx")->setChecked(shown);
-  const bool walking = boardPlace_->currentWidget() == walkView_;
-  if (shown == walking) return;
-  if (!shown) {
-    boardPlace_->setCurrentWidget(board_.OverlayShown ? static_cast<QWidget*>(drawing_) : view_);
-    return;
-  }
-  ForgetRemark();
-  const auto square = SquareOn(board_);
-  boardPlace_->setCurrentWidget(walkView_);
-  stepPanel_->Begin(board_.GridSize, square ? square->Numbers() : std::vector<double>());
-}
-
-/// The window grows with a panel that comes, as far as the screen goes, and shrinks as it goes.
-void MainWindow::MakeRoomFor(QDockWidget* panel) {
-  const bool shown = !panel->isHidden();
-  if (roomFor_.contains(panel) == shown) return;
-  QSize change = QSize(0, 0) - roomFor_.take(panel);
+  if (shown == place_->Walking()) return;
   if (shown) {
-    const QSize hint = panel->sizeHint();
-    const bool below = dockWidgetArea(panel) == Qt::BottomDockWidgetArea;
-    const QSize wanted = below ? QSize(0, hint.height()) : QSize(hint.width(), 0);
-    const QSize free = (screen()->availableSize() - size()).expandedTo({0, 0});
-    change = roomFor_[panel] = wanted.boundedTo(free);
+    const auto square = SquareOn(board_);
+    place_->ShowWalk();
+    stepPanel_->Begin(board_.GridSize, square ? square->Numbers() : std::vector<double>());
+  } else {
+    place_->ShowBoard();
+    ShowStateLine();
   }
-  if (!isMaximized() && !isFullScreen()) resize(size() + change);
 }
 
 /// The panel beside the board.
 void MainWindow::BuildPropertiesPanel() {
-  properties_ = new PropertiesPanel(this);
+  properties_ = new PropertiesPanel(runner_, this);
   addDockWidget(Qt::RightDockWidgetArea, properties_);
   properties_->hide();
-  connect(properties_, &PropertiesPanel::EvidenceChosen, this,
-          [this](const std::vector<Place>& cells) {
-            if (remarkIsNew_) return;
-            ForgetRemark();
-            board_.grid.SetOutlined(cells);
-            drawing_->update();
-          });
-  connect(properties_, &QDockWidget::visibilityChanged, this, &MainWindow::FollowProperties);
+  OnSignal(runner_, properties_, &PropertiesPanel::EvidenceChosen, this,
+           [this](const std::vector<Place>& cells) { place_->PointAt(cells); });
+  OnSignal(runner_, properties_, &QDockWidget::visibilityChanged, this,
+           [this] { FollowProperties(); });
   watch_.Tell([this](const Deed& deed) {
     studied_ = studied_ && !deed.ChangedTheBoard();
     StudyBoard();
@@ -134,12 +108,12 @@ void MainWindow::BuildPropertiesPanel() {
 void MainWindow::FollowProperties() {
   const bool shown = !properties_->isHidden();
   findChild<QAction*>("Propertiesx")->setChecked(shown);
-  MakeRoomFor(properties_);
+  room_->Follow(properties_);
   if (shown) {
     StudyBoard();
   } else {
     studied_ = false;
-    if (remarkBar_->isHidden()) board_.grid.SetOutlined({});
+    if (place_->RemarkBar->isHidden()) board_.grid.SetOutlined({});
   }
 }
 

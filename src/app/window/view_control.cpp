@@ -8,69 +8,77 @@
 
 namespace numorra {
 
-ViewControl::ViewControl(QMainWindow* window, GridView* view, std::vector<QWidget*> beside,
+ViewControl::ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside,
                          QAction* fit, QAction* full)
     : QObject(window),
       window_(window),
-      view_(view),
+      place_(place),
       beside_(std::move(beside)),
       fit_(fit),
       full_(full) {
   window_->installEventFilter(this);
+  connect(place_, &BoardPlace::SightChanged, this, &ViewControl::ShowMarks);
 }
 
-void ViewControl::Zoom(int direction, QPoint fixed) {
-  view_->SetZoom(direction == 0 ? 1 : NextZoom(view_->Zoom(), direction), fixed);
+void ViewControl::Zoom(int direction, std::optional<QPoint> fixed) {
+  GridView& cells = place_->Cells();
+  const double zoom = direction == 0 ? 1 : NextZoom(cells.Zoom(), direction);
+  if (fixed) {
+    cells.SetZoom(zoom, *fixed);
+  } else {
+    cells.SetZoom(zoom);
+  }
   ShowMarks();
 }
 
 void ViewControl::ToggleFitting() {
-  view_->SetFitting(!view_->Fitting());
+  GridView& cells = place_->Cells();
+  cells.SetFitting(!cells.Fitting());
   ShowMarks();
 }
 
+/// No other state is touched, so that the desktop remembers what the window was before.
 void ViewControl::ToggleFullScreen() {
-  if (before_) {
-    const Qt::WindowStates state = before_->State;
-    GiveBack();
-    window_->setWindowState(state);
-    return;
-  }
-  Before before{view_->Zoom(), view_->Fitting(), view_->Scrolled(), window_->windowState(), {}};
-  for (QWidget* widget : beside_) {
-    if (widget->isHidden()) continue;
-    before.Hidden.push_back(widget);
-    widget->hide();
-  }
-  window_->showFullScreen();
-  view_->SetFitting(true);
-  before_ = std::move(before);
-  ShowMarks();
+  window_->setWindowState(window_->windowState() ^ Qt::WindowFullScreen);
 }
 
 bool ViewControl::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange && before_ && !window_->isFullScreen()) GiveBack();
+  if (event->type() == QEvent::WindowStateChange && !window_->isMinimized() &&
+      window_->isFullScreen() != FullScreen()) {
+    FullScreen() ? GiveBack() : TakeAway();
+  }
   return QObject::eventFilter(watched, event);
 }
 
-/// All that was there before but the window's own state.
+void ViewControl::TakeAway() {
+  GridView& board = *place_->View;
+  before_ = Before{board.Zoom(), board.Fitting(), board.Scrolled(), {}};
+  for (QWidget* widget : beside_) {
+    if (widget->isHidden()) continue;
+    before_->Hidden.push_back(widget);
+    widget->hide();
+  }
+  board.SetFitting(true);
+  ShowMarks();
+}
+
 void ViewControl::GiveBack() {
   const Before before = *std::exchange(before_, std::nullopt);
   for (QWidget* widget : before.Hidden)
     widget->show();
-  view_->SetZoom(before.Zoom, {});
-  view_->SetFitting(before.Fitting);
+  place_->View->SetZoom(before.Zoom, {});
+  place_->View->SetFitting(before.Fitting);
   ShowMarks();
   scrolled_ = before.Scrolled;
   QMetaObject::invokeMethod(this, "ScrollBack", Qt::QueuedConnection);
 }
 
 void ViewControl::ScrollBack() {
-  view_->ScrollTo(scrolled_);
+  place_->View->ScrollTo(scrolled_);
 }
 
 void ViewControl::ShowMarks() {
-  fit_->setChecked(view_->Fitting());
+  fit_->setChecked(place_->Cells().Fitting());
   full_->setChecked(FullScreen());
 }
 

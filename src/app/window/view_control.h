@@ -6,7 +6,7 @@
 #include <QAction>
 #include <QMainWindow>
 
-#include "app/window/grid_view.h"
+#include "app/window/board_place.h"
 
 namespace numorra {
 
@@ -16,23 +16,26 @@ class ViewControl : public QObject {
 
  public:
   /// `beside`: what full screen takes away. `fit` and `full`: the menu's items.
-  ViewControl(QMainWindow* window, GridView* view, std::vector<QWidget*> beside, QAction* fit,
+  ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside, QAction* fit,
               QAction* full);
 
-  /// A step larger (1) or smaller (-1), or back to 100 % (0); what is drawn at `fixed` stays there.
-  void Zoom(int direction, QPoint fixed);
+  /// A step larger (1) or smaller (-1), or back to 100 % (0), for the board or the walk that is in
+  /// sight; what is drawn at `fixed` stays there, or else the current cell where it is in sight.
+  void Zoom(int direction, std::optional<QPoint> fixed = {});
 
-  /// Draws the board as large as its place, or as it is.
+  /// Draws the board, or the walk, as large as its place, or as it is.
   void ToggleFitting();
 
   /// The board and the menu bar alone, fitted; leaving brings back what there was.
   void ToggleFullScreen();
   bool FullScreen() const { return before_.has_value(); }
 
-  /// Notices when the desktop, or another command, has ended the full screen.
+  /// Follows the window's state, whoever changes it: the desktop may begin or end the full screen
+  /// too, and may still be at it when the player wants another state.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void TakeAway();
   void GiveBack();
   void ShowMarks();
 
@@ -44,12 +47,11 @@ class ViewControl : public QObject {
     double Zoom;
     bool Fitting;
     QPoint Scrolled;
-    Qt::WindowStates State;
     std::vector<QWidget*> Hidden;  ///< of what stands beside the board
   };
 
   QMainWindow* window_;
-  GridView* view_;
+  BoardPlace* place_;
   std::vector<QWidget*> beside_;
   QAction* fit_;
   QAction* full_;

@@ -6,6 +6,7 @@
 
 #include "app/window/form_stage.h"
 #include "toolkit/named.h"
+#include "toolkit/on_signal.h"
 
 namespace numorra {
 namespace {
@@ -86,11 +87,10 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   };
   follow();
   ShowMaking(false);
-  connect(fromBoard_, &QRadioButton::toggled, this, follow);
-  connect(print_, &QPushButton::clicked, this, &WorksheetForm::Print);
-  connect(stop_, &QPushButton::clicked, this,
-          [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
-  connect(close, &QPushButton::clicked, this, &QDialog::close);
+  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, follow);
+  OnClick(runner_, print_, this, [this] { Print(); });
+  OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
+  OnClick(runner_, close, this, [this] { this->close(); });
 }
 
 void WorksheetForm::ShowMaking(bool making) {

@@ -41,5 +41,30 @@ TEST(Recount, TellsBoardsApart) {
   }
 }
 
+/// With givens a gap leaves its lines open; without them it counts as 0.
+TEST(Recount, LeavesUnfinishedLinesUnjudged) {
+  for (const bool puzzle : {false, true}) {
+    Board board;
+    ShowRows(board, "8 1 6 / 3 5 7 / 4 9 2", 15);
+    board.grid.SetText(1, 2, "");
+    board.grid.SetText(3, 1, "5");
+    board.grid.SetGiven(2, 2, puzzle);
+    EXPECT_EQ(Recount(board), puzzle ? Finding::Unfinished : Finding::Wrong);
+    const Verdict open = puzzle ? Verdict::Unjudged : Verdict::Wrong;
+    EXPECT_EQ(board.grid.VerdictOf(1, 0), open);
+    EXPECT_EQ(board.grid.VerdictOf(0, 2), open);
+    EXPECT_EQ(board.grid.VerdictOf(2, 0), Verdict::Right);
+    EXPECT_EQ(board.grid.VerdictOf(3, 0), Verdict::Wrong);
+    EXPECT_EQ(board.grid.Text(1, 0), "14");
+    board.ReturnTo(1, 1);
+    EXPECT_EQ(WhyInvalid(board), "");
+    // Right but for a gap that counts as 0.
+    ShowRows(board, "0 9 6 / 11 5 -1 / 4 1 10", 15);
+    board.grid.SetText(1, 1, "");
+    board.grid.SetGiven(2, 2, puzzle);
+    EXPECT_EQ(Recount(board), puzzle ? Finding::Unfinished : Finding::Right);
+  }
+}
+
 }  // namespace
 }  // namespace numorra

@@ -26,10 +26,19 @@ TEST_F(BoardStateTest, SaysWhatIsTrueOfTheBoard) {
     Show(c.rows, c.target);
     EXPECT_EQ(StateOf(board_), c.state);
   }
+  Show("8 1 6 / 3 5 7 / 4 9 3");
+  Go(3, 3);
+  entry_.TypeCharacter(U'2');
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: 5 of 8 lines right, Enter checks");
+  Go(3, 2);
+  dialogs_.Take();
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic");
+  Show("4 1 4 / 3 3 3 / 2 5 2", 9);
   board_.grid.SetText(2, 2, "");
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill");
   ShowRows(board_, "8 1 6 / 3 5 7 / 4 9 2", 15);
   board_.TotalsChecked = false;
+  board_.ReturnTo(1, 1);
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic, F9 to play");
 }
 

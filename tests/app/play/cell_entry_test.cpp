@@ -1,5 +1,7 @@
 #include "app/play/cell_entry.h"
 
+#include "app/board/position.h"
+#include "app/play/moves.h"
 #include "support/play_harness.h"
 
 namespace numorra {
@@ -52,6 +54,56 @@ TEST_F(CellEntryTest, LeavingATypedCellChecksAndAnUntypedDoesNot) {
   Type("<");
   Go(1, 2);
   EXPECT_EQ(At(1, 0), "7") << "an empty cell counts as 0";
+}
+
+/// What recounts without a word leaves a typed digit to be told of when its cell is left, and no
+/// board is told of twice.
+TEST_F(CellEntryTest, AWinIsAnnouncedOnceWhateverComesBetween) {
+  const auto take = [this] { return dialogs_.Take() == Messages{kWin}; };
+  Position typed;
+  const std::function<void()> silent[] = {
+      [] {}, [this] { RecountInPlace(board_); }, [this] { Do("rot90x"); },
+      [this] { Do("flipd1x"), RecountInPlace(board_); },
+      [&] { Restore(board_, Position()), Restore(board_, typed); }};
+  for (const auto& recount : silent) {
+    Show("8 1 6 / 3 5 7 / 4 9 3");
+    Go(3, 3);
+    Type("2");
+    typed = PositionOf(board_);
+    EXPECT_TRUE(board_.Typing());
+    recount();
+    EXPECT_EQ(dialogs_.Take(), Messages{});
+    EXPECT_TRUE(board_.Typing());
+    Go(3, 2);
+    EXPECT_TRUE(take());
+    EXPECT_FALSE(board_.Typing());
+    const Position told = PositionOf(board_);
+    entry_.PressEnter();
+    Do("rot180x");
+    entry_.PressEnter();
+    Type("<");
+    Restore(board_, told);
+    entry_.PressEnter();
+    EXPECT_EQ(dialogs_.Take(), Messages{}) << "told already";
+    SwapRows(board_, dialogs_, 1, 2);
+    EXPECT_EQ(dialogs_.Take(), Messages{});
+    SwapRows(board_, dialogs_, 1, 2);
+    EXPECT_TRUE(take()) << "solved anew";
+  }
+}
+
+TEST_F(CellEntryTest, ASignWithoutDigitsIsAGap) {
+  Show("-1 2 3 / 4 5 6 / 7 8 9");
+  Type("<");
+  EXPECT_EQ(At(1, 1), "-");
+  EXPECT_TRUE(board_.HasGaps());
+  Do("rot90x");
+  EXPECT_EQ(At(1, 3), "") << "turned as a gap";
+  Show("-1 2 3 / 4 5 6 / 7 8 9");
+  Type("<");
+  entry_.PressEnter();
+  EXPECT_EQ(At(1, 1), "");
+  EXPECT_EQ(At(1, 0), "5");
 }
 
 TEST_F(CellEntryTest, EnterChecksAndGoesDownInTheLastColumn) {

@@ -2,6 +2,7 @@
 
 #include "app/play/lay_out.h"
 #include "puzzle/code.h"
+#include "support/invariants.h"
 #include "support/play_harness.h"
 
 namespace numorra {
@@ -82,6 +83,7 @@ TEST_F(HintsTest, SayWhatIsNoPuzzle) {
   EXPECT_EQ(hints_.Next().Text, "this board has several solutions, so no number follows");
   Read("4 . . 16\n. . . .\n. . . .\n1 . . 13");
   EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "4 solutions");
+  EXPECT_EQ(WhyInvalid(board_), "");
   EXPECT_TRUE(board_.grid.Given(1, 1));
   EXPECT_FALSE(board_.grid.Given(2, 2));
   hints_.Next();

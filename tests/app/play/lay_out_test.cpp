@@ -43,6 +43,21 @@ TEST_F(LayOutTest, FindsTheTargetThatWasMeant) {
   EXPECT_EQ(dialogs_.Take(), Messages{}) << "without a word";
 }
 
+/// Puzzles by the normal rules can be played in either mode, so the player's stays.
+TEST_F(LayOutTest, TheModeStaysNormalForNormalPuzzles) {
+  const std::pair<const char*, Mode> cases[] = {{"8 . 6\n3 5 7\n4 9 2", ModeNormal},
+                                                {"8 1 6\n3 5 7\n4 9 2", ModeVariable},
+                                                {"8 . 60\n3 5 7\n4 9 2", ModeVariable}};
+  for (const auto& [text, mode] : cases) {
+    board_.SolveMode = ModeNormal;
+    Lay(text);
+    EXPECT_EQ(board_.SolveMode, mode) << text;
+    board_.SolveMode = ModeVariable;
+    Lay(text);
+    EXPECT_EQ(board_.SolveMode, ModeVariable) << text;
+  }
+}
+
 /// A gap is no number, whatever is done to the board.
 TEST_F(LayOutTest, GapsStayGaps) {
   Lay("1 . 3\n4 5 6\n. 8 9");

@@ -35,6 +35,11 @@ TEST_F(StudyCommands, TakeTheTargetAlong) {
   EXPECT_EQ(board_.TargetTotal, 19.5);
   EXPECT_EQ(boxes_.SumText, "19.5");
   EXPECT_EQ(board_.grid.VerdictOf(2, 0), Verdict::Right);
+  board_.SolveMode = ModeNormal;
+  board_.grid.SetText(3, 3, "20");
+  ComplementBoard(board_, boxes_, dialogs_);
+  EXPECT_NE(board_.TargetTotal, 19.5);
+  EXPECT_EQ(boxes_.SumText, "19.5") << "in the Normal mode the box belongs to the size";
 }
 
 TEST_F(StudyCommands, RefuseInOneSentence) {

@@ -65,13 +65,14 @@ TEST_F(FilesTest, WhatIsSavedOpensAgainWhole) {
   EXPECT_EQ(TheGrid().Text(1, 2), "");
   EXPECT_TRUE(TheGrid().Given(1, 1) && TheGrid().Given(1, 3) && !TheGrid().Given(2, 2));
   EXPECT_EQ(window_.TheBoard().Asked, Rules::Normal);
-  EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked() && window_.TheBoard().TotalsChecked);
+  EXPECT_TRUE(Find<QRadioButton>("Option3").isChecked() && window_.TheBoard().TotalsChecked);
   Trigger("SaveAsx", In("again.json"));
   EXPECT_EQ(Read("again.json"), kPuzzle);
   const std::function<void()> boards[] = {[this] {
                                             Make("SolveManual", "5", "70.5"),
-                                                QTest::keyClick(&window_.View(), Qt::Key_Backspace,
-                                                                Qt::NoModifier);
+                                                QTest::keyClick(&window_.View(), Qt::Key_Backspace);
+                                            QTest::keyClick(&window_.View(), Qt::Key_Right);
+                                            QTest::keyClick(&window_.View(), Qt::Key_Left);
                                           },
                                           [this] { Trigger("Openx", Written("puzzle", kPuzzle)); },
                                           [this] { Make("SolveManual", "50", "5003"); }};
@@ -132,6 +133,13 @@ TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
        "row 2, column 2: the number has more than 14 digits"},
       {Written("h", QByteArray(kPuzzle).replace("[[true, false", "[[true, true")),
        "row 1, column 2: a gap cannot be given"},
+      {Written("k", QByteArray(kPuzzle).replace("\"total\": 15", "\"total\": 1e308")),
+       "\"total\" has more than 16 digits"},
+      {Written("utf16", QByteArray("\xFF\xFE"
+                                   "1\0\t\0"
+                                   "2\0",
+                                   8)),
+       "this text is in UTF-16: save it as UTF-8"},
       {Written("i", QByteArray(kPuzzle).replace("\"normal\"", "\"odd\"")),
        "\"rules\" is neither normal nor positive"}};
   for (const auto& [name, said] : cases) {
@@ -163,6 +171,29 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   Trigger("ExportPicturex", "a.gif");
   EXPECT_EQ(dialogs_.Take(), Messages{"File error: a.gif is neither a .png nor a .pdf file"});
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
+}
+
+/// What is no file, or another kind of file by its name, is not replaced.
+TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
+  Make("SolveAuto", "3");
+  const QString pipe = In("pipe.json"), circle = In("circle.json"), link = In("link.json");
+  mkfifo(pipe.toUtf8().constData(), 0600);
+  QFile::link(circle, circle);
+  QFile::link(Written("linked.json", "old"), link);
+  const std::pair<QString, std::string> cases[] = {
+      {pipe, " is no regular file"},
+      {circle, " is a link that leads to no file"},
+      {In("q.png"), " is neither a .json nor a .csv file: Export Picture writes pictures"}};
+  for (const auto& [name, why] : cases) {
+    Trigger("SaveAsx", name);
+    EXPECT_EQ(dialogs_.Take(), Messages{"File error: " + name.toStdString() + why});
+  }
+  struct stat now {};
+  EXPECT_TRUE(lstat(pipe.toUtf8().constData(), &now) == 0 && S_ISFIFO(now.st_mode));
+  EXPECT_TRUE(lstat(circle.toUtf8().constData(), &now) == 0 && S_ISLNK(now.st_mode));
+  EXPECT_FALSE(QFile::exists(In("q.png")));
+  Trigger("SaveAsx", link);
+  EXPECT_TRUE(Read("linked.json").startsWith("{")) << "through a link to a file";
 }
 
 /// Somebody else cuts the file short, takes it away and writes it again all the while.

@@ -103,6 +103,61 @@ TEST_F(StepPanelTest, PlaysExamplesAndEndsWithAChangeOfTheBoard) {
   EXPECT_TRUE(window_.View().isVisible());
 }
 
+/// Whatever shows the board, or a drawing of it, ends a walk that covers it; what only zooms acts
+/// on the walk.
+TEST_F(StepPanelTest, SomethingIsAlwaysInSight) {
+  const auto click = [this](const char* button) { return [this, button] { Click(button); }; };
+  const auto trigger = [this](const char* item) {
+    return [this, item] { Find<QAction>(item).trigger(); };
+  };
+  auto& drawing = Find<Drawing>("Picture1");
+  const std::pair<const char*, std::function<void()>> deeds[] = {
+      {"board", click("SolveManual")},     {"board", click("Command3")},
+      {"board", trigger("CheckTotalsx")},  {"board", trigger("Hintx")},
+      {"board", trigger("StandardFormx")}, {"drawing", click("Command1")},
+      {"drawing", click("Command2")},      {"walk", trigger("ZoomInx")},
+      {"walk", trigger("FitBoardx")},      {"walk", click("SolveRandum")}};
+  for (const bool drawn : {false, true}) {
+    for (const auto& [seen, deed] : deeds) {
+      Make("SolveManual", "5");
+      Click(drawn ? "Command1" : "Command4");
+      Toggle();
+      EXPECT_TRUE(View().isVisible());
+      deed();
+      QCoreApplication::processEvents();
+      dialogs_.Take();
+      EXPECT_EQ(View().isVisible(), seen == std::string("walk"));
+      EXPECT_EQ(Find<QAction>("StepByStepx").isChecked(), View().isVisible());
+      EXPECT_EQ(window_.View().isVisible() + drawing.isVisible() + View().isVisible(), 1);
+      EXPECT_EQ(drawing.isVisible(), seen == std::string("drawing") ||
+                                         (window_.TheBoard().OverlayShown && !View().isVisible()));
+      if (View().isVisible()) Toggle();
+    }
+  }
+}
+
+TEST_F(StepPanelTest, ZoomAndStateLineAreTheWalks) {
+  Make("SolveAuto", "4");
+  const double zoom = window_.View().Zoom();
+  Toggle();
+  auto& state = Find<QWidget>("BoardState");
+  EXPECT_EQ(state.accessibleName(), "4 x 4, sum 34: step 0 of 9");
+  EXPECT_TRUE(Find<QAction>("FitBoardx").isChecked());
+  const int side = View().CellRect(1, 1).width();
+  Find<QAction>("ZoomOutx").trigger();
+  EXPECT_LT(View().CellRect(1, 1).width(), side);
+  EXPECT_FALSE(Find<QAction>("FitBoardx").isChecked());
+  EXPECT_EQ(window_.View().Zoom(), zoom);
+  Click("StepNextx");
+  EXPECT_EQ(state.accessibleName(), "4 x 4, sum 34: step 1 of 9");
+  const QImage picture = View().viewport()->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(View().CellRect(0, 2).topLeft() + QPoint(1, 1)),
+            picture.pixelColor(View().CellRect(0, 2).topLeft() + QPoint(6, 6)))
+      << "no frame around a total that is not there";
+  Toggle();
+  EXPECT_EQ(state.accessibleName(), "4 x 4, sum 34: magic, F9 to play");
+}
+
 TEST_F(StepPanelTest, AsksWhereNumbersGo) {
   Toggle();
   Find<QCheckBox>("AskMex").setChecked(true);

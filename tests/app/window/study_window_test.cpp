@@ -109,6 +109,24 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_EQ(window_.size(), before);
 }
 
+/// Values are read whole: a long one takes as many lines as it needs.
+TEST_F(StudyWindowTest, LongValuesAreWrapped) {
+  Open();
+  Trigger("Melencoliax");
+  auto& tree = Find<QTreeWidget>("PropertyTree");
+  const int line = tree.visualItemRect(Entry("smallest")).height();
+  for (const char* name : {"famous", "standard form", "census number"}) {
+    const QRect place = tree.visualItemRect(Entry(name));
+    const QString value = Entry(name)->text(1);
+    const int width = tree.columnWidth(1) - 6;
+    const QRect needed =
+        tree.fontMetrics().boundingRect(QRect(0, 0, width, 9999), Qt::TextWordWrap, value);
+    EXPECT_GE(place.height(), needed.height()) << name;
+    EXPECT_LE(needed.width(), width + 6) << name;
+  }
+  EXPECT_GT(tree.visualItemRect(Entry("famous")).height(), 2 * line);
+}
+
 TEST_F(StudyWindowTest, FullScreenHidesThePanelAndBringsItBack) {
   Open();
   Trigger("FullScreenx");

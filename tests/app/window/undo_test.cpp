@@ -68,7 +68,7 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgain) {
     QTest::keyClicks(&window_.View(), "29");
     QTest::keyClick(&window_.View(), Qt::Key_Right);
     QTest::keyClick(&window_.View(), Qt::Key_Left);
-    ExpectStep(command.Caption, [&] { Choose(command.Name, 2, 2); });
+    ExpectStep(WordsFor(command, 20), [&] { Choose(command.Name, 2, 2); });
   }
   ExpectStep("Rotate 270d", [this] { Find<QAction>("redox").trigger(); });
 }

@@ -72,6 +72,62 @@ TEST_F(ZoomTest, FittingShowsTheWholeBoardAtEverySize) {
   EXPECT_FALSE(Find<QAction>("FitBoardx").isChecked()) << "a manual zoom leaves it";
 }
 
+/// The current cell stays where it is seen, and what fits is not scrolled.
+TEST_F(ZoomTest, ZoomsAboutTheCurrentCell) {
+  const auto inSight = [this] {
+    const QRect cell = window_.View().CellRect(TheGrid().CurrentRow(), TheGrid().CurrentColumn());
+    return window_.View().viewport()->rect().contains(cell);
+  };
+  Make("SolveManual", "20", "4000");
+  dialogs_.Take();
+  for (const auto& [row, column] : {std::pair{1, 1}, {4, 9}, {12, 12}}) {
+    Trigger("NormalSizex");
+    ClickCell(row, column);
+    for (int step = 0; step < 6; ++step) {
+      Trigger(step < 4 ? "ZoomInx" : "ZoomOutx");
+      EXPECT_TRUE(inSight()) << row << " " << step;
+    }
+  }
+  ClickCell(1, 1);
+  while (Side() > 14)
+    Trigger("ZoomOutx");
+  EXPECT_FALSE(Scrolls());
+  EXPECT_EQ(window_.View().Scrolled(), QPoint());
+}
+
+/// Exactly so large that it fits without bars, and not with them.
+TEST_F(ZoomTest, WhatFitsHasNoBars) {
+  Make("SolveManual", "11", "671");
+  auto& view = window_.View();
+  const QRect last = view.CellRect(12, 12);
+  for (const int over : {-5, 1}) {
+    Trigger("FullScreenx");
+    Trigger("FullScreenx");
+    view.setFixedSize(last.right() + 1 - over, last.bottom() + 1 - over);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Scrolls(), over > 0);
+  }
+  view.setFixedSize(last.right() + 1, last.bottom() + 1);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(Scrolls()) << "coming from a smaller one";
+}
+
+/// What speaks takes room of its own, and a fitted board follows.
+TEST_F(ZoomTest, ARemarkCoversNothing) {
+  window_.resize(900, 500);
+  Make("SolveAuto", "5");
+  Trigger("FitBoardx");
+  const int side = Side();
+  Trigger("Hintx");
+  auto& bar = Find<QWidget>("RemarkBar");
+  EXPECT_TRUE(bar.isVisible() && !bar.geometry().intersects(window_.View().geometry()));
+  EXPECT_TRUE(window_.View().viewport()->rect().contains(window_.View().CellRect(6, 6)));
+  EXPECT_LT(Side(), side);
+  Click("CloseRemarkx");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Side(), side);
+}
+
 TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
   Make("SolveManual", "5", "70");
   Trigger("ZoomInx");

@@ -1,0 +1,118 @@
+#include <QAccessible>
+#include <QClipboard>
+#include <QDialog>
+#include <QPointer>
+#include <QTimer>
+
+#include "support/window_fixture.h"
+
+namespace numorra {
+namespace {
+
+/// No paper, and files in a folder that is not there.
+struct NoPages : PagePrinter {
+  void Preview(QWidget*, const PaintedPages&) override {}
+};
+struct NoSheets : SheetPrinter {
+  bool Choose(QWidget*) override { return false; }
+  void Print(const std::string&) override {}
+};
+struct NoFiles : FileChooser {
+  QString ToOpen(QWidget*, const QString&, const QString&) override { return "/nowhere/a.json"; }
+  QString ToSave(QWidget*, const QString&, const QString&) override { return {}; }
+};
+
+class EveryActionTest : public WindowTest {
+ protected:
+  EveryActionTest() : WindowTest({.Printer = &sheets_, .Pages = &pages_, .Files = &files_}) {}
+
+  void Trigger(const char* item) { Find<QAction>(item).trigger(); }
+
+  template <class Object>
+  std::vector<QPointer<Object>> All() {
+    const auto found = window_.findChildren<Object*>();
+    return {found.begin(), found.end()};
+  }
+
+  /// Presses whatever an assistive tool could press, hidden and disabled objects too.
+  void PressEverything() {
+    for (const auto& object : All<QObject>()) {
+      QAccessibleInterface* seen = object ? QAccessible::queryAccessibleInterface(object) : nullptr;
+      QAccessibleActionInterface* actions = seen ? seen->actionInterface() : nullptr;
+      const QStringList names = actions ? actions->actionNames() : QStringList();
+      for (const QString& name : names) {
+        if (!object) break;
+        SCOPED_TRACE(object->objectName().toStdString() + " " + name.toStdString());
+        actions->doAction(name);
+        QCoreApplication::processEvents();
+        QApplication::closeAllWindows();
+        window_.show();
+        EXPECT_EQ(WhyInvalid(window_.TheBoard()), "");
+      }
+    }
+    for (const auto& action : All<QAction>()) {
+      if (action) action->trigger();
+    }
+    dialogs_.Take();
+  }
+
+  NoPages pages_;
+  NoSheets sheets_;
+  NoFiles files_;
+};
+
+/// Nothing that is pressed when nobody thought it could be ends the program, in any state of the
+/// window.
+TEST_F(EveryActionTest, EndsInTheWindow) {
+  const std::pair<const char*, std::function<void()>> states[] = {
+      {"no board", [] {}},
+      {"a board", [this] { Make("SolveAuto", "4"); }},
+      {"a puzzle", [this] { Make("SolveManual", "3"), Trigger("EmptyBoardx"); }},
+      {"a walk", [this] { Make("SolveAuto", "5"), Trigger("StepByStepx"); }},
+      {"a drawing", [this] { Make("SolveAuto", "4"), Click("Command2"); }},
+      {"a remark", [this] { Make("SolveAuto", "4"), Trigger("Hintx"); }},
+      {"full screen", [this] { Make("SolveAuto", "4"), Trigger("FullScreenx"); }},
+      {"a dialog", [this] { Make("SolveAuto", "4"), Trigger("HideNumbersx"); }}};
+  for (const auto& [name, enter] : states) {
+    SCOPED_TRACE(name);
+    window_.setWindowState(Qt::WindowNoState);
+    enter();
+    QCoreApplication::processEvents();
+    PressEverything();
+  }
+  window_.setWindowState(Qt::WindowNoState);
+  Make("SolveAuto", "4");
+  dialogs_.Take();
+  ExpectSettled();
+}
+
+/// While a search lets events run.
+TEST_F(EveryActionTest, EndsASearchAtMost) {
+  QString text;
+  for (int row = 0; row < 10; ++row) {
+    for (int column = 0; column < 10; ++column)
+      text += column == (row + 1) % 10 ? QString::number(7 * row + 3) + ' ' : ". ";
+    text += '\n';
+  }
+  const auto paste = [&] {
+    QGuiApplication::clipboard()->setText(text);
+    Trigger("Pastex");
+  };
+  for (const char* button : {"StepNextx", "StepBackx", "PlayStepsx", "CloseRemarkx", "SolveAgain",
+                             "StopSearchx", "DoCor1", "SolveAuto"}) {
+    SCOPED_TRACE(button);
+    paste();
+    QTimer::singleShot(50, &window_, [&] {
+      QAccessible::queryAccessibleInterface(&Find<QAbstractButton>(button))
+          ->actionInterface()
+          ->doAction(QAccessibleActionInterface::pressAction());
+      Trigger("CheckTotalsx");
+    });
+    Trigger("FillGapsx");
+    dialogs_.Take();
+    ExpectSettled();
+  }
+}
+
+}  // namespace
+}  // namespace numorra
