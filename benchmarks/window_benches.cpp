@@ -76,6 +76,7 @@ class Stand {
     Trigger("NormalSizex");
     Find<QWidget>("PropertiesPanel").hide();
     Find<QWidget>("StepPanel").hide();
+    if (Find<QAction>("DrawingNumbersx").isChecked()) Trigger("DrawingNumbersx");
     Resize(0);
     Find<QRadioButton>("Option4").setChecked(true);
     Find<QCheckBox>("Option1").setChecked(false);
@@ -198,6 +199,12 @@ std::vector<Command> Commands() {
        [](Stand& s) { s.Resize(100); }},
       {"totals check (Enter)", Nothing, [](Stand& s) { s.Key(Qt::Key_Return); }},
       Button("Show (fill)", "Command3"),
+      {"Cricles, numbers",
+       [](Stand& s, int) {
+         if (!s.Find<QAction>("DrawingNumbersx").isChecked()) s.Trigger("DrawingNumbersx");
+         s.Click("Command4"), Stand::Settle();
+       },
+       [](Stand& s) { s.Click("Command1"); }},
       {"Cricles", [](Stand& s, int) { s.Click("Command4"), Stand::Settle(); },
        [](Stand& s) { s.Click("Command1"); }},
       {"Vectors", [](Stand& s, int) { s.Click("Command4"), Stand::Settle(); },

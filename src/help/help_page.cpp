@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace numorra {
 
@@ -17,15 +18,24 @@ bool StandsIn(const QString& folder, const QUrl& link) {
   return !home.isEmpty() && file.startsWith(home.endsWith('/') ? home : home + '/');
 }
 
-int DepthOfTables(const QByteArray& html) {
-  const QByteArray page = html.toLower();
-  int depth = 0;
-  int deepest = 0;
-  for (qsizetype at = page.indexOf("table"); at > 0; at = page.indexOf("table", at + 1)) {
-    if (page[at - 1] == '<') deepest = std::max(deepest, ++depth);
-    if (page[at - 1] == '/' && at > 1 && page[at - 2] == '<') --depth;
+bool IsFlat(const QByteArray& html) {
+  constexpr int kDeepestTables = 8;
+  constexpr int kDeepestElements = 100;
+  // What needs no tag that closes it does not count.
+  static const QRegularExpression kTag(
+      "<(/?)(?!(?:p|li|dt|dd|td|th|tr|br|hr|img|meta|link)\\b)([a-z]+)",
+      QRegularExpression::CaseInsensitiveOption);
+  int tables = 0;
+  int elements = 0;
+  for (const auto& tag : kTag.globalMatch(QString::fromUtf8(html))) {
+    const int change = tag.capturedView(1).isEmpty() ? 1 : -1;
+    elements = std::max(0, elements + change);
+    if (tag.capturedView(2).compare(u"table", Qt::CaseInsensitive) == 0) {
+      tables = std::max(0, tables + change);
+    }
+    if (tables > kDeepestTables || elements > kDeepestElements) return false;
   }
-  return deepest;
+  return true;
 }
 
 }  // namespace numorra

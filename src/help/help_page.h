@@ -13,8 +13,8 @@ QString HelpPageIn(const QString& folder);
 /// Whether `link`, resolved, is a file in `folder` itself or below it, however its path is written.
 bool StandsIn(const QString& folder, const QUrl& link);
 
-/// How deep tables stand in each other on a page. The toolkit's time to lay them out doubles with
-/// each level and more.
-int DepthOfTables(const QByteArray& html);
+/// Whether a page can be laid out at once: the toolkit's time doubles with each table in a table,
+/// and grows with the square of the depth of all other elements.
+bool IsFlat(const QByteArray& html);
 
 }  // namespace numorra

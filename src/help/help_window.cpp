@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kSideMargin = 60;             // twips: 120 on both sides together
 constexpr qint64 kLargestFile = 256 << 10;  // a longer page would keep the window busy for seconds
-constexpr int kDeepestTables = 4;           // as would tables deeper in each other
 
 }  // namespace
 
@@ -40,7 +39,7 @@ QVariant FolderBrowser::loadResource(int type, const QUrl& name) {
   if (!file.open(QFile::ReadOnly)) return {};
   const QByteArray content = file.readAll();
   const bool page = type == QTextDocument::HtmlResource;
-  return page && DepthOfTables(content) > kDeepestTables ? QVariant() : content;
+  return page && !IsFlat(content) ? QVariant() : content;
 }
 
 void FolderBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {

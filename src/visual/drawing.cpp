@@ -3,14 +3,15 @@
 #include <algorithm>
 
 #include <QFontMetricsF>
-#include <QPainterPath>
 
 #include "visual/outline.h"
 
 namespace numorra {
 namespace {
 
-constexpr double kMargin = 8;  // pixels around the drawing
+constexpr double kMargin = 8;       // pixels around the drawing
+constexpr int kSmallestHaloed = 7;  // pixels: smaller numbers would drown in their halos
+constexpr double kHalo = 0.07;      // its width, of the height of a number
 
 }  // namespace
 
@@ -34,13 +35,19 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
   if (width > place.width()) {
     font.setPixelSize(std::max(1, static_cast<int>(place.height() * place.width() / width)));
   }
-  QPainterPath letters;
-  letters.addText({}, font, text);
-  letters.translate(place.center() - letters.boundingRect().center());
-  constexpr double kShareOfHeight = 0.2;
-  const double around = std::max(1.5, font.pixelSize() * kShareOfHeight);
-  painter.strokePath(letters, QPen(halo, around, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.fillPath(letters, ink);
+  painter.setFont(font);
+  const bool readable = font.pixelSize() >= kSmallestHaloed;
+  painter.setPen(halo);
+  // Painted around the number, as the outline of letters costs many times as much.
+  const double around = std::max(1.0, font.pixelSize() * kHalo);
+  for (int x = -1; readable && x <= 1; ++x) {
+    for (int y = -1; y <= 1; ++y) {
+      if (x != 0 || y != 0)
+        painter.drawText(place.translated(x * around, y * around), Qt::AlignCenter, text);
+    }
+  }
+  painter.setPen(ink);
+  painter.drawText(place, Qt::AlignCenter, text);
 }
 
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {

@@ -38,7 +38,8 @@ class HelpTest : public testing::Test {
 TEST_F(HelpTest, SaysPlainlyThatThereIsNoPageOrOneThatWouldTakeForEver) {
   EXPECT_EQ(HelpPageIn("/"), "/nrhelp.htm");
   for (const QByteArray& page :
-       {QByteArray(), QByteArray(5 << 20, 'x'), QByteArray("<TABLE><tr><td>").repeated(20)}) {
+       {QByteArray(), QByteArray(5 << 20, 'x'), QByteArray("<TABLE><tr><td>").repeated(20),
+        QByteArray("<ul><li>").repeated(9000)}) {
     if (!page.isEmpty()) Write(folder_ + "/nrhelp.htm", page);
     const HelpForm form(folder_, nullptr);
     EXPECT_TRUE(form.wb1->toPlainText().contains("cannot be shown"));

@@ -232,7 +232,7 @@ void Monkey::PressLikeATool() {
   QWidget* widget = Any(widgets);
   LastDone += widget->objectName().toStdString();
   QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
-  QAccessibleActionInterface* actions = seen ? seen->actionInterface() : nullptr;
+  QAccessibleActionInterface* actions = seen && seen->isValid() ? seen->actionInterface() : nullptr;
   const QStringList names = actions ? actions->actionNames() : QStringList();
   if (!names.isEmpty()) actions->doAction(Any(names));
 }

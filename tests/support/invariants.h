@@ -20,10 +20,9 @@ inline std::string WhyInvalid(const Board& board) {
       grid.CurrentColumn() > n) {
     return "the current cell is outside the value block";
   }
-  // A number that is being typed counts when its cell is left.
-  const bool typing = board.TotalsChecked && !board.NewEntry;
+  // A number that is being typed counts when its cell is left, and its lines are judged then.
   const auto typedInto = [&](Place at) {
-    return typing && at == Place{grid.CurrentRow(), grid.CurrentColumn()};
+    return board.Typing() && at == Place{grid.CurrentRow(), grid.CurrentColumn()};
   };
   const bool judged = board.TotalsJudged;
   const bool puzzle = board.HasGivens();
@@ -32,12 +31,12 @@ inline std::string WhyInvalid(const Board& board) {
   std::string why;
   const auto judge = [&](int row, int column, auto placeAt) {
     std::vector<std::string> line;
-    bool unfinished = false, counted = true;
+    bool unfinished = false;
     for (int i = 1; i <= n; ++i) {
       const Place at = placeAt(i);
+      if (typedInto(at)) return;
       const Grid::Cell& cell = grid.At(at.Row, at.Column);
-      if (typedInto(at)) counted = false;
-      line.push_back(typedInto(at) ? Decimal(board.BoardValues(at.Row, at.Column)) : cell.Text);
+      line.push_back(cell.Text);
       unfinished = unfinished || (puzzle && cell.IsGap());
     }
     const std::string where = " at " + std::to_string(row) + ", " + std::to_string(column);
@@ -51,7 +50,6 @@ inline std::string WhyInvalid(const Board& board) {
     const Verdict due = !judged || unfinished ? Verdict::Unjudged
                         : right               ? Verdict::Right
                                               : Verdict::Wrong;
-    if (puzzle && !counted) return;  // whether a line is finished is seen when its cell is left
     if (verdict != due) why += "wrongly judged" + where;
     const Colour colour = due == Verdict::Unjudged ? kWindowBackground
                                                    : ColorTable[right ? kRightTotal : kWrongTotal];

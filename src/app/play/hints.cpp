@@ -172,7 +172,8 @@ Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
   const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
     constexpr std::int64_t kMostCounted = 100;
     const bool several = std::holds_alternative<SeveralSolutions>(result);
-    const auto count = several ? CountSolutions(puzzle, kMostCounted, kLimit, stage) : std::nullopt;
+    std::optional<std::int64_t> count;
+    if (several) count = CountSolutions(puzzle, kMostCounted, kLimit, stage);
     ForEachCell(board.GridSize,
                 [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
     RefreshTotals(board);  // lines with gaps are unfinished from now on

@@ -33,6 +33,11 @@ void WalkView::GoTo(int step) {
     }
   }
   viewport()->update(changed);
+  const WalkStep* const done = walk_.Done();
+  if (done && !done->Written.empty()) {
+    const Place place = done->Written.front().first;
+    BringIntoView(place.Row, place.Column);
+  }
 }
 
 void WalkView::MoveTo(int row, int column) {

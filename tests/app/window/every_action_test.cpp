@@ -38,7 +38,8 @@ class EveryActionTest : public WindowTest {
   void PressEverything() {
     for (const auto& object : All<QObject>()) {
       QAccessibleInterface* seen = object ? QAccessible::queryAccessibleInterface(object) : nullptr;
-      QAccessibleActionInterface* actions = seen ? seen->actionInterface() : nullptr;
+      QAccessibleActionInterface* actions =
+          seen && seen->isValid() ? seen->actionInterface() : nullptr;
       const QStringList names = actions ? actions->actionNames() : QStringList();
       for (const QString& name : names) {
         if (!object) break;
