@@ -49,7 +49,7 @@ Result BuildVariable(const SquareRequest& request, Random& random) {
     if (build.Status == SolveStatus::CellValueTooSmall) throw Impossible{"Cell value too small"};
     std::string remark;
     if (request.Corner && build.Square(1, 1) != *request.Corner) {
-      remark = CornerOutOfReach(*request.Corner);
+      remark = WhyNotTheCorner(*request.Corner, plan);
     }
     if (request.Sum && build.Total != sum) {
       if (!remark.empty()) remark += "; ";

@@ -1,13 +1,14 @@
 #include "generate/corner_choice.h"
 
 #include "app/board/numbers.h"
-#include "generate/variable_plan.h"
+#include "generate/corner_seed.h"
 
 namespace numorra {
 namespace {
 
 constexpr int kMostCandidates = 100;
-constexpr int kLargestSizeWithout = 4;
+constexpr int kSmallestWithCorner = 4;
+constexpr int kSmallestWithChoice = 5;
 
 /// The smallest of 1, 2, 5, 10, 20, 50, ... that takes no more than kMostCandidates steps to
 /// `highest`.
@@ -25,8 +26,11 @@ void AddCandidate(ListBoy& candidates, int value) {
 
 }  // namespace
 
-std::string CornerOutOfReach(double corner) {
-  return "corner value " + Decimal(corner) + " is out of reach for this size and sum";
+std::string WhyNotTheCorner(double corner, const VariablePlan& plan) {
+  if (plan.GridSize < kSmallestWithCorner) return "a 3x3 square takes no corner value";
+  return "corner value " + Decimal(corner) +
+         " is out of reach for this size and sum, which allow whole numbers from 1 to " +
+         std::to_string(HighestCorner(plan.GridSize, plan.BaseValue));
 }
 
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice) {
@@ -38,7 +42,7 @@ void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox
     const VariablePlan plan = PlanVariableSquare(size, sum, false, true);
     board.BaseValue = plan.BaseValue;
     if (plan.Sum != sum) boxes.SetSum(Decimal(plan.Sum));
-    if (plan.GridSize > kLargestSizeWithout) {
+    if (plan.GridSize >= kSmallestWithChoice) {
       const int highest = 2 * plan.BaseValue - 1;
       const int step = RoundStep(highest);
       if (step > 1) AddCandidate(candidates, 1);

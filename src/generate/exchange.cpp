@@ -142,23 +142,6 @@ std::vector<int> ShuffledLines(Random& random, int count) {
   return lines;
 }
 
-/// Moves a cell to `wanted` by one exchange where one is found that can go all the way, otherwise
-/// by as many as it takes.
-void MoveCell(PatternedSquare& square, int row, int column, double wanted) {
-  constexpr int kDraws = 100;
-  constexpr int kDrawsForAllTheWay = 50;
-  for (int draw = 0; draw < kDraws; ++draw) {
-    const double way = wanted - square(row, column);
-    if (way == 0) return;
-    const Pattern pattern = ExchangeAt(square, row, column);
-    const FactorRange range = ExchangeRange(square, pattern);
-    const double factor = std::clamp<double>(way, range.Low, range.High);
-    if (factor == way || draw >= kDrawsForAllTheWay) {
-      square.Apply(pattern, static_cast<int>(factor));
-    }
-  }
-}
-
 }  // namespace
 
 Pattern ExchangeAt(PatternedSquare& square, int row, int column) {
@@ -211,25 +194,6 @@ void ThirdCornerPass(PatternedSquare& square, bool keepCorner) {
       if (!keepCorner || row != 1 || column != 1) VaryCell(square, row, column);
     }
   }
-}
-
-void SeedCorner(PatternedSquare& square, double base, double corner) {
-  constexpr int kAttempts = 20;  // one in thousands fails at order 5, where cells are few
-  constexpr double kTooLowToSpread = 3;
-  const int n = square.Order();
-  const double low = std::min(base, kTooLowToSpread);
-  bool seeded = false;
-  for (int attempt = 0; !seeded && attempt < kAttempts; ++attempt) {
-    square.Square().Fill(base);
-    MoveCell(square, 1, 1, corner);
-    if (corner > kTooLowToSpread) MoveCell(square, n, n, low);
-    MoveCell(square, 1, n, low);
-    seeded = square(1, 1) == corner && std::min(corner, square(n, n)) <= kTooLowToSpread &&
-             square(1, n) == low;
-  }
-  const int turnsToCome = n / 2 - 1;
-  for (int turn = 0; (turn + turnsToCome) % 4 != 0; ++turn)
-    square.Square().RotateBoard90();
 }
 
 }  // namespace numorra

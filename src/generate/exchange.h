@@ -41,10 +41,4 @@ void OddSizePass(PatternedSquare& square);
 /// Varies every cell, row by row in random order; with a corner to keep, every cell but (1, 1).
 void ThirdCornerPass(PatternedSquare& square, bool keepCorner);
 
-/// Prepares a flat square of `base` so that SpreadCornerDiagonals ends with `corner` at (1, 1):
-/// moves the corner there by exchanges, lowers the corners beside and opposite to 3 or less, so
-/// that every factor of that pass is 0, and turns the square so that the pass's quarter turns bring
-/// the corner home. A corner out of reach is approached as far as the other cells allow.
-void SeedCorner(PatternedSquare& square, double base, double corner);
-
 }  // namespace numorra

@@ -129,7 +129,7 @@ SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
     ports_.TheDialogs.Tell("Size 3 grid can be solved only for sums divisible by 3");
   }
   if (built && corner && build.Square(1, 1) != *corner) {
-    ports_.TheDialogs.Tell(CornerOutOfReach(*corner));
+    ports_.TheDialogs.Tell(WhyNotTheCorner(*corner, *lastPlan_));
   }
   return build.Status;
 }

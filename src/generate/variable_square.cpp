@@ -1,5 +1,8 @@
 #include "generate/variable_square.h"
 
+#include <algorithm>
+
+#include "generate/corner_seed.h"
 #include "generate/exchange.h"
 #include "generate/remainder.h"
 #include "generate/size3_square.h"
@@ -24,7 +27,8 @@ VariableBuild VariableSquare::Build(const VariablePlan& plan, std::optional<doub
   if (size3) {
     build.LeftFlat = !BuildSize3Square(square.Square(), plan.BaseValue, random_);
   } else if (corner) {
-    BringCorner(square, plan.BaseValue, *corner);
+    const double highest = HighestCorner(order, plan.BaseValue);
+    BringCorner(square, plan.BaseValue, static_cast<int>(std::clamp(*corner, 1.0, highest)));
   } else {
     SpreadAll(square, tries);
     if (!SpreadRemainder(square.Square(), plan)) build.Status = SolveStatus::TryAgain;
@@ -51,9 +55,9 @@ bool VariableSquare::SpreadRemainder(TurningSquare& square, const VariablePlan& 
   return SpreadRemainderOdd(square, plan.TotalRemainder, random_);
 }
 
-void VariableSquare::BringCorner(PatternedSquare& square, double base, double corner) {
+void VariableSquare::BringCorner(PatternedSquare& square, int base, int corner) {
   constexpr int kMaxRounds = 100;
-  SeedCorner(square, base, corner);
+  SeedCorner(square.Square(), base, corner, square.TheRandom());
   int round = 0;
   do {
     SpreadCornerDiagonals(square);

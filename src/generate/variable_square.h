@@ -42,13 +42,14 @@ class VariableSquare {
   VariableSquare(Random& random, BuildStage& stage) : random_(random), stage_(stage) {}
 
   /// `corner`: the value wanted at the top left, where there is one; the limit then does not apply.
+  /// One that no square has becomes the nearest that one has; squares of order 3 take none.
   /// `tries`: 1 for the first of several builds of a plan, which is varied more than later ones.
   VariableBuild Build(const VariablePlan& plan, std::optional<double> corner, int tries);
 
  private:
   static void SpreadAll(PatternedSquare& square, int tries);
   bool SpreadRemainder(TurningSquare& square, const VariablePlan& plan);
-  static void BringCorner(PatternedSquare& square, double base, double corner);
+  static void BringCorner(PatternedSquare& square, int base, int corner);
 
   Random& random_;
   BuildStage& stage_;

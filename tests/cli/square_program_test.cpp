@@ -49,7 +49,8 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
       {"--size 7 --corner 3", 175, ""},
       {"--size 3 --sum 1", 6, "numorra-square: the total is 6\n"},
       {"--size 5 --sum 50 --corner 900", 50,
-       "numorra-square: corner value 900 is out of reach for this size and sum\n"},
+       "numorra-square: corner value 900 is out of reach for this size and sum, which allow whole "
+       "numbers from 1 to 46\n"},
       {"--top-row 30,9,19,95", 153, ""},
       {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};
   for (const Case& c : cases) {

@@ -221,9 +221,11 @@ TEST_F(SolveCommandTest, SpeaksOfThePlanThatWasBuilt) {
   EXPECT_EQ(TheDialogs.Take(), Messages{});
   Boxes.SizeText = "3";
   Options.WantedCorner = 90;
-  const Messages outOfReach{"corner value 90 is out of reach for this size and sum"};
+  const Messages outOfReach{
+      "corner value 90 is out of reach for this size and sum, which allow whole numbers from 1 to "
+      "55"};
   Commands.Auto();
-  EXPECT_EQ(TheDialogs.Take(), outOfReach);
+  EXPECT_EQ(TheDialogs.Take(), Messages{"a 3x3 square takes no corner value"});
   Auto("6", "60");
   EXPECT_EQ(TheDialogs.Take(), outOfReach);
   Commands.Again();

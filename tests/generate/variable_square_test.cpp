@@ -1,5 +1,6 @@
 #include "generate/variable_square.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -42,6 +43,27 @@ TEST(VariableSquares, AreVariedAllOver) {
     ForEachCell(c.order, [&](int r, int col) {
       EXPECT_LE(atBase(r, col), c.atBase) << c.order << "/" << c.base << " at " << r << col;
     });
+  }
+}
+
+/// A row's other cells hold 1 or more: every corner that leaves them that much stands, and no
+/// other.
+TEST(VariableSquares, HaveEveryCornerThatASquareHas) {
+  SeededRandom random(3);
+  SilentStage stage;
+  VariableSquare generator(random, stage);
+  const std::pair<int, int> cases[] = {{4, 2}, {4, 9}, {5, 2}, {5, 20}, {6, 3}, {7, 4}, {50, 2}};
+  for (const auto& [order, base] : cases) {
+    const auto plan = PlanVariableSquare(order, order * base, false, true);
+    const int highest = order * base - (order - 1);
+    for (const int corner : {-3, 0, 1, 2, 3, highest - 1, highest, highest + 1, 500'000}) {
+      const VariableBuild build = generator.Build(plan, corner, 1);
+      EXPECT_EQ(slow::WhyNotMagic(RowsOf(build.Square, order), order * base), "");
+      EXPECT_EQ(build.Square(1, 1), std::clamp(corner, 1, highest)) << order << "/" << base;
+      ForEachCell(order, [&](int r, int c) { EXPECT_GE(build.Square(r, c), 1); });
+    }
+    for (int corner = 1; order < 8 && corner <= highest; ++corner)
+      ASSERT_EQ(generator.Build(plan, corner, 1).Square(1, 1), corner) << order << "/" << base;
   }
 }
 
