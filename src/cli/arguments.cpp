@@ -43,7 +43,8 @@ any total, 4 x 4 with a top row of your choice, or of a special kind.
 study says what squares are, and why. It reads rows of numbers from a file or
 from the standard input, squares separated by empty lines; a JSON object a line
 says the same to programs. Squares written as JSON are for the window to open; they
-are not read here.
+are not read here. Each is answered as soon as it is read, however many come; reading
+ends at one that takes more than a megabyte.
 
 complete fills the gaps (nothing, or one of - . _ between separators) of squares
 that it reads as study does, and says whether there is one way, several or none.
@@ -66,6 +67,10 @@ puzzle makes squares with gaps that have one solution. Their codes, up to size
   --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
   --count M, --seed N      so many; the same seed gives the same ones
   --format text|csv|json   JSON is one object a line, with its solution
+
+The exit status is 0 when all was done, 1 when there is no such square or something
+could not be read or written, 2 for bad arguments, 3 and 4 as complete has them, and
+5 when there was not enough memory.
 )";
 
 namespace {

@@ -3,25 +3,13 @@
 #include <fstream>
 #include <istream>
 #include <ostream>
-#include <sstream>
 
+#include "files/block_reader.h"
 #include "files/square_text.h"
 #include "puzzle/code.h"
 
 namespace numorra {
 namespace {
-
-std::string TextOf(const std::string& file, std::istream& standardInput) {
-  std::ifstream opened;
-  if (file != "-") opened.open(file, std::ios::binary);
-  std::istream& in = file == "-" ? standardInput : opened;
-  std::string text;
-  char block[1 << 16];
-  while (in.read(block, sizeof block) || in.gcount() > 0)
-    text.append(block, static_cast<std::size_t>(in.gcount()));
-  if (!in.eof() || in.bad()) throw Impossible{"'" + file + "' cannot be read"};
-  return text;
-}
 
 /// The reason alone, without advice for the window, and the line of the file that it is about.
 std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
@@ -29,27 +17,46 @@ std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
   return why.starts_with("line ") ? why : "line " + std::to_string(firstLine) + ": " + why;
 }
 
+bool LooksLikeJson(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  return first != std::string::npos && text[first] == '{';
+}
+
 }  // namespace
 
 bool ReadSquares(const std::string& file, const Streams& streams,
                  const std::function<void(const StoredSquare&)>& visit) {
-  const std::string all = TextOf(file, streams.In);
-  const std::size_t first = all.find_first_not_of(" \t\r\n");
-  if (first != std::string::npos && all[first] == '{') {
-    throw Impossible{
-        "this is JSON, which the window opens; here squares are read as text or codes"};
-  }
-  const std::vector<TextBlock> blocks = SquareBlocks(all);
-  if (blocks.empty()) throw Impossible{"there is no square to read"};
+  std::ifstream opened;
+  if (file != "-") opened.open(file, std::ios::binary);
+  std::istream& in = file == "-" ? streams.In : opened;
+  BlockReader blocks(in);
+  bool any = false;
   bool allRead = true;
-  for (const auto& [text, firstLine] : blocks) {
-    const auto square = ReadSquareOrCode(text, firstLine);
+  const auto tell = [&](const std::string& what) {
+    streams.Err << kProgramName << what << "\n";
+    allRead = false;
+  };
+  while (streams.Out) {
+    const auto block = blocks.Next();
+    if (!block) break;
+    if (!any && LooksLikeJson(block->Text)) {
+      throw Impossible{
+          "this is JSON, which the window opens; here squares are read as text or codes"};
+    }
+    any = true;
+    const auto square = ReadSquareOrCode(block->Text, block->FirstLine);
     if (const auto* unreadable = std::get_if<Unreadable>(&square)) {
-      streams.Err << kProgramName << WhereAndWhy(*unreadable, firstLine) << "\n";
-      allRead = false;
+      tell(WhereAndWhy(*unreadable, block->FirstLine));
     } else {
       visit(std::get<StoredSquare>(square));
     }
+  }
+  if (const auto line = blocks.TooLongFrom()) {
+    tell("line " + std::to_string(*line) + ": " + kTooLongForASquare + "; reading ends here");
+  } else if (streams.Out && (!in.eof() || in.bad())) {
+    throw Impossible{"'" + file + "' cannot be read"};
+  } else if (!any) {
+    throw Impossible{"there is no square to read"};
   }
   return allRead;
 }

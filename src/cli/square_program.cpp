@@ -1,5 +1,6 @@
 #include "cli/square_program.h"
 
+#include <new>
 #include <ostream>
 
 #include "app/board/runtime_error.h"
@@ -17,6 +18,7 @@ constexpr int kFailed = 1;
 constexpr int kBadArguments = 2;
 constexpr int kNoSolution = 3;
 constexpr int kNotSettled = 4;
+constexpr int kNoMemory = 5;
 
 int StatusOf(Completion completion) {
   switch (completion) {
@@ -48,35 +50,33 @@ int Run(const SquareRequest& request, const Streams& streams) {
   return kDone;
 }
 
-}  // namespace
-
-int RunSquareProgram(const std::vector<std::string>& words, const Streams& streams) {
-  const Arguments arguments = ParseArguments(words);
+int Answer(const Arguments& arguments, const Streams& streams) {
   if (const auto* bad = std::get_if<BadArguments>(&arguments)) {
     streams.Err << kProgramName << bad->Message << "\n";
     return kBadArguments;
   }
-  int status = kDone;
+  if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
+  const bool help = std::holds_alternative<HelpRequest>(arguments);
+  streams.Out << (help ? kUsage : "numorra-square " NUMORRA_VERSION "\n");
+  return kDone;
+}
+
+}  // namespace
+
+int RunSquareProgram(const std::vector<std::string>& words, const Streams& streams) {
   try {
-    if (std::holds_alternative<HelpRequest>(arguments)) {
-      streams.Out << kUsage;
-    } else if (std::holds_alternative<VersionRequest>(arguments)) {
-      streams.Out << "numorra-square " NUMORRA_VERSION "\n";
-    } else {
-      status = Run(std::get<SquareRequest>(arguments), streams);
-    }
+    const int status = Answer(ParseArguments(words), streams);
+    if (streams.Out.flush()) return status;
+    streams.Err << kProgramName << "the output cannot be written\n";
   } catch (const Impossible& impossible) {
     streams.Err << kProgramName << impossible.Why << "\n";
-    return kFailed;
   } catch (const RuntimeError& error) {
     streams.Err << kProgramName << error.what() << "\n";
-    return kFailed;
+  } catch (const std::bad_alloc&) {
+    streams.Err << kProgramName << "there is not enough memory for this\n";
+    return kNoMemory;
   }
-  if (!streams.Out.flush()) {
-    streams.Err << kProgramName << "the output cannot be written\n";
-    return kFailed;
-  }
-  return status;
+  return kFailed;
 }
 
 }  // namespace numorra

@@ -48,23 +48,17 @@ std::string Plain(std::string text) {
 
 constexpr std::string_view kSeparators = "\t;,";
 
-/// Whether a line holds no field, not even an empty one.
 bool IsEmpty(const Line& line) {
-  return Trim(line.Text).empty() && line.Text.find_first_of(kSeparators) == std::string::npos;
+  return IsEmptyLine(line.Text);
 }
 
-/// All lines, the first of which has the number `first`.
-std::vector<Line> AllLines(const std::string& text, std::size_t first = 1) {
+/// The lines from the first that is written on to the last. The text's first one has the number
+/// `first`.
+std::vector<Line> Lines(const std::string& text, std::size_t first) {
   std::vector<Line> lines;
   std::istringstream input(text);
   for (std::string line; std::getline(input, line);)
     lines.push_back({first++, line});
-  return lines;
-}
-
-/// The lines from the first that is written on to the last.
-std::vector<Line> Lines(const std::string& text, std::size_t first) {
-  std::vector<Line> lines = AllLines(text, first);
   const auto last = std::find_if_not(lines.rbegin(), lines.rend(), IsEmpty).base();
   lines.erase(last, lines.end());
   lines.erase(lines.begin(), std::find_if_not(lines.begin(), lines.end(), IsEmpty));
@@ -154,11 +148,11 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   return square;
 }
 
-bool SaysTotal(const Line& line) {
-  return line.Text.starts_with("total ");
-}
-
 }  // namespace
+
+bool IsEmptyLine(const std::string& line) {
+  return Trim(line).empty() && line.find_first_of(kSeparators) == std::string::npos;
+}
 
 std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
                                                       std::size_t firstLine) {
@@ -167,21 +161,6 @@ std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
   } catch (const Unreadable& unreadable) {
     return unreadable;
   }
-}
-
-std::vector<TextBlock> SquareBlocks(const std::string& text) {
-  std::string plain = text;
-  ReplaceAll(plain, "\r\n", "\n");
-  ReplaceAll(plain, "\r", "\n");
-  std::vector<TextBlock> blocks;
-  bool within = false;
-  for (const Line& line : AllLines(plain)) {
-    const bool between = IsEmpty(line) || SaysTotal(line);
-    if (!between && !within) blocks.push_back({"", line.Number});
-    within = !between;
-    if (within) blocks.back().Text += line.Text + "\n";
-  }
-  return blocks;
 }
 
 }  // namespace numorra

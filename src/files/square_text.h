@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <string>
 #include <variant>
-#include <vector>
 
 #include "files/stored_square.h"
 
@@ -31,14 +30,7 @@ inline constexpr const char* kTooLongForASquare = "this is too long for a square
 std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
                                                       std::size_t firstLine = 1);
 
-/// A part of a text, and the number of its first line.
-struct TextBlock {
-  std::string Text;
-  std::size_t FirstLine = 1;
-};
-
-/// The squares of a text that has one below the other, with empty lines between them. A line that
-/// says "total 34", as this program's own texts do, belongs to no square.
-std::vector<TextBlock> SquareBlocks(const std::string& text);
+/// Whether a line of a text holds no field, not even an empty one.
+bool IsEmptyLine(const std::string& line);
 
 }  // namespace numorra

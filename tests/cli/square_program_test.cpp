@@ -15,14 +15,45 @@ struct Outcome {
   std::string Err;
 };
 
-Outcome RunWith(const std::string& line, const std::string& input = "") {
+Outcome RunOn(std::istream& in, const std::string& line) {
   std::istringstream words(line);
   const std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
-  std::istringstream in(input);
   std::ostringstream out, err;
   const int status = RunSquareProgram(arguments, {in, out, err});
   return {status, out.str(), err.str()};
 }
+
+Outcome RunWith(const std::string& line, const std::string& input = "") {
+  std::istringstream in(input);
+  return RunOn(in, line);
+}
+
+/// A text and behind it another one, again and again without an end.
+class Endless : public std::streambuf {
+ public:
+  Endless(std::string start, std::string again)
+      : text_(std::move(start)), again_(std::move(again)) {}
+
+ private:
+  int_type underflow() override {
+    if (begun_ || text_.empty()) text_ = again_;
+    begun_ = true;
+    setg(text_.data(), text_.data(), text_.data() + text_.size());
+    return traits_type::to_int_type(text_[0]);
+  }
+
+  std::string text_, again_;
+  bool begun_ = false;
+};
+
+/// Room for a few kilobytes.
+class Full : public std::streambuf {
+ public:
+  Full() { setp(room_, room_ + sizeof room_); }
+
+ private:
+  char room_[5000];
+};
 
 TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
   EXPECT_EQ(RunWith("--size=4").Out,
@@ -124,6 +155,34 @@ TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
   EXPECT_EQ(none.Err,
             "numorra-square: no most-perfect normal square has order 6: such squares have an order "
             "that is a multiple of 4\n");
+}
+
+/// Of what never ends as much is read as one square may take; squares are taken as they come.
+TEST(SquareProgram, ReadsWithoutAnEndInBoundedMemory) {
+  const std::string square = "\r\n8 1 6\r3 5 7\r\n4 9 2\n\ntotal 15\n\n";
+  struct Case {
+    std::string start, again, line;
+  };
+  const Case cases[] = {{"", std::string(1, '\0'), "1"},
+                        {"", "\n", "1"},
+                        {square, "1 2 3\n", "8"},
+                        {square + square, "7", "15"}};
+  for (const Case& c : cases) {
+    Endless endless(c.start, c.again);
+    std::istream in(&endless);
+    const Outcome run = RunOn(in, "complete");
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_EQ(run.Err, "numorra-square: line " + c.line +
+                           ": this is too long for a square of numbers; reading ends here\n");
+    EXPECT_EQ(run.Out.starts_with("one\n"), !c.start.empty());
+  }
+  Endless endless("", square);
+  Full full;
+  std::istream in(&endless);
+  std::ostream out(&full);
+  std::ostringstream err;
+  EXPECT_EQ(RunSquareProgram({"complete"}, {in, out, err}), 1);
+  EXPECT_EQ(err.str(), "numorra-square: the output cannot be written\n");
 }
 
 TEST(SquareProgram, StudiesWhatItReads) {

@@ -1,11 +1,13 @@
 #include <algorithm>
 #include <new>
+#include <sstream>
 
 #include "app/board/position.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/hints.h"
 #include "app/play/lay_out.h"
 #include "app/play/study_commands.h"
+#include "cli/square_program.h"
 #include "memory/granted.h"
 #include "puzzle/code.h"
 #include "puzzle/fresh_square.h"
@@ -81,6 +83,37 @@ TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {
     CodeOf(std::get<MadePuzzle>(MakePuzzle(*square, {Grade::Hard}, lot_, stage_)).Clues);
   };
   EXPECT_GT(Refuse(kFull, true, make), 20);
+}
+
+/// Streams that ask for no memory themselves, which they would not tell.
+struct Room : std::streambuf {
+  Room() { setp(Bytes, Bytes + sizeof Bytes); }
+  std::string Text() const { return {pbase(), pptr()}; }
+  char Bytes[10'000];
+};
+
+/// A sort takes less memory where it is refused more: such a run goes on and says nothing.
+TEST(RefusedMemoryOfTheCompanion, IsOneSentenceAndAStatus) {
+  const std::vector<std::vector<std::string>> lines = {
+      {"complete", "--format", "json"}, {"study"}, {"--size", "9", "--corner", "3"}};
+  for (const std::vector<std::string>& words : lines) {
+    int told = 0;
+    long later = 0;
+    for (bool all = false; !all; ++later) {
+      std::istringstream in("8 1 6\n3 5 7\n4 9 2\n");
+      Room said, remarked;
+      std::ostream out(&said), err(&remarked);
+      granted = later;
+      const int status = RunSquareProgram(words, {in, out, err});
+      all = granted >= 0;
+      granted = -1;
+      EXPECT_EQ(remarked.Text(),
+                status == 0 ? "" : "numorra-square: there is not enough memory for this\n");
+      EXPECT_TRUE(status == 5 || status == 0) << words[0] << " after " << later;
+      told += status == 5 ? 1 : 0;
+    }
+    EXPECT_GT(told, 3) << words[0];
+  }
 }
 
 }  // namespace

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace numorra {
+
+/// A part of a text, and the number of its first line.
+struct TextBlock {
+  std::string Text;
+  std::size_t FirstLine = 1;
+};
+
+/// Takes squares one by one from a text that has one below the other, with empty lines between
+/// them, however many there are. A line that says "total 34", as this program's own texts do,
+/// belongs to no square. Lines end by LF, CR or both.
+class BlockReader {
+ public:
+  explicit BlockReader(std::istream& in) : in_(in) {}
+
+  /// The lines of the next square. Nothing at the end of the text, and where kMostTextBytes end no
+  /// square: what follows is not read.
+  std::optional<TextBlock> Next();
+
+  /// The line from which on too much was to be read for a square.
+  std::optional<std::size_t> TooLongFrom() const { return tooLongFrom_; }
+
+ private:
+  bool ReadLine();
+
+  std::istream& in_;
+  std::string line_;
+  std::size_t number_ = 0;     ///< of the line that was read last
+  std::size_t bytesLeft_ = 0;  ///< that the next square may take
+  bool afterReturn_ = false;   ///< whether an LF would belong to the CR before it
+  std::optional<std::size_t> tooLongFrom_;
+};
+
+}  // namespace numorra
