@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <initializer_list>
+#include <limits>
 #include <utility>
 
+#include "app/board/numbers.h"
 #include "app/board/orders.h"
+#include "app/board/runtime_error.h"
 #include "files/stored_square.h"
 #include "puzzle/rules.h"
 
@@ -23,14 +27,16 @@ Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
 any total, 4 x 4 with a top row of your choice, or of a special kind.
 
   --size N                 how many cells a side has, 3 to 50
-  --sum T                  the total wanted instead of that of 1 to N x N, up to
-                           32767
+  --sum T                  the total wanted instead of that of 1 to N x N, below
+                           32768 x N
   --limit-to-9             no number above 9; the total is then at most 5 x N
-  --corner V               the number wanted at the top left
+  --corner V               the number wanted at the top left, from size 4 on
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
   --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
                            bordered
-  --vary                   another square of the family of the one that is built
+  --vary                   another square of the family of the one that is built;
+                           of the kinds only associative squares stay what they
+                           are, and no corner or top row stays where it is
   --count M                so many squares, 1 to 1000000
   --format text|csv|json   aligned columns and the total (the default), rows of
                            comma-separated numbers, or an object with both
@@ -82,6 +88,16 @@ std::optional<Number> NumberIn(const std::string& text) {
   const auto result = std::from_chars(text.data(), end, number);
   if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
   return number;
+}
+
+/// A number as cells have them.
+std::optional<double> DecimalIn(const std::string& text) {
+  try {
+    const double number = StrictVal(text);
+    return DigitsOf(text) <= kMostCellDigits ? std::optional(number) : std::nullopt;
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 /// Takes one word after the other; the first thing that is wrong is told.
@@ -138,6 +154,10 @@ class Reader {
   void CheckTogether() {
     if (request_.Command == Command::Puzzle) {
       if (request_.Size == 0) Fail("the size is missing");
+      if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
+        Fail("the sum of a puzzle is a whole number");
+      }
+      CheckSum();
       return;
     }
     if (request_.Command != Command::Build) {
@@ -148,6 +168,7 @@ class Reader {
       if (request_.Format == SquareFormat::Csv) Fail("the format is text or json");
       return;
     }
+    CheckSum();
     const bool variable = request_.Sum || request_.LimitToNine || request_.Corner;
     if (request_.Top) {
       if (request_.Size != 0 || variable || request_.Kind) {
@@ -158,6 +179,25 @@ class Reader {
     }
     if (request_.Kind && variable) Fail("a kind goes with a size alone");
     if (request_.Corner && request_.LimitToNine) Fail("the limit does not go with a corner");
+    CheckVary();
+  }
+
+  /// Squares are made of 16-bit shares of the sum; the limit lowers any larger one.
+  void CheckSum() {
+    const double bound = (std::numeric_limits<std::int16_t>::max() + 1.0) * request_.Size;
+    if (request_.Size == 0 || !request_.Sum || request_.LimitToNine || *request_.Sum < bound)
+      return;
+    Fail("the sum for size " + std::to_string(request_.Size) + " is below " + Decimal(bound));
+  }
+
+  /// A relative of a square has lost what the order of its lines gave it.
+  void CheckVary() {
+    if (!request_.Vary) return;
+    if (request_.Top) Fail("a square that is varied does not keep its top row");
+    if (request_.Corner) Fail("a square that is varied does not keep its corner");
+    if (request_.Kind && !request_.Kind->KeptByFamily) {
+      Fail("a square that is varied does not stay " + std::string(request_.Kind->Term));
+    }
   }
 
   void TakeOption() {
@@ -222,14 +262,16 @@ class Reader {
   }
 
   void Sum() {
-    request_.Sum = NumberIn<std::int16_t>(Value());
-    if (!request_.Sum || *request_.Sum < 1) Fail("the sum is a whole number from 1 to 32767");
+    request_.Sum = DecimalIn(Value());
+    if (!request_.Sum || *request_.Sum <= 0) {
+      Fail("the sum is a number above 0 of at most " + std::to_string(kMostCellDigits) + " digits");
+    }
   }
 
   void LimitToNine() { request_.LimitToNine = true; }
 
   void Corner() {
-    request_.Corner = NumberIn<std::int16_t>(Value());
+    request_.Corner = NumberIn<int>(Value());
     if (!request_.Corner || *request_.Corner < 1) Fail("the corner is a whole number from 1 on");
   }
 

@@ -26,7 +26,7 @@ struct SquareRequest {
   /// Squares to be built: normal ones, ones of any total when a sum, the limit or a corner is
   /// given, 4 x 4 ones with a top row, or ones of a special kind.
   int Size = 0;
-  std::optional<int> Sum;
+  std::optional<double> Sum;
   bool LimitToNine = false;
   std::optional<int> Corner;
   std::optional<TopRow> Top;

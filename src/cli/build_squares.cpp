@@ -26,40 +26,6 @@ struct Result {
   Rules Asked = Rules::Positive;
 };
 
-Result BuildTopRow(const TopRow& top, Random& random) {
-  const auto found = FindTopRowSquare(top, random, [] {});
-  if (!found) throw Impossible{"no 4x4 square has this top row"};
-  return {found->Square, 4, found->Total, RemarkOn(found->Quality)};
-}
-
-Result BuildNormal(int order, Random& random) {
-  SilentStage stage;
-  return {NormalSquare(random, stage).Build(order), order, MagicConstant(order), "", Rules::Normal};
-}
-
-Result BuildVariable(const SquareRequest& request, Random& random) {
-  SilentStage stage;
-  VariableSquare generator(random, stage);
-  const double sum = request.Sum.value_or(static_cast<int>(MagicConstant(request.Size)));
-  const VariablePlan plan =
-      PlanVariableSquare(request.Size, sum, request.LimitToNine, request.Corner.has_value());
-  for (int tries = 1; tries <= kTries; ++tries) {
-    const VariableBuild build = generator.Build(plan, request.Corner, tries);
-    if (build.Status == SolveStatus::TryAgain) continue;
-    if (build.Status == SolveStatus::CellValueTooSmall) throw Impossible{"Cell value too small"};
-    std::string remark;
-    if (request.Corner && build.Square(1, 1) != *request.Corner) {
-      remark = WhyNotTheCorner(*request.Corner, plan);
-    }
-    if (request.Sum && build.Total != sum) {
-      if (!remark.empty()) remark += "; ";
-      remark += "the total is " + Decimal(build.Total);
-    }
-    return {build.Square, request.Size, build.Total, remark};
-  }
-  throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
-}
-
 /// The other way round than NumbersOf.
 CellTable TableOf(int order, const std::vector<double>& numbers) {
   CellTable table;
@@ -68,27 +34,80 @@ CellTable TableOf(int order, const std::vector<double>& numbers) {
   return table;
 }
 
-Result BuildSpecial(const SpecialKind& kind, int order, Random& random) {
-  const std::string none = kind.WhyNone(order);
-  if (!none.empty()) throw Impossible{none};
-  return {TableOf(order, kind.Build(order, random)), order, MagicConstant(order), "",
-          Rules::Normal};
-}
+/// Builds one square after the other; each generator goes on from what it built last.
+class SquareBuilder {
+ public:
+  SquareBuilder(const SquareRequest& request, Random& random)
+      : request_(request), random_(random) {}
 
-Result BuildSquare(const SquareRequest& request, Random& random) {
-  if (request.Top) return BuildTopRow(*request.Top, random);
-  if (request.Kind) return BuildSpecial(*request.Kind, request.Size, random);
-  const bool normal = !request.Sum && !request.LimitToNine && !request.Corner;
-  return normal ? BuildNormal(request.Size, random) : BuildVariable(request, random);
-}
+  Result Next() {
+    if (request_.Top) return WithTopRow(*request_.Top);
+    if (request_.Kind) return Special(*request_.Kind);
+    const bool normal = !request_.Sum && !request_.LimitToNine && !request_.Corner;
+    return normal ? Normal() : Variable();
+  }
+
+ private:
+  Result WithTopRow(const TopRow& top) {
+    const auto found = FindTopRowSquare(top, random_, [] {});
+    if (!found) throw Impossible{"no 4x4 square has this top row"};
+    return {found->Square, 4, found->Total, RemarkOn(found->Quality)};
+  }
+
+  Result Special(const SpecialKind& kind) {
+    const int order = request_.Size;
+    const std::string none = kind.WhyNone(order);
+    if (!none.empty()) throw Impossible{none};
+    return {TableOf(order, kind.Build(order, random_)), order, MagicConstant(order), "",
+            Rules::Normal};
+  }
+
+  Result Normal() {
+    const int order = request_.Size;
+    normal_.ForgetCount();
+    return {normal_.Build(order), order, MagicConstant(order), "", Rules::Normal};
+  }
+
+  Result Variable() {
+    const double sum = request_.Sum.value_or(MagicConstant(request_.Size));
+    const VariablePlan plan =
+        PlanVariableSquare(request_.Size, sum, request_.LimitToNine, request_.Corner.has_value());
+    for (int tries = 1; tries <= kTries; ++tries) {
+      const VariableBuild build = variable_.Build(plan, request_.Corner, tries);
+      if (build.Status == SolveStatus::TryAgain) continue;
+      if (build.Status == SolveStatus::CellValueTooSmall) throw Impossible{"Cell value too small"};
+      return {build.Square, request_.Size, build.Total, RemarkOnDifference(plan, build)};
+    }
+    throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
+  }
+
+  /// What the square has another than was asked for.
+  std::string RemarkOnDifference(const VariablePlan& plan, const VariableBuild& build) const {
+    std::string remark;
+    if (request_.Corner && build.Square(1, 1) != *request_.Corner) {
+      remark = WhyNotTheCorner(*request_.Corner, plan);
+    }
+    if (request_.Sum && build.Total != *request_.Sum) {
+      remark += (remark.empty() ? "" : "; ") + ("the total is " + Decimal(build.Total));
+    }
+    return remark;
+  }
+
+  const SquareRequest& request_;
+  Random& random_;
+  SilentStage stage_;
+  NormalSquare normal_{random_, stage_};
+  VariableSquare variable_{random_, stage_};
+};
 
 }  // namespace
 
 void BuildSquares(const SquareRequest& request, const Streams& streams) {
   const auto clock = ClockFrom(request.Seed);
   ClockSeededRandom random(*clock);
+  SquareBuilder builder(request, random);
   for (int count = 0; count < request.Count && streams.Out; ++count) {
-    Result result = BuildSquare(request, random);
+    Result result = builder.Next();
     if (request.Vary) {
       const auto varied = Varied(result.Order, NumbersOf(result.Square, result.Order), random);
       if (!varied) throw Impossible{"all relatives of this square look like it"};

@@ -16,7 +16,7 @@ namespace {
 MadePuzzle Make(const SquareRequest& request, Random& random) {
   SilentStage stage;
   SquareWish square{request.Size, {}, request.LimitToNine};
-  if (request.Sum) square.Total = *request.Sum;
+  if (request.Sum) square.Total = static_cast<std::int64_t>(*request.Sum);
   const auto full = FreshSquare(square, random, stage);
   if (!full) throw Impossible{"no square of this size and sum was found"};
   const auto made = MakePuzzle(*full, {request.Wanted, request.Clues}, random, stage);

@@ -25,6 +25,9 @@ class NormalSquare {
   /// A square of the given order in the value block.
   CellTable Build(int order);
 
+  /// Counts steps from 0 again, for those who show no count and build without an end.
+  void ForgetCount() { IterationCounter = 0; }
+
  private:
   CellTable SearchOddSquare(int order);
   CellTable BuildLuxSquare(int k);

@@ -63,11 +63,11 @@ std::string WhyNotBordered(int order) {
 }  // namespace
 
 const std::array<SpecialKind, 5> kSpecialKinds = {{
-    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare},
-    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare},
-    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare},
-    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare},
-    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare},
+    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare, true},
+    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare, false},
+    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare, false},
+    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare, false},
+    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare, false},
 }};
 
 const SpecialKind* FindSpecialKind(const std::string& term) {

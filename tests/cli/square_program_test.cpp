@@ -1,10 +1,12 @@
 #include "cli/square_program.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 #include <sstream>
 
 #include "support/boards.h"
+#include "support/slow_classifier.h"
 
 namespace numorra {
 namespace {
@@ -55,6 +57,20 @@ class Full : public std::streambuf {
   char room_[5000];
 };
 
+/// The blocks between empty lines.
+std::vector<std::string> Blocks(const std::string& text) {
+  std::vector<std::string> blocks(1);
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.empty()) {
+      blocks.emplace_back();
+    } else {
+      blocks.back() += line + "\n";
+    }
+  }
+  return blocks;
+}
+
 TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
   EXPECT_EQ(RunWith("--size=4").Out,
             " 4  9  5 16\n14  7 11  2\n15  6 10  3\n 1 12  8 13\n\ntotal 34\n");
@@ -78,6 +94,9 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
       {"--size 50 --sum 32767", 32767, ""},
       {"--size 8 --sum 77 --limit-to-9", 40, "numorra-square: the total is 40\n"},
       {"--size 7 --corner 3", 175, ""},
+      {"--size 5 --sum 163839", 163839, ""},
+      {"--size 5 --sum 9999999 --limit-to-9", 25, "numorra-square: the total is 25\n"},
+      {"--size 7 --sum 100.9", 101, "numorra-square: the total is 101\n"},
       {"--size 3 --sum 1", 6, "numorra-square: the total is 6\n"},
       {"--size 5 --sum 50 --corner 900", 50,
        "numorra-square: corner value 900 is out of reach for this size and sum, which allow whole "
@@ -120,6 +139,17 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
                            "--size 5 --corner x",
                            "--size 5 --corner 0",
                            "--size 5 --sum x",
+                           "--size 5 --sum inf",
+                           "--size 5 --sum 1e3",
+                           "--size 5 --sum 163840",
+                           "puzzle --size 5 --sum 163840",
+                           "puzzle --size 5 --sum 90.5",
+                           "--size 5 --vary --corner 7",
+                           "--top-row 1,2,3,4 --vary",
+                           "--size 9 --kind pandiagonal --vary",
+                           "--size 8 --kind most-perfect --vary",
+                           "--size 8 --kind ultramagic --vary",
+                           "--size 8 --kind bordered --vary",
                            "--size 5 --count x",
                            "--size 5 --seed x",
                            "--top-row 1,2,3,4 --sum 10",
@@ -136,25 +166,34 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
 }
 
 TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
-  const Outcome run = RunWith("--kind pandiagonal --size 9 --seed 4 --count 3 --vary --format csv");
-  EXPECT_EQ(run.Err, "");
-  std::set<std::string> different;
-  std::istringstream blocks(run.Out);
-  for (int square = 0; square < 3; ++square) {
-    std::string rows;
-    for (std::string line; std::getline(blocks, line) && !line.empty();)
-      rows += line + "\n";
-    EXPECT_EQ(slow::WhyNotNormal(ParseRows(rows, '\n')), "");
-    different.insert(rows);
+  for (const char* kind : {"pandiagonal --size 9", "associative --size 7 --vary"}) {
+    const std::string line = std::string("--seed 4 --count 3 --format csv --kind ") + kind;
+    const Outcome run = RunWith(line);
+    EXPECT_EQ(run.Err, "");
+    std::set<std::string> different;
+    for (const std::string& rows : Blocks(run.Out)) {
+      const auto square = ParseRows(rows, '\n');
+      EXPECT_EQ(slow::WhyNotNormal(square), "");
+      EXPECT_EQ(slow::Classify(square).at(std::string(kind, 11)), true) << rows;
+      different.insert(rows);
+    }
+    EXPECT_EQ(different.size(), 3U);
+    EXPECT_EQ(RunWith(line).Out, run.Out);
   }
-  EXPECT_EQ(different.size(), 3U);
-  EXPECT_EQ(RunWith("--kind pandiagonal --size 9 --seed 4 --count 3 --vary --format csv").Out,
-            run.Out);
   const Outcome none = RunWith("--kind most-perfect --size 6");
   EXPECT_EQ(none.Status, 1);
   EXPECT_EQ(none.Err,
             "numorra-square: no most-perfect normal square has order 6: such squares have an order "
             "that is a multiple of 4\n");
+}
+
+/// As in the window: quarter turns by 1, 2, 3, 0, and never the start of the last odd square.
+TEST(SquareProgram, GoesOnFromTheSquareBefore) {
+  const auto fours = Blocks(RunWith("--size 4 --count 5 --format csv").Out);
+  EXPECT_EQ(std::set<std::string>(fours.begin(), fours.end()).size(), 4U);
+  EXPECT_EQ(fours[0], fours[4]);
+  const auto fives = Blocks(RunWith("--size 5 --count 200 --format csv --seed 1").Out);
+  EXPECT_EQ(std::adjacent_find(fives.begin(), fives.end()), fives.end());
 }
 
 /// Of what never ends as much is read as one square may take; squares are taken as they come.

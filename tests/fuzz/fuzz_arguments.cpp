@@ -18,7 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (request->Command == SquareCommand::Build) Check(request->Top.has_value() != sized);
     if (request->Command == SquareCommand::Puzzle) Check(sized);
     Check(request->Count >= 1 && request->Seconds > 0);
-    Check(!request->Sum || (*request->Sum >= 1 && *request->Sum <= 32767));
+    Check(!request->Sum || *request->Sum > 0);
+    const bool planned = request->Command != SquareCommand::Complete && !request->LimitToNine;
+    Check(!request->Sum || !planned || *request->Sum < 32768.0 * request->Size);
     Check(!request->Corner || *request->Corner >= 1);
   }
   return 0;
