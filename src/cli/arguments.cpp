@@ -61,7 +61,8 @@ Its exit status is 3 for none and 4 for what was not settled in time.
   --sum T                  the total, instead of the one that the square tells
   --limit-to-9             no number above 9, by the positive rules
   --seconds S              how long to search for each square: 3
-  --format text|json       JSON is one object a line
+  --format text|json       JSON is one object a line, with what else is to be said
+                           as "why"
 
 puzzle makes squares with gaps that have one solution. Their codes, up to size
 10, are read by study, complete and the window.

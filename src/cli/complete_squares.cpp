@@ -1,10 +1,7 @@
 #include "cli/complete_squares.h"
 
 #include <algorithm>
-#include <chrono>
-#include <iomanip>
 #include <ostream>
-#include <sstream>
 
 #include "app/board/numbers.h"
 #include "app/board/random.h"
@@ -25,7 +22,7 @@ struct Completed {
   std::string Why = {};
 };
 
-Completed AnswerOf(const SearchResult& result) {
+Completed AnswerOf(const SearchResult& result, double seconds) {
   if (const auto* one = std::get_if<OneSolution>(&result)) {
     return {"one", Completion::Completed, one->Solved};
   }
@@ -33,7 +30,7 @@ Completed AnswerOf(const SearchResult& result) {
     return {"several", Completion::Completed, several->First, several->Second};
   }
   if (const auto* open = std::get_if<NotSettled>(&result)) {
-    return {"unsettled", Completion::Unsettled, open->Found};
+    return {"unsettled", Completion::Unsettled, open->Found, {}, WhyOpen(*open, seconds)};
   }
   return {"none", Completion::Impossible};
 }
@@ -53,20 +50,19 @@ Completed Complete(StoredSquare square, const SquareRequest& request, Random& ra
     return {"none", Completion::Impossible, {}, {}, against->Why};
   }
   SilentStage stage;
-  return AnswerOf(Solve(std::get<Puzzle>(puzzle), {.Seconds = request.Seconds}, random, stage));
+  const double seconds = request.Seconds;
+  return AnswerOf(Solve(std::get<Puzzle>(puzzle), {.Seconds = seconds}, random, stage), seconds);
 }
 
 std::string RowsOf(const std::optional<Puzzle>& puzzle) {
   return puzzle ? JsonRowsOf(StoredSquareOf(*puzzle, false)) : "null";
 }
 
-void Write(const Completed& completed, double seconds, const SquareRequest& request,
-           std::ostream& out) {
-  if (request.Format == SquareFormat::Json) {
-    std::ostringstream time;
-    time << std::fixed << std::setprecision(3) << seconds;
-    out << "{\"answer\": \"" << completed.Answer << "\", \"rows\": " << RowsOf(completed.First)
-        << ", \"second\": " << RowsOf(completed.Second) << ", \"seconds\": " << time.str() << "}\n";
+void Write(const Completed& completed, SquareFormat format, std::ostream& out) {
+  if (format == SquareFormat::Json) {
+    const std::string why = completed.Why.empty() ? "null" : "\"" + completed.Why + "\"";
+    out << R"({"answer": ")" << completed.Answer << R"(", "why": )" << why << R"(, "rows": )"
+        << RowsOf(completed.First) << R"(, "second": )" << RowsOf(completed.Second) << "}\n";
     return;
   }
   out << completed.Answer << (completed.Why.empty() ? "" : ": ") << completed.Why << "\n";
@@ -85,12 +81,10 @@ Completion CompleteSquares(const SquareRequest& request, const Streams& streams)
   auto worst = Completion::Completed;
   bool first = true;
   const bool allRead = ReadSquares(request.File, streams, [&](const StoredSquare& square) {
-    const auto start = std::chrono::steady_clock::now();
     const Completed completed = Complete(square, request, random);
-    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
     if (request.Format == SquareFormat::Text && !first) streams.Out << "\n";
     first = false;
-    Write(completed, passed.count(), request, streams.Out);
+    Write(completed, request.Format, streams.Out);
     streams.Out.flush();
     worst = std::max(worst, completed.Status);
   });

@@ -1,18 +1,17 @@
 #include "puzzle/search.h"
 
 #include <algorithm>
-#include <chrono>
 #include <limits>
 #include <numeric>
 #include <vector>
 
+#include "app/board/numbers.h"
+#include "app/ports/timed_stage.h"
 #include "puzzle/candidates.h"
 #include "study/special.h"
 
 namespace numorra {
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 /// The i-th number, from 1, of 1 1 2 1 1 2 4 1 1 2 1 1 2 4 8 ...
 std::int64_t Luby(std::int64_t i) {
@@ -30,7 +29,6 @@ class Search {
         limit_(limit),
         random_(random),
         stage_(stage),
-        start_(Clock::now()),
         board_(puzzle),
         weights_(static_cast<std::size_t>(board_.Map().Lines()), 1) {}
 
@@ -46,7 +44,7 @@ class Search {
     constexpr std::int64_t kRestart = 150;
     if (!board_.Propagate(Grade::Hard)) return NoSolution{};
     if (IsEmptyNormal()) return Constructed();
-    if (board_.Gaps() > kMostSearchedGaps) return NotSettled{};
+    if (board_.Gaps() > kMostSearchedGaps) return NotSettled{.Searched = false};
     if (RunOnce(kNoEnd, kShareOfFirst)) return Result();
     randomly_ = true;
     for (std::int64_t run = 1; !IsOver(1); ++run) {
@@ -97,8 +95,7 @@ class Search {
     if (limit_.Nodes && static_cast<double>(nodes_) >= share * static_cast<double>(*limit_.Nodes)) {
       return true;
     }
-    return limit_.Seconds &&
-           std::chrono::duration<double>(Clock::now() - start_).count() >= share * *limit_.Seconds;
+    return limit_.Seconds && stage_.SecondsWorked() >= share * *limit_.Seconds;
   }
 
   /// Notes a solution; true when enough are known.
@@ -191,8 +188,7 @@ class Search {
   const Puzzle& puzzle_;
   const SearchLimit& limit_;
   Random* random_;
-  BuildStage& stage_;
-  Clock::time_point start_;
+  TimedStage stage_;
   Candidates board_;
   std::vector<std::int64_t> weights_;  ///< by line: 1 and how often it was found impossible
   bool randomly_ = false;
@@ -207,6 +203,16 @@ class Search {
 };
 
 }  // namespace
+
+std::string WhyOpen(const NotSettled& open, double seconds) {
+  if (!open.Searched) {
+    return "whether there is a solution is open: more than " + std::to_string(kMostSearchedGaps) +
+           " gaps are too many to search";
+  }
+  const char* const what = open.Found ? "there is a solution; whether it is the only one was"
+                                      : "whether there is a solution was";
+  return what + (" not settled in " + Decimal(seconds)) + " seconds";
+}
 
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,
                    BuildStage& stage) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <variant>
 
 #include "app/board/random.h"
@@ -22,10 +23,15 @@ struct SeveralSolutions {
 struct NoSolution {};
 struct NotSettled {
   std::optional<Puzzle> Found = {};  ///< a solution, of which it is open whether it is the only one
+  bool Searched = true;              ///< false where there were too many gaps for it
 };
 using SearchResult = std::variant<OneSolution, SeveralSolutions, NoSolution, NotSettled>;
 
-/// When a search gives up. Counted in nodes, it does the same again from the same random numbers.
+/// What is open after a search of so many seconds, and why: a sentence without its stop.
+std::string WhyOpen(const NotSettled& open, double seconds);
+
+/// When a search gives up. Its seconds are those in which it worked, without the yields. Counted in
+/// nodes, it does the same again from the same random numbers.
 struct SearchLimit {
   std::optional<double> Seconds = {};
   std::optional<std::int64_t> Nodes = {};

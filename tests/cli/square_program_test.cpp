@@ -268,9 +268,14 @@ TEST(SquareProgram, CompletesWhatItReads) {
   const Outcome json = RunWith("complete --format json", "8,1,\n,4,\n,,\n\n,,\n,5,\n,,8\n");
   EXPECT_EQ(json.Status, 3);
   EXPECT_EQ(
-      json.Out.find("{\"answer\": \"none\", \"rows\": null, \"second\": null, \"seconds\": 0."),
+      json.Out.find("{\"answer\": \"none\", \"why\": null, \"rows\": null, \"second\": null}\n"),
       0U);
-  EXPECT_NE(json.Out.find("\n{\"answer\": \"several\", \"rows\": [[2, "), std::string::npos);
+  EXPECT_NE(json.Out.find("\n{\"answer\": \"several\", \"why\": null, \"rows\": [[2, "),
+            std::string::npos);
+  EXPECT_EQ(
+      RunWith("complete --sum 15.5 --format json", "8 1 .\n. . .\n. . .\n").Out,
+      "{\"answer\": \"none\", \"why\": \"the sum 15.5 is none that whole numbers of 1 or more "
+      "make here\", \"rows\": null, \"second\": null}\n");
   EXPECT_EQ(RunWith("complete", "8 1 6\n3 . 7\n4 . 8\n").Out, "none\n")
       << "the rules are the positive ones unless the numbers are different";
   EXPECT_EQ(RunWith("complete --rules positive --sum 30", "12 . .\n. 10 .\n. . .\n").Status, 0);
@@ -291,7 +296,15 @@ TEST(SquareProgram, CompletesWhatItReads) {
   }
   const Outcome open = RunWith("complete --seconds 0.01", hard + "\n8 1 .\n. 5 .\n. . .\n");
   EXPECT_EQ(open.Status, 4);
-  EXPECT_EQ(open.Out.find("unsettled\n"), 0U);
+  EXPECT_EQ(
+      open.Out.find("unsettled: whether there is a solution was not settled in 0.01 seconds\n"),
+      0U);
+  std::string wide = "2000";
+  for (int row = 0; row < 33; ++row)
+    wide += std::string(32, ',') + "\n";
+  EXPECT_EQ(RunWith("complete --sum 90000", wide).Out,
+            "unsettled: whether there is a solution is open: more than 1000 gaps are too many to "
+            "search\n");
   EXPECT_EQ(RunWith("complete --seconds 0").Status, 2);
   EXPECT_EQ(RunWith("complete --rules odd").Status, 2);
   EXPECT_EQ(RunWith("complete --corner 3").Status, 2);

@@ -1,7 +1,9 @@
 #include "puzzle/search.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <numeric>
+#include <thread>
 
 #include "puzzle/rules.h"
 #include "study/special.h"
@@ -77,6 +79,32 @@ TEST_F(SearchTest, CountsWhatIsKnown) {
   EXPECT_EQ(CountSolutions(empty4, 10'000, {.Nodes = 100}, stage_), std::nullopt);
   EXPECT_EQ(
       CountSolutions(PuzzleFrom("4 0 0 16 / 0 0 0 0 / 0 0 0 0 / 1 0 0 13", 34), 99, {}, stage_), 4);
+}
+
+/// Seconds are those in which the search worked: what others did meanwhile does not count.
+TEST_F(SearchTest, CountsItsOwnTimeAlone) {
+  NotingStage stage;
+  const auto sleepOnce = [&] {
+    stage.YieldsLeft = 1;
+    stage.OnLastYield = [] { std::this_thread::sleep_for(std::chrono::milliseconds(600)); };
+  };
+  const SearchLimit limit{.Seconds = 0.5};
+  sleepOnce();
+  const Puzzle puzzle = PuzzleFrom("0 0 0 / 0 0 0 / 0 0 0", 15);
+  EXPECT_TRUE(std::holds_alternative<SeveralSolutions>(Solve(puzzle, limit, random_, stage)));
+  sleepOnce();
+  EXPECT_EQ(CountSolutions(puzzle, 100, limit, stage), 8);
+}
+
+TEST_F(SearchTest, SaysWhatIsOpenAndWhy) {
+  Puzzle wide{33, 90'000, Rules::Positive, false, std::vector<std::int64_t>(std::size_t{33} * 33)};
+  wide.Cells[0] = 2000;
+  const SearchResult result = Solve(wide, {.Seconds = 3}, random_, stage_);
+  EXPECT_EQ(WhyOpen(std::get<NotSettled>(result), 3),
+            "whether there is a solution is open: more than 1000 gaps are too many to search");
+  EXPECT_EQ(WhyOpen({}, 0.5), "whether there is a solution was not settled in 0.5 seconds");
+  EXPECT_EQ(WhyOpen({wide}, 3),
+            "there is a solution; whether it is the only one was not settled in 3 seconds");
 }
 
 /// The list of all squares of order 4 is the complete checker.

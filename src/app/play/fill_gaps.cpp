@@ -1,11 +1,10 @@
 #include "app/play/fill_gaps.h"
 
-#include <chrono>
-
 #include "app/board/numbers.h"
 #include "app/board/position.h"
 #include "app/board/totals_check.h"
 #include "app/play/lay_out.h"
+#include "app/ports/timed_stage.h"
 #include "study/line.h"
 
 namespace numorra {
@@ -57,10 +56,6 @@ std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Rando
   return why + " cannot stay";
 }
 
-std::string Seconds(double seconds) {
-  return "not settled in " + Decimal(seconds) + " seconds";
-}
-
 /// The search for the board, gone on with when the player wants it.
 SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& stage,
                           Random& random) {
@@ -71,19 +66,16 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& st
   SearchResult result = search(kFirstSearch);
   const auto* open = std::get_if<NotSettled>(&result);
   if (!open) return result;
-  const std::string question = (open->Found ? "a way was found; whether it is the only one was "
-                                            : "whether the gaps can be filled was ") +
-                               Seconds(kFirstSearch) + "\ngo on for " + Decimal(kLongSearch) +
-                               " seconds more?";
-  if (!dialogs.Ask(question)) return result;
+  const std::string why = WhyOpen(*open, kFirstSearch);
+  if (!open->Searched) {
+    dialogs.Tell(why);
+    return result;
+  }
+  if (!dialogs.Ask(why + "\ngo on for " + Decimal(kLongSearch) + " seconds more?")) return result;
   SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
   if (still && !still->Found) still->Found = open->Found;
-  if (still) {
-    dialogs.Tell((still->Found ? "whether this is the only way was "
-                               : "whether the gaps can be filled was ") +
-                 Seconds(kLongSearch));
-  }
+  if (still) dialogs.Tell(WhyOpen(*still, kLongSearch));
   return second;
 }
 
@@ -94,13 +86,12 @@ std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const std::vector<bool>
   constexpr std::size_t kMostNamed = 3;
   std::vector<Place> entries;
   Puzzle without = puzzle;
-  const auto start = std::chrono::steady_clock::now();
+  TimedStage timed(stage);
   for (std::size_t cell = 0; cell < puzzle.Cells.size() && entries.size() < kMostNamed; ++cell) {
     if (puzzle.Cells[cell] == 0 || (!givens.empty() && givens[cell])) continue;
-    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
-    if (passed.count() > kSecondsForEntries) break;
+    if (timed.SecondsWorked() > kSecondsForEntries) break;
     without.Cells[cell] = 0;
-    const SearchResult result = Solve(without, {.Nodes = kNodesForAnEntry}, random, stage);
+    const SearchResult result = Solve(without, {.Nodes = kNodesForAnEntry}, random, timed);
     const auto* open = std::get_if<NotSettled>(&result);
     const bool possible =
         open ? open->Found.has_value() : !std::holds_alternative<NoSolution>(result);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/board/numbers.h"
 #include "app/board/position.h"
 #include "app/board/totals_check.h"
 #include "app/play/fill_gaps.h"
@@ -87,9 +86,7 @@ Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say sa
 }
 
 std::string NotInTime(const NotSettled& open) {
-  const char* const what = open.Found ? "it has a solution; whether it is the only one was"
-                                      : "whether it has a solution was";
-  return what + (" not settled in " + Decimal(kFirstSearch)) + " seconds";
+  return WhyOpen(open, kFirstSearch);
 }
 
 /// The next number by rules, or else one of the solution that trying has to find.

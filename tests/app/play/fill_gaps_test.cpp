@@ -82,6 +82,22 @@ TEST_F(FillGapsTest, EmptiesAllThatIsNotGiven) {
   EXPECT_EQ(board_.grid.Text(0, 0), "10");
 }
 
+/// What was not searched is not offered to be searched for longer.
+TEST_F(FillGapsTest, SaysWhichBoardsAreNotSearched) {
+  std::string rows = "2000";
+  for (int row = 0; row < 33; ++row) {
+    for (int column = 0; column < 33; ++column)
+      rows += row + column > 0 ? " 0" : "";
+    rows += row < 32 ? " /" : "";
+  }
+  LayOutGaps(rows, 90'000, Rules::Positive);
+  Fill();
+  EXPECT_EQ(dialogs_.Take(),
+            Messages{"whether there is a solution is open: more than 1000 gaps are too many to "
+                     "search"});
+  EXPECT_TRUE(board_.HasGaps());
+}
+
 /// A stopped search leaves the board as it was, and nothing behind.
 TEST_F(FillGapsTest, IsSuperseded) {
   LayOutGaps("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 1", 34);
