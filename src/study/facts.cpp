@@ -54,6 +54,11 @@ Facts::Facts(NumberSquare square)
   }
 }
 
+std::string Facts::Run(std::int64_t first, std::int64_t last) const {
+  return "from " + Shown(first) + " to " + Shown(last) +
+         (first % Square.One() == 0 ? "" : " in steps of 1");
+}
+
 std::string Facts::NumberIn(std::size_t cell) const {
   return Decimal(Square.Numbers()[cell]);
 }

@@ -28,6 +28,9 @@ struct Facts {
   /// "34", a sum as it is shown.
   std::string Shown(std::int64_t units) const { return Square.Shown(units); }
 
+  /// "from 1.5 to 9.5 in steps of 1": a run of numbers, in units, each 1 more than the one before.
+  std::string Run(std::int64_t first, std::int64_t last) const;
+
   /// The number in a cell as it is shown, and where it stands: "7 in row 1, column 2".
   std::string NumberIn(std::size_t cell) const;
   std::string NumberAndPlace(std::size_t cell) const;

@@ -135,15 +135,15 @@ Judgement JudgeAntimagic(const Facts& facts) {
   if (Judgement different = JudgeHeterosquare(facts); !different) return different;
   const std::vector<std::size_t> lines = LinesBySum(facts);
   for (std::size_t i = 1; i < lines.size(); ++i) {
-    const std::int64_t next = facts.Sums[lines[i - 1]] + facts.Square.One();
-    if (facts.Sums[lines[i]] == next) continue;
-    return Fails("no line adds up to " + facts.Shown(next) + ", though " +
-                     NameOf(facts.Lines[lines[i]], facts.N()) + " adds up to " +
-                     facts.Shown(facts.Sums[lines[i]]),
+    const std::int64_t before = facts.Sums[lines[i - 1]];
+    const std::int64_t sum = facts.Sums[lines[i]];
+    if (sum - before == facts.Square.One()) continue;
+    return Fails("the next sum after " + facts.Shown(before) + " is " + facts.Shown(sum) +
+                     ", that of " + NameOf(facts.Lines[lines[i]], facts.N()),
                  PlacesOf(facts.Lines[lines[i]], facts.Square));
   }
-  return Holds("its lines add up to all numbers from " + facts.Shown(facts.Sums[lines.front()]) +
-               " to " + facts.Shown(facts.Sums[lines.back()]));
+  return Holds("the sums of its lines are those " +
+               facts.Run(facts.Sums[lines.front()], facts.Sums[lines.back()]));
 }
 
 }  // namespace numorra

@@ -75,8 +75,8 @@ Judgement JudgeConsecutive(const Facts& facts) {
     return Fails("the next number after " + facts.NumberIn(before) + " is " + facts.NumberIn(cell),
                  {facts.Square.PlaceOf(before), facts.Square.PlaceOf(cell)});
   }
-  return Holds("its numbers are those from " + facts.NumberIn(facts.Order.front()) + " to " +
-               facts.NumberIn(facts.Order.back()));
+  return Holds("its numbers are those " +
+               facts.Run(units[facts.Order.front()], units[facts.Order.back()]));
 }
 
 /// Numbers get their ranks, so that what has been seen in a line fits in a table.
