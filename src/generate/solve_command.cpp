@@ -1,9 +1,12 @@
 #include "generate/solve_command.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
+#include "app/board/place.h"
 #include "app/board/totals_check.h"
 #include "generate/corner_choice.h"
 #include "generate/spreading.h"
@@ -13,6 +16,34 @@ namespace {
 
 constexpr int kLargestQuickSize = 20;
 constexpr int kLowestGoodBase = 4;
+
+/// The first cell that the passes, which keep every cell at 1 or more, would take for a larger one.
+std::optional<Place> CellBelowOne(const Board& board) {
+  std::optional<Place> low;
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    if (!low && board.BoardValues(r, c) < 1) low = Place{r, c};
+  });
+  return low;
+}
+
+/// Takes away what binary rounding has added behind the board's decimals, which whole numbers leave
+/// as many as they are. False where a number gets too long for that.
+bool KeepDecimals(CellTable& varied, const Board& board) {
+  std::size_t decimals = 0;
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    const std::string& text = board.grid.Text(r, c);
+    decimals = std::max(decimals, text.size() - std::min(text.find('.'), text.size() - 1) - 1);
+  });
+  const double one = std::pow(10.0, decimals);
+  const double most = std::pow(10.0, kMostCellDigits);
+  bool kept = true;
+  ForEachCell(board.GridSize, [&](int r, int c) {
+    const double units = std::nearbyint(varied(r, c) * one);
+    kept = kept && units < most;
+    varied(r, c) = units / one;
+  });
+  return kept;
+}
 
 }  // namespace
 
@@ -160,15 +191,26 @@ void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
     ports_.TheDialogs.Tell("a board with gaps or given numbers cannot be varied");
     return;
   }
+  board.ReadGrid();
+  if (const auto low = CellBelowOne(board)) {
+    ports_.TheDialogs.Tell(board.grid.Text(low->Row, low->Column) + " in " + NameOf(*low) +
+                           " is below 1, and a board with such a number cannot be varied");
+    return;
+  }
   const BusyPointer busy(ports_.Stage);
   ports_.TheRandom.Reseed();
-  board.ReadGrid();
   PatternedSquare square(TurningSquare(board.BoardValues, board.GridSize),
                          lastPlan_ && lastPlan_->LimitToNine, passCount_, ports_.TheRandom,
                          ports_.Stage);
   pass(square);
+  CellTable varied = square.Square().Settled();
+  if (!KeepDecimals(varied, board)) {
+    ports_.TheDialogs.Tell("varied, the board would have numbers of more than " +
+                           std::to_string(kMostCellDigits) + " digits");
+    return;
+  }
   passCount_ = square.PassCount();
-  board.BoardValues = square.Square().Settled();
+  board.BoardValues = varied;
   board.ShowBoard();
   RefreshTotals(board);
 }

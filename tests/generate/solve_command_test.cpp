@@ -1,5 +1,6 @@
 #include "generate/solve_command.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "generate/corner_choice.h"
@@ -170,6 +171,45 @@ TEST_F(SolveCommandTest, CornerPassesVaryTheBoardOnTheScreen) {
   Commands.VaryCornerEdges();
   EXPECT_NE(ShownRows(TheBoard.grid), once);
   EXPECT_EQ(WhyNotMagicNow(450), "");
+}
+
+TEST_F(SolveCommandTest, CornerPassesRefuseNumbersBelowOne) {
+  ShowRows(TheBoard, "2.5 3 4.5 6 / 7 8.5 1 0.5 / 3 4 5 5 / 3.5 0 6 7", 16);
+  const auto before = ShownRows(TheBoard.grid);
+  Commands.VaryCornerDiagonals();
+  Commands.VaryCornerEdges();
+  EXPECT_EQ(TheDialogs.Take(), Messages(2,
+                                        "0.5 in row 2, column 4 is below 1, and a board with such "
+                                        "a number cannot be varied"));
+  EXPECT_EQ(ShownRows(TheBoard.grid), before);
+  ShowRows(TheBoard, "2.5 12 1 9.5 / 9.5 1 12 2.5 / 12 2.5 9.5 1 / 1 9.5 2.5 12", 25);
+  for (int time = 0; time < 50; ++time) {
+    Commands.VaryCornerDiagonals();
+    Commands.VaryCornerEdges();
+    EXPECT_EQ(WhyNotMagicNow(25), "");
+    for (const auto& row : ShownRows(TheBoard.grid))
+      EXPECT_GE(*std::min_element(row.begin(), row.end()), 1);
+  }
+}
+
+/// Whole numbers are added again and again, and no rounding shows.
+TEST_F(SolveCommandTest, CornerPassesKeepDecimals) {
+  std::string rows;
+  for (const char* end : {" / ", " / ", " / ", ""})
+    rows += std::string("5000.7 5000.7 5000.7 5000.7") + end;
+  ShowRows(TheBoard, rows, 0);
+  for (int time = 0; time < 50; ++time)
+    Commands.VaryCornerDiagonals();
+  ForEachCell(4, [&](int r, int c) {
+    const std::string& text = TheBoard.grid.Text(r, c);
+    EXPECT_EQ(text.substr(text.find('.')), ".7") << text;
+  });
+  ShowRows(TheBoard, rows.replace(0, 6, "95.123456789012"), 0);
+  const auto before = ShownRows(TheBoard.grid);
+  Commands.VaryCornerEdges();
+  EXPECT_EQ(ShownRows(TheBoard.grid), before);
+  EXPECT_EQ(TheDialogs.Take(),
+            Messages{"varied, the board would have numbers of more than 14 digits"});
 }
 
 TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
