@@ -73,7 +73,7 @@ void ShowManualBoard(MainWindow& window) {
   }
 }
 
-/// The panel, on why Duerer's square is not ultramagic.
+/// The panel, on why Dürer's square is not ultramagic.
 void ShowPanel(MainWindow& window) {
   window.findChild<QAction*>("Propertiesx")->trigger();
   window.findChild<QAction*>("Melencoliax")->trigger();

@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// The stepping construction of odd magic squares (de la Loubere 1693): put 1 somewhere, go on by a
+/// The stepping construction of odd magic squares (de la Loubère 1693): put 1 somewhere, go on by a
 /// fixed step with wrap-around, and where the cell is taken make the break step from the last cell
 /// instead.
 ///

@@ -9,7 +9,7 @@ namespace numorra {
 /// A normal magic square of order 4, in reading order.
 using Square4 = std::array<int, 16>;
 
-/// The 880 normal magic squares of order 4, each in its standard form, in reading order. Frenicle
+/// The 880 normal magic squares of order 4, each in its standard form, in reading order. Frénicle
 /// counted them in 1693. They are searched for when they are first asked for: seven cells are
 /// chosen, the other nine follow from them.
 const std::vector<Square4>& SquaresOfOrder4();

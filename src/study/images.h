@@ -17,7 +17,7 @@ std::size_t SourceInImage(int image, int i, int j, int order);
 
 /// Of the eight images the one that is smallest in reading order. For distinct numbers that is the
 /// one with the smallest of the corners at the top left and the smaller of its two neighbours to
-/// the right of it (Frenicle 1693). Two squares are the same when their standard forms are.
+/// the right of it (Frénicle 1693). Two squares are the same when their standard forms are.
 std::vector<double> StandardForm(int order, const std::vector<double>& numbers);
 
 /// The image's numbers in reading order.

@@ -17,13 +17,13 @@
 ///   times. So the square is pandiagonal when A and B have equal sums over each class of indices
 ///   modulo 3 (nasik squares: Frost 1878; multiples of 3: Margossian 1908).
 /// - Opposite cells have indices that add up to the same. Where digits at such indices add up to
-///   n - 1, the square is associative: with p = 1 (La Loubere's squares are such), and with p = 2
+///   n - 1, the square is associative: with p = 1 (La Loubère's squares are such), and with p = 2
 ///   ultramagic.
 ///
 /// Even orders, multiples of 4: with digits d read as 2 d - (n - 1), from 1 - n to n - 1 in twos,
 /// a = S(i) A(j), b = T(j) B(i), for signs S and T of which half are plus. Digits come in pairs
 /// that add up to 0 and stand at partner indices; partners have the same sign, so all pairs differ.
-/// - Signs that alternate, partners n/2 apart: most-perfect (McClintock 1897; Ollerenshaw and Bree
+/// - Signs that alternate, partners n/2 apart: most-perfect (McClintock 1897; Ollerenshaw and Brée
 ///   1998 count them all).
 /// - Partners opposite each other: associative.
 /// - And signs + - - + again and again: a wrapped diagonal adds up to plus or minus the digits at

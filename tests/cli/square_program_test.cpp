@@ -248,6 +248,9 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_EQ(RunWith("study", "1 2 3\n4 x 6\n7 8 9\n\n1 2 3\n4 5 6\n7 y 9\n").Err,
             "numorra-square: line 2: \"x\" is no number\n"
             "numorra-square: line 7: \"y\" is no number\n");
+  EXPECT_NE(RunWith("study", "16 3 2 13\n5 10 11 8\n9 6 7 12\n4 15 14 1\n")
+                .Out.find("\nfamous: Albrecht Dürer's engraving"),
+            std::string::npos);
   EXPECT_EQ(RunWith("study", "1 2 3\n4 _ 6\n7 8 9\n").Err,
             "numorra-square: row 2, column 2 is empty: only full squares can be studied\n");
   EXPECT_EQ(
