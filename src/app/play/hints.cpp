@@ -85,10 +85,6 @@ Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say sa
   return say(puzzle, Solve(puzzle, kLimit, random, stage));
 }
 
-std::string NotInTime(const NotSettled& open) {
-  return WhyOpen(open, kFirstSearch);
-}
-
 /// The next number by rules, or else one of the solution that trying has to find.
 std::optional<Step> FindStep(const Puzzle& puzzle, const Puzzle& solved, BuildStage& stage) {
   if (auto step = NextStep(puzzle, Grade::Expert, stage)) return step;
@@ -147,7 +143,7 @@ Remark Hints::Begin() {
       step_ = FindStep(puzzle, one->Solved, stage_);
       return {};
     }
-    if (const auto* open = std::get_if<NotSettled>(&result)) return {NotInTime(*open)};
+    if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};
     return {"this board has several solutions, so no number follows"};
   };
   return AfterSearch(board_, random_, stage_, say);
@@ -159,7 +155,7 @@ Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
       return CannotStay(board, InTheWay(board, puzzle, random, stage));
     }
     const auto* open = std::get_if<NotSettled>(&result);
-    return {open && !open->Found ? NotInTime(*open) : "all entries can stay"};
+    return {open && !open->Found ? WhyOpen(*open, kFirstSearch) : "all entries can stay"};
   };
   return AfterSearch(board, random, stage, say);
 }
@@ -178,7 +174,7 @@ Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
       return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
     }
     if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
-    if (!several) return {NotInTime(std::get<NotSettled>(result))};
+    if (!several) return {WhyOpen(std::get<NotSettled>(result), kFirstSearch)};
     if (!count) return {"several solutions"};
     return {(*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions"};
   };
