@@ -113,7 +113,9 @@ class Stand {
 
   Yes yes_;
   PaintCounter counter_;
-  MainWindow window_{{.TheDialogs = &yes_}};
+  SystemClock clock_;
+  Session session_{clock_};
+  MainWindow window_{session_, {.TheDialogs = &yes_}};
 };
 
 struct Command {

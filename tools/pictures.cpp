@@ -142,7 +142,8 @@ int main(int argc, char** argv) {
   Album documents(argv[1]);
   Album help(argv[2]);
   numorra::TickingClock clock(1514);
-  MainWindow window({.TimeOfDay = &clock});
+  Session session(clock);
+  MainWindow window(session);
   window.show();
   const auto& drawing = *window.findChild<numorra::Drawing*>();
 

@@ -47,7 +47,9 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName("org.numorra.Numorra");
   QApplication::setWindowIcon(numorra::ProgramIcon());
   numorra::InstallGridAccessibility();
-  numorra::MainWindow window;
+  numorra::SystemClock clock;
+  numorra::Session session(clock);
+  numorra::MainWindow window(session);
   window.show();
   return QApplication::exec();
 }

@@ -315,7 +315,7 @@ class Reader {
     if (seconds && *seconds > 0 && *seconds <= kMost) {
       request_.Seconds = *seconds;
     } else {
-      Fail("the seconds are a number above 0");
+      Fail("the seconds are a plain number above 0, such as 0.5 or 30");
     }
   }
 

@@ -121,6 +121,9 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
     throw Unreadable{"this text is in UTF-16: save it as UTF-8"};
   }
+  if (text.find('\0') != std::string::npos) {
+    throw Unreadable{"this is no text in UTF-8, as it holds characters of the code 0"};
+  }
   const std::vector<Line> lines = Lines(Plain(text), firstLine);
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {

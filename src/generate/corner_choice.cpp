@@ -28,8 +28,9 @@ void AddCandidate(ListBoy& candidates, int value) {
 
 std::string WhyNotTheCorner(double corner, const VariablePlan& plan) {
   if (plan.GridSize < kSmallestWithCorner) return "a 3x3 square takes no corner value";
-  return "corner value " + Decimal(corner) +
-         " is out of reach for this size and sum, which allow whole numbers from 1 to " +
+  return "corner value " + Decimal(corner) + " is out of reach for size " +
+         std::to_string(plan.GridSize) + " and sum " +
+         std::to_string(plan.GridSize * plan.BaseValue) + ", which allow whole numbers from 1 to " +
          std::to_string(HighestCorner(plan.GridSize, plan.BaseValue));
 }
 

@@ -35,12 +35,10 @@ bool KeepDecimals(CellTable& varied, const Board& board) {
     decimals = std::max(decimals, text.size() - std::min(text.find('.'), text.size() - 1) - 1);
   });
   const double one = std::pow(10.0, decimals);
-  const double most = std::pow(10.0, kMostCellDigits);
   bool kept = true;
   ForEachCell(board.GridSize, [&](int r, int c) {
-    const double units = std::nearbyint(varied(r, c) * one);
-    kept = kept && units < most;
-    varied(r, c) = units / one;
+    varied(r, c) = AsShown(std::nearbyint(varied(r, c) * one) / one);
+    kept = kept && DigitsOf(Decimal(varied(r, c))) <= kMostCellDigits;
   });
   return kept;
 }

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QStringDecoder>
 
 namespace numorra {
 
@@ -19,21 +20,30 @@ bool StandsIn(const QString& folder, const QUrl& link) {
 }
 
 bool IsFlat(const QByteArray& html) {
-  constexpr int kDeepestTables = 8;
+  constexpr int kDeepestTables = 3;
+  constexpr int kMostTables = 100;
   constexpr int kDeepestElements = 100;
+  static const QRegularExpression kComment("<!--.*?(?:-->|$)",
+                                           QRegularExpression::DotMatchesEverythingOption);
   // What needs no tag that closes it does not count.
   static const QRegularExpression kTag(
-      "<(/?)(?!(?:p|li|dt|dd|td|th|tr|br|hr|img|meta|link)\\b)([a-z]+)",
+      "<\\s*(/?)\\s*(?!(?:p|li|dt|dd|td|th|tr|thead|tbody|tfoot|col|br|wbr|hr|img|meta|link|base|"
+      "input|option)\\b)([a-z]+)",
       QRegularExpression::CaseInsensitiveOption);
+  const QString page = QString(QStringDecoder::decoderForHtml(html).decode(html)).remove(kComment);
   int tables = 0;
   int elements = 0;
-  for (const auto& tag : kTag.globalMatch(QString::fromUtf8(html))) {
+  int tablesInAll = 0;
+  for (const auto& tag : kTag.globalMatch(page)) {
     const int change = tag.capturedView(1).isEmpty() ? 1 : -1;
     elements = std::max(0, elements + change);
     if (tag.capturedView(2).compare(u"table", Qt::CaseInsensitive) == 0) {
       tables = std::max(0, tables + change);
+      tablesInAll += change > 0 ? 1 : 0;
     }
-    if (tables > kDeepestTables || elements > kDeepestElements) return false;
+    if (tables > kDeepestTables || elements > kDeepestElements || tablesInAll > kMostTables) {
+      return false;
+    }
   }
   return true;
 }

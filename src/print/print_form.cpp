@@ -13,7 +13,7 @@ namespace numorra {
 
 PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer,
                      Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent),
+    : CommandForm("PrintSolution", "Print Solution", dialogs, parent),
       Text1(new QPlainTextEdit),
       TotalDoubt(Named("TotalDoubt", new QLabel)),
       UseTotalx(Named("UseTotalx", new QPushButton)),
@@ -24,11 +24,7 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
       grid_(grid),
       boxes_(boxes),
       printer_(printer),
-      dialogs_(dialogs),
-      runner_(dialogs) {
-  setObjectName("PrintSolution");
-  setWindowTitle("Print Solution");
-  setAttribute(Qt::WA_DeleteOnClose);
+      dialogs_(dialogs) {
   Text1->setObjectName("preview");
   Text1->setAccessibleName("Preview");
   Text1->setReadOnly(true);
@@ -58,9 +54,6 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
   }
   for (QPushButton* button : {UseTotalx, PrintGridx, PrintSolx, Closex})
     button->setAutoDefault(false);  // Enter prints nothing by accident
-  runner_.OnEnd = [this](const std::string&) {
-    if (closing_) QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
-  };
   OnClick(runner_, UseTotalx, this, [this] {
     runner_.Run("Use total", [this] {
       linesTotal_ = DoubtsOf(grid_, Total()).TheLines;
@@ -101,14 +94,6 @@ void PrintForm::Print(Sheet sheet, const char* message) {
     printer_.Print(sheet(grid_, Total()));
     dialogs_.Tell(message);
   });
-}
-
-void PrintForm::done(int result) {
-  if (runner_.Running()) {
-    closing_ = true;
-  } else {
-    QDialog::done(result);
-  }
 }
 
 double PrintForm::Total() const {

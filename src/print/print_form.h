@@ -2,7 +2,6 @@
 
 #include <functional>
 
-#include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -10,12 +9,12 @@
 #include "app/board/grid.h"
 #include "app/ports/square_boxes.h"
 #include "print/sheet_printer.h"
-#include "toolkit/command_runner.h"
+#include "toolkit/command_form.h"
 
 namespace numorra {
 
 /// The print form (`PrintSolution`): the board as text, and the commands that print it.
-class PrintForm : public QDialog {
+class PrintForm : public CommandForm {
   Q_OBJECT
 
  public:
@@ -32,9 +31,6 @@ class PrintForm : public QDialog {
   QPushButton* const PrintSolx;
   QPushButton* const Closex;
 
-  /// Closes the form; one that is printing, or speaks of it, as soon as that has come to its end.
-  void done(int result) override;
-
  protected:
   void showEvent(QShowEvent* event) override;
 
@@ -48,9 +44,7 @@ class PrintForm : public QDialog {
   const SquareBoxes& boxes_;
   SheetPrinter& printer_;
   Dialogs& dialogs_;
-  CommandRunner runner_;
   std::optional<double> linesTotal_;  ///< in the place of the sum box's
-  bool closing_ = false;
 };
 
 }  // namespace numorra

@@ -24,6 +24,12 @@ struct MadePuzzle {
   Grade Needed = Grade::Easy;
 };
 
+/// A full square that puzzles can be made from; without one, why there is none.
+struct PuzzleSource {
+  std::optional<Puzzle> Square = {};
+  std::string WhyNot = {};
+};
+
 /// Why a puzzle cannot be as it is wished for, in one sentence.
 struct CannotMake {
   std::string Why;

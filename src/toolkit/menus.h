@@ -1,23 +1,22 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 
 #include <QKeySequence>
-#include <QMenuBar>
+#include <QMenu>
 
 namespace numorra {
 
-/// An item of a menu; one without a name is a separator.
+/// An item of a menu.
 struct MenuItem {
-  const char* Name = nullptr;
-  const char* Caption = nullptr;
+  const char* Name;
+  const char* Caption;
   QList<QKeySequence> Keys;
   std::function<void()> Act;
   bool Checkable = false;
 };
 
-/// Adds a menu with its items to the bar.
-QMenu* AddMenu(QMenuBar* bar, const char* caption, std::initializer_list<MenuItem> items);
+/// Adds the item to the menu.
+QAction* AddItem(QMenu* menu, const MenuItem& item);
 
 }  // namespace numorra

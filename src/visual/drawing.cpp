@@ -9,9 +9,9 @@
 namespace numorra {
 namespace {
 
-constexpr double kMargin = 8;       // pixels around the drawing
-constexpr int kSmallestHaloed = 7;  // pixels: smaller numbers would drown in their halos
-constexpr double kHalo = 0.07;      // its width, of the height of a number
+constexpr double kMargin = 8;         // pixels around the drawing
+constexpr int kSmallestReadable = 6;  // pixels: smaller numbers would be smudges
+constexpr double kHalo = 0.07;        // its width, of the height of a number
 
 }  // namespace
 
@@ -36,16 +36,12 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
     font.setPixelSize(std::max(1, static_cast<int>(place.height() * place.width() / width)));
   }
   painter.setFont(font);
-  const bool readable = font.pixelSize() >= kSmallestHaloed;
+  if (font.pixelSize() < kSmallestReadable) return;
   painter.setPen(halo);
   // Painted around the number, as the outline of letters costs many times as much.
   const double around = std::max(1.0, font.pixelSize() * kHalo);
-  for (int x = -1; readable && x <= 1; ++x) {
-    for (int y = -1; y <= 1; ++y) {
-      if (x != 0 || y != 0)
-        painter.drawText(place.translated(x * around, y * around), Qt::AlignCenter, text);
-    }
-  }
+  for (const QPointF side : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
+    painter.drawText(place.translated(side * around), Qt::AlignCenter, text);
   painter.setPen(ink);
   painter.drawText(place, Qt::AlignCenter, text);
 }

@@ -27,7 +27,7 @@ struct DrawingArea {
   }
 
   /// Writes a number in the middle of `place`, as large as that lets it be, with a thin halo that
-  /// keeps it readable on whatever is drawn there.
+  /// keeps it readable on whatever is drawn there; nothing where it would be too small to be read.
   static void PaintNumber(QPainter& painter, const std::string& number, const QRectF& place,
                           const QColor& ink, const QColor& halo);
 

@@ -99,7 +99,7 @@ TEST(SquareProgram, BuildsSquaresOfAnyTotal) {
       {"--size 7 --sum 100.9", 101, "numorra-square: the total is 101\n"},
       {"--size 3 --sum 1", 6, "numorra-square: the total is 6\n"},
       {"--size 5 --sum 50 --corner 900", 50,
-       "numorra-square: corner value 900 is out of reach for this size and sum, which allow whole "
+       "numorra-square: corner value 900 is out of reach for size 5 and sum 50, which allow whole "
        "numbers from 1 to 46\n"},
       {"--top-row 30,9,19,95", 153, ""},
       {"--top-row=0,0,0,0", 0, "numorra-square: some numbers are 0\n"}};

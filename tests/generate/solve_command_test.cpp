@@ -262,7 +262,7 @@ TEST_F(SolveCommandTest, SpeaksOfThePlanThatWasBuilt) {
   Boxes.SizeText = "3";
   Options.WantedCorner = 90;
   const Messages outOfReach{
-      "corner value 90 is out of reach for this size and sum, which allow whole numbers from 1 to "
+      "corner value 90 is out of reach for size 6 and sum 60, which allow whole numbers from 1 to "
       "55"};
   Commands.Auto();
   EXPECT_EQ(TheDialogs.Take(), Messages{"a 3x3 square takes no corner value"});

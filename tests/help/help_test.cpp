@@ -39,6 +39,7 @@ TEST_F(HelpTest, SaysPlainlyThatThereIsNoPageOrOneThatWouldTakeForEver) {
   EXPECT_EQ(HelpPageIn("/"), "/nrhelp.htm");
   for (const QByteArray& page :
        {QByteArray(), QByteArray(5 << 20, 'x'), QByteArray("<TABLE><tr><td>").repeated(20),
+        QByteArray("< table><tr><td><!--</table>-->").repeated(20),
         QByteArray("<ul><li>").repeated(9000)}) {
     if (!page.isEmpty()) Write(folder_ + "/nrhelp.htm", page);
     const HelpForm form(folder_, nullptr);

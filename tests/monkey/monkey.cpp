@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDockWidget>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QTest>
@@ -105,11 +106,8 @@ QString Monkey::Files::Any() {
 Monkey::Monkey(unsigned seed)
     : dice_(seed),
       clock_(seed),
-      window_({.TimeOfDay = &clock_,
-               .Printer = &printer_,
-               .Pages = &pages_,
-               .Files = &files_,
-               .FrameMilliseconds = 0}) {
+      window_(session_,
+              {.Printer = &printer_, .Pages = &pages_, .Files = &files_, .FrameMilliseconds = 0}) {
   QObject::connect(&answerer_, &QTimer::timeout, [this] { AnswerBox(); });
   answerer_.start(0);
 }

@@ -96,6 +96,7 @@ class Monkey {
   Files files_{*this};
   Pages pages_{*this};
   TickingClock clock_;
+  Session session_{clock_};
   MainWindow window_;
   QTimer answerer_;
 };

@@ -25,7 +25,7 @@ struct UnluckyClock : TickingClock {
 /// A fresh window, driven through its controls as a person would; boxes are answered from a list.
 class WindowTest : public testing::Test {
  protected:
-  explicit WindowTest(World world = {}) : window_(Scripted(world)) {
+  explicit WindowTest(World world = {}) : window_(session_, Scripted(world)) {
     window_.show();
     QCoreApplication::processEvents();
   }
@@ -100,13 +100,13 @@ class WindowTest : public testing::Test {
   slow::Rows Rows() { return ShownRows(TheGrid()); }
 
   const World& Scripted(World& world) {
-    world.TimeOfDay = &clock_;
     world.TheDialogs = &dialogs_;
     return world;
   }
 
   UnluckyClock clock_{99};
   ScriptedDialogs dialogs_;
+  Session session_{clock_};
   MainWindow window_;
 };
 

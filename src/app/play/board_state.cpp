@@ -23,7 +23,9 @@ Tally Count(const Board& board) {
   ForEachCell(n, [&](int r, int c) {
     const Grid::Cell& cell = board.grid.At(r, c);
     if (cell.IsGap()) ++tally.Gaps;
-    cells(r, c) = Val(cell.Text);
+    const bool typed =
+        board.Typing() && r == board.grid.CurrentRow() && c == board.grid.CurrentColumn();
+    cells(r, c) = typed ? board.BoardValues(r, c) : Val(cell.Text);
     if (cells(r, c) != board.BaseValue) tally.Untouched = false;
     numbers.push_back(cells(r, c));
   });

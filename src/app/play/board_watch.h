@@ -26,7 +26,9 @@ class BoardWatch {
   explicit BoardWatch(const Board& board) : board_(board) {}
 
   /// Listeners are told in the order in which they came.
-  void Tell(Listener listener) { listeners_.push_back(std::move(listener)); }
+  void Listen(Listener listener) { listeners_.push_back(std::move(listener)); }
+
+  void ForgetListeners() { listeners_.clear(); }
 
   void Begin() { before_ = PositionOf(board_); }
   void End(const std::string& name);

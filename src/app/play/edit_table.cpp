@@ -22,23 +22,23 @@ void Correct(EditCommands& commands) {
 std::vector<EditCommand> MakeTable() {
   using E = EditCommands;
   std::vector<EditCommand> table = {
-      {"Set2Cellvaluex", "set value to", 8, EditMenu::SetValue, Do<&E::SetBaseValue>, true},
-      {"Set2Max", "maximum value in grid", 1, EditMenu::SetValue, Do<&E::SetMaximum>},
-      {"set2Min", "mimimum value in grid", 2, EditMenu::SetValue, Do<&E::SetMinimum>},
-      {"set2Ran", "a random value", 3, EditMenu::SetValue, Do<&E::SetRandomValue>},
-      {"Set2allran", "entire grid to random values", 4, EditMenu::SetValue, Do<&E::FillAtRandom>},
-      {"SetAllRem", "all other values to", 0, EditMenu::SetValue, Do<&E::SetAllRem>, true},
-      {"correctrowx", "correct row total", 5, EditMenu::AdjustValue, Correct<AdjustLine::Row>},
-      {"correctcolx", "correct column total", 6, EditMenu::AdjustValue,
+      {"Set2Cellvaluex", "set value to", 8, EditGroup::SetValue, Do<&E::SetBaseValue>, true},
+      {"Set2Max", "maximum value in grid", 1, EditGroup::SetValue, Do<&E::SetMaximum>},
+      {"set2Min", "mimimum value in grid", 2, EditGroup::SetValue, Do<&E::SetMinimum>},
+      {"set2Ran", "a random value", 3, EditGroup::SetValue, Do<&E::SetRandomValue>},
+      {"Set2allran", "entire grid to random values", 4, EditGroup::SetValue, Do<&E::FillAtRandom>},
+      {"SetAllRem", "all other values to", 0, EditGroup::SetValue, Do<&E::SetAllRem>, true},
+      {"correctrowx", "correct row total", 5, EditGroup::AdjustValue, Correct<AdjustLine::Row>},
+      {"correctcolx", "correct column total", 6, EditGroup::AdjustValue,
        Correct<AdjustLine::Column>},
-      {"correctdiagx", "correct diagnonal", 7, EditMenu::AdjustValue,
+      {"correctdiagx", "correct diagnonal", 7, EditGroup::AdjustValue,
        Correct<AdjustLine::Diagonal>},
-      {"swapvaluex", "Swap value", 0, EditMenu::Cells, Do<&E::SwapValue>},
+      {"swapvaluex", "Swap value", 0, EditGroup::Cells, Do<&E::SwapValue>},
   };
   constexpr int kFirstSymmetry = 9;
   int code = kFirstSymmetry;
   for (const Symmetry& symmetry : kSymmetries) {
-    table.push_back({symmetry.Name, symmetry.Caption, code++, EditMenu::Symmetries,
+    table.push_back({symmetry.Name, symmetry.Caption, code++, EditGroup::Symmetries,
                      [&symmetry](EditCommands& commands) { commands.Turn(symmetry); }});
   }
   return table;

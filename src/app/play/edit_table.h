@@ -9,14 +9,14 @@ namespace numorra {
 class EditCommands;
 
 /// Where an editing command stands in the board's menu.
-enum class EditMenu { SetValue, AdjustValue, Cells, Symmetries };
+enum class EditGroup { SetValue, AdjustValue, Cells, Symmetries };
 
 /// An editing command: its place, its names, and what it does.
 struct EditCommand {
   const char* Name;     ///< of its menu item
   const char* Caption;  ///< what its item says, and what undo calls it
   int Code;             ///< under which it is recorded and repeated; 0 = never
-  EditMenu Menu;
+  EditGroup Menu;
   std::function<void(EditCommands&)> Act;
   bool SaysBase = false;  ///< its item and its record name the base value too
 };

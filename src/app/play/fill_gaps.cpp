@@ -24,6 +24,7 @@ void Show(Board& board, const Puzzle& solved) {
     ++cell;
   });
   board.ShowBoard();
+  board.NewEntry = true;  // what was typed before is not for the player to be congratulated on
   RefreshTotals(board);
 }
 
@@ -133,6 +134,7 @@ void EmptyBoard(Board& board) {
     if (position.Givens.empty() || !position.Givens[cell]) position.Texts[cell].clear();
   }
   position.Checked = position.Judged = true;
+  position.Typing = position.WinTold = false;
   Restore(board, position);
 }
 

@@ -36,6 +36,7 @@ void Replace(Board& board, const std::vector<double>& numbers) {
     board.grid.SetGiven(r, c, false);
   });
   board.ShowBoard();
+  board.NewEntry = true;  // another square than the one that was typed into
   RefreshTotals(board);
 }
 

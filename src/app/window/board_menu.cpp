@@ -12,7 +12,7 @@ BoardMenu::BoardMenu(QWidget* parent)
   setObjectName("ManualMenux");
   Named("SetValuex", setValue_->menuAction());
   Named("Adjustvaluex", adjustValue_->menuAction());
-  EditMenu group = EditMenu::Cells;
+  EditGroup group = EditGroup::Cells;
   for (const EditCommand& command : EditTable()) {
     QMenu* menu = MenuOf(command.Menu);
     if (menu == this && std::exchange(group, command.Menu) != command.Menu) addSeparator();
@@ -26,14 +26,14 @@ BoardMenu::BoardMenu(QWidget* parent)
   ShowHistory({});
 }
 
-QMenu* BoardMenu::MenuOf(EditMenu place) {
+QMenu* BoardMenu::MenuOf(EditGroup place) {
   switch (place) {
-    case EditMenu::SetValue:
+    case EditGroup::SetValue:
       return setValue_;
-    case EditMenu::AdjustValue:
+    case EditGroup::AdjustValue:
       return adjustValue_;
-    case EditMenu::Cells:
-    case EditMenu::Symmetries:
+    case EditGroup::Cells:
+    case EditGroup::Symmetries:
       break;
   }
   return this;

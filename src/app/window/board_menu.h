@@ -31,7 +31,7 @@ class BoardMenu : public QMenu {
   void RedoChosen();
 
  private:
-  QMenu* MenuOf(EditMenu place);
+  QMenu* MenuOf(EditGroup place);
 
   QMenu* const setValue_;
   QMenu* const adjustValue_;

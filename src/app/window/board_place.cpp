@@ -76,6 +76,10 @@ void BoardPlace::PointAt(const std::vector<Place>& cells) {
   Picture->update();
 }
 
+void BoardPlace::PointAtNothing() {
+  if (RemarkBar->isHidden()) board_.grid.SetOutlined({});
+}
+
 void BoardPlace::ShowSearch(const QString& text) {
   ForgetRemark();
   SearchBar->ShowText(text);

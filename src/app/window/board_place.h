@@ -35,6 +35,9 @@ class BoardPlace : public QGroupBox {
   /// Puts a walk in sight; the board behind it stays.
   void ShowWalk();
   bool Walking() const { return stack_->currentWidget() == Walk; }
+  void EndWalk() {
+    if (Walking()) ShowBoard();
+  }
 
   /// The cells that can be zoomed: those of the walk, or of the board.
   GridView& Cells() const { return Walking() ? *Walk : *View; }
@@ -46,6 +49,9 @@ class BoardPlace : public QGroupBox {
   /// Points at cells of the board that nothing is said of; a remark that the running command has
   /// made goes first.
   void PointAt(const std::vector<Place>& cells);
+
+  /// Points at nothing any more that nothing is said of.
+  void PointAtNothing();
 
   /// Shows how far a search is, in the place of an older remark.
   void ShowSearch(const QString& text);

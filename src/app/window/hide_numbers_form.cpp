@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/window/form_stage.h"
 #include "puzzle/code.h"
 #include "puzzle/rules.h"
 #include "toolkit/named.h"
@@ -24,24 +23,17 @@ QString DescriptionOf(const MadePuzzle& made) {
   return description;
 }
 
-HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& whyNot,
-                                 SquareWish fresh, Random& random, Dialogs& dialogs,
-                                 QWidget* parent)
-    : QDialog(parent),
-      square_(std::move(square)),
+HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Random& random,
+                                 Dialogs& dialogs, QWidget* parent)
+    : CommandForm("HideNumbers", "Hide Numbers", dialogs, parent),
+      square_(board.Square),
       fresh_(fresh),
       random_(random),
-      runner_(dialogs),
       wish_(new PuzzleWishBox),
       fromBoard_(Named("FromBoardx", new QRadioButton("&This square"))),
       told_(Named("PuzzleTold", new QLabel)),
       copy_(Named("CopyCodex", new QPushButton("&Copy Code"))) {
-  setObjectName("HideNumbers");
-  setWindowTitle("Hide Numbers");
-  setAttribute(Qt::WA_DeleteOnClose);
-  runner_.OnEnd = [this](const std::string&) {
-    if (!testAttribute(Qt::WA_DeleteOnClose)) deleteLater();
-  };
+  const QString whyNot = QString::fromStdString(board.WhyNot);
   auto* fromFresh = Named(
       "FromFreshx", new QRadioButton(QString("A &fresh square of size %1").arg(fresh_.Order)));
   auto* another = Named("MakeAnotherx", new QPushButton("&Make Another"));
@@ -72,8 +64,8 @@ HideNumbersForm::HideNumbersForm(std::optional<Puzzle> square, const QString& wh
 
   OnSignal(runner_, wish_, &PuzzleWishBox::Changed, this, [this] { Make(); });
   OnClick(runner_, another, this, [this] { Make(); });
-  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, [this](bool board) {
-    wish_->SetOrder(board ? square_->Order : fresh_.Order);
+  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, [this](bool fromBoard) {
+    wish_->SetOrder(fromBoard && square_ ? square_->Order : fresh_.Order);
     Make();
   });
   OnClick(runner_, copy_, this, [this] {
@@ -113,13 +105,6 @@ void HideNumbersForm::Make() {
     take_->setEnabled(true);
     copy_->setEnabled(coded);
   });
-}
-
-/// Closing stops what is being made, and what has been stopped deletes the form.
-void HideNumbersForm::done(int result) {
-  runner_.Stop();
-  if (runner_.Running()) setAttribute(Qt::WA_DeleteOnClose, false);
-  QDialog::done(result);
 }
 
 }  // namespace numorra

@@ -1,26 +1,23 @@
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 #include <QRadioButton>
 
 #include "app/window/puzzle_wish_box.h"
 #include "puzzle/fresh_square.h"
-#include "toolkit/command_runner.h"
+#include "toolkit/command_form.h"
 
 namespace numorra {
 
 /// The dialog (`HideNumbers`) that makes a puzzle and says what came out before it is taken: clues,
 /// grade, rules, code.
-class HideNumbersForm : public QDialog {
+class HideNumbersForm : public CommandForm {
   Q_OBJECT
 
  public:
-  /// `square`: what stands on the board; nothing where no puzzle can be made of it, `whyNot`.
-  HideNumbersForm(std::optional<Puzzle> square, const QString& whyNot, SquareWish fresh,
-                  Random& random, Dialogs& dialogs, QWidget* parent);
-
-  void done(int result) override;
+  /// `board`: what puzzles can be made from beside fresh squares.
+  HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Random& random, Dialogs& dialogs,
+                  QWidget* parent);
 
  Q_SIGNALS:
   void Taken(const MadePuzzle& made);
@@ -31,7 +28,6 @@ class HideNumbersForm : public QDialog {
   std::optional<Puzzle> square_;
   SquareWish fresh_;
   Random& random_;
-  CommandRunner runner_;
   PuzzleWishBox* wish_;
   QRadioButton* fromBoard_;
   QLabel* told_;

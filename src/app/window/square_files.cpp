@@ -1,7 +1,6 @@
 #include "app/window/square_files.h"
 
 #include <QBuffer>
-#include <QFileInfo>
 #include <QPdfWriter>
 
 #include "app/board/runtime_error.h"
@@ -65,13 +64,12 @@ std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
 }
 
 void SaveSquare(const QString& name, const StoredSquare& square) {
-  const bool csv = EndsIn(name, ".csv");
-  const QString suffix = QFileInfo(name).suffix();
-  if (!csv && !suffix.isEmpty() && !EndsIn(name, ".json")) {
-    throw RuntimeError(
-        Fault::FileError,
-        name.toStdString() + " is neither a .json nor a .csv file: Export Picture writes pictures");
+  for (const char* picture : {".png", ".pdf", ".svg", ".jpg", ".jpeg", ".gif", ".bmp"}) {
+    if (!EndsIn(name, picture)) continue;
+    throw RuntimeError(Fault::FileError,
+                       name.toStdString() + " is a picture's name: Export Picture writes pictures");
   }
+  const bool csv = EndsIn(name, ".csv");
   WriteWholeFile(name, QByteArray::fromStdString(csv ? CsvOf(square) : JsonOf(square)));
 }
 

@@ -19,8 +19,8 @@ inline constexpr const char* kPictureKinds = "Pictures (*.png);;Documents (*.pdf
 /// Throws FileError where the file cannot be read.
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name);
 
-/// Writes it: numbers alone where the name ends in .csv, JSON where it ends in .json or has no
-/// suffix. Throws FileError, also for names with another one.
+/// Writes it: numbers alone where the name ends in .csv, JSON otherwise. Throws FileError, also for
+/// the name of a picture.
 void SaveSquare(const QString& name, const StoredSquare& square);
 
 /// Writes what the board's place shows, on white: as a PDF page of its size where the name ends in

@@ -154,7 +154,6 @@ void StepPanel::ShowStep() {
   back_->setEnabled(walk.At() > 0);
   next_->setEnabled(walk.At() < walk.Steps() && !Asking());
   play_->setEnabled(walk.At() < walk.Steps() && !ask_->isChecked());
-  Q_EMIT StepShown();
   if (!QAccessible::isActive()) return;
   sentence_->setAccessibleName(text);
   QAccessibleEvent event(sentence_, QAccessible::NameChanged);

@@ -25,10 +25,6 @@ class StepPanel : public QDockWidget {
   /// begins with the first of them. `numbers`: of the board, empty without a full one.
   void Begin(int order, const std::vector<double>& numbers);
 
- Q_SIGNALS:
-  /// Another step, or another walk, is shown.
-  void StepShown();
-
  private:
   void BeginChosen();
   void GoTo(int step);

@@ -17,6 +17,7 @@ WalkView::WalkView(Grid& grid, QWidget* parent) : GridView(grid, parent), grid_(
 void WalkView::Begin(int order, std::vector<WalkStep> steps) {
   walk_.Begin(order, std::move(steps));
   viewport()->update();
+  Q_EMIT StepShown();
 }
 
 void WalkView::GoTo(int step) {
@@ -38,6 +39,7 @@ void WalkView::GoTo(int step) {
     const Place place = done->Written.front().first;
     BringIntoView(place.Row, place.Column);
   }
+  Q_EMIT StepShown();
 }
 
 void WalkView::MoveTo(int row, int column) {

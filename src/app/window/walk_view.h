@@ -24,6 +24,10 @@ class WalkView : public GridView {
   void MoveTo(int row, int column);
   Place Current() const { return {grid_.CurrentRow(), grid_.CurrentColumn()}; }
 
+ Q_SIGNALS:
+  /// Another step, or another walk, is shown.
+  void StepShown();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

@@ -4,7 +4,6 @@
 #include <QScopeGuard>
 #include <QVBoxLayout>
 
-#include "app/window/form_stage.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
 
@@ -21,12 +20,11 @@ struct NoSet {
 WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
                              PagePrinter& printer, Random& random, Dialogs& dialogs,
                              QWidget* parent)
-    : QDialog(parent),
+    : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
       board_(std::move(board)),
       fresh_(fresh),
       printer_(printer),
       random_(random),
-      runner_(dialogs),
       fromBoard_(Named("SheetFromBoardx", new QRadioButton("The puzzle on the &board"))),
       count_(Named("SheetCount", new QSpinBox)),
       wish_(new PuzzleWishBox),
@@ -37,12 +35,6 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
-  setObjectName("PrintWorksheet");
-  setWindowTitle("Print Worksheet");
-  setAttribute(Qt::WA_DeleteOnClose);
-  runner_.OnEnd = [this](const std::string&) {
-    if (!testAttribute(Qt::WA_DeleteOnClose)) deleteLater();
-  };
   constexpr int kMostPuzzles = 200;
   count_->setRange(1, kMostPuzzles);
   count_->setValue(6);
@@ -136,13 +128,6 @@ void WorksheetForm::Print() {
       told_->setText(QString::fromStdString(none.Why));
     }
   });
-}
-
-/// Closing stops what is being made, and what has been stopped deletes the form.
-void WorksheetForm::done(int result) {
-  runner_.Stop();
-  if (runner_.Running()) setAttribute(Qt::WA_DeleteOnClose, false);
-  QDialog::done(result);
 }
 
 }  // namespace numorra

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,21 +9,19 @@
 #include "print/page_printer.h"
 #include "print/worksheet.h"
 #include "puzzle/fresh_square.h"
-#include "toolkit/command_runner.h"
+#include "toolkit/command_form.h"
 
 namespace numorra {
 
 /// The dialog (`PrintWorksheet`) that puts puzzles on paper: the one on the board, or a set of
 /// fresh ones, which can be stopped while they are made.
-class WorksheetForm : public QDialog {
+class WorksheetForm : public CommandForm {
   Q_OBJECT
 
  public:
   /// `board`: the puzzle on the board, where there is one with a single solution.
   WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh, PagePrinter& printer,
                 Random& random, Dialogs& dialogs, QWidget* parent);
-
-  void done(int result) override;
 
  private:
   void Print();
@@ -35,7 +32,6 @@ class WorksheetForm : public QDialog {
   SquareWish fresh_;
   PagePrinter& printer_;
   Random& random_;
-  CommandRunner runner_;
   QRadioButton* fromBoard_;
   QSpinBox* count_;
   PuzzleWishBox* wish_;

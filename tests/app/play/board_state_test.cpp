@@ -33,6 +33,8 @@ TEST_F(BoardStateTest, SaysWhatIsTrueOfTheBoard) {
   Go(3, 2);
   dialogs_.Take();
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic");
+  entry_.TypeCharacter(U'8');
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic, Enter checks") << "as the totals have it";
   Show("4 1 4 / 3 3 3 / 2 5 2", 9);
   board_.grid.SetText(2, 2, "");
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill");

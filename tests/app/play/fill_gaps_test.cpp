@@ -28,6 +28,19 @@ class FillGapsTest : public PlayTest {
   NotingStage stage_;
 };
 
+/// A digit typed before is nothing that the player could be congratulated on afterwards.
+TEST_F(FillGapsTest, TheProgramsOwnWorkIsNotAnnounced) {
+  for (const bool fill : {true, false}) {
+    LayOutGaps("8 1 6 / 3 5 0 / 4 9 2", 15);
+    Go(1, 1);
+    entry_.TypeCharacter(U'8');
+    fill ? Fill() : EmptyBoard(board_);
+    EXPECT_FALSE(board_.Typing());
+    Go(2, 2);
+    EXPECT_EQ(dialogs_.Take(), Messages{});
+  }
+}
+
 TEST_F(FillGapsTest, FillsAndSaysWhatItIs) {
   LayOutGaps("8 1 0 / 0 5 0 / 0 0 0", 15, Rules::Normal, {0});
   Fill();

@@ -9,7 +9,7 @@ namespace {
 class UndoHistoryTest : public PlayTest {
  protected:
   UndoHistoryTest() {
-    watch_.Tell([this](const Deed& deed) { undo_.Note(deed); });
+    watch_.Listen([this](const Deed& deed) { undo_.Note(deed); });
   }
 
   template <class Command>

@@ -183,7 +183,7 @@ TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   const std::pair<QString, std::string> cases[] = {
       {pipe, " is no regular file"},
       {circle, " is a link that leads to no file"},
-      {In("q.png"), " is neither a .json nor a .csv file: Export Picture writes pictures"}};
+      {In("q.png"), " is a picture's name: Export Picture writes pictures"}};
   for (const auto& [name, why] : cases) {
     Trigger("SaveAsx", name);
     EXPECT_EQ(dialogs_.Take(), Messages{"File error: " + name.toStdString() + why});

@@ -131,7 +131,9 @@ TEST_F(WindowTest, TheClipboardTakesAndGivesTheBoard) {
 
 /// A box left by Esc or by its frame is as good as "No", or as "OK" where there is no choice.
 TEST(RealBoxes, SpeakUnderTheApplicationTitleAndMayBeLeft) {
-  MainWindow window;
+  SystemClock clock;
+  Session session(clock);
+  MainWindow window(session);
   window.show();
   window.findChild<QRadioButton*>("Option4")->click();
   window.findChild<QLineEdit*>("Text4")->setText("3000");

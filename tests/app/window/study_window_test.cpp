@@ -2,6 +2,7 @@
 #include <QDockWidget>
 #include <QTreeWidget>
 
+#include "study/terms.h"
 #include "support/window_fixture.h"
 
 namespace numorra {

@@ -60,7 +60,7 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgain) {
   ClickCell(3, 2, Qt::RightButton);
   ExpectStep("Swap value", [this] { Find<QAction>("swapvaluex").trigger(); });
   for (const EditCommand& command : EditTable()) {
-    if (command.Menu == EditMenu::Cells) continue;
+    if (command.Menu == EditGroup::Cells) continue;
     Make("SolveManual", "4", "80");
     ClickCell(1, 2);
     QTest::keyClicks(&window_.View(), "30");

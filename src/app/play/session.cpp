@@ -1,0 +1,194 @@
+#include "app/play/session.h"
+
+#include <algorithm>
+
+#include "app/board/numbers.h"
+#include "app/board/orders.h"
+#include "app/board/totals_check.h"
+#include "app/play/board_text.h"
+#include "app/play/fill_gaps.h"
+#include "app/play/lay_out.h"
+#include "app/play/manual_board.h"
+#include "app/play/study_commands.h"
+#include "generate/corner_choice.h"
+#include "generate/proposal.h"
+#include "puzzle/code.h"
+
+namespace numorra {
+
+Session::Session(Clock& clock) : TheRandom(clock), List2(TheRandom), List3(TheRandom) {}
+
+Session::Commands::Commands(Session& session, const SessionPorts& ports)
+    : Entry(session.TheBoard, ports.TheDialogs),
+      Edits(session.TheBoard, ports.TheDialogs, session.TheRandom, session.LastCommand),
+      Hints(session.TheBoard, session.TheRandom, ports.Searching),
+      Solve({session.TheBoard, ports.Boxes, ports.Options, ports.TheDialogs, ports.Building,
+             session.TheRandom, session.List2, session.List3}),
+      TopRow(session.TheBoard, ports.Boxes, ports.TheDialogs, ports.Building, session.TheRandom) {}
+
+void Session::Connect(const SessionPorts& ports) {
+  ports_.emplace(ports);
+  commands_.emplace(*this, ports);
+  Watch.Listen([this](const Deed& deed) { History.Note(deed); });
+}
+
+void Session::Disconnect() {
+  Grid& grid = TheBoard.grid;
+  grid.OnRepaint = grid.OnLeaveCell = grid.OnCellChanged = TheBoard.OnShown = nullptr;
+  Watch.ForgetListeners();
+  commands_.reset();
+  ports_.reset();
+}
+
+void Session::Start() {
+  TheBoard.TargetTotal = Val(ports_->Boxes.Sum());
+  TheBoard.BaseValue = ToInt16(TheBoard.TargetTotal);
+  TheBoard.GridSize = ToInt16(Val(ports_->Boxes.Size()));
+  SetMode(ModeNormal);
+  ProposeSquare();
+}
+
+void Session::SetMode(Mode mode) {
+  TheBoard.SolveMode = mode;
+  FollowSize();
+}
+
+void Session::FollowSize() {
+  if (TheBoard.SolveMode == ModeVariable) return;
+  ports_->Boxes.SetSum(MagicConstantText(ports_->Boxes.Size()));
+}
+
+void Session::ProposeSquare() {
+  numorra::ProposeSquare(ports_->Boxes, TheBoard.SolveMode, TheRandom);
+}
+
+void Session::OfferCorners(ListBox& choice) {
+  numorra::OfferCorners(TheBoard, ports_->Boxes, List2, choice);
+}
+
+void Session::BuildManually() {
+  BuildManualBoard(TheBoard, ports_->Boxes, ports_->TheDialogs, ports_->Building);
+}
+
+bool Session::BuildFromTopRow() {
+  if (!commands_->TopRow.Run()) return false;
+  TheBoard.SolveMode = ModeVariable;
+  return true;
+}
+
+void Session::CheckTheTotals() {
+  RecountInPlace(TheBoard);
+}
+
+void Session::LayOut(const StoredSquare& square) {
+  numorra::LayOut(TheBoard, ports_->Boxes, square);
+}
+
+bool Session::Paste(const std::string& text) {
+  return PasteBoard(TheBoard, ports_->Boxes, ports_->TheDialogs, text);
+}
+
+void Session::Vary() {
+  VaryBoard(TheBoard, ports_->TheDialogs, TheRandom);
+}
+
+void Session::Complement() {
+  ComplementBoard(TheBoard, ports_->Boxes, ports_->TheDialogs);
+}
+
+void Session::BringToStandardForm() {
+  numorra::BringToStandardForm(TheBoard, ports_->TheDialogs);
+}
+
+bool Session::LayOutSpecial(const SpecialKind& kind) {
+  return numorra::LayOutSpecial(kind, TheBoard, ports_->Boxes, ports_->TheDialogs, TheRandom);
+}
+
+void Session::LayOutFamous(const FamousSquare& famous) {
+  numorra::LayOutFamous(famous, TheBoard, ports_->Boxes);
+}
+
+Remark Session::Hint() {
+  return commands_->Hints.Next();
+}
+
+Remark Session::CheckEntries() {
+  return numorra::CheckEntries(TheBoard, TheRandom, ports_->Searching);
+}
+
+Remark Session::EnterPuzzle() {
+  return numorra::EnterPuzzle(TheBoard, TheRandom, ports_->Searching);
+}
+
+void Session::FillGaps() {
+  numorra::FillGaps(TheBoard, ports_->Options.LimitToNine(), ports_->TheDialogs, ports_->Searching,
+                    TheRandom);
+}
+
+void Session::EmptyBoard() {
+  numorra::EmptyBoard(TheBoard);
+}
+
+std::optional<Puzzle> Session::PuzzleOnBoard() const {
+  if (!TheBoard.Shown() || !TheBoard.HasGaps() || WhyNoBoardHas(TheBoard.GridSize)) {
+    return std::nullopt;
+  }
+  StoredSquare square = StoredSquareOf(TheBoard);
+  for (std::size_t cell = 0; cell < square.Givens.size(); ++cell) {
+    if (!square.Givens[cell]) square.Cells[cell].reset();
+  }
+  auto read = PuzzleOf(square);
+  auto* const puzzle = std::get_if<Puzzle>(&read);
+  return puzzle ? std::optional(std::move(*puzzle)) : std::nullopt;
+}
+
+std::optional<MadePuzzle> Session::SolvedPuzzleOnBoard() {
+  constexpr double kAtOnce = 0.03;
+  const auto clues = PuzzleOnBoard();
+  if (!clues) return std::nullopt;
+  SilentStage stage;
+  const SearchResult result = numorra::Solve(*clues, {.Seconds = kAtOnce}, TheRandom, stage);
+  const auto* one = std::get_if<OneSolution>(&result);
+  return one ? std::optional(MadePuzzle{*clues, one->Solved, GradeOf(*clues)}) : std::nullopt;
+}
+
+std::optional<std::string> Session::PuzzleCode() const {
+  const auto puzzle = PuzzleOnBoard();
+  if (puzzle && puzzle->Order <= kMostCodedOrder) return CodeOf(*puzzle);
+  ports_->TheDialogs.Tell(
+      "there is a code for boards with gaps, of size 3 to 10, that keep their rules");
+  return std::nullopt;
+}
+
+std::optional<SquareWish> Session::WishForFreshSquares() const {
+  SquareWish wish{.Order = ToInt16(Val(ports_->Boxes.Size()))};
+  if (const char* why = WhyNoBoardHas(wish.Order)) {
+    ports_->TheDialogs.Tell(why);
+    return std::nullopt;
+  }
+  if (TheBoard.SolveMode != ModeVariable) return wish;
+  wish.LimitToNine = ports_->Options.LimitToNine();
+  constexpr auto kMost = static_cast<double>(Puzzle::kMostTarget);
+  const auto total =
+      static_cast<std::int64_t>(std::clamp(AsShown(Val(ports_->Boxes.Sum())), 1.0, kMost));
+  if (total != NormalTotal(wish.Order)) wish.Total = total;
+  return wish;
+}
+
+PuzzleSource Session::SquareToHide() const {
+  if (!TheBoard.Shown() || TheBoard.HasGaps()) return {.WhyNot = "there is no full board"};
+  auto read = PuzzleOf(StoredSquareOf(TheBoard), false);
+  if (const auto* against = std::get_if<AgainstRules>(&read)) return {.WhyNot = against->Why};
+  if (const char* none = WhyNoBoardHas(TheBoard.GridSize)) return {.WhyNot = none};
+  auto& square = std::get<Puzzle>(read);
+  if (!Candidates(square).Propagate(Grade::Easy)) {
+    return {.WhyNot = "not all lines of the board are right"};
+  }
+  return {.Square = std::move(square)};
+}
+
+void Session::Take(const MadePuzzle& made) {
+  LayOut(StoredSquareOf(made.Clues, true));
+}
+
+}  // namespace numorra

@@ -1,0 +1,26 @@
+#include "toolkit/command_form.h"
+
+namespace numorra {
+
+CommandForm::CommandForm(const char* name, const QString& title, Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), runner_(dialogs) {
+  setObjectName(name);
+  setWindowTitle(title);
+  setAttribute(Qt::WA_DeleteOnClose);
+  runner_.OnEnd = [this](const std::string&) {
+    if (!closing_) return;
+    QMetaObject::invokeMethod(
+        this, [this] { done(*closing_); }, Qt::QueuedConnection);
+  };
+}
+
+void CommandForm::done(int result) {
+  runner_.Stop();
+  if (runner_.Running()) {
+    closing_ = result;
+  } else {
+    QDialog::done(result);
+  }
+}
+
+}  // namespace numorra
