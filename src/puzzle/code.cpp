@@ -91,7 +91,7 @@ class Coder {
   bool reads_ = false;
 };
 
-constexpr std::uint64_t kOrders = kMostCodedOrder - kMinOrder + 1;
+constexpr std::uint64_t kCodedOrders = kMostCodedOrder - kMinOrder + 1;
 
 /// A number of a puzzle by the normal rules is its place among those that are still missing.
 void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& missing) {
@@ -105,8 +105,9 @@ void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& mis
 /// Takes the puzzle's digits through the coder, one by one.
 void Pass(Coder& coder, Puzzle& puzzle) {
   constexpr std::uint64_t kRules = 3;  // of which one is free
-  puzzle.Order = kMinOrder + static_cast<int>(coder.Digit(
-                                 static_cast<std::uint64_t>(puzzle.Order - kMinOrder), kOrders));
+  puzzle.Order =
+      kMinOrder + static_cast<int>(coder.Digit(static_cast<std::uint64_t>(puzzle.Order - kMinOrder),
+                                               kCodedOrders));
   const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0 : 1, kRules);
   puzzle.Asked = rules == 0 ? Rules::Normal : Rules::Positive;
   puzzle.Target =

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <mutex>
 
 #include "app/board/orders.h"
 #include "study/line.h"
@@ -20,7 +21,9 @@ LineMap::LineMap(int order) : lines_(static_cast<std::size_t>(order * order)) {
 }
 
 const LineMap& LineMap::Of(int order) {
+  static std::mutex oneAtATime;
   static std::array<std::unique_ptr<LineMap>, kMaxOrder + 1> maps;
+  const std::lock_guard lock(oneAtATime);
   auto& map = maps[static_cast<std::size_t>(order)];
   if (!map) map.reset(new LineMap(order));
   return *map;

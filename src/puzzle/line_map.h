@@ -8,7 +8,7 @@ namespace numorra {
 /// order, lines as MagicLines has them.
 class LineMap {
  public:
-  /// The one of an order, made when it is first asked for.
+  /// The one of an order, made when it is first asked for, in whichever thread.
   static const LineMap& Of(int order);
 
   int Lines() const { return static_cast<int>(cells_.size()); }

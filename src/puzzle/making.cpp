@@ -9,7 +9,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kOrders = 20;  // of digging, for a grade or a number of clues
+constexpr int kDiggings = 20;  // tried for a grade or a number of clues
 
 bool RulesSolve(const Puzzle& puzzle, Grade grade) {
   Candidates board(puzzle);
@@ -115,7 +115,7 @@ std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const Puzz
   std::optional<MadePuzzle> best;
   int fewest = cells;
   bool passedBy = false;
-  for (int order = 0; order < kOrders; ++order) {
+  for (int digging = 0; digging < kDiggings; ++digging) {
     MadePuzzle made = digger.Dig();
     const int clues = cells - made.Clues.Gaps();
     fewest = std::min(fewest, clues);

@@ -40,7 +40,7 @@ std::vector<std::size_t> CellsByNumber(const NumberSquare& square) {
 }  // namespace
 
 Facts::Facts(NumberSquare square)
-    : Square(std::move(square)), Lines(MagicLines(N())), Order(CellsByNumber(Square)) {
+    : Square(std::move(square)), Lines(MagicLines(N())), Ascending(CellsByNumber(Square)) {
   if (!Square.HasUnits()) return;
   Sums.reserve(Lines.size());
   for (const Line line : Lines)

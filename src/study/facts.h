@@ -15,15 +15,15 @@ struct Facts {
   explicit Facts(NumberSquare square);
 
   NumberSquare Square;
-  std::vector<Line> Lines;         ///< MagicLines
-  std::vector<std::int64_t> Sums;  ///< of the lines, in units; empty without units
-  std::int64_t Total = 0;          ///< which most lines share; among equals the first row's
-  int LinesOfTotal = 0;            ///< how many do
-  std::vector<std::size_t> Order;  ///< the cells from the smallest number to the largest
+  std::vector<Line> Lines;             ///< MagicLines
+  std::vector<std::int64_t> Sums;      ///< of the lines, in units; empty without units
+  std::int64_t Total = 0;              ///< which most lines share; among equals the first row's
+  int LinesOfTotal = 0;                ///< how many do
+  std::vector<std::size_t> Ascending;  ///< the cells from the smallest number to the largest
 
   int N() const { return Square.Order(); }
-  double Smallest() const { return Square.Numbers()[Order.front()]; }
-  double Largest() const { return Square.Numbers()[Order.back()]; }
+  double Smallest() const { return Square.Numbers()[Ascending.front()]; }
+  double Largest() const { return Square.Numbers()[Ascending.back()]; }
 
   /// "34", a sum as it is shown.
   std::string Shown(std::int64_t units) const { return Square.Shown(units); }

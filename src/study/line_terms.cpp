@@ -38,7 +38,7 @@ Judgement PowersAreMagic(const Facts& facts, int exponent) {
   const std::int64_t most = exponent == 2 ? kMostSquared : kMostCubed;
   const std::string powers = exponent == 2 ? "squares" : "cubes";
   const auto& units = facts.Square.Units();
-  for (const std::size_t cell : {facts.Order.front(), facts.Order.back()}) {
+  for (const std::size_t cell : {facts.Ascending.front(), facts.Ascending.back()}) {
     if (std::abs(units[cell]) <= most) continue;
     return TooLarge("the " + powers + " of numbers like " + facts.NumberIn(cell) +
                     " are too large to be added exactly");

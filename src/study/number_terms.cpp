@@ -12,8 +12,8 @@ namespace {
 template <class Visit>
 void ForEachNumber(const Facts& facts, Visit visit) {
   const auto& numbers = facts.Square.Numbers();
-  for (auto cell = facts.Order.begin(); cell != facts.Order.end();) {
-    const auto next = std::find_if(cell, facts.Order.end(), [&](std::size_t other) {
+  for (auto cell = facts.Ascending.begin(); cell != facts.Ascending.end();) {
+    const auto next = std::find_if(cell, facts.Ascending.end(), [&](std::size_t other) {
       return numbers[other] != numbers[*cell];
     });
     if (visit(cell, next)) return;
@@ -45,7 +45,7 @@ Judgement JudgeNormal(const Facts& facts) {
   const auto count = static_cast<double>(numbers.size());
   const std::string range = "1 to " + std::to_string(numbers.size());
   std::vector<bool> seen(numbers.size());
-  for (const std::size_t cell : facts.Order) {
+  for (const std::size_t cell : facts.Ascending) {
     const double number = numbers[cell];
     if (number < 1 || number > count || number != std::floor(number)) {
       return Fails(facts.NumberAndPlace(cell) + " is none of the numbers " + range,
@@ -68,21 +68,21 @@ Judgement JudgeConsecutive(const Facts& facts) {
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   if (Judgement distinct = NothingRepeated(facts); !distinct) return distinct;
   const auto& units = facts.Square.Units();
-  for (std::size_t i = 1; i < facts.Order.size(); ++i) {
-    const std::size_t before = facts.Order[i - 1];
-    const std::size_t cell = facts.Order[i];
+  for (std::size_t i = 1; i < facts.Ascending.size(); ++i) {
+    const std::size_t before = facts.Ascending[i - 1];
+    const std::size_t cell = facts.Ascending[i];
     if (units[cell] - units[before] == facts.Square.One()) continue;
     return Fails("the next number after " + facts.NumberIn(before) + " is " + facts.NumberIn(cell),
                  {facts.Square.PlaceOf(before), facts.Square.PlaceOf(cell)});
   }
   return Holds("its numbers are those " +
-               facts.Run(units[facts.Order.front()], units[facts.Order.back()]));
+               facts.Run(units[facts.Ascending.front()], units[facts.Ascending.back()]));
 }
 
 /// Numbers get their ranks, so that what has been seen in a line fits in a table.
 Judgement JudgeLatin(const Facts& facts) {
   const int n = facts.N();
-  std::vector<int> rank(facts.Order.size());
+  std::vector<int> rank(facts.Ascending.size());
   int ranks = 0;
   ForEachNumber(facts, [&](auto begin, auto end) {
     std::for_each(begin, end, [&](std::size_t cell) { rank[cell] = ranks; });
@@ -110,7 +110,7 @@ Judgement JudgeLatin(const Facts& facts) {
 }
 
 Judgement JudgePrime(const Facts& facts) {
-  for (const std::size_t cell : facts.Order) {
+  for (const std::size_t cell : facts.Ascending) {
     if (IsPrime(facts.Square.Numbers()[cell])) continue;
     return Fails(facts.NumberAndPlace(cell) + " is not a prime", {facts.Square.PlaceOf(cell)});
   }

@@ -134,7 +134,7 @@ Judgement JudgeSelfComplementary(const Facts& facts) {
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const int n = facts.N();
   const auto& units = facts.Square.Units();
-  const std::int64_t wanted = units[facts.Order.front()] + units[facts.Order.back()];
+  const std::int64_t wanted = units[facts.Ascending.front()] + units[facts.Ascending.back()];
   const auto isComplement = [&](int image) {
     for (int i = 0; i < n; ++i) {
       for (int j = 0; j < n; ++j) {
@@ -176,7 +176,7 @@ Judgement JudgeBordered(const Facts& facts) {
     rings.push_back(ringOf(facts.Square.PlaceOf(cell)));
   for (int ring = (n - kSmallestMiddle) / 2; ring > 0; --ring) {
     const std::size_t* before = nullptr;
-    for (const std::size_t& cell : facts.Order) {
+    for (const std::size_t& cell : facts.Ascending) {
       if (rings[cell] < ring) continue;
       const std::size_t* const last = std::exchange(before, &cell);
       if (!last || units[cell] - units[*last] == facts.Square.One()) continue;

@@ -28,9 +28,9 @@ std::string RowsOf(int order, const std::vector<double>& numbers, const std::str
 std::string RepeatedIn(const Facts& facts) {
   const auto& numbers = facts.Square.Numbers();
   std::vector<std::string> repeated;
-  for (std::size_t i = 1; i < facts.Order.size(); ++i) {
-    const std::size_t cell = facts.Order[i];
-    if (numbers[cell] != numbers[facts.Order[i - 1]]) continue;
+  for (std::size_t i = 1; i < facts.Ascending.size(); ++i) {
+    const std::size_t cell = facts.Ascending[i];
+    if (numbers[cell] != numbers[facts.Ascending[i - 1]]) continue;
     if (repeated.empty() || repeated.back() != facts.NumberIn(cell)) {
       repeated.push_back(facts.NumberIn(cell));
     }

@@ -1,8 +1,20 @@
 #include "study/terms.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace numorra {
+namespace {
+
+const Term& TermNamed(const std::string& name) {
+  const auto& terms = Terms();
+  const auto found =
+      std::find_if(terms.begin(), terms.end(), [&](const Term& term) { return term.Name == name; });
+  if (found == terms.end()) throw std::out_of_range("there is no term " + name);
+  return *found;
+}
+
+}  // namespace
 
 const std::vector<Term>& Terms() {
   constexpr const char* kLines = "Lines";
@@ -60,20 +72,13 @@ const std::vector<Term>& Terms() {
   return terms;
 }
 
-const Term* FindTerm(const std::string& name) {
-  const auto& terms = Terms();
-  const auto found =
-      std::find_if(terms.begin(), terms.end(), [&](const Term& term) { return term.Name == name; });
-  return found == terms.end() ? nullptr : &*found;
-}
-
 Judgement SumsTooLarge() {
   return TooLarge("the numbers have too many digits to be added exactly");
 }
 
 Judgement All(const Facts& facts, std::initializer_list<const char*> needed, Judgement reached) {
   for (const char* const name : needed) {
-    Judgement part = FindTerm(name)->Judge(facts);
+    Judgement part = TermNamed(name).Judge(facts);
     if (part) continue;
     part.Why = (part.Says == Answer::Fails ? "not " + std::string(name) + ": " : "") + part.Why;
     return part;

@@ -18,9 +18,6 @@ struct Term {
 /// All terms, group by group.
 const std::vector<Term>& Terms();
 
-/// The term of this name; null where there is none.
-const Term* FindTerm(const std::string& name);
-
 // Terms of the lines' sums.
 Judgement JudgeSemiMagic(const Facts& facts);
 Judgement JudgeMagic(const Facts& facts);
@@ -51,8 +48,8 @@ Judgement JudgeBordered(const Facts& facts);
 /// What is said of a square whose sums are too large to be exact.
 Judgement SumsTooLarge();
 
-/// The first of `needed` that does not hold, said as what `facts` lack for the term; else
-/// `reached`.
+/// The first of the terms `needed`, by name, that does not hold, said as what `facts` lack for the
+/// term; else `reached`. A name that no term has throws std::out_of_range.
 Judgement All(const Facts& facts, std::initializer_list<const char*> needed, Judgement reached);
 
 }  // namespace numorra

@@ -6,6 +6,18 @@
 #include "app/board/runtime_error.h"
 
 namespace numorra {
+namespace {
+
+/// Where a cell of a table of so many rows and columns stands in reading order.
+std::size_t IndexIn(int rows, int columns, int row, int column) {
+  if (row < 0 || row >= rows || column < 0 || column >= columns) {
+    throw RuntimeError(Fault::SubscriptOutOfRange);
+  }
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
+         static_cast<std::size_t>(column);
+}
+
+}  // namespace
 
 // Room for the largest board is taken once, so that no board is lost half way for want of memory.
 Grid::Grid() {
@@ -87,15 +99,11 @@ void Grid::LockRedraw(bool on) {
 }
 
 const Grid::Cell& Grid::At(int row, int column) const {
-  if (row < 0 || row >= rows_ || column < 0 || column >= columns_) {
-    throw RuntimeError(Fault::SubscriptOutOfRange);
-  }
-  return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                static_cast<std::size_t>(column)];
+  return cells_[IndexIn(rows_, columns_, row, column)];
 }
 
 Grid::Cell& Grid::Changed(int row, int column) {
-  return const_cast<Cell&>(At(row, column));
+  return cells_[IndexIn(rows_, columns_, row, column)];
 }
 
 void Grid::WantRepaint() {

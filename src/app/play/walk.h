@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "app/board/grid.h"
-#include "generate/walk.h"
+#include "generate/construction_steps.h"
 
 namespace numorra {
 

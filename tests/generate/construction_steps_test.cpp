@@ -1,4 +1,4 @@
-#include "generate/walk.h"
+#include "generate/construction_steps.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -82,6 +82,7 @@ TEST(Walk, EndsAtEverySquareThatIsBuilt) {
   SilentStage stage;
   NormalSquare squares(random, stage);
   for (int order = 3; order <= kMaxOrder; ++order) {
+    ExpectWalk(order, ExampleToWalk(order));
     if (order % 2 == 0) {  // four quarter turns; or an odd square by lot
       for (int choice = 0; choice < 4; ++choice)
         ExpectWalk(order, Flat(squares.Build(order), order));
@@ -130,6 +131,7 @@ TEST(Walk, KnowsWhatItCannotExplain) {
                   .empty());
   EXPECT_TRUE(WalkOf(1, {1}).empty() && WalkOf(2, {1, 4, 3, 2}).empty());
   EXPECT_TRUE(WalkOf(3, {0.5, 9, 2, 3, 5, 7, 8, 1, 6}).empty());
+  EXPECT_TRUE(WalkOf(3, {8, 1.5, 6, 3, 5, 7, 4, 9, 2}).empty());
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/board/place.h"
+
+namespace numorra {
+
+/// One step of a construction: what is written where, what is pointed at, and one sentence on it.
+struct WalkStep {
+  std::vector<std::pair<Place, std::string>> Written;
+  std::vector<Place> Marked;  ///< the cells that the step is about
+  std::optional<std::pair<Place, Place>> Arrow = {};
+  std::string Sentence;
+  int Number = 0;  ///< that one could be asked for: where does it go? 0 for none
+};
+
+/// How a normal square is made by a construction of its order, step by step; the last step leaves
+/// the square itself. Empty where no construction makes the square. The numbers are in reading
+/// order.
+std::vector<WalkStep> WalkOf(int order, const std::vector<double>& numbers);
+
+/// A square of the order, 3 to 50, that is good to walk through first, in reading order.
+std::vector<double> ExampleToWalk(int order);
+
+}  // namespace numorra

@@ -1,0 +1,100 @@
+#include <string>
+#include <utility>
+
+#include "app/board/board.h"
+#include "generate/construction.h"
+#include "transform/turning_square.h"
+
+/// The construction for orders n = 4m: the numbers in reading order, those on the two diagonals of
+/// every 4 x 4 block counted from the other end, n x n + 1 less the number; then any quarter turns.
+///
+///      1  2  3  4        16  2  3 13
+///      5  6  7  8         5 11 10  8
+///      9 10 11 12   ->    9  7  6 12
+///     13 14 15 16         4 14 15  1
+namespace numorra {
+namespace {
+
+bool OnBlockDiagonal(int row, int column) {
+  return row % 4 == column % 4 || (row + column) % 4 == 1;
+}
+
+/// The number of a cell before the square is turned.
+int NumberIn(int row, int column, int order) {
+  const int value = (row - 1) * order + column;
+  return OnBlockDiagonal(row, column) ? order * order + 1 - value : value;
+}
+
+CellTable SquareTurned(int order, int quarterTurns) {
+  TurningSquare square(order);
+  ForEachCell(order,
+              [&](int row, int column) { square(row, column) = NumberIn(row, column, order); });
+  for (int turn = 0; turn < quarterTurns; ++turn)
+    square.RotateBoard90();
+  return square.Settled();
+}
+
+CellTable BuildByDiagonals(int order, BuildChoices& choices) {
+  choices.ResumeCount();
+  // One step for each cell and each block.
+  choices.Count(order * order + order * order / 16);
+  return SquareTurned(order, choices.QuarterTurns());
+}
+
+/// Two opposite numbers on marked cells change places.
+WalkStep ExchangeOf(int small, Place atSmall, int large, Place atLarge) {
+  return {{{atSmall, std::to_string(large)}, {atLarge, std::to_string(small)}},
+          {atSmall, atLarge},
+          std::pair(atLarge, atSmall),
+          std::to_string(small) + " and " + std::to_string(large) +
+              ", opposite each other, change places",
+          0};
+}
+
+/// A line of numbers in counting order a step, the marked cells, then an exchange a step.
+std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
+  const int n = square.Order();
+  int turns = 0;
+  while (NumbersOf(SquareTurned(n, turns), n) != square.Numbers()) {
+    if (++turns == 4) return {};
+  }
+  // Where the turns have brought a cell.
+  const auto turned = [&](int row, int column) { return square.PlaceOf(NumberIn(row, column, n)); };
+  constexpr const char* kFrom[] = {"from the left", "from the top down", "from the right",
+                                   "from the bottom up"};
+  std::vector<WalkStep> walk;
+  std::vector<WalkStep> exchanges;
+  std::vector<Place> marked;
+  for (int row = 1; row <= n; ++row) {
+    WalkStep line;
+    for (int column = 1; column <= n; ++column) {
+      const int number = (row - 1) * n + column;
+      const Place here = turned(row, column);
+      line.Written.emplace_back(here, std::to_string(number));
+      line.Marked.push_back(here);
+      if (!OnBlockDiagonal(row, column)) continue;
+      marked.push_back(here);
+      if (row > n / 2) continue;
+      const Place there = turned(n + 1 - row, n + 1 - column);
+      exchanges.push_back(ExchangeOf(number, here, n * n + 1 - number, there));
+    }
+    const Place first = line.Marked.front();
+    line.Sentence = (turns % 2 == 0 ? "row " + std::to_string(first.Row)
+                                    : "column " + std::to_string(first.Column)) +
+                    " takes " + line.Written.front().second + " to " + line.Written.back().second +
+                    ", " + kFrom[turns];
+    walk.push_back(std::move(line));
+  }
+  walk.push_back(
+      {{}, marked, {}, "the cells on the two diagonals of every 4 x 4 block are marked", 0});
+  walk.insert(walk.end(), exchanges.begin(), exchanges.end());
+  return walk;
+}
+
+}  // namespace
+
+const Construction kDiagonalConstruction = {"block diagonals",
+                                            [](int order) { return order > 0 && order % 4 == 0; },
+                                            BuildByDiagonals, StepsOfDiagonals};
+
+}  // namespace numorra

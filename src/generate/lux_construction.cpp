@@ -1,0 +1,148 @@
+#include <array>
+#include <string>
+#include <utility>
+
+#include "app/board/board.h"
+#include "generate/construction.h"
+#include "generate/stepping_moves.h"
+
+/// Conway's LUX method for orders 4k + 2. An odd square of order m = 2k + 1 is laid over m x m
+/// blocks of four cells. Its number a brings the numbers 4a - 3 to 4a into its block, in the order
+/// of the block's letter:
+///
+///     4 1     1 4     1 4
+///     2 3     2 3     3 2       k + 1 rows of L, one of U, the rest X; in the middle column the
+///      L       U       X        last L and the U below it change places
+namespace numorra {
+namespace {
+
+/// Where the four numbers of a block stand, in their order: 0 upper left, 1 upper right, 2 lower
+/// left, 3 lower right.
+struct Letter {
+  char Name;
+  std::array<int, 4> Cells;
+};
+
+constexpr Letter kL{'L', {1, 2, 3, 0}};
+constexpr Letter kU{'U', {0, 2, 3, 1}};
+constexpr Letter kX{'X', {0, 3, 2, 1}};
+
+using FourCells = std::array<Place, 4>;
+
+// Blocks are places, too: row and column from 1 to m.
+
+/// The letter of a row of blocks, before the exchange in the middle.
+const Letter& LetterOfRow(int row, int m) {
+  const int lastL = (m + 1) / 2;
+  if (row <= lastL) return kL;
+  return row == lastL + 1 ? kU : kX;
+}
+
+const Letter& LetterOf(Place block, int m) {
+  const int middle = (m + 1) / 2;
+  const bool changed = block.Column == middle && (block.Row == middle || block.Row == middle + 1);
+  return LetterOfRow(changed ? 2 * middle + 1 - block.Row : block.Row, m);
+}
+
+Place CellOf(Place block, int cell) {
+  return {2 * block.Row - 1 + cell / 2, 2 * block.Column - 1 + cell % 2};
+}
+
+FourCells CellsOf(Place block, const std::array<int, 4>& cells = {0, 1, 2, 3}) {
+  return {CellOf(block, cells[0]), CellOf(block, cells[1]), CellOf(block, cells[2]),
+          CellOf(block, cells[3])};
+}
+
+/// The cells of a block in the order of their numbers.
+FourCells CellsInOrder(Place block, int m) {
+  return CellsOf(block, LetterOf(block, m).Cells);
+}
+
+CellTable BuildLux(int order, BuildChoices& choices) {
+  const int m = order / 2;
+  const CellTable odd = kSteppingConstruction.Build(m, choices);
+  choices.StartCount();
+  CellTable cells;
+  ForEachCell(m, [&](int row, int column) {
+    double number = 4 * odd(row, column) - 3;
+    for (const Place cell : CellsInOrder({row, column}, m))
+      cells(cell.Row, cell.Column) = number++;
+  });
+  // One step for each L of the first k + 1 rows, each cell of the odd square and each block.
+  choices.Count((m + 1) / 2 * m + 2 * m * m);
+  return cells;
+}
+
+/// The odd square under a square, by the first number of each block.
+PlacedNumbers OddSquareUnder(const PlacedNumbers& square) {
+  const int m = square.Order() / 2;
+  std::vector<double> odd;
+  ForEachCell(m, [&](int row, int column) {
+    odd.push_back((square.At(CellsInOrder({row, column}, m)[0]) + 3) / 4.0);
+  });
+  return {m, std::move(odd)};
+}
+
+void WriteLetter(WalkStep& step, Place block, const Letter& letter) {
+  for (const Place cell : CellsOf(block))
+    step.Written.emplace_back(cell, std::string(1, letter.Name));
+}
+
+WalkStep LettersByRow(int m) {
+  WalkStep step;
+  ForEachCell(m, [&](int row, int column) {
+    WriteLetter(step, {row, column}, LetterOfRow(row, m));
+  });
+  const int rowsOfX = (m - 3) / 2;
+  step.Sentence = "every block of four cells gets a letter: " + std::to_string((m + 1) / 2) +
+                  " rows of L, one of U, " + (rowsOfX == 0 ? "none" : std::to_string(rowsOfX)) +
+                  " of X";
+  return step;
+}
+
+WalkStep ExchangeInTheMiddle(int m) {
+  WalkStep step;
+  const int middle = (m + 1) / 2;
+  for (const Place block : {Place{middle, middle}, Place{middle + 1, middle}}) {
+    WriteLetter(step, block, LetterOf(block, m));
+    const FourCells cells = CellsOf(block);
+    step.Marked.insert(step.Marked.end(), cells.begin(), cells.end());
+  }
+  step.Sentence = "in the middle an L and the U below it change places";
+  return step;
+}
+
+/// The letters, the exchange of two of them, then a block of four numbers a step.
+std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
+  const PlacedNumbers blocks = OddSquareUnder(square);
+  if (!blocks.IsNormal()) return {};
+  const auto moves = MovesOf(blocks);
+  if (!moves) return {};
+  const int m = blocks.Order();
+  std::vector<WalkStep> walk{LettersByRow(m), ExchangeInTheMiddle(m)};
+  for (int number = 1; number <= m * m; ++number) {
+    const Place block = blocks.PlaceOf(number);
+    const FourCells cells = CellsOf(block);
+    const int first = 4 * number - 3;
+    WalkStep step{{}, {cells.begin(), cells.end()}, {}, {}, first};
+    int next = first;
+    for (const Place cell : CellsInOrder(block, m)) {
+      if (square.At(cell) != next) return {};
+      step.Written.emplace_back(cell, std::to_string(next++));
+    }
+    if (number > 1) step.Arrow = {CellOf(blocks.PlaceOf(number - 1), 0), cells[0]};
+    step.Sentence = "block " + MoveSentence(blocks, *moves, number) +
+                    (number == 1 ? " of the blocks" : "") + "; its numbers are " +
+                    std::to_string(first) + " to " + std::to_string(first + 3) +
+                    ", in the order of the letter " + LetterOf(block, m).Name;
+    walk.push_back(std::move(step));
+  }
+  return walk;
+}
+
+}  // namespace
+
+const Construction kLuxConstruction = {"LUX", [](int order) { return order > 0 && order % 4 == 2; },
+                                       BuildLux, StepsOfLux};
+
+}  // namespace numorra
