@@ -26,7 +26,7 @@ void MainWindow::BuildMenus() {
   const QList<QKeySequence> redo{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y};
   AddMenu(menuBar(), "&File",
           {{"Openx", "&Open...", QKeySequence::keyBindings(QKeySequence::Open), beside([this] {
-              const QString name = files_.ToOpen(this, "Open", kReadableKinds);
+              const QString name = files_.ToOpen(this, "Open", ReadableKinds());
               if (!name.isEmpty()) Open(name);
             })},
            {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),

@@ -178,7 +178,7 @@ void MainWindow::ShowLaidOut() {
 }
 
 void MainWindow::Save() {
-  const QString name = files_.ToSave(this, "Save As", kSquareKinds);
+  const QString name = files_.ToSave(this, "Save As", SquareKinds());
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(board_));
 }
 

@@ -5,8 +5,7 @@
 #include <QPdfWriter>
 
 #include "app/board/runtime_error.h"
-#include "app/window/square_json.h"
-#include "files/square_text.h"
+#include "files/formats.h"
 #include "puzzle/code.h"
 #include "toolkit/whole_file.h"
 
@@ -25,6 +24,14 @@ QPalette OnWhite() {
 
 bool EndsIn(const QString& name, const char* ending) {
   return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+}
+
+/// The formats that the window writes, the one that keeps most first.
+std::vector<Format> WritableFormats() {
+  std::vector<Format> formats;
+  std::copy_if(std::rbegin(kFormats), std::rend(kFormats), std::back_inserter(formats),
+               [](const Format& format) { return *format.Caption != '\0'; });
+  return formats;
 }
 
 /// Writes what `paint` paints in an area of `size` pixels, `dpi` to the inch.
@@ -58,21 +65,39 @@ void Export(const QString& name, QSize size, int dpi, const std::function<void(Q
 
 }  // namespace
 
+QString SquareKinds() {
+  QStringList kinds;
+  for (const Format& format : WritableFormats())
+    kinds += QString("%1 (*.%2)").arg(format.Caption, format.Suffix);
+  return kinds.join(";;");
+}
+
+QString ReadableKinds() {
+  QStringList names;
+  for (const Format& format : kFormats)
+    names.prepend(QString("*.%1").arg(format.Suffix));
+  return "Squares (" + names.join(' ') + ");;All files (*)";
+}
+
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
   QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
   if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
-  return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareOrCode(bytes.toStdString());
+  return ReadSquareOrCode(bytes.toStdString());
 }
 
 void SaveSquare(const QString& name, const StoredSquare& square) {
-  const bool csv = EndsIn(name, ".csv");
-  const QString suffix = QFileInfo(name).suffix();
-  if (!csv && !suffix.isEmpty() && !EndsIn(name, ".json")) {
-    throw RuntimeError(
-        Fault::FileError,
-        name.toStdString() + " is neither a .json nor a .csv file: Export Picture writes pictures");
+  const QString suffix = QFileInfo(name).suffix().toLower();
+  QStringList suffixes;
+  for (const Format& format : WritableFormats()) {
+    if (suffix.isEmpty() || suffix == format.Suffix) {
+      WriteWholeFile(name, QByteArray::fromStdString(format.Write(square)));
+      return;
+    }
+    suffixes += QString(".") + format.Suffix;
   }
-  WriteWholeFile(name, QByteArray::fromStdString(csv ? CsvOf(square) : JsonOf(square)));
+  throw RuntimeError(Fault::FileError, (name + " is neither a " + suffixes.join(" nor a ") +
+                                        " file: Export Picture writes pictures")
+                                           .toStdString());
 }
 
 void ExportBoard(const QString& name, GridView& view) {
