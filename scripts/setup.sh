@@ -1,6 +1,6 @@
 # Sourced by the project's commands: installs what a machine lacks, and builds with little noise.
 
-kBuildPackages=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core fonts-liberation)
+kBuildPackages=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation)
 
 # need_packages NAME...: installs the Debian packages that are missing; silent when none is.
 need_packages() {

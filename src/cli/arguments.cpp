@@ -10,75 +10,9 @@
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
-#include "files/stored_square.h"
 #include "puzzle/rules.h"
 
 namespace numorra {
-
-const char* const kUsage =
-    R"(usage: numorra-square --size N [options]
-       numorra-square --top-row A,B,C,D [options]
-       numorra-square --kind TERM --size N [options]
-       numorra-square study [FILE|-] [--format text|json]
-       numorra-square complete [FILE|-] [options]
-       numorra-square puzzle --size N [options]
-
-Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
-any total, 4 x 4 with a top row of your choice, or of a special kind.
-
-  --size N                 how many cells a side has, 3 to 50
-  --sum T                  the total wanted instead of that of 1 to N x N, below
-                           32768 x N
-  --limit-to-9             no number above 9; the total is then at most 5 x N
-  --corner V               the number wanted at the top left, from size 4 on
-  --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
-  --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
-                           bordered
-  --vary                   another square of the family of the one that is built;
-                           of the kinds only associative squares stay what they
-                           are, and no corner or top row stays where it is
-  --count M                so many squares, 1 to 1000000
-  --format text|csv|json   aligned columns and the total (the default), rows of
-                           comma-separated numbers, or an object with both
-                           on one line
-  --seed N                 start random numbers from N, so that a run can be
-                           repeated
-  --help                   this page
-  --version                the program's version
-
-study says what squares are, and why. It reads rows of numbers from a file or
-from the standard input, squares separated by empty lines; a JSON object a line
-says the same to programs. Squares written as JSON are for the window to open; they
-are not read here. Each is answered as soon as it is read, however many come; reading
-ends at one that takes more than a megabyte.
-
-complete fills the gaps (nothing, or one of - . _ between separators) of squares
-that it reads as study does, and says whether there is one way, several or none.
-Its exit status is 3 for none and 4 for what was not settled in time.
-
-  --rules normal|positive  each of 1 to N x N once, or any whole numbers of 1 or
-                           more; without it what the square suggests
-  --sum T                  the total, instead of the one that the square tells
-  --limit-to-9             no number above 9, by the positive rules
-  --seconds S              how long to search for each square: 3
-  --format text|json       JSON is one object a line, with what else is to be said
-                           as "why"
-
-puzzle makes squares with gaps that have one solution. Their codes, up to size
-10, are read by study, complete and the window.
-
-  --size N                 how many cells a side has
-  --grade easy|medium|hard|expert
-                           the hardest rules that it needs
-  --clues K                how many numbers are given; without it as few as can be
-  --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
-  --count M, --seed N      so many; the same seed gives the same ones
-  --format text|csv|json   JSON is one object a line, with its solution
-
-The exit status is 0 when all was done, 1 when there is no such square or something
-could not be read or written, 2 for bad arguments, 3 and 4 as complete has them, and
-5 when there was not enough memory.
-)";
 
 namespace {
 
@@ -89,6 +23,37 @@ std::optional<Number> NumberIn(const std::string& text) {
   const auto result = std::from_chars(text.data(), end, number);
   if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
   return number;
+}
+
+/// The names of the formats, of those of answers alone: "text, csv or json".
+std::string NamesOf(bool answersAlone, const std::string& between, const std::string& beforeLast) {
+  std::vector<std::string> names;
+  for (const Format& format : kFormats) {
+    if (format.ForAnswers || !answersAlone) names.emplace_back(format.Name);
+  }
+  std::string text = names[0];
+  for (std::size_t i = 1; i < names.size(); ++i)
+    text += (i + 1 < names.size() ? between : beforeLast) + names[i];
+  return text;
+}
+
+/// A line of the usage.
+std::string OptionText(const std::string& option, const std::string& says) {
+  constexpr std::size_t kSaysFrom = 25;
+  std::string line = "  " + option;
+  line.resize(std::max(line.size(), kSaysFrom), ' ');
+  return line + "  " + says + "\n";
+}
+
+/// What each format is, a line each.
+std::string FormatLines() {
+  std::string lines;
+  for (const Format& format : kFormats) {
+    const bool usual = format.Id == SquareRequest().Format;
+    lines += OptionText(
+        "", std::string(format.Name) + ": " + format.Says + (usual ? " (the default)" : ""));
+  }
+  return lines;
 }
 
 /// A number as cells have them.
@@ -166,7 +131,7 @@ class Reader {
         Fail("the limit goes with the positive rules");
       }
       if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
-      if (request_.Format == SquareFormat::Csv) Fail("the format is text or json");
+      if (!Of(request_.Format).ForAnswers) Fail("the format is " + NamesOf(true, ", ", " or "));
       return;
     }
     CheckSum();
@@ -330,16 +295,9 @@ class Reader {
   }
 
   void Format() {
-    const std::string name = Value();
-    if (name == "text") {
-      request_.Format = SquareFormat::Text;
-    } else if (name == "csv") {
-      request_.Format = SquareFormat::Csv;
-    } else if (name == "json") {
-      request_.Format = SquareFormat::Json;
-    } else {
-      Fail("the format is text, csv or json");
-    }
+    const auto format = FormatNamed(Value());
+    if (!format) Fail("the format is " + NamesOf(false, ", ", " or "));
+    request_.Format = format.value_or(request_.Format);
   }
 
   void Seed() {
@@ -365,6 +323,75 @@ class Reader {
 };
 
 }  // namespace
+
+std::string Usage() {
+  const std::string all = NamesOf(false, "|", "|");
+  const std::string ofAnswers = NamesOf(true, "|", "|");
+  return R"(usage: numorra-square --size N [options]
+       numorra-square --top-row A,B,C,D [options]
+       numorra-square --kind TERM --size N [options]
+       numorra-square study [FILE|-] [--format " + ofAnswers + R"(]
+       numorra-square complete [FILE|-] [options]
+       numorra-square puzzle --size N [options]
+
+Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
+any total, 4 x 4 with a top row of your choice, or of a special kind.
+
+  --size N                 how many cells a side has, 3 to 50
+  --sum T                  the total wanted instead of that of 1 to N x N, below
+                           32768 x N
+  --limit-to-9             no number above 9; the total is then at most 5 x N
+  --corner V               the number wanted at the top left, from size 4 on
+  --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
+  --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
+                           bordered
+  --vary                   another square of the family of the one that is built;
+                           of the kinds only associative squares stay what they
+                           are, and no corner or top row stays where it is
+  --count M                so many squares, 1 to 1000000
+)" + OptionText("--format " + all, "how squares are written:") +
+         FormatLines() +
+         R"(  --seed N                 start random numbers from N, so that a run can be
+                           repeated
+  --help                   this page
+  --version                the program's version
+
+study says what squares are, and why. It reads rows of numbers from a file or
+from the standard input, squares separated by empty lines, and all that this program
+writes: JSON objects are told by their first brace, and their "rows" are the square.
+Each is answered as soon as it is read, however many come; reading ends at one that
+takes more than a megabyte. JSON says the same to programs, one object a line.
+
+complete fills the gaps (nothing, or one of - . _ between separators) of squares
+that it reads as study does, and says whether there is one way, several or none.
+Its exit status is 3 for none and 4 for what was not settled in time.
+
+  --rules normal|positive  each of 1 to N x N once, or any whole numbers of 1 or
+                           more; without it what the square suggests
+  --sum T                  the total, instead of the one that the square tells
+  --limit-to-9             no number above 9, by the positive rules
+  --seconds S              how long to search for each square: 3
+)" +
+         OptionText("--format " + ofAnswers,
+                    "JSON is one object a line, with what else is to be said") +
+         R"(                           as "why"
+
+puzzle makes squares with gaps that have one solution. Their codes, up to size
+10, are read by study, complete and the window.
+
+  --size N                 how many cells a side has
+  --grade easy|medium|hard|expert
+                           the hardest rules that it needs
+  --clues K                how many numbers are given; without it as few as can be
+  --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
+  --count M, --seed N      so many; the same seed gives the same ones
+)" + OptionText("--format " + all, "JSON is one object a line, with its solution") +
+         R"(
+The exit status is 0 when all was done, 1 when there is no such square or something
+could not be read or written, 2 for bad arguments, 3 and 4 as complete has them, and
+5 when there was not enough memory.
+)";
+}
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
   return Reader(words).Read();

@@ -7,13 +7,12 @@
 #include <vector>
 
 #include "app/board/rules.h"
+#include "files/formats.h"
 #include "generate/top_row_square.h"
 #include "puzzle/candidates.h"
 #include "study/special.h"
 
 namespace numorra {
-
-enum class SquareFormat { Text, Csv, Json };
 
 /// What the first word asks for: squares to be built, when it is none of the others.
 enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle };
@@ -63,6 +62,6 @@ using Arguments = std::variant<SquareRequest, HelpRequest, VersionRequest, BadAr
 Arguments ParseArguments(const std::vector<std::string>& words);
 
 /// What --help prints.
-extern const char* const kUsage;
+std::string Usage();
 
 }  // namespace numorra

@@ -5,7 +5,6 @@
 #include "app/board/board.h"
 #include "app/board/numbers.h"
 #include "app/board/random.h"
-#include "cli/square_format.h"
 #include "cli/streams.h"
 #include "generate/corner_choice.h"
 #include "generate/normal_square.h"
@@ -118,7 +117,7 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
     StoredSquare square{.Order = result.Order, .Total = result.Total, .Asked = result.Asked};
     for (const double number : NumbersOf(result.Square, result.Order))
       square.Cells.emplace_back(number);
-    WriteSquare(streams.Out, square, request.Format);
+    streams.Out << Of(request.Format).Write(square);
   }
 }
 

@@ -6,7 +6,6 @@
 #include "app/board/numbers.h"
 #include "app/board/random.h"
 #include "cli/read_squares.h"
-#include "cli/square_format.h"
 #include "files/aim.h"
 #include "puzzle/search.h"
 
@@ -60,16 +59,18 @@ std::string RowsOf(const std::optional<Puzzle>& puzzle) {
 
 void Write(const Completed& completed, SquareFormat format, std::ostream& out) {
   if (format == SquareFormat::Json) {
-    const std::string why = completed.Why.empty() ? "null" : "\"" + completed.Why + "\"";
-    out << R"({"answer": ")" << completed.Answer << R"(", "why": )" << why << R"(, "rows": )"
-        << RowsOf(completed.First) << R"(, "second": )" << RowsOf(completed.Second) << "}\n";
+    out << JsonLine()
+               .Add("answer", JsonString(completed.Answer))
+               .Add("why", completed.Why.empty() ? "null" : JsonString(completed.Why))
+               .Add("rows", RowsOf(completed.First))
+               .Add("second", RowsOf(completed.Second))
+               .Text()
+        << "\n";
     return;
   }
   out << completed.Answer << (completed.Why.empty() ? "" : ": ") << completed.Why << "\n";
   for (const auto& square : {completed.First, completed.Second}) {
-    if (!square) continue;
-    out << "\n";
-    WriteSquare(out, StoredSquareOf(*square, false), SquareFormat::Text);
+    if (square) out << "\n" << TextOf(StoredSquareOf(*square, false));
   }
 }
 

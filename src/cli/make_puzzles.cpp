@@ -4,7 +4,6 @@
 
 #include "app/board/numbers.h"
 #include "app/board/random.h"
-#include "cli/square_format.h"
 #include "puzzle/code.h"
 #include "puzzle/fresh_square.h"
 #include "puzzle/making.h"
@@ -42,22 +41,23 @@ void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
   const std::string clues = std::to_string(made.Clues.Order * made.Clues.Order - made.Clues.Gaps());
   switch (format) {
     case SquareFormat::Csv:
-      WriteSquare(out, stored, format);
+      out << CsvOf(stored);
       break;
     case SquareFormat::Json: {
-      std::string json = JsonOf(stored);
-      json.erase(json.rfind('}'));
-      out << json << R"(, "solution": )" << JsonRowsOf(StoredSquareOf(made.Solution, false))
-          << R"(, "grade": ")" << NameOf(made.Needed) << R"(", "clues": )" << clues;
-      if (!code.empty()) out << R"(, "code": ")" << code << "\"";
-      out << "}\n";
+      JsonLine line = JsonLineOf(stored);
+      line.Add("solution", JsonRowsOf(StoredSquareOf(made.Solution, false)));
+      line.Add("grade", JsonString(NameOf(made.Needed))).Add("clues", clues);
+      if (!code.empty()) line.Add("code", JsonString(code));
+      out << line.Text() << "\n";
       break;
     }
-    case SquareFormat::Text:
-      WriteSquare(out, stored, format,
-                  std::string(NameOf(made.Needed)) + ", " + clues + " clues" +
-                      (code.empty() ? "" : ", " + code));
+    case SquareFormat::Text: {
+      std::string text = TextOf(stored);
+      text.pop_back();  // the total's line goes on
+      out << text << ", " << NameOf(made.Needed) << ", " << clues << " clues"
+          << (code.empty() ? "" : ", " + code) << "\n";
       break;
+    }
   }
 }
 

@@ -17,11 +17,6 @@ std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
   return why.starts_with("line ") ? why : "line " + std::to_string(firstLine) + ": " + why;
 }
 
-bool LooksLikeJson(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  return first != std::string::npos && text[first] == '{';
-}
-
 }  // namespace
 
 bool ReadSquares(const std::string& file, const Streams& streams,
@@ -39,10 +34,6 @@ bool ReadSquares(const std::string& file, const Streams& streams,
   while (streams.Out) {
     const auto block = blocks.Next();
     if (!block) break;
-    if (!any && LooksLikeJson(block->Text)) {
-      throw Impossible{
-          "this is JSON, which the window opens; here squares are read as text or codes"};
-    }
     any = true;
     const auto square = ReadSquareOrCode(block->Text, block->FirstLine);
     if (const auto* unreadable = std::get_if<Unreadable>(&square)) {

@@ -57,7 +57,7 @@ int Answer(const Arguments& arguments, const Streams& streams) {
   }
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
   const bool help = std::holds_alternative<HelpRequest>(arguments);
-  streams.Out << (help ? kUsage : "numorra-square " NUMORRA_VERSION "\n");
+  streams.Out << (help ? Usage() : "numorra-square " NUMORRA_VERSION "\n");
   return kDone;
 }
 

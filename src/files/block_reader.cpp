@@ -1,49 +1,95 @@
 #include "files/block_reader.h"
 
 #include <istream>
-#include <utility>
+#include <string_view>
 
 #include "files/square_text.h"
 
 namespace numorra {
+namespace {
+
+constexpr int kEnd = std::istream::traits_type::eof();
+
+}  // namespace
 
 std::optional<TextBlock> BlockReader::Next() {
   if (tooLongFrom_) return std::nullopt;
   bytesLeft_ = kMostTextBytes;
-  TextBlock block{"", number_ + 1};
-  while (ReadLine()) {
-    const bool between = IsEmptyLine(line_) || line_.starts_with("total ");
+  TextBlock block{"", number_};
+  while (bytesLeft_ > 0 && in_.peek() != kEnd) {
+    const std::size_t number = number_;
+    std::string line = TakeBlanks();
+    if (in_.peek() == '{') {
+      if (!block.Text.empty()) return block;
+      block = {TakeObject(), number};
+      break;
+    }
+    line += TakeLine();
+    const bool between = IsEmptyLine(line) || line.starts_with("total ");
     if (between && !block.Text.empty()) return block;
     if (between) continue;
-    if (block.Text.empty()) block.FirstLine = number_;
-    block.Text += line_ + "\n";
+    if (block.Text.empty()) block.FirstLine = number;
+    block.Text += line + "\n";
   }
   if (bytesLeft_ == 0) {
-    const bool begins = block.Text.empty() && !line_.empty();
-    tooLongFrom_ = begins ? number_ : block.FirstLine;
+    tooLongFrom_ = block.FirstLine;
   } else if (!block.Text.empty()) {
     return block;
   }
   return std::nullopt;
 }
 
-/// False at the end of the text, and of the bytes that are left.
-bool BlockReader::ReadLine() {
-  line_.clear();
-  for (; bytesLeft_ > 0; --bytesLeft_) {
-    const int byte = in_.get();
-    if (byte == std::istream::traits_type::eof()) break;
-    const bool afterReturn = std::exchange(afterReturn_, byte == '\r');
-    if (byte == '\n' && afterReturn) continue;
-    if (byte == '\n' || byte == '\r') {
-      --bytesLeft_;
-      ++number_;
-      return true;
+/// What may stand before a text in its line: blanks, and at its very beginning a byte-order mark.
+std::string BlockReader::TakeBlanks() {
+  constexpr std::string_view kBlanks = " \t\xEF\xBB\xBF";
+  std::string blanks;
+  while (bytesLeft_ > 0 && in_.peek() != kEnd &&
+         kBlanks.find(static_cast<char>(in_.peek())) != std::string_view::npos)
+    blanks += Take().value_or(' ');
+  return blanks;
+}
+
+/// The rest of a line, without its end.
+std::string BlockReader::TakeLine() {
+  std::string line;
+  for (auto byte = Take(); byte && *byte != '\n'; byte = Take())
+    line += *byte;
+  return line;
+}
+
+/// From an opening brace on to the one that closes it.
+std::string BlockReader::TakeObject() {
+  std::string object;
+  int open = 0;
+  bool quoted = false;
+  bool escaped = false;
+  while (const auto byte = Take()) {
+    object += *byte;
+    if (escaped) {
+      escaped = false;
+    } else if (*byte == '"') {
+      quoted = !quoted;
+    } else if (quoted) {
+      escaped = *byte == '\\';
+    } else if (*byte == '{') {
+      ++open;
+    } else if (*byte == '}' && --open == 0) {
+      break;
     }
-    line_ += static_cast<char>(byte);
   }
+  return object;
+}
+
+/// The next byte, LF for every kind of line end. Nothing at the end of the text, and of the bytes
+/// that are left.
+std::optional<char> BlockReader::Take() {
+  const int byte = bytesLeft_ > 0 ? in_.get() : kEnd;
+  if (byte == kEnd) return std::nullopt;
+  --bytesLeft_;
+  if (byte == '\r' && in_.peek() == '\n') in_.get();
+  if (byte != '\r' && byte != '\n') return static_cast<char>(byte);
   ++number_;
-  return bytesLeft_ > 0 && !line_.empty();
+  return '\n';
 }
 
 }  // namespace numorra

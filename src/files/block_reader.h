@@ -14,13 +14,14 @@ struct TextBlock {
 };
 
 /// Takes squares one by one from a text that has one below the other, with empty lines between
-/// them, however many there are. A line that says "total 34", as this program's own texts do,
-/// belongs to no square. Lines end by LF, CR or both.
+/// them, however many there are. A JSON object is a square by itself, on one line or on many, and
+/// ends where its first brace is closed. A line that says "total 34", as this program's own texts
+/// do, belongs to no square. Lines end by LF, CR or both.
 class BlockReader {
  public:
   explicit BlockReader(std::istream& in) : in_(in) {}
 
-  /// The lines of the next square. Nothing at the end of the text, and where kMostTextBytes end no
+  /// The text of the next square. Nothing at the end of the text, and where kMostTextBytes end no
   /// square: what follows is not read.
   std::optional<TextBlock> Next();
 
@@ -28,13 +29,14 @@ class BlockReader {
   std::optional<std::size_t> TooLongFrom() const { return tooLongFrom_; }
 
  private:
-  bool ReadLine();
+  std::string TakeBlanks();
+  std::string TakeLine();
+  std::string TakeObject();
+  std::optional<char> Take();
 
   std::istream& in_;
-  std::string line_;
-  std::size_t number_ = 0;     ///< of the line that was read last
+  std::size_t number_ = 1;     ///< of the line that is read next
   std::size_t bytesLeft_ = 0;  ///< that the next square may take
-  bool afterReturn_ = false;   ///< whether an LF would belong to the CR before it
   std::optional<std::size_t> tooLongFrom_;
 };
 

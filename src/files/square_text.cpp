@@ -151,6 +151,23 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   return square;
 }
 
+/// A line a row, each cell as textOf(cell) has it.
+template <class TextOf>
+std::string Written(const StoredSquare& square, char between, TextOf textOf) {
+  std::string text;
+  int column = 0;
+  for (const auto& cell : square.Cells) {
+    text += textOf(cell);
+    column = (column + 1) % square.Order;
+    text += column == 0 ? '\n' : between;
+  }
+  return text;
+}
+
+std::string CellOf(const std::optional<double>& cell, const char* gap) {
+  return cell ? Decimal(*cell) : gap;
+}
+
 }  // namespace
 
 bool IsEmptyLine(const std::string& line) {
@@ -164,6 +181,21 @@ std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
   } catch (const Unreadable& unreadable) {
     return unreadable;
   }
+}
+
+std::string TextOf(const StoredSquare& square) {
+  std::size_t width = 0;
+  for (const auto& cell : square.Cells)
+    width = std::max(width, CellOf(cell, ".").size());
+  std::string text = Written(square, ' ', [&](const auto& cell) {
+    const std::string number = CellOf(cell, ".");
+    return std::string(width - number.size(), ' ') + number;
+  });
+  return square.Total ? text + "\ntotal " + Decimal(*square.Total) + "\n" : text;
+}
+
+std::string CsvOf(const StoredSquare& square) {
+  return Written(square, ',', [](const auto& cell) { return CellOf(cell, ""); });
 }
 
 }  // namespace numorra

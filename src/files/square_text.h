@@ -30,6 +30,12 @@ inline constexpr const char* kTooLongForASquare = "this is too long for a square
 std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
                                                       std::size_t firstLine = 1);
 
+/// Aligned columns, a point for a gap, and the total below where the square has one.
+std::string TextOf(const StoredSquare& square);
+
+/// The numbers alone, for spreadsheets: commas between them, a line a row, nothing for a gap.
+std::string CsvOf(const StoredSquare& square);
+
 /// Whether a line of a text holds no field, not even an empty one.
 bool IsEmptyLine(const std::string& line);
 

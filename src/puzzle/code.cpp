@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/board/orders.h"
-#include "files/square_text.h"
+#include "files/formats.h"
 
 namespace numorra {
 namespace {
@@ -213,7 +213,7 @@ std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
 
 std::variant<StoredSquare, Unreadable> ReadSquareOrCode(const std::string& text,
                                                         std::size_t firstLine) {
-  if (!LooksLikeCode(text)) return ReadSquareText(text, firstLine);
+  if (!LooksLikeCode(text)) return ReadSquare(text, firstLine);
   const auto puzzle = PuzzleOfCode(text);
   if (const auto* unreadable = std::get_if<Unreadable>(&puzzle)) return *unreadable;
   return StoredSquareOf(std::get<Puzzle>(puzzle), true);

@@ -30,8 +30,8 @@ bool LooksLikeCode(const std::string& text);
 /// wrong with the code.
 std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code);
 
-/// A square as text or as the code of a puzzle, whose numbers are then givens. `firstLine`: as
-/// ReadSquareText has it.
+/// A square in any of the formats or as the code of a puzzle, whose numbers are then givens.
+/// `firstLine`: as ReadSquare has it.
 std::variant<StoredSquare, Unreadable> ReadSquareOrCode(const std::string& text,
                                                         std::size_t firstLine = 1);
 

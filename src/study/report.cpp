@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/board/numbers.h"
+#include "files/square_json.h"
 #include "study/census.h"
 #include "study/famous.h"
 #include "study/images.h"
@@ -10,19 +11,15 @@
 namespace numorra {
 namespace {
 
-/// The rows of an order x order square, each in `open` and `close`.
-std::string RowsOf(int order, const std::vector<double>& numbers, const std::string& between,
-                   const std::string& open, const std::string& close,
-                   const std::string& betweenRows) {
-  std::string rows;
-  std::size_t cell = 0;
-  for (int i = 0; i < order; ++i) {
-    rows += (i > 0 ? betweenRows : "") + open;
-    for (int j = 0; j < order; ++j)
-      rows += (j > 0 ? between : "") + Decimal(numbers[cell++]);
-    rows += close;
+/// The numbers of an order x order square on one line: "1 2 3 / 4 5 6 / 7 8 9".
+std::string OnOneLine(int order, const std::vector<double>& numbers) {
+  std::string line;
+  int column = 0;
+  for (const double number : numbers) {
+    line += (line.empty() ? "" : column == 0 ? " / " : " ") + Decimal(number);
+    column = (column + 1) % order;
   }
-  return rows;
+  return line;
 }
 
 std::string RepeatedIn(const Facts& facts) {
@@ -59,8 +56,7 @@ std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   details.emplace_back("largest", Decimal(facts.Largest()));
   details.emplace_back("repeated", RepeatedIn(facts));
   if (report.Order <= kLargestShown) {
-    details.emplace_back("standard form",
-                         RowsOf(report.Order, report.StandardForm, " ", "", "", " / "));
+    details.emplace_back("standard form", OnOneLine(report.Order, report.StandardForm));
   }
   if (report.Census > 0) {
     details.emplace_back("census number", std::to_string(report.Census) + " of the 880 of order 4");
@@ -73,15 +69,17 @@ const char* JsonWord(Answer answer) {
   return answer == Answer::Fails ? "false" : "null";
 }
 
-/// {"a": ..., "b": ...} over the properties, with the value that valueOf(property) writes.
+/// {"a": ..., "b": ...} over the properties, with the value that valueOf(judgement) writes.
 template <class ValueOf>
 std::string JsonByTerm(const Report& report, ValueOf valueOf) {
-  std::string json = "{";
-  for (const Property& property : report.Properties) {
-    if (json.size() > 1) json += ", ";
-    json += "\"" + std::string(property.What->Name) + "\": " + valueOf(property.Found);
-  }
-  return json + "}";
+  JsonLine json;
+  for (const auto& [term, found] : report.Properties)
+    json.Add(term->Name, valueOf(found));
+  return json.Text();
+}
+
+std::string JsonRows(int order, const std::vector<double>& numbers) {
+  return JsonRowsOf({.Order = order, .Cells = {numbers.begin(), numbers.end()}});
 }
 
 }  // namespace
@@ -90,6 +88,7 @@ Report Study(NumberSquare square) {
   const Facts facts(std::move(square));
   Report report;
   report.Order = facts.N();
+  report.Numbers = facts.Square.Numbers();
   if (facts.Square.HasUnits()) report.Total = facts.Shown(facts.Total);
   report.StandardForm = StandardForm(facts.N(), facts.Square.Numbers());
   report.Properties.reserve(Terms().size());
@@ -118,23 +117,24 @@ std::string TextOf(const Report& report) {
   const std::string order = std::to_string(report.Order);
   std::string text = order + " x " + order + "\n";
   for (const auto& [name, value] : report.Details)
-    text += name + ": " + value + "\n";
+    text.append(name).append(": ").append(value).append("\n");
   for (const auto& [term, found] : report.Properties)
     text += std::string(term->Name) + ": " + WordFor(found.Says) + ", " + found.Why + "\n";
   return text;
 }
 
 std::string JsonOf(const Report& report) {
-  std::string json = "{\"order\": " + std::to_string(report.Order) +
-                     ", \"total\": " + (report.Total.empty() ? "null" : report.Total);
-  json += ", \"properties\": " +
-          JsonByTerm(report, [](const Judgement& found) { return JsonWord(found.Says); });
-  json += ", \"evidence\": " +
-          JsonByTerm(report, [](const Judgement& found) { return "\"" + found.Why + "\""; });
-  json += ", \"standard-form\": [" +
-          RowsOf(report.Order, report.StandardForm, ", ", "[", "]", ", ") + "]";
-  if (report.Census > 0) json += ", \"census\": " + std::to_string(report.Census);
-  return json + "}\n";
+  JsonLine json;
+  json.Add("order", std::to_string(report.Order));
+  json.Add("total", report.Total.empty() ? "null" : report.Total);
+  json.Add("properties",
+           JsonByTerm(report, [](const Judgement& found) { return JsonWord(found.Says); }));
+  json.Add("evidence",
+           JsonByTerm(report, [](const Judgement& found) { return JsonString(found.Why); }));
+  json.Add("rows", JsonRows(report.Order, report.Numbers));
+  json.Add("standard-form", JsonRows(report.Order, report.StandardForm));
+  if (report.Census > 0) json.Add("census", std::to_string(report.Census));
+  return json.Text() + "\n";
 }
 
 }  // namespace numorra

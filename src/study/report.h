@@ -20,6 +20,7 @@ using Detail = std::pair<std::string, std::string>;
 /// What a square is.
 struct Report {
   int Order = 0;
+  std::vector<double> Numbers;       ///< in reading order
   std::string Total;                 ///< which most lines share; empty when too large to say
   std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, fame
   std::vector<Property> Properties;  ///< one for each of Terms()
@@ -35,7 +36,8 @@ const char* WordFor(Answer answer);
 
 /// The report as lines of text, and as one JSON object on one line:
 /// {"order": 4, "total": 34, "properties": {"magic": true, "compact": null, ...},
-///  "evidence": {"magic": "...", ...}, "standard-form": [[1, ...], ...], "census": 175}
+///  "evidence": {"magic": "...", ...}, "rows": [[16, ...], ...],
+///  "standard-form": [[1, ...], ...], "census": 175}
 /// A property is null where it does not apply or is too large to say.
 std::string TextOf(const Report& report);
 std::string JsonOf(const Report& report);

@@ -205,6 +205,7 @@ TEST(SquareProgram, ReadsWithoutAnEndInBoundedMemory) {
   const Case cases[] = {{"", std::string(1, '\0'), "1"},
                         {"", "\n", "1"},
                         {square, "1 2 3\n", "8"},
+                        {square, "{\"a\":", "8"},
                         {square + square, "7", "15"}};
   for (const Case& c : cases) {
     Endless endless(c.start, c.again);
@@ -254,9 +255,9 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_EQ(RunWith("study", "1 2 3\n4 _ 6\n7 8 9\n").Err,
             "numorra-square: row 2, column 2 is empty: only full squares can be studied\n");
   EXPECT_EQ(
-      RunWith("study", "\n{\"order\": 3}").Err,
-      "numorra-square: this is JSON, which the window opens; here squares are read as text or "
-      "codes\n");
+      RunWith("study", "\n{\"order\": 3}\n\n{\"rows\": [[1, 2, 3], [4, \"\", 6], [7, 8, 9]]}").Err,
+      "numorra-square: line 2: this JSON holds no square of Numorra\n"
+      "numorra-square: line 4: row 2, column 2: this is no number\n");
   EXPECT_EQ(RunWith("study", "\n").Err, "numorra-square: there is no square to read\n");
   EXPECT_EQ(RunWith("study one two").Err,
             "numorra-square: one file at a time, not 'two' too; try --help\n");
@@ -311,6 +312,23 @@ TEST(SquareProgram, CompletesWhatItReads) {
   EXPECT_EQ(RunWith("complete --seconds 0").Status, 2);
   EXPECT_EQ(RunWith("complete --rules odd").Status, 2);
   EXPECT_EQ(RunWith("complete --corner 3").Status, 2);
+}
+
+TEST(SquareProgram, ReadsWhateverItWrites) {
+  for (const char* format : {"text", "csv", "json"}) {
+    const std::string as = std::string(" --format ") + format;
+    const std::string squares = RunWith("--size 5 --count 3" + as).Out;
+    const std::string studied = RunWith("study", squares).Out;
+    EXPECT_EQ(Blocks(studied).size(), 3U) << format;
+    EXPECT_EQ(RunWith("study", RunWith("study --format json", squares).Out).Out, studied);
+    const std::string puzzles = RunWith("puzzle --size 5 --sum 90 --count 3 --seed 4" + as).Out;
+    const std::string answers = RunWith("complete --sum 90", puzzles).Out;
+    EXPECT_EQ(answers.find("one\n\n"), 0U) << format;
+    const std::string solved = RunWith("complete --sum 90 --format json", puzzles).Out;
+    EXPECT_EQ(RunWith("complete", solved).Out, answers) << format;
+  }
+  EXPECT_EQ(RunWith("complete", RunWith("puzzle --size 5 --sum 90 --format json").Out).Status, 0)
+      << "the total and the rules come with the puzzle";
 }
 
 TEST(SquareProgram, MakesPuzzles) {

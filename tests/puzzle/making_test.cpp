@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 
+#include "files/square_json.h"
 #include "puzzle/code.h"
 #include "puzzle/fresh_square.h"
 #include "puzzle/rules.h"

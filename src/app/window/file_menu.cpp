@@ -42,7 +42,7 @@ void FileMenu::ShowState() {
 }
 
 void FileMenu::ChooseAndOpen() {
-  const QString name = ports_.Files.ToOpen(window_, "Open", kReadableKinds);
+  const QString name = ports_.Files.ToOpen(window_, "Open", ReadableKinds());
   if (!name.isEmpty()) Open(name);
 }
 
@@ -59,7 +59,7 @@ void FileMenu::Open(const QString& name) {
 }
 
 void FileMenu::Save() {
-  const QString name = ports_.Files.ToSave(window_, "Save As", kSquareKinds);
+  const QString name = ports_.Files.ToSave(window_, "Save As", SquareKinds());
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(desk_.TheBoard()));
 }
 

@@ -1,11 +1,13 @@
 #include "app/window/square_files.h"
 
+#include <algorithm>
+
 #include <QBuffer>
+#include <QFileInfo>
 #include <QPdfWriter>
 
 #include "app/board/runtime_error.h"
-#include "app/window/square_json.h"
-#include "files/square_text.h"
+#include "files/formats.h"
 #include "puzzle/code.h"
 #include "toolkit/whole_file.h"
 
@@ -13,6 +15,7 @@ namespace numorra {
 namespace {
 
 constexpr int kPictureScale = 2;
+constexpr const char* kPictureSuffixes = "png pdf svg jpg jpeg gif bmp";
 
 QPalette OnWhite() {
   QPalette palette;
@@ -24,6 +27,14 @@ QPalette OnWhite() {
 
 bool EndsIn(const QString& name, const char* ending) {
   return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+}
+
+/// The formats that the window writes, the one that keeps most first.
+std::vector<Format> WritableFormats() {
+  std::vector<Format> formats;
+  std::copy_if(std::rbegin(kFormats), std::rend(kFormats), std::back_inserter(formats),
+               [](const Format& format) { return *format.Caption != '\0'; });
+  return formats;
 }
 
 /// Writes what `paint` paints in an area of `size` pixels, `dpi` to the inch.
@@ -57,20 +68,38 @@ void Export(const QString& name, QSize size, int dpi, const std::function<void(Q
 
 }  // namespace
 
+QString SquareKinds() {
+  QStringList kinds;
+  for (const Format& format : WritableFormats())
+    kinds += QString("%1 (*.%2)").arg(format.Caption, format.Suffix);
+  return kinds.join(";;");
+}
+
+QString ReadableKinds() {
+  QStringList names;
+  for (const Format& format : kFormats)
+    names.prepend(QString("*.%1").arg(format.Suffix));
+  return "Squares (" + names.join(' ') + ");;All files (*)";
+}
+
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
   QByteArray bytes = ReadWholeFile(name, kMostTextBytes);
   if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
-  return LooksLikeJson(bytes) ? ReadSquareJson(bytes) : ReadSquareOrCode(bytes.toStdString());
+  return ReadSquareOrCode(bytes.toStdString());
 }
 
 void SaveSquare(const QString& name, const StoredSquare& square) {
-  for (const char* picture : {".png", ".pdf", ".svg", ".jpg", ".jpeg", ".gif", ".bmp"}) {
-    if (!EndsIn(name, picture)) continue;
+  const QString suffix = QFileInfo(name).suffix().toLower();
+  if (QString(kPictureSuffixes).split(' ').contains(suffix)) {
     throw RuntimeError(Fault::FileError,
                        name.toStdString() + " is a picture's name: Export Picture writes pictures");
   }
-  const bool csv = EndsIn(name, ".csv");
-  WriteWholeFile(name, QByteArray::fromStdString(csv ? CsvOf(square) : JsonOf(square)));
+  const auto formats = WritableFormats();
+  const auto named = std::find_if(formats.begin(), formats.end(), [&](const Format& format) {
+    return suffix == format.Suffix;
+  });
+  const Format& format = named == formats.end() ? formats.front() : *named;
+  WriteWholeFile(name, QByteArray::fromStdString(format.Write(square)));
 }
 
 void ExportBoard(const QString& name, GridView& view) {

@@ -10,17 +10,19 @@
 
 namespace numorra {
 
-/// What files the window reads and writes, as the dialogs for their names have it.
-inline constexpr const char* kSquareKinds = "Squares (*.json);;Numbers alone (*.csv)";
-inline constexpr const char* kReadableKinds = "Squares (*.json *.csv *.txt);;All files (*)";
+/// What files the window writes and reads, as the dialogs for their names have it: "Squares
+/// (*.json);;Numbers alone (*.csv)".
+QString SquareKinds();
+QString ReadableKinds();
 inline constexpr const char* kPictureKinds = "Pictures (*.png);;Documents (*.pdf)";
 
-/// Reads a square from a regular file of at most kMostTextBytes, JSON or text as its content says.
+/// Reads a square from a regular file of at most kMostTextBytes, in the format that its content
+/// says.
 /// Throws FileError where the file cannot be read.
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name);
 
-/// Writes it: numbers alone where the name ends in .csv, JSON otherwise. Throws FileError, also for
-/// the name of a picture.
+/// Writes it in the format of the name's suffix, JSON where that is none of theirs. Throws
+/// FileError, also for the name of a picture.
 void SaveSquare(const QString& name, const StoredSquare& square);
 
 /// Writes what the board's place shows, on white: as a PDF page of its size where the name ends in

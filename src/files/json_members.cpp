@@ -1,0 +1,97 @@
+#include "files/json_members.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace numorra {
+namespace {
+
+using Kind = JsonValue::Kind;
+
+/// Gathers the members while the library reads. The object is level 1, a member that is an array
+/// level 2, and a row level 3.
+class Gatherer : public nlohmann::json_sax<nlohmann::json> {
+ public:
+  Gatherer(const std::string& text, std::size_t firstLine) : text_(text), firstLine_(firstLine) {}
+
+  JsonMembers Members;
+
+  bool null() override { return Take({Kind::Null}); }
+  bool boolean(bool value) override { return Take({Kind::Boolean, value ? 1.0 : 0.0}); }
+  bool number_integer(number_integer_t value) override { return TakeNumber(value); }
+  bool number_unsigned(number_unsigned_t value) override { return TakeNumber(value); }
+  bool number_float(number_float_t value, const string_t&) override { return TakeNumber(value); }
+  bool string(string_t& value) override { return Take({Kind::Text, 0, value}); }
+  bool binary(binary_t&) override { return Take({}); }
+
+  bool key(string_t& name) override {
+    if (level_ == 1) (member_ = &Members[name])->Rows.clear();
+    return true;
+  }
+
+  bool start_object(std::size_t) override { return Enter(false); }
+  bool start_array(std::size_t) override { return Enter(true); }
+  bool end_object() override { return Leave(); }
+  bool end_array() override { return Leave(); }
+
+  bool parse_error(std::size_t position, const std::string&,
+                   const nlohmann::json::exception& error) override {
+    constexpr int kNumberOutOfRange = 406;
+    const auto end = text_.begin() + static_cast<std::ptrdiff_t>(std::min(
+                                         std::max<std::size_t>(position, 1) - 1, text_.size()));
+    const auto line = std::find(std::make_reverse_iterator(end), text_.rend(), '\n').base();
+    const std::string where = "line " +
+                              std::to_string(firstLine_ + static_cast<std::size_t>(std::count(
+                                                              text_.begin(), end, '\n'))) +
+                              ", column " + std::to_string(end - line + 1) + ": ";
+    if (level_ == 0 && !Members.empty()) throw Unreadable{where + "something follows the square"};
+    if (error.id == kNumberOutOfRange) throw Unreadable{where + "this number is too large"};
+    if (end == text_.end()) throw Unreadable{where + "the JSON ends too early"};
+    throw Unreadable{where + "this is no valid JSON"};
+  }
+
+ private:
+  bool TakeNumber(auto value) { return Take({Kind::Number, static_cast<double>(value)}); }
+
+  bool Take(JsonValue value) {
+    if (level_ == 1 && member_) {
+      member_->Value = std::move(value);
+    } else if (level_ == 2 && inRows_) {
+      member_->Rows.emplace_back();
+    } else if (level_ == 3 && inRow_) {
+      member_->Rows.back().push_back(std::move(value));
+    }
+    return true;
+  }
+
+  /// An object or an array begins.
+  bool Enter(bool array) {
+    if (level_ > 0) Take({});
+    ++level_;
+    if (level_ == 2) inRows_ = array && member_ != nullptr;
+    if (level_ == 3) inRow_ = inRows_ && array;
+    return true;
+  }
+
+  bool Leave() {
+    --level_;
+    return true;
+  }
+
+  const std::string& text_;
+  std::size_t firstLine_;
+  std::size_t level_ = 0;
+  bool inRows_ = false;  ///< whether level 2 is an array
+  bool inRow_ = false;   ///< whether level 3 is one in it
+  JsonMember* member_ = nullptr;
+};
+
+}  // namespace
+
+JsonMembers JsonMembersIn(const std::string& text, std::size_t firstLine) {
+  Gatherer gatherer(text, firstLine);
+  nlohmann::json::sax_parse(text, &gatherer);
+  return std::move(gatherer.Members);
+}
+
+}  // namespace numorra
