@@ -15,8 +15,8 @@ namespace {
 /// The most attempts that the odd search remembers.
 constexpr std::size_t kMaxAttempts = 501;
 
-/// How often another attempt than the last is drawn for; more than any working random source needs.
-constexpr int kMaxDraws = 1000;
+/// How often another attempt than the last is picked; more than any working random source needs.
+constexpr int kMaxPicks = 1000;
 
 }  // namespace
 
@@ -43,7 +43,7 @@ CellTable NormalSquare::SearchOddSquare(int order) {
 
   const auto kept = static_cast<int>(attempts.size());
   std::int16_t pick = 0;
-  for (int draw = 0; draw < kMaxDraws; ++draw) {
+  for (int draw = 0; draw < kMaxPicks; ++draw) {
     stage_.Yield();
     random_.Reseed();
     pick = ToInt16(Int(kept * random_.Next() + 0.5));

@@ -9,7 +9,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kOrders = 20;  // of digging, for a grade or a number of clues
+constexpr int kDiggingOrders = 20;  // tried for a grade or a number of clues
 
 bool RulesSolve(const Puzzle& puzzle, Grade grade) {
   Candidates board(puzzle);
@@ -45,9 +45,10 @@ class Digger {
         if (made.Clues.Cells[static_cast<std::size_t>(cells[0])] != 0) continue;
         stage_.Yield();
         Puzzle more = made.Clues;
-        for (const int cell : cells)
+        for (const int cell : cells) {
           more.Cells[static_cast<std::size_t>(cell)] =
               square_.Cells[static_cast<std::size_t>(cell)];
+        }
         const Grade grade = GradeOf(more);
         if (keepGrade && grade != made.Needed) continue;
         made.Clues = std::move(more);
@@ -115,7 +116,7 @@ std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const Puzz
   std::optional<MadePuzzle> best;
   int fewest = cells;
   bool passedBy = false;
-  for (int order = 0; order < kOrders; ++order) {
+  for (int order = 0; order < kDiggingOrders; ++order) {
     MadePuzzle made = digger.Dig();
     const int clues = cells - made.Clues.Gaps();
     fewest = std::min(fewest, clues);
