@@ -31,7 +31,8 @@ Dullness DullnessAt(int order, int base, int remainder) {
   CellTable atBase;
   int built = 0;
   for (int build = 0; build < builds; ++build) {
-    VariableBuild square{.Status = SolveStatus::TryAgain};
+    VariableBuild square;
+    square.Status = SolveStatus::TryAgain;
     for (int tries = 1; tries <= kTries && square.Status == SolveStatus::TryAgain; ++tries)
       square = generator.Build(plan, {}, tries);
     if (square.Status != SolveStatus::Built) continue;

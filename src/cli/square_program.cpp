@@ -50,7 +50,7 @@ int Run(const SquareRequest& request, const Streams& streams) {
   return kDone;
 }
 
-int Answer(const Arguments& arguments, const Streams& streams) {
+int Serve(const Arguments& arguments, const Streams& streams) {
   if (const auto* bad = std::get_if<BadArguments>(&arguments)) {
     streams.Err << kProgramName << bad->Message << "\n";
     return kBadArguments;
@@ -65,7 +65,7 @@ int Answer(const Arguments& arguments, const Streams& streams) {
 
 int RunSquareProgram(const std::vector<std::string>& words, const Streams& streams) {
   try {
-    const int status = Answer(ParseArguments(words), streams);
+    const int status = Serve(ParseArguments(words), streams);
     if (streams.Out.flush()) return status;
     streams.Err << kProgramName << "the output cannot be written\n";
   } catch (const Impossible& impossible) {

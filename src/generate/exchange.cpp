@@ -12,7 +12,6 @@ namespace numorra {
 namespace {
 
 constexpr double kLowest = 1;
-constexpr double kHighestLimited = 9;
 
 /// The first i = start, start + 1, ... with wrap-around in 1..n that suits, from a random start; 0
 /// when none does.

@@ -9,7 +9,7 @@ namespace numorra {
 namespace {
 
 /// How often another pick than the last is drawn for; more than any working random source needs.
-constexpr int kMaxDraws = 1000;
+constexpr int kMaxPicks = 1000;
 
 }  // namespace
 
@@ -28,7 +28,7 @@ void NormalSquare::Count(int steps) {
 
 int NormalSquare::PickOf(int kept) {
   std::int16_t pick = 0;
-  for (int draw = 0; draw < kMaxDraws; ++draw) {
+  for (int draw = 0; draw < kMaxPicks; ++draw) {
     stage_.Yield();
     random_.Reseed();
     pick = ToInt16(Int(kept * random_.Next() + 0.5));

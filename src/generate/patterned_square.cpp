@@ -8,11 +8,6 @@
 #include "app/board/runtime_error.h"
 
 namespace numorra {
-namespace {
-
-constexpr double kHighestLimited = 9;
-
-}  // namespace
 
 void PatternedSquare::Apply(const Pattern& pattern, int factor) {
   if (passCount_ == std::numeric_limits<std::int32_t>::max()) throw RuntimeError(Fault::Overflow);

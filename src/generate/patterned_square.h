@@ -9,6 +9,9 @@
 
 namespace numorra {
 
+/// The highest number that a cell may hold under the limit.
+inline constexpr double kHighestLimited = 9;
+
 /// A square to which zero-sum patterns are added, one after the other, so that every line's total
 /// stays as it was: the workpiece of all passes. It counts the applications, shows the count on the
 /// stage and yields there.

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kMaxDraws = 1000;  // more than any working random source needs
+constexpr int kMaxProposals = 1000;  // more than any working random source needs
 
 /// A whole number in low..high - 1, freshly seeded. The upper bound itself is never drawn.
 double Draw(Random& random, double low, double high) {
@@ -35,7 +35,7 @@ void ProposeSquare(SquareBoxes& boxes, Mode mode, Random& random) {
   const double shownTotal = Val(boxes.Sum());
   double size = 0;
   double total = 0;
-  for (int draw = 0; draw < kMaxDraws; ++draw) {
+  for (int draw = 0; draw < kMaxProposals; ++draw) {
     size = Draw(random, 3, 15);
     total = Draw(random, size * size + 1, 2 * size * size + 1);
     if (size != shownSize || total != shownTotal) break;

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kBits = 64;
+constexpr int kWordBits = 64;
 
 /// The least that different numbers add up to, the i-th of them at least low[i]; `low` in order.
 /// One of them, at `without`, does not count.
@@ -49,19 +49,19 @@ Candidates::Candidates(const Puzzle& puzzle)
 
 /// Gives each gap the numbers that are missing, and each number's cell that number.
 void Candidates::StartSets() {
-  words_ = At(static_cast<int>(most_)) / kBits + 1;
+  words_ = At(static_cast<int>(most_)) / kWordBits + 1;
   bits_.assign(values_.size() * words_, 0);
   std::vector<std::uint64_t> missing(words_);
   for (std::int64_t number = 1; number <= most_; ++number)
-    missing[At(static_cast<int>(number / kBits))] |= std::uint64_t{1} << (number % kBits);
+    missing[At(static_cast<int>(number / kWordBits))] |= std::uint64_t{1} << (number % kWordBits);
   for (int cell = 0; cell < Cells(); ++cell) {
     const std::int64_t number = Value(cell);
     if (number == 0) continue;
-    const std::uint64_t bit = std::uint64_t{1} << (number % kBits);
-    std::uint64_t& word = missing[At(static_cast<int>(number / kBits))];
+    const std::uint64_t bit = std::uint64_t{1} << (number % kWordBits);
+    std::uint64_t& word = missing[At(static_cast<int>(number / kWordBits))];
     if ((word & bit) == 0) impossible_ = true;  // it stands in another cell too
     word &= ~bit;
-    Bits(cell)[number / kBits] = bit;
+    Bits(cell)[number / kWordBits] = bit;
   }
   int first = -1;
   for (int cell = 0; cell < Cells(); ++cell) {
@@ -79,7 +79,7 @@ void Candidates::StartSets() {
 
 bool Candidates::Allows(int cell, std::int64_t number) const {
   if (number < Low(cell) || number > High(cell)) return false;
-  return !IsNormal() || (Bits(cell)[number / kBits] >> (number % kBits) & 1) != 0;
+  return !IsNormal() || (Bits(cell)[number / kWordBits] >> (number % kWordBits) & 1) != 0;
 }
 
 std::vector<int> Candidates::GapsOf(int line) const {
@@ -134,9 +134,9 @@ bool Candidates::Narrowed(int cell) {
     std::int64_t high = -1;
     for (std::size_t word = 0; word < words_; ++word) {
       if (bits[word] == 0) continue;
-      const auto first = static_cast<std::int64_t>(word * kBits);
+      const auto first = static_cast<std::int64_t>(word * kWordBits);
       if (count == 0) low = first + std::countr_zero(bits[word]);
-      high = first + kBits - 1 - std::countl_zero(bits[word]);
+      high = first + kWordBits - 1 - std::countl_zero(bits[word]);
       count += std::popcount(bits[word]);
     }
     endsMoved = low != Low(cell) || high != High(cell);
@@ -155,8 +155,8 @@ bool Candidates::Narrowed(int cell) {
 bool Candidates::Remove(int cell, std::int64_t number) {
   if (!Allows(cell, number)) return true;
   if (IsNormal()) {
-    Save(cell, false, At(static_cast<int>(number / kBits)));
-    Bits(cell)[number / kBits] &= ~(std::uint64_t{1} << (number % kBits));
+    Save(cell, false, At(static_cast<int>(number / kWordBits)));
+    Bits(cell)[number / kWordBits] &= ~(std::uint64_t{1} << (number % kWordBits));
     return Narrowed(cell);
   }
   if (number == Low(cell)) return Restrict(cell, number + 1, High(cell));
@@ -179,8 +179,8 @@ bool Candidates::Restrict(int cell, std::int64_t low, std::int64_t high) {
 /// Takes what is not from low to high out of the cell's set.
 void Candidates::KeepBits(int cell, std::int64_t low, std::int64_t high) {
   for (std::size_t word = 0; word < words_; ++word) {
-    const auto first = static_cast<std::int64_t>(word * kBits);
-    const auto last = first + kBits - 1;
+    const auto first = static_cast<std::int64_t>(word * kWordBits);
+    const auto last = first + kWordBits - 1;
     std::uint64_t kept = high < first || low > last ? 0 : ~std::uint64_t{0};
     if (kept != 0 && low > first) kept &= ~std::uint64_t{0} << (low - first);
     if (kept != 0 && high < last) kept &= (std::uint64_t{1} << (high - first + 1)) - 1;
@@ -292,7 +292,7 @@ bool Candidates::FindSinglePlace(Single& found) const {
     for (std::size_t word = 0; word < words_; ++word) {
       const std::uint64_t alone = Bits(cell)[word] & ~twice_[word];
       if (alone == 0) continue;
-      found = {cell, static_cast<std::int64_t>(word * kBits) + std::countr_zero(alone)};
+      found = {cell, static_cast<std::int64_t>(word * kWordBits) + std::countr_zero(alone)};
       return true;
     }
   }

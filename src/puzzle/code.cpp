@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kPrefix = "NP1";
 constexpr std::string_view kAlphabet = "0123456789ABCDEFGHJKMNPQRSTVWXYZ";
-constexpr unsigned kBits = 5;
+constexpr unsigned kLetterBits = 5;
 constexpr const char* kBroken = "this puzzle code has a mistake in it";
 
 /// A natural number of any size, to which digits of any radix are added and taken away again, the
@@ -114,7 +114,8 @@ void Pass(Coder& coder, Puzzle& puzzle) {
       rules == 0
           ? NormalTotal(puzzle.Order)
           : static_cast<std::int64_t>(coder.Number(static_cast<std::uint64_t>(puzzle.Target)));
-  puzzle.Cells.resize(static_cast<std::size_t>(puzzle.Order * puzzle.Order));
+  const auto order = static_cast<std::size_t>(puzzle.Order);
+  puzzle.Cells.resize(order * order);
   std::vector<std::int64_t> missing;
   for (std::int64_t number = 1; rules == 0 && number <= puzzle.Most(); ++number)
     missing.push_back(number);
@@ -178,7 +179,7 @@ std::string CodeOf(const Puzzle& puzzle) {
   LargeNumber number = coder.Written();
   std::vector<unsigned> values;
   while (!number.IsZero())
-    values.push_back(static_cast<unsigned>(number.Pop(std::uint64_t{1} << kBits)));
+    values.push_back(static_cast<unsigned>(number.Pop(std::uint64_t{1} << kLetterBits)));
   std::reverse(values.begin(), values.end());
   values.push_back(0);
   values.back() = CheckOf(values);
@@ -202,7 +203,7 @@ std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
   values->pop_back();
   LargeNumber number;
   for (const unsigned value : *values)
-    number.Push(value, std::uint64_t{1} << kBits);
+    number.Push(value, std::uint64_t{1} << kLetterBits);
   Coder coder(std::move(number));
   Puzzle puzzle{kMinOrder, 0, Rules::Normal, false, {}};
   Pass(coder, puzzle);

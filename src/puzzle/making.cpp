@@ -45,9 +45,10 @@ class Digger {
         if (made.Clues.Cells[static_cast<std::size_t>(cells[0])] != 0) continue;
         stage_.Yield();
         Puzzle more = made.Clues;
-        for (const int cell : cells)
+        for (const int cell : cells) {
           more.Cells[static_cast<std::size_t>(cell)] =
               square_.Cells[static_cast<std::size_t>(cell)];
+        }
         const Grade grade = GradeOf(more);
         if (keepGrade && grade != made.Needed) continue;
         made.Clues = std::move(more);

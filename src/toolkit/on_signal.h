@@ -14,15 +14,14 @@ namespace numorra {
 template <class Sender, class Signal, class Act>
 void OnSignal(CommandRunner& runner, const Sender* sender, Signal signal, QObject* context,
               Act act) {
-  QObject::connect(sender, signal, context, [&runner, act = std::move(act)](const auto&... told) {
-    runner.RunBeside([&] {
-      if constexpr (std::is_invocable_v<const Act&, decltype(told)...>) {
-        act(told...);
-      } else {
-        act();
-      }
+  if constexpr (std::is_invocable_v<const Act&>) {
+    QObject::connect(sender, signal, context,
+                     [&runner, act = std::move(act)] { runner.RunBeside([&] { act(); }); });
+  } else {
+    QObject::connect(sender, signal, context, [&runner, act = std::move(act)](const auto&... told) {
+      runner.RunBeside([&] { act(told...); });
     });
-  });
+  }
 }
 
 /// The same for a click. A button that was disabled while it was pressed does nothing: one that is

@@ -4,6 +4,7 @@
 
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 
 #include "app/window/main_window.h"
 #include "support/boards.h"
@@ -93,6 +94,22 @@ class WindowTest : public testing::Test {
       return image.convertToFormat(QImage::Format_RGB32);
     };
     return comparable(screen.copy(place)) == comparable(widget.grab().toImage());
+  }
+
+  /// Runs a long command and acts at the first of its yields at which `due` holds. Whether there
+  /// was such a one.
+  template <class Command, class Due, class Act>
+  static bool ActWithin(Command command, Due due, Act act) {
+    QTimer look;
+    bool acted = false;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+      if (acted || !due()) return;
+      acted = true;
+      act();
+    });
+    look.start(0);
+    command();
+    return acted;
   }
 
   std::string SumBox() { return Find<QLineEdit>("Text4").text().toStdString(); }

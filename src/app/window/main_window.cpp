@@ -26,9 +26,9 @@ namespace numorra {
 namespace {
 
 // Distances in twips.
-constexpr int kGap = 30;      // left of the column of frames, and right of it
-constexpr int kInside = 90;   // around and between a frame's controls
-constexpr int kMargin = 120;  // right of the board's frame and below it
+constexpr int kGap = 30;           // left of the column of frames, and right of it
+constexpr int kInside = 90;        // around and between a frame's controls
+constexpr int kOuterMargin = 120;  // right of the board's frame and below it
 
 /// Room for the largest proposal, a board of order 14, where the screen has it.
 constexpr double kShareOfScreen = 0.95;
@@ -71,7 +71,7 @@ void MainWindow::Arrange() {
   setCentralWidget(centre);
   auto* columns = new QHBoxLayout(centre);
   const int gap = PixelsOf(kGap);
-  const int margin = PixelsOf(kMargin);
+  const int margin = PixelsOf(kOuterMargin);
   columns->setContentsMargins(gap, gap, margin, margin);
   columns->setSpacing(gap);
   columns->addWidget(controls_);

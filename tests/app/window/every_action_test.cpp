@@ -2,7 +2,6 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QPointer>
-#include <QTimer>
 
 #include "support/window_fixture.h"
 
@@ -99,17 +98,19 @@ TEST_F(EveryActionTest, EndsASearchAtMost) {
     QGuiApplication::clipboard()->setText(text);
     Trigger("Pastex");
   };
+  const auto& bar = Find<QWidget>("SearchBar");
+  const auto searched = [&] { return bar.isVisible(); };
   for (const char* button : {"StepNextx", "StepBackx", "PlayStepsx", "CloseRemarkx", "SolveAgain",
                              "StopSearchx", "DoCor1", "SolveAuto"}) {
     SCOPED_TRACE(button);
     paste();
-    QTimer::singleShot(50, &window_, [&] {
+    const auto press = [&] {
       QAccessible::queryAccessibleInterface(&Find<QAbstractButton>(button))
           ->actionInterface()
           ->doAction(QAccessibleActionInterface::pressAction());
       Trigger("CheckTotalsx");
-    });
-    Trigger("FillGapsx");
+    };
+    EXPECT_TRUE(ActWithin([&] { Trigger("FillGapsx"); }, searched, press));
     dialogs_.Take();
     ExpectSettled();
   }

@@ -3,7 +3,6 @@
 #include <QDialog>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTimer>
 
 #include "support/window_fixture.h"
 
@@ -84,13 +83,8 @@ TEST_F(PuzzleWindowTest, StopEndsASearchAtOnce) {
   Paste(text);
   const std::string before = TheGrid().Text(1, 1);
   auto& bar = Find<QWidget>("SearchBar");
-  bool shown = false;
-  QTimer::singleShot(100, &window_, [&] {
-    shown = bar.isVisible();
-    Click("StopSearchx");
-  });
-  Trigger("FillGapsx");
-  EXPECT_TRUE(shown);
+  const auto searched = [&] { return bar.isVisible(); };
+  EXPECT_TRUE(ActWithin([&] { Trigger("FillGapsx"); }, searched, [&] { Click("StopSearchx"); }));
   EXPECT_FALSE(bar.isVisible());
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_EQ(TheGrid().Text(1, 1), before);
@@ -184,11 +178,9 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
   form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(3);
   auto* print = form->findChild<QPushButton*>("PreviewSheetx");
   auto* stop = form->findChild<QPushButton*>("StopMakingx");
-  QTimer::singleShot(150, form, [&] {
-    EXPECT_TRUE(form->findChild<QLabel*>("SheetTold")->text().contains(" of 24"));
-    stop->click();
-  });
-  print->click();
+  const auto* told = form->findChild<QLabel*>("SheetTold");
+  const auto made = [&] { return told->text().contains(" of 24"); };
+  EXPECT_TRUE(ActWithin([&] { print->click(); }, made, [&] { stop->click(); }));
   EXPECT_TRUE(print->isEnabled());
   EXPECT_TRUE(pages_.Pictures.empty());
   form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(0);
