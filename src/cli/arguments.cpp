@@ -13,7 +13,6 @@
 #include "puzzle/rules.h"
 
 namespace numorra {
-
 namespace {
 
 template <class Number>
@@ -25,7 +24,7 @@ std::optional<Number> NumberIn(const std::string& text) {
   return number;
 }
 
-/// The names of the formats, of those of answers alone: "text, csv or json".
+/// The names of the formats, or of those of answers alone: "text, csv or json".
 std::string NamesOf(bool answersAlone, const std::string& between, const std::string& beforeLast) {
   std::vector<std::string> names;
   for (const Format& format : kFormats) {
@@ -330,7 +329,8 @@ std::string Usage() {
   return R"(usage: numorra-square --size N [options]
        numorra-square --top-row A,B,C,D [options]
        numorra-square --kind TERM --size N [options]
-       numorra-square study [FILE|-] [--format " + ofAnswers + R"(]
+       numorra-square study [FILE|-] [--format )" +
+         ofAnswers + R"(]
        numorra-square complete [FILE|-] [options]
        numorra-square puzzle --size N [options]
 

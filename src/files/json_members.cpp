@@ -37,16 +37,16 @@ class Gatherer : public nlohmann::json_sax<nlohmann::json> {
   bool parse_error(std::size_t position, const std::string&,
                    const nlohmann::json::exception& error) override {
     constexpr int kNumberOutOfRange = 406;
-    const auto end = text_.begin() + static_cast<std::ptrdiff_t>(std::min(
-                                         std::max<std::size_t>(position, 1) - 1, text_.size()));
-    const auto line = std::find(std::make_reverse_iterator(end), text_.rend(), '\n').base();
-    const std::string where = "line " +
-                              std::to_string(firstLine_ + static_cast<std::size_t>(std::count(
-                                                              text_.begin(), end, '\n'))) +
-                              ", column " + std::to_string(end - line + 1) + ": ";
+    const std::size_t end = std::min(position > 0 ? position - 1 : 0, text_.size());
+    const std::string before = text_.substr(0, end);
+    const std::size_t lineEnd = before.rfind('\n');
+    const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+    const std::size_t column = lineEnd == std::string::npos ? end + 1 : end - lineEnd;
+    const std::string where =
+        "line " + std::to_string(firstLine_ + lines) + ", column " + std::to_string(column) + ": ";
     if (level_ == 0 && !Members.empty()) throw Unreadable{where + "something follows the square"};
     if (error.id == kNumberOutOfRange) throw Unreadable{where + "this number is too large"};
-    if (end == text_.end()) throw Unreadable{where + "the JSON ends too early"};
+    if (end == text_.size()) throw Unreadable{where + "the JSON ends too early"};
     throw Unreadable{where + "this is no valid JSON"};
   }
 

@@ -79,7 +79,7 @@ TEST(SquareProgram, WritesItsFormatsAndWhatItIs) {
             "\"rules\": \"normal\", \"rows\": [[4, 9, 5, 16], [14, 7, 11, 2], "
             "[15, 6, 10, 3], [1, 12, 8, 13]]}\n");
   EXPECT_EQ(RunWith("--size 4 --format csv").Out, "4,9,5,16\n14,7,11,2\n15,6,10,3\n1,12,8,13\n");
-  EXPECT_NE(RunWith("--help").Out.find("--size N"), std::string::npos);
+  EXPECT_NE(RunWith("--help").Out.find("study [FILE|-] [--format text|json]\n"), std::string::npos);
   EXPECT_EQ(RunWith("--version").Out, "numorra-square 1.0.0\n");
 }
 
