@@ -42,7 +42,9 @@ std::string StateByHand(const Board& board) {
   ForEachCell(n, [&](int r, int c) {
     const std::string& text = grid.Text(r, c);
     gaps += text.empty() || text == "-";
-    const std::string number = Decimal(Val(text));
+    // A number that is being typed counts when its cell is left, as in the totals.
+    const bool typed = board.Typing() && r == grid.CurrentRow() && c == grid.CurrentColumn();
+    const std::string number = Decimal(typed ? board.BoardValues(r, c) : Val(text));
     ++numbers[number];
     lines[static_cast<std::size_t>(r - 1)].push_back(number);
     lines[static_cast<std::size_t>(n + c - 1)].push_back(number);

@@ -35,9 +35,9 @@ void ColumnScroller::resizeEvent(QResizeEvent* event) {
 }
 
 void ColumnScroller::FitWidth() {
-  const bool scrolls = widget()->minimumSizeHint().height() > height();
-  setFixedWidth(widget()->minimumSizeHint().width() +
-                (scrolls ? verticalScrollBar()->sizeHint().width() : 0));
+  const QSize needed = widget()->minimumSizeHint().expandedTo({0, 0});
+  const bool scrolls = needed.height() > height();
+  setFixedWidth(needed.width() + (scrolls ? verticalScrollBar()->sizeHint().width() : 0));
 }
 
 }  // namespace numorra

@@ -95,9 +95,8 @@ void SaveSquare(const QString& name, const StoredSquare& square) {
                        name.toStdString() + " is a picture's name: Export Picture writes pictures");
   }
   const auto formats = WritableFormats();
-  const auto named = std::find_if(formats.begin(), formats.end(), [&](const Format& format) {
-    return suffix == format.Suffix;
-  });
+  const auto named = std::find_if(formats.begin(), formats.end(),
+                                  [&](const Format& format) { return suffix == format.Suffix; });
   const Format& format = named == formats.end() ? formats.front() : *named;
   WriteWholeFile(name, QByteArray::fromStdString(format.Write(square)));
 }
