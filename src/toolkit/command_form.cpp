@@ -8,9 +8,7 @@ CommandForm::CommandForm(const char* name, const QString& title, Dialogs& dialog
   setWindowTitle(title);
   setAttribute(Qt::WA_DeleteOnClose);
   runner_.OnEnd = [this](const std::string&) {
-    if (!closing_) return;
-    QMetaObject::invokeMethod(
-        this, [this] { done(*closing_); }, Qt::QueuedConnection);
+    if (closing_) QMetaObject::invokeMethod(this, "CloseAtLast", Qt::QueuedConnection);
   };
 }
 

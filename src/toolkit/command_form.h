@@ -26,6 +26,8 @@ class CommandForm : public QDialog {
   CommandRunner runner_;
 
  private:
+  Q_SLOT void CloseAtLast() { done(*closing_); }
+
   std::optional<int> closing_;  ///< the result to close with
 };
 

@@ -1,5 +1,7 @@
 #include "app/window/board_place.h"
 
+#include <algorithm>
+
 #include <QVBoxLayout>
 
 #include "toolkit/twips.h"
@@ -91,12 +93,12 @@ void BoardPlace::EndCommand(bool changedTheBoard) {
 }
 
 bool BoardPlace::DismissBar() {
-  for (const BoardBar* bar : {SearchBar, RemarkBar}) {
-    if (bar->isHidden()) continue;
-    bar->Button->click();
-    return true;
-  }
-  return false;
+  const auto bars = {SearchBar, RemarkBar};
+  const auto* const shown =
+      std::find_if(bars.begin(), bars.end(), [](const BoardBar* bar) { return !bar->isHidden(); });
+  if (shown == bars.end()) return false;
+  (*shown)->Button->click();
+  return true;
 }
 
 }  // namespace numorra

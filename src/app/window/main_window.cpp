@@ -15,7 +15,6 @@
 #include "app/window/edit_menu.h"
 #include "app/window/puzzle_menu.h"
 #include "app/window/study_menu.h"
-#include "app/window/view_menu.h"
 #include "help/about_window.h"
 #include "help/help_window.h"
 #include "toolkit/menus.h"
@@ -92,8 +91,8 @@ void MainWindow::ConnectSession() {
 void MainWindow::AddMenus() {
   files_ = new FileMenu(menuBar(), desk_, {world_.Files, world_.Printer, world_.Pages});
   new EditMenu(menuBar(), desk_);
-  auto* view = new ViewMenu(this, desk_);
-  new StudyMenu(this, desk_, view->Room());
+  view_ = new ViewMenu(this, desk_);
+  new StudyMenu(this, desk_, view_->Room());
   new PuzzleMenu(menuBar(), desk_, searchStage_, state_);
   QMenu* help = menuBar()->addMenu("&Help");
   AddItem(help, {"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents),

@@ -6,6 +6,7 @@
 #include "app/window/file_menu.h"
 #include "app/window/search_stage.h"
 #include "app/window/state_line.h"
+#include "app/window/view_menu.h"
 #include "app/window/window_stage.h"
 #include "app/window/world.h"
 
@@ -47,6 +48,7 @@ class MainWindow : public QMainWindow {
   SearchStage searchStage_;
   Desk desk_;
   FileMenu* files_ = nullptr;
+  ViewMenu* view_ = nullptr;
 };
 
 }  // namespace numorra
