@@ -3,6 +3,7 @@
 #include <numeric>
 #include <vector>
 
+#include "app/board/board.h"
 #include "benches.h"
 #include "generate/normal_square.h"
 #include "puzzle/search.h"

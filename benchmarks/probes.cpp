@@ -59,10 +59,12 @@ int RunProbeChild(const std::string& kind) {
   char name[] = "probe";
   char* argv[] = {name, nullptr};
   const QApplication application(argc, argv);
+  SystemClock clock;
+  Session session(clock);
   std::unique_ptr<QMainWindow> window;
   const bool panels = kind == "panels";
   if (kind == "ours" || panels) {
-    window = std::make_unique<MainWindow>();
+    window = std::make_unique<MainWindow>(session);
   } else {
     window = std::make_unique<QMainWindow>();
     window->resize(740, 700);

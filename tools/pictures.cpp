@@ -142,7 +142,7 @@ int main(int argc, char** argv) {
   Album documents(argv[1]);
   Album help(argv[2]);
   numorra::TickingClock clock(1514);
-  Session session(clock);
+  numorra::Session session(clock);
   MainWindow window(session);
   window.show();
   const auto& drawing = *window.findChild<numorra::Drawing*>();
