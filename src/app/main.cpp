@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QSettings>
 
-#include "app/window/grid_accessible.h"
+#include "app/window/board/grid_accessible.h"
 #include "app/window/main_window.h"
 #include "toolkit/program_icon.h"
 

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QStandardPaths>
 
-#include "app/window/grid_accessible.h"
+#include "app/window/board/grid_accessible.h"
 
 namespace {
 

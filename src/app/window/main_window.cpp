@@ -10,11 +10,11 @@
 #include <QMimeData>
 #include <QScreen>
 
-#include "app/window/board_input.h"
-#include "app/window/control_commands.h"
-#include "app/window/edit_menu.h"
-#include "app/window/puzzle_menu.h"
-#include "app/window/study_menu.h"
+#include "app/window/menus/board_input.h"
+#include "app/window/menus/control_commands.h"
+#include "app/window/menus/edit_menu.h"
+#include "app/window/menus/puzzle_menu.h"
+#include "app/window/menus/study_menu.h"
 #include "help/about_window.h"
 #include "help/help_window.h"
 #include "toolkit/menus.h"

@@ -2,11 +2,11 @@
 
 #include <QMainWindow>
 
-#include "app/window/desk.h"
-#include "app/window/file_menu.h"
-#include "app/window/search_stage.h"
-#include "app/window/state_line.h"
-#include "app/window/view_menu.h"
+#include "app/window/board/search_stage.h"
+#include "app/window/menus/desk.h"
+#include "app/window/menus/file_menu.h"
+#include "app/window/menus/view_menu.h"
+#include "app/window/panels/state_line.h"
 #include "app/window/window_stage.h"
 #include "app/window/world.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "app/ports/build_stage.h"
-#include "app/window/solve_frame.h"
+#include "app/window/frames/solve_frame.h"
 #include "toolkit/command_runner.h"
 
 namespace numorra {

@@ -12,7 +12,7 @@
 
 #include "app/board/position.h"
 #include "app/board/runtime_error.h"
-#include "app/window/square_files.h"
+#include "app/window/menus/square_files.h"
 #include "support/full_disk.h"
 #include "support/window_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/window/grid_view.h"
+#include "app/window/board/grid_view.h"
 
 #include <gtest/gtest.h>
 

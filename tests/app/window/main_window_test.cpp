@@ -8,7 +8,7 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "app/window/column_scroller.h"
+#include "app/window/frames/column_scroller.h"
 #include "support/window_fixture.h"
 
 namespace numorra {

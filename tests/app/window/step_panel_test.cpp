@@ -1,4 +1,4 @@
-#include "app/window/step_panel.h"
+#include "app/window/panels/step_panel.h"
 
 #include "support/window_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/window/zoom.h"
+#include "app/window/board/zoom.h"
 
 #include <gtest/gtest.h>
 

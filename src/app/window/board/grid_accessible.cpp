@@ -1,0 +1,209 @@
+#include "app/window/board/grid_accessible.h"
+
+#include <memory>
+#include <vector>
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace numorra {
+namespace {
+
+/// What the frame cell (row, column) of an n x n board is the total of; empty for the others.
+QString LineName(int row, int column, int last) {
+  if (row == 0 && column == 0) return "main diagonal";
+  if ((row == 0 && column == last) || (row == last && column == 0)) return "other diagonal";
+  if (row == 0) return QString("column %1").arg(column);
+  if (column == 0) return QString("row %1").arg(row);
+  return {};
+}
+
+/// One cell. It belongs to its table, which makes it when it is first asked for.
+class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellInterface {
+ public:
+  CellAccessible(GridView& view, int row, int column) : view_(view), row_(row), column_(column) {}
+
+  bool isValid() const override { return row_ < Cells().Rows() && column_ < Cells().Columns(); }
+  QObject* object() const override { return nullptr; }
+  QWindow* window() const override { return view_.window()->windowHandle(); }
+  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+  QAccessibleInterface* parent() const override { return table(); }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+  QAccessible::Role role() const override { return QAccessible::Cell; }
+  void setText(QAccessible::Text, const QString&) override {}
+
+  QString text(QAccessible::Text kind) const override {
+    if (!isValid()) return {};
+    QString value = QString::fromStdString(Cells().Text(row_, column_));
+    if (kind == QAccessible::Value) return value;
+    const int last = Cells().Rows() - 1;
+    const QString line = LineName(row_, column_, last);
+    if (kind == QAccessible::Description && line.isEmpty() && row_ < last && column_ < last) {
+      return Total(row_, 0) + "; " + Total(0, column_);
+    }
+    if (kind != QAccessible::Name) return {};
+    if (!line.isEmpty()) return Total(row_, column_);
+    if (row_ == last || column_ == last) return value.isEmpty() ? "frame" : "marked for a swap";
+    return QString("row %1, column %2, %3%4")
+        .arg(row_)
+        .arg(column_)
+        .arg(value.isEmpty() ? "empty" : "value " + value,
+             Cells().Given(row_, column_) ? ", given" : "");
+  }
+
+  QRect rect() const override {
+    const QRect cell = view_.CellRect(row_, column_);
+    return {view_.viewport()->mapToGlobal(cell.topLeft()), cell.size()};
+  }
+
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.readOnly = isValid() && (!LineName(row_, column_, Cells().Rows() - 1).isEmpty() ||
+                                   Cells().Given(row_, column_));
+    state.selectable = state.focusable = true;
+    state.selected = isSelected();
+    state.focused = isSelected() && view_.hasFocus();
+    return state;
+  }
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::TableCellInterface
+               ? static_cast<QAccessibleTableCellInterface*>(this)
+               : nullptr;
+  }
+
+  bool isSelected() const override {
+    return row_ == Cells().CurrentRow() && column_ == Cells().CurrentColumn();
+  }
+  QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
+  QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
+  int columnIndex() const override { return column_; }
+  int rowIndex() const override { return row_; }
+  int columnExtent() const override { return 1; }
+  int rowExtent() const override { return 1; }
+  QAccessibleInterface* table() const override {
+    return QAccessible::queryAccessibleInterface(&view_);
+  }
+
+ private:
+  const Grid& Cells() const { return view_.Cells(); }
+
+  /// A total, and whether it is right where that was judged.
+  QString Total(int row, int column) const {
+    const Verdict verdict = Cells().VerdictOf(row, column);
+    const QString judgement = verdict == Verdict::Right   ? ", right"
+                              : verdict == Verdict::Wrong ? ", wrong"
+                                                          : "";
+    return QString("total of %1, %2%3")
+        .arg(LineName(row, column, Cells().Rows() - 1),
+             QString::fromStdString(Cells().Text(row, column)), judgement);
+  }
+
+  GridView& view_;
+  int row_;
+  int column_;
+};
+
+/// The view as a table of its cells.
+class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
+ public:
+  explicit GridAccessible(GridView* view)
+      : QAccessibleWidget(view, QAccessible::Table, "Board"), view_(*view) {}
+
+  ~GridAccessible() override {
+    for (const QAccessible::Id id : cells_) {
+      if (id != 0) QAccessible::deleteAccessibleInterface(id);
+    }
+  }
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
+                                               : QAccessibleWidget::interface_cast(type);
+  }
+
+  int childCount() const override { return rowCount() * columnCount(); }
+
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    return cellAt(index / columnCount(), index % columnCount());
+  }
+
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const auto* cell = const_cast<QAccessibleInterface*>(child)->tableCellInterface();
+    return cell ? cell->rowIndex() * columnCount() + cell->columnIndex() : -1;
+  }
+
+  QAccessibleInterface* childAt(int x, int y) const override {
+    const auto cell = view_.CellAt(view_.viewport()->mapFromGlobal(QPoint(x, y)));
+    return cell ? cellAt(cell->y(), cell->x()) : nullptr;
+  }
+
+  QAccessibleInterface* focusChild() const override {
+    return cellAt(view_.Cells().CurrentRow(), view_.Cells().CurrentColumn());
+  }
+
+  QAccessibleInterface* cellAt(int row, int column) const override {
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) return nullptr;
+    const auto index =
+        static_cast<std::size_t>(row) * kMostLines + static_cast<std::size_t>(column);
+    if (cells_.size() <= index) cells_.resize(index + 1);
+    if (cells_[index] == 0) {
+      // The toolkit owns what is registered with it, until it is deleted by its number.
+      auto* cell = new CellAccessible(view_, row, column);
+      // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
+      cells_[index] = QAccessible::registerAccessibleInterface(cell);
+    }
+    return QAccessible::accessibleInterface(cells_[index]);
+  }
+
+  int rowCount() const override { return view_.Cells().Visible() ? view_.Cells().Rows() : 0; }
+  int columnCount() const override { return view_.Cells().Visible() ? view_.Cells().Columns() : 0; }
+  QString columnDescription(int column) const override { return QString::number(column); }
+  QString rowDescription(int row) const override { return QString::number(row); }
+  QAccessibleInterface* caption() const override { return nullptr; }
+  QAccessibleInterface* summary() const override { return nullptr; }
+  QList<QAccessibleInterface*> selectedCells() const override {
+    return rowCount() > 0 ? QList{focusChild()} : QList<QAccessibleInterface*>();
+  }
+  int selectedCellCount() const override { return rowCount() > 0 ? 1 : 0; }
+  int selectedColumnCount() const override { return 0; }
+  int selectedRowCount() const override { return 0; }
+  QList<int> selectedColumns() const override { return {}; }
+  QList<int> selectedRows() const override { return {}; }
+  bool isColumnSelected(int) const override { return false; }
+  bool isRowSelected(int) const override { return false; }
+  bool selectRow(int) override { return false; }
+  bool selectColumn(int) override { return false; }
+  bool unselectRow(int) override { return false; }
+  bool unselectColumn(int) override { return false; }
+  void modelChange(QAccessibleTableModelChangeEvent*) override {}
+
+ private:
+  static constexpr int kMostLines = 64;
+
+  GridView& view_;
+  mutable std::vector<QAccessible::Id> cells_;
+};
+
+QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
+  if (className != QLatin1String("numorra::GridView")) return nullptr;
+  return new GridAccessible(static_cast<GridView*>(object));
+}
+
+}  // namespace
+
+void InstallGridAccessibility() {
+  QAccessible::installFactory(MakeInterface);
+}
+
+void ReadCurrentCell(GridView& view, bool another) {
+  if (!QAccessible::isActive()) return;
+  const Grid& grid = view.Cells();
+  QAccessibleEvent event(&view, another ? QAccessible::Focus : QAccessible::NameChanged);
+  event.setChild(grid.CurrentRow() * grid.Columns() + grid.CurrentColumn());
+  QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace numorra

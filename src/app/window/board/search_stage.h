@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/ports/build_stage.h"
+#include "app/window/board/board_place.h"
+#include "toolkit/command_runner.h"
+
+namespace numorra {
+
+/// The window as the stage of a search: a bar below the board says how long it has been at it. It
+/// comes with the first yield that lets events run and goes with the search. Stopping is a command
+/// that takes the search's place.
+class SearchStage : public BuildStage {
+ public:
+  SearchStage(BoardPlace& place, CommandRunner& runner) : place_(place), runner_(runner) {}
+
+  using BuildStage::ShowCount;
+  void ShowBusy(bool busy) override;
+  void ShowCounter(bool) override {}
+  void ShowCount(const char* text) override { doing_ = text; }
+  void Yield() override;
+
+ private:
+  BoardPlace& place_;
+  CommandRunner& runner_;
+  QString doing_;
+  QElapsedTimer sinceStart_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,85 @@
+#include "app/window/board/view_control.h"
+
+#include <utility>
+
+#include <QEvent>
+
+#include "app/window/board/zoom.h"
+
+namespace numorra {
+
+ViewControl::ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside,
+                         QAction* fit, QAction* full)
+    : QObject(window),
+      window_(window),
+      place_(place),
+      beside_(std::move(beside)),
+      fit_(fit),
+      full_(full) {
+  window_->installEventFilter(this);
+  connect(place_, &BoardPlace::SightChanged, this, &ViewControl::ShowMarks);
+}
+
+void ViewControl::Zoom(int direction, std::optional<QPoint> fixed) {
+  GridView& cells = place_->Cells();
+  const double zoom = direction == 0 ? 1 : NextZoom(cells.Zoom(), direction);
+  if (fixed) {
+    cells.SetZoom(zoom, *fixed);
+  } else {
+    cells.SetZoom(zoom);
+  }
+  ShowMarks();
+}
+
+void ViewControl::ToggleFitting() {
+  GridView& cells = place_->Cells();
+  cells.SetFitting(!cells.Fitting());
+  ShowMarks();
+}
+
+/// No other state is touched, so that the desktop remembers what the window was before.
+void ViewControl::ToggleFullScreen() {
+  window_->setWindowState(window_->windowState() ^ Qt::WindowFullScreen);
+}
+
+bool ViewControl::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && !window_->isMinimized() &&
+      window_->isFullScreen() != FullScreen()) {
+    FullScreen() ? GiveBack() : TakeAway();
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void ViewControl::TakeAway() {
+  GridView& board = *place_->View;
+  before_ = Before{board.Zoom(), board.Fitting(), board.Scrolled(), {}};
+  for (QWidget* widget : beside_) {
+    if (widget->isHidden()) continue;
+    before_->Hidden.push_back(widget);
+    widget->hide();
+  }
+  board.SetFitting(true);
+  ShowMarks();
+}
+
+void ViewControl::GiveBack() {
+  const Before before = *std::exchange(before_, std::nullopt);
+  for (QWidget* widget : before.Hidden)
+    widget->show();
+  place_->View->SetZoom(before.Zoom, {});
+  place_->View->SetFitting(before.Fitting);
+  ShowMarks();
+  scrolled_ = before.Scrolled;
+  QMetaObject::invokeMethod(this, "ScrollBack", Qt::QueuedConnection);
+}
+
+void ViewControl::ScrollBack() {
+  place_->View->ScrollTo(scrolled_);
+}
+
+void ViewControl::ShowMarks() {
+  fit_->setChecked(place_->Cells().Fitting());
+  full_->setChecked(FullScreen());
+}
+
+}  // namespace numorra

@@ -1,0 +1,110 @@
+#include "app/window/forms/hide_numbers_form.h"
+
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "puzzle/code.h"
+#include "puzzle/rules.h"
+#include "toolkit/named.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+
+QString DescriptionOf(const MadePuzzle& made) {
+  const int clues = made.Clues.Order * made.Clues.Order - made.Clues.Gaps();
+  QString description = QString("%1 clues, %2: ").arg(clues).arg(NameOf(made.Needed));
+  for (int grade = 0; grade <= static_cast<int>(made.Needed); ++grade) {
+    if (grade > 0) description += "; ";
+    description += RulesOf(static_cast<Grade>(grade));
+  }
+  return description;
+}
+
+HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Random& random,
+                                 Dialogs& dialogs, QWidget* parent)
+    : CommandForm("HideNumbers", "Hide Numbers", dialogs, parent),
+      square_(board.Square),
+      fresh_(fresh),
+      random_(random),
+      wish_(new PuzzleWishBox),
+      fromBoard_(Named("FromBoardx", new QRadioButton("&This square"))),
+      told_(Named("PuzzleTold", new QLabel)),
+      copy_(Named("CopyCodex", new QPushButton("&Copy Code"))) {
+  const QString whyNot = QString::fromStdString(board.WhyNot);
+  auto* fromFresh = Named(
+      "FromFreshx", new QRadioButton(QString("A &fresh square of size %1").arg(fresh_.Order)));
+  auto* another = Named("MakeAnotherx", new QPushButton("&Make Another"));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  take_ = Named("TakePuzzlex", buttons->button(QDialogButtonBox::Ok));
+  told_->setWordWrap(true);
+  told_->setTextFormat(Qt::PlainText);
+  told_->setMinimumHeight(5 * told_->fontMetrics().lineSpacing());
+  told_->setAlignment(Qt::AlignTop);
+  fromBoard_->setEnabled(square_.has_value());
+  fromBoard_->setToolTip(whyNot);
+  (square_ ? fromBoard_ : fromFresh)->setChecked(true);
+  auto* why = new QLabel("(" + whyNot + ")");
+  why->setVisible(!square_);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(fromBoard_);
+  column->addWidget(why);
+  column->addWidget(fromFresh);
+  column->addWidget(wish_);
+  column->addWidget(told_, 1);
+  auto* row = new QHBoxLayout;
+  row->addWidget(another);
+  row->addWidget(copy_);
+  row->addStretch();
+  row->addWidget(buttons);
+  column->addLayout(row);
+  wish_->SetOrder(square_ ? square_->Order : fresh_.Order);
+
+  OnSignal(runner_, wish_, &PuzzleWishBox::Changed, this, [this] { Make(); });
+  OnClick(runner_, another, this, [this] { Make(); });
+  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, [this](bool fromBoard) {
+    wish_->SetOrder(fromBoard && square_ ? square_->Order : fresh_.Order);
+    Make();
+  });
+  OnClick(runner_, copy_, this, [this] {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(CodeOf(made_->Clues)));
+  });
+  OnClick(runner_, buttons->button(QDialogButtonBox::Cancel), this, [this] { reject(); });
+  OnClick(runner_, take_, this, [this] {
+    Q_EMIT Taken(*made_);
+    accept();
+  });
+  QMetaObject::invokeMethod(this, &HideNumbersForm::Make, Qt::QueuedConnection);
+}
+
+/// Makes a puzzle as it is wished for now; a newer wish takes its place.
+void HideNumbersForm::Make() {
+  runner_.Run("Make", [this] {
+    made_.reset();
+    take_->setEnabled(false);
+    copy_->setEnabled(false);
+    FormStage stage(runner_, [this] { told_->setText("Making a puzzle..."); });
+    random_.Reseed();
+    const bool board = fromBoard_->isChecked();
+    const std::optional<Puzzle> square = board ? square_ : FreshSquare(fresh_, random_, stage);
+    if (!square) {
+      told_->setText("No square of this size and sum was found.");
+      return;
+    }
+    auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
+    if (const auto* cannot = std::get_if<CannotMake>(&made)) {
+      told_->setText(QString::fromStdString(cannot->Why));
+      return;
+    }
+    made_ = std::get<MadePuzzle>(std::move(made));
+    const bool coded = square->Order <= kMostCodedOrder;
+    told_->setText(DescriptionOf(*made_) +
+                   (coded ? "\n" + QString::fromStdString(CodeOf(made_->Clues)) : QString()));
+    take_->setEnabled(true);
+    copy_->setEnabled(coded);
+  });
+}
+
+}  // namespace numorra

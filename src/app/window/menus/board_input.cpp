@@ -1,0 +1,105 @@
+#include "app/window/menus/board_input.h"
+
+#include <utility>
+
+#include "app/board/numbers.h"
+#include "app/window/board/grid_accessible.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+namespace {
+
+PressedButton ButtonOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return PressedButton::Left;
+    case Qt::RightButton:
+      return PressedButton::Right;
+    default:
+      return PressedButton::Other;
+  }
+}
+
+}  // namespace
+
+BoardInput::BoardInput(Desk& desk, QObject* parent) : QObject(parent), desk_(desk) {
+  ConnectMouse();
+  ConnectKeys();
+  ConnectMenu();
+}
+
+void BoardInput::ConnectMouse() {
+  GridView* const view = desk_.Place.View;
+  Board& board = desk_.TheSession.TheBoard;
+  OnSignal(desk_.Runner, view, &GridView::CellPressed, this,
+           [this, &board](int row, int column, Qt::MouseButton button, QPoint position) {
+             const auto press = [=, this, &board] {
+               return PressBoard(board, desk_.TheDialogs, row, column, ButtonOf(button));
+             };
+             Press(press, position);
+           });
+  OnSignal(desk_.Runner, view, &GridView::MenuWanted, this, [this, &board] {
+    Press([this, &board] {
+      return PressBoard(board, desk_.TheDialogs, board.grid.CurrentRow(),
+                        board.grid.CurrentColumn(), PressedButton::Right);
+    });
+  });
+  OnSignal(desk_.Runner, view, &GridView::MarkWanted, this, [this, &board](MarkedLine line) {
+    Press([this, &board, line] { return MarkByKey(board, desk_.TheDialogs, line); });
+  });
+}
+
+void BoardInput::ConnectKeys() {
+  GridView* const view = desk_.Place.View;
+  Session& session = desk_.TheSession;
+  for (GridView* cells : std::initializer_list<GridView*>{view, desk_.Place.Walk}) {
+    OnSignal(desk_.Runner, cells, &GridView::CurrentCellShown, this,
+             [cells](bool another) { ReadCurrentCell(*cells, another); });
+  }
+  OnSignal(desk_.Runner, view, &GridView::CellWanted, this, [this, &session](int row, int column) {
+    desk_.RunOnCurrentCell(
+        "move", [&session, row, column] { session.TheBoard.grid.SetCurrent(row, column); });
+  });
+  OnSignal(desk_.Runner, view, &GridView::CharacterTyped, this, [this, &session](char32_t typed) {
+    if (typed == U'\r') {
+      desk_.RunOnCurrentCell("check", [&session] { session.Entry().PressEnter(); });
+    } else {
+      desk_.RunOnCurrentCell(UndoHistory::kTyping,
+                             [&session, typed] { session.Entry().TypeCharacter(typed); });
+    }
+  });
+  OnSignal(desk_.Runner, view, &GridView::KeypadPressed, this, [this, &session](int sign) {
+    desk_.RunOnCurrentCell("step", [&session, sign] {
+      sign > 0 ? session.Entry().KeypadPlus() : session.Entry().KeypadMinus();
+    });
+  });
+}
+
+void BoardInput::ConnectMenu() {
+  Session& session = desk_.TheSession;
+  OnSignal(desk_.Runner, &desk_.Menu, &BoardMenu::Chosen, this,
+           [this, &session](const EditCommand* command) {
+             desk_.RunOnCurrentCell(WordsFor(*command, session.TheBoard.BaseValue),
+                                    [&session, command] { session.Edits().Run(*command); });
+           });
+  OnSignal(desk_.Runner, &desk_.Menu, &BoardMenu::RedoChosen, this, [this, &session] {
+    desk_.RunOnCurrentCell(session.LastCommand.Caption, [&session] { session.Edits().Redo(); });
+  });
+  session.Watch.Listen(
+      [this](const Deed&) { desk_.Menu.ShowHistory(desk_.TheSession.LastCommand); });
+}
+
+void BoardInput::Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition) {
+  desk_.RunOnBoard("swap", [this, press = std::move(press), menuPosition] {
+    const PressOutcome outcome = press();
+    if (outcome == PressOutcome::Nothing) return;
+    desk_.Menu.EnableEditing(outcome != PressOutcome::OpenShortMenu);
+    desk_.Menu.redox->setEnabled(true);
+    if (outcome == PressOutcome::Done) return;
+    desk_.Menu.ShowBaseValue(Str(desk_.TheBoard().BaseValue));
+    if (!menuPosition) desk_.BringCurrentCellIntoView();
+    desk_.Menu.popup(menuPosition.value_or(desk_.Place.View->CurrentCellPosition()));
+  });
+}
+
+}  // namespace numorra

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QPushButton>
+
+#include "app/window/menus/desk.h"
+
+namespace numorra {
+
+/// What the controls on the left do, and which of them have something to work on.
+class ControlCommands : public QObject {
+  Q_OBJECT
+
+ public:
+  ControlCommands(Desk& desk, QObject* parent);
+
+ private:
+  void ConnectBuilds();
+  void ConnectModes();
+  void ConnectColours();
+  void Command(QPushButton* button, CommandRunner::Command body);
+  void Build(QPushButton* button, CommandRunner::Command body);
+  void ShowState();
+
+  Desk& desk_;
+};
+
+}  // namespace numorra

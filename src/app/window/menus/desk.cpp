@@ -1,0 +1,44 @@
+#include "app/window/menus/desk.h"
+
+#include <utility>
+
+namespace numorra {
+
+void Desk::RunOnBoard(const std::string& name, CommandRunner::Command command) {
+  Runner.Run(name, [this, command = std::move(command)] {
+    Place.EndWalk();
+    Place.View->setFocus();
+    if (TheBoard().Shown()) command();
+  });
+}
+
+void Desk::RunOnCurrentCell(const std::string& name, CommandRunner::Command command) {
+  RunOnBoard(name, [this, command = std::move(command)] {
+    command();
+    BringCurrentCellIntoView();
+  });
+}
+
+std::function<void()> Desk::Beside(CommandRunner::Command body) {
+  return [this, body = std::move(body)] { Runner.RunBeside(body); };
+}
+
+void Desk::BringCurrentCellIntoView() {
+  Place.View->BringIntoView(TheBoard().grid.CurrentRow(), TheBoard().grid.CurrentColumn());
+}
+
+void Desk::ShowMode() {
+  const bool variable = TheBoard().SolveMode == ModeVariable;
+  Controls.ShowMode(variable);
+  Menu.EnableEditing(variable);
+  Menu.redox->setEnabled(variable);
+  TheSession.FollowSize();
+}
+
+void Desk::ShowLaidOut() {
+  ShowMode();
+  Place.View->setFocus();
+  BringCurrentCellIntoView();
+}
+
+}  // namespace numorra

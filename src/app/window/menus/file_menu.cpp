@@ -1,0 +1,97 @@
+#include "app/window/menus/file_menu.h"
+
+#include <QApplication>
+
+#include "app/play/lay_out.h"
+#include "app/window/forms/worksheet_form.h"
+#include "app/window/menus/square_files.h"
+#include "print/print_form.h"
+#include "print/sheet.h"
+#include "toolkit/menus.h"
+
+namespace numorra {
+
+FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
+    : QObject(bar), window_(bar->window()), desk_(desk), ports_(ports) {
+  const QList<QKeySequence> none;
+  QMenu* menu = bar->addMenu("&File");
+  AddItem(menu, {"Openx", "&Open...", QKeySequence::keyBindings(QKeySequence::Open),
+                 desk_.Beside([this] { ChooseAndOpen(); })});
+  save_ = AddItem(menu, {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
+                         desk_.Beside([this] { Save(); })});
+  export_ = AddItem(
+      menu, {"ExportPicturex", "&Export Picture...", none, desk_.Beside([this] { Export(); })});
+  menu->addSeparator();
+  AddItem(menu, {"PrintSol", "&Print Solution", QKeySequence::keyBindings(QKeySequence::Print),
+                 desk_.Beside([this] { OpenPrintForm(); })});
+  AddItem(menu,
+          {"PrintWorksheetx", "Print &Worksheet...", {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, [this] {
+             desk_.Runner.Run("Print Worksheet", [this] { OpenWorksheet(); });
+           }});
+  menu->addSeparator();
+  // Not every desktop names a standard key for it.
+  AddItem(menu,
+          {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }});
+  desk_.TheSession.Watch.Listen([this](const Deed&) { ShowState(); });
+  ShowState();
+}
+
+void FileMenu::ShowState() {
+  save_->setEnabled(desk_.TheBoard().Shown());
+  export_->setEnabled(desk_.TheBoard().Shown());
+}
+
+void FileMenu::ChooseAndOpen() {
+  const QString name = ports_.Files.ToOpen(window_, "Open", ReadableKinds());
+  if (!name.isEmpty()) Open(name);
+}
+
+void FileMenu::Open(const QString& name) {
+  desk_.Runner.Run("Open", [this, name] {
+    const auto read = OpenSquare(name);
+    if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
+      desk_.TheDialogs.Tell(unreadable->Why);
+      return;
+    }
+    desk_.TheSession.LayOut(std::get<StoredSquare>(read));
+    desk_.ShowLaidOut();
+  });
+}
+
+void FileMenu::Save() {
+  const QString name = ports_.Files.ToSave(window_, "Save As", SquareKinds());
+  if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(desk_.TheBoard()));
+}
+
+void FileMenu::Export() {
+  const QString name = ports_.Files.ToSave(window_, "Export Picture", kPictureKinds);
+  if (name.isEmpty()) return;
+  if (desk_.TheBoard().OverlayShown) {
+    ExportDrawing(name, *desk_.Place.Picture);
+  } else {
+    ExportBoard(name, *desk_.Place.View);
+  }
+}
+
+/// Where there is a board in sight that fits on a page.
+void FileMenu::OpenPrintForm() {
+  const Board& board = desk_.TheBoard();
+  if (!board.Shown() || !board.grid.Visible()) {
+    desk_.TheDialogs.Tell("nothing to print");
+  } else if (board.GridSize > kMaxPrintedOrder) {
+    desk_.TheDialogs.Tell("cannot print larger than 30x30 grid");
+  } else {
+    (new PrintForm(board.grid, *desk_.Controls.Square, ports_.Sheets, desk_.TheDialogs, window_))
+        ->open();
+  }
+}
+
+void FileMenu::OpenWorksheet() {
+  const auto fresh = desk_.TheSession.WishForFreshSquares();
+  if (!fresh) return;
+  (new WorksheetForm(desk_.TheSession.SolvedPuzzleOnBoard(), *fresh, ports_.Pages,
+                     desk_.TheSession.TheRandom, desk_.TheDialogs, window_))
+      ->open();
+}
+
+}  // namespace numorra

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QMenuBar>
+
+#include "app/window/menus/desk.h"
+#include "print/page_printer.h"
+#include "print/sheet_printer.h"
+#include "toolkit/file_chooser.h"
+
+namespace numorra {
+
+/// The File menu: opens and writes boards, prints them, ends the program.
+class FileMenu : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Where the player's files and paper are.
+  struct Ports {
+    FileChooser& Files;
+    SheetPrinter& Sheets;
+    PagePrinter& Pages;
+  };
+
+  FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports);
+
+  void Open(const QString& name);
+
+ private:
+  void ChooseAndOpen();
+  void Save();
+  void Export();
+  void OpenPrintForm();
+  void OpenWorksheet();
+  void ShowState();
+
+  QWidget* window_;
+  Desk& desk_;
+  Ports ports_;
+  QAction* save_;
+  QAction* export_;
+};
+
+}  // namespace numorra

@@ -1,0 +1,103 @@
+#include "app/window/menus/puzzle_menu.h"
+
+#include <utility>
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "app/window/forms/hide_numbers_form.h"
+#include "toolkit/menus.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+
+PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* state)
+    : QObject(bar), window_(bar->window()), desk_(desk), stage_(stage) {
+  QMenu* menu = bar->addMenu("&Puzzle");
+  Session& session = desk_.TheSession;
+  const auto remark = [this](const char* name, const char* doing, std::function<Remark()> find) {
+    return [this, name, doing, find = std::move(find)] { ShowRemark(name, doing, find); };
+  };
+  AddItem(menu, {"HideNumbersx", "&Hide Numbers...", {}, [this] {
+                   desk_.Runner.Run("Hide Numbers", [this] { OpenHideNumbers(); });
+                 }});
+  needBoard_ += AddItem(menu, {"EnterPuzzlex",
+                               "&Enter Your Own",
+                               {},
+                               remark("Enter Your Own", "Looking for solutions",
+                                      [&session] { return session.EnterPuzzle(); })});
+  needBoard_ += AddItem(menu, {"EmptyBoardx", "E&mpty Board", {}, [this] {
+                                 desk_.RunOnCurrentCell("Empty Board", [this] {
+                                   desk_.TheSession.EmptyBoard();
+                                   desk_.Menu.EnableEditing(true);
+                                 });
+                               }});
+  QAction* code =
+      AddItem(menu, {"CopyPuzzleCodex", "C&opy Code", {}, desk_.Beside([this] { CopyCode(); })});
+  needBoard_ += code;
+  menu->addSeparator();
+  needBoard_ += AddItem(
+      menu,
+      {"Hintx", "H&int", {Qt::CTRL | Qt::Key_H}, remark("Hint", "Looking for a hint", [&session] {
+         return session.Hint();
+       })});
+  needBoard_ += AddItem(menu, {"CheckEntriesx",
+                               "&Check Entries",
+                               {},
+                               remark("Check Entries", "Checking the entries",
+                                      [&session] { return session.CheckEntries(); })});
+  needBoard_ += AddItem(menu, {"FillGapsx", "&Fill Gaps", {}, [this] { FillGaps(); }});
+  state->setContextMenuPolicy(Qt::ActionsContextMenu);
+  state->addAction(code);
+
+  BoardPlace& place = desk_.Place;
+  OnClick(desk_.Runner, place.SearchBar->Button, this, [this] { desk_.Runner.Run("Stop", [] {}); });
+  OnClick(desk_.Runner, place.RemarkBar->Button, this, [this] { desk_.Place.ForgetRemark(); });
+  desk_.TheSession.Watch.Listen([this](const Deed& deed) {
+    desk_.Place.EndCommand(deed.ChangedTheBoard());
+    ShowState();
+  });
+  ShowState();
+}
+
+void PuzzleMenu::ShowState() {
+  for (QAction* item : needBoard_)
+    item->setEnabled(desk_.TheBoard().Shown());
+}
+
+void PuzzleMenu::ShowRemark(const char* name, const char* doing, std::function<Remark()> find) {
+  desk_.RunOnCurrentCell(name, [this, doing, find = std::move(find)] {
+    stage_.ShowCount(doing);
+    desk_.Place.ShowRemark(find());
+  });
+}
+
+void PuzzleMenu::FillGaps() {
+  desk_.RunOnCurrentCell("Fill Gaps", [this] {
+    desk_.Place.ForgetRemark();
+    stage_.ShowCount("Filling the gaps");
+    desk_.TheSession.FillGaps();
+  });
+}
+
+void PuzzleMenu::CopyCode() {
+  if (const auto code = desk_.TheSession.PuzzleCode()) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(*code));
+  }
+}
+
+void PuzzleMenu::OpenHideNumbers() {
+  const auto fresh = desk_.TheSession.WishForFreshSquares();
+  if (!fresh) return;
+  auto* form = new HideNumbersForm(desk_.TheSession.SquareToHide(), *fresh,
+                                   desk_.TheSession.TheRandom, desk_.TheDialogs, window_);
+  OnSignal(desk_.Runner, form, &HideNumbersForm::Taken, this, [this](const MadePuzzle& made) {
+    desk_.Runner.Run("Hide Numbers", [this, made] {
+      desk_.TheSession.Take(made);
+      desk_.ShowLaidOut();
+    });
+  });
+  form->open();
+}
+
+}  // namespace numorra

@@ -1,0 +1,96 @@
+#include "app/window/menus/view_menu.h"
+
+#include <QMenuBar>
+#include <QShortcut>
+
+#include "app/play/study_commands.h"
+#include "toolkit/menus.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+
+ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
+    : QObject(window), desk_(desk), properties_(new PropertiesPanel(desk.Runner, window)) {
+  const QList<QKeySequence> none;
+  QMenu* menu = window->menuBar()->addMenu("&View");
+  const auto zoom = [this](int direction) {
+    return desk_.Beside([this, direction] { size_->Zoom(direction); });
+  };
+  AddItem(menu,
+          {"ZoomInx", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)});
+  AddItem(menu, {"ZoomOutx", "Zoom &Out", {Qt::CTRL | Qt::Key_Minus}, zoom(-1)});
+  AddItem(menu, {"NormalSizex", "&Normal Size", {Qt::CTRL | Qt::Key_0}, zoom(0)});
+  QAction* fit = AddItem(menu, {"FitBoardx", "&Fit Board", none,
+                                desk_.Beside([this] { size_->ToggleFitting(); }), true});
+  QAction* full = AddItem(menu, {"FullScreenx",
+                                 "Full &Screen",
+                                 {Qt::Key_F11},
+                                 desk_.Beside([this] { size_->ToggleFullScreen(); }),
+                                 true});
+  AddItem(menu, {"Maximx", "&Maximize", none, desk_.Beside([window] {
+                   window->move(0, 0);
+                   window->showMaximized();
+                 })});
+  menu->addSeparator();
+  QAction* numbers = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
+  OnSignal(desk_.Runner, numbers, &QAction::toggled, this,
+           [this](bool on) { desk_.Place.Picture->SetNumbers(on); });
+  shown_ =
+      AddItem(menu, {"Propertiesx",
+                     "&Properties",
+                     {Qt::CTRL | Qt::Key_I},
+                     desk_.Beside([this] { properties_->setVisible(properties_->isHidden()); }),
+                     true});
+
+  window->addDockWidget(Qt::RightDockWidgetArea, properties_);
+  properties_->hide();
+  size_ = new ViewControl(window, &desk_.Place, {&desk_.Controls, properties_}, fit, full);
+  room_ = new PanelRoom(window);  // behind it, so as to know of a new state before it does
+  OnSignal(desk_.Runner, properties_, &PropertiesPanel::EvidenceChosen, this,
+           [this](const std::vector<Place>& cells) { desk_.Place.PointAt(cells); });
+  OnSignal(desk_.Runner, properties_, &QDockWidget::visibilityChanged, this,
+           [this] { FollowProperties(); });
+  desk_.TheSession.Watch.Listen([this](const Deed& deed) {
+    studied_ = studied_ && !deed.ChangedTheBoard();
+    StudyBoard();
+  });
+  for (GridView* cells : std::initializer_list<GridView*>{desk_.Place.View, desk_.Place.Walk}) {
+    OnSignal(desk_.Runner, cells, &GridView::ZoomWanted, this,
+             [this](int direction, QPoint at) { size_->Zoom(direction, at); });
+  }
+  auto* escape = new QShortcut(Qt::Key_Escape, window);
+  OnSignal(desk_.Runner, escape, &QShortcut::activated, this, [this] { Escape(); });
+}
+
+/// Esc takes away what has come last: a search, a remark, the full screen.
+void ViewMenu::Escape() {
+  if (!desk_.Place.DismissBar() && size_->FullScreen()) size_->ToggleFullScreen();
+}
+
+/// When the panel has come or gone.
+void ViewMenu::FollowProperties() {
+  const bool shown = !properties_->isHidden();
+  shown_->setChecked(shown);
+  room_->Follow(properties_);
+  if (shown) {
+    StudyBoard();
+  } else {
+    studied_ = false;
+    desk_.Place.PointAtNothing();
+  }
+}
+
+/// What the panel shows is what stands on the board.
+void ViewMenu::StudyBoard() {
+  if (studied_ || properties_->isHidden()) return;
+  studied_ = true;
+  if (auto square = SquareOn(desk_.TheBoard())) {
+    properties_->Show(Study(std::move(*square)));
+  } else {
+    properties_->ShowNone(desk_.TheBoard().Shown()
+                              ? "The board has empty cells: what it is can be told when it is full."
+                              : "There is no board to study.");
+  }
+}
+
+}  // namespace numorra

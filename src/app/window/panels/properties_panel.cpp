@@ -1,0 +1,202 @@
+#include "app/window/panels/properties_panel.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+#include "toolkit/named.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+namespace {
+
+constexpr const char* kSquareGroup = "The square";
+constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",     "largest",
+                                    "repeated", "standard form", "census number"};
+
+char16_t MarkFor(Answer answer) {
+  switch (answer) {
+    case Answer::Holds:
+      return u'\u2713';
+    case Answer::Fails:
+      return u'\u2717';
+    case Answer::DoesNotApply:
+      return u'\u2013';
+    case Answer::TooLarge:
+      break;
+  }
+  return u'?';
+}
+
+/// Breaks values into lines, which the toolkit's trees leave to their delegates.
+class WrappingDelegate : public QStyledItemDelegate {
+ public:
+  explicit WrappingDelegate(QTreeView* tree) : QStyledItemDelegate(tree), tree_(tree) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem wrapped = option;
+    wrapped.features |= QStyleOptionViewItem::WrapText;
+    QStyledItemDelegate::paint(painter, wrapped, index);
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize line = QStyledItemDelegate::sizeHint(option, index);
+    if (index.column() == 0) return line;
+    const int margin = 1 + tree_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    const QRect room(0, 0, tree_->columnWidth(index.column()) - 2 * margin, kTallest);
+    const QString value = index.data().toString();
+    const QRect text = tree_->fontMetrics().boundingRect(room, Qt::TextWordWrap, value);
+    const bool broken = text.height() > line.height();
+    return {room.width(), broken ? text.height() + line.height() / 3 : line.height()};
+  }
+
+ private:
+  static constexpr int kTallest = 10'000;  // pixels
+
+  QTreeView* tree_;
+};
+
+QTreeWidgetItem* GroupNamed(QList<QTreeWidgetItem*>& groups, const QString& name) {
+  for (QTreeWidgetItem* group : groups) {
+    if (group->text(0) == name) return group;
+  }
+  groups.append(new QTreeWidgetItem({name}));
+  groups.back()->setFlags(Qt::ItemIsEnabled);
+  return groups.back();
+}
+
+/// Writes what has changed, so that nothing else is painted anew.
+void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
+  const QString spoken = entry->text(0) + ": " + why;
+  if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
+  entry->setText(1, value);
+  entry->setData(0, Qt::AccessibleTextRole, spoken);
+  entry->setToolTip(1, why);
+}
+
+}  // namespace
+
+PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
+    : QDockWidget("Properties", parent), runner_(runner) {
+  setObjectName("PropertiesPanel");
+  setFeatures(DockWidgetClosable | DockWidgetMovable);
+  setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+}
+
+/// No start waits for what it may never need.
+void PropertiesPanel::setVisible(bool visible) {
+  if (visible && !tree_) Furnish();
+  QDockWidget::setVisible(visible);
+}
+
+void PropertiesPanel::Furnish() {
+  tree_ = Named("PropertyTree", new QTreeWidget);
+  tree_->setAccessibleName("Properties of the square");
+  tree_->setColumnCount(2);
+  tree_->setHeaderHidden(true);
+  tree_->setIndentation(tree_->indentation() / 2);
+  tree_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  tree_->setItemDelegate(new WrappingDelegate(tree_));
+  AddEntries();
+  tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  connect(tree_->header(), &QHeaderView::sectionResized, tree_, &QTreeView::doItemsLayout,
+          Qt::QueuedConnection);
+  explained_ = Named("PropertyEvidence", new QLabel);
+  explained_->setWordWrap(true);
+  explained_->setTextFormat(Qt::PlainText);
+  explained_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  explained_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  explained_->setMinimumHeight(explained_->fontMetrics().lineSpacing() * 6);
+  auto* copy = Named("CopyPropertiesx", new QPushButton("Copy Text"));
+
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->addWidget(tree_, 1);
+  column->addWidget(explained_);
+  column->addWidget(copy, 0, Qt::AlignLeft);
+  setWidget(content);
+  OnSignal(runner_, tree_, &QTreeWidget::currentItemChanged, this, [this] { ShowChosen(); });
+  OnClick(runner_, copy, this, [this] { Copy(); });
+}
+
+/// All at once: a tree lays itself out anew at each that is added to it.
+void PropertiesPanel::AddEntries() {
+  QList<QTreeWidgetItem*> groups;
+  for (const char* name : kDetails)
+    details_.push_back(new QTreeWidgetItem(GroupNamed(groups, kSquareGroup), {name}));
+  for (const Term& term : Terms())
+    terms_.push_back(new QTreeWidgetItem(GroupNamed(groups, term.Group), {term.Name}));
+  tree_->addTopLevelItems(groups);
+  for (const auto& entries : {details_, terms_}) {
+    for (QTreeWidgetItem* entry : entries) {
+      for (const int column : {0, 1})
+        entry->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
+    }
+  }
+  for (QTreeWidgetItem* group : groups)
+    group->setFirstColumnSpanned(true);
+  tree_->expandAll();
+}
+
+void PropertiesPanel::Show(const Report& report) {
+  report_ = report;
+  for (QTreeWidgetItem* entry : details_) {
+    const auto detail = std::find_if(
+        report.Details.begin(), report.Details.end(),
+        [&](const Detail& known) { return entry->text(0) == QLatin1String(known.first.c_str()); });
+    const bool known = detail != report.Details.end();
+    entry->setHidden(!known);
+    if (known) ShowEntry(entry, detail->second.c_str(), detail->second.c_str());
+  }
+  for (std::size_t i = 0; i < terms_.size(); ++i) {
+    const Judgement& found = report.Properties[i].Found;
+    const QString word = WordFor(found.Says);
+    ShowEntry(terms_[i], QChar(MarkFor(found.Says)) + QString(" ") + word,
+              word + ", " + QString::fromStdString(found.Why));
+  }
+  tree_->setEnabled(true);
+  ShowChosen();
+}
+
+void PropertiesPanel::ShowNone(const QString& why) {
+  report_.reset();
+  for (const auto& entries : {details_, terms_}) {
+    for (QTreeWidgetItem* entry : entries)
+      ShowEntry(entry, "", why);
+  }
+  tree_->setEnabled(false);
+  ShowChosen();
+  explained_->setText(why);
+}
+
+/// The chosen entry in words, and its cells to whoever points at them.
+void PropertiesPanel::ShowChosen() {
+  std::vector<Place> cells;
+  QString text = "Choose an entry to see why.";
+  const QTreeWidgetItem* chosen = tree_->currentItem();
+  const auto term = std::find(terms_.begin(), terms_.end(), chosen);
+  if (report_ && term != terms_.end()) {
+    const Property& property = report_->Properties[static_cast<std::size_t>(term - terms_.begin())];
+    cells = property.Found.Cells;
+    text = QString("%1: %2.\n\nIt %3: %4.")
+               .arg(property.What->Name, property.What->Definition, WordFor(property.Found.Says),
+                    QString::fromStdString(property.Found.Why));
+  } else if (report_ && chosen && chosen->parent()) {
+    text = chosen->text(0) + ": " + chosen->text(1);
+    text.replace(" / ", "\n");
+  }
+  if (report_) explained_->setText(text);
+  Q_EMIT EvidenceChosen(cells);
+}
+
+void PropertiesPanel::Copy() {
+  if (report_) QApplication::clipboard()->setText(QString::fromStdString(TextOf(*report_)));
+}
+
+}  // namespace numorra

@@ -1,0 +1,78 @@
+#include "app/window/panels/state_line.h"
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QMenuBar>
+
+#include "app/play/board_state.h"
+#include "toolkit/twips.h"
+
+namespace numorra {
+namespace {
+
+// Twips.
+constexpr int kWidth = 6600;       // what six menus leave free at the opening size
+constexpr int kAroundMenu = 330;   // a menu's own edges
+constexpr int kAroundMenus = 240;  // those of all menus
+
+}  // namespace
+
+StateLine::StateLine(QWidget* parent) : QLabel(parent) {
+  setObjectName("BoardState");
+  setTextFormat(Qt::PlainText);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setContentsMargins(0, 0, PixelsOf(kAroundMenus) / 2, 0);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void StateLine::Show(const Board& board) {
+  QString cell;
+  if (board.Shown()) {
+    const Grid& grid = board.grid;
+    cell = QString("\nrow %1, column %2: %3")
+               .arg(grid.CurrentRow())
+               .arg(grid.CurrentColumn())
+               .arg(QString::fromStdString(grid.Text(grid.CurrentRow(), grid.CurrentColumn())));
+  }
+  ShowText(StateOf(board), cell);
+}
+
+void StateLine::Show(const Walk& walk) {
+  ShowText(StateOf(walk), {});
+}
+
+/// The state, with more of it in the tool-tip.
+void StateLine::ShowText(const std::string& told, const QString& more) {
+  const QString state = QString::fromStdString(told);
+  setToolTip(state + more);
+  if (state == state_) return;
+  state_ = state;
+  setAccessibleName(state);
+  Cut();
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+QSize StateLine::sizeHint() const {
+  int free = PixelsOf(kWidth);
+  if (const auto* bar = qobject_cast<const QMenuBar*>(parentWidget())) {
+    int menus = PixelsOf(kAroundMenus);
+    for (const QAction* menu : bar->actions())
+      menus += fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
+    free = std::clamp(bar->width() - menus, 0, free);
+  }
+  return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};
+}
+
+void StateLine::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  Cut();
+}
+
+void StateLine::Cut() {
+  setText(fontMetrics().elidedText(state_, Qt::ElideRight, contentsRect().width()));
+}
+
+}  // namespace numorra

@@ -1,0 +1,188 @@
+#include "app/window/panels/step_panel.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "toolkit/named.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+namespace {
+
+constexpr int kExamples[] = {5, 8, 6};
+constexpr int kSpeeds = 10;
+constexpr int kSlowest = 2000;  // milliseconds a step
+
+QString Sentence(const std::string& text) {
+  QString sentence = QString::fromStdString(text);
+  if (!sentence.isEmpty()) sentence[0] = sentence[0].toUpper();
+  return sentence + ".";
+}
+
+}  // namespace
+
+StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
+    : QDockWidget("Step by Step", parent),
+      view_(view),
+      choice_(Named("WalkChoice", new QComboBox)),
+      back_(Named("StepBackx", new QPushButton("Back"))),
+      next_(Named("StepNextx", new QPushButton("Next"))),
+      play_(Named("PlayStepsx", new QPushButton("Play"))),
+      speed_(Named("StepSpeed", new QSlider(Qt::Horizontal))),
+      steps_(Named("StepSlider", new QSlider(Qt::Horizontal))),
+      where_(new QLabel),
+      ask_(Named("AskMex", new QCheckBox("Ask me"))),
+      sentence_(Named("StepSentence", new QLabel)) {
+  setObjectName("StepPanel");
+  setFeatures(DockWidgetClosable);
+  setAllowedAreas(Qt::BottomDockWidgetArea);
+  choice_->setAccessibleName("Square to walk through");
+  speed_->setAccessibleName("Speed");
+  speed_->setToolTip("speed");
+  speed_->setRange(1, kSpeeds);
+  speed_->setValue(kSpeeds / 2);
+  speed_->setMaximumWidth(choice_->sizeHint().width());
+  steps_->setAccessibleName("Step");
+  play_->setCheckable(true);
+  sentence_->setWordWrap(true);
+  sentence_->setTextFormat(Qt::PlainText);
+  sentence_->setAlignment(Qt::AlignTop);
+  sentence_->setMinimumHeight(2 * sentence_->fontMetrics().lineSpacing());
+
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->addWidget(sentence_);
+  auto* slide = new QHBoxLayout;
+  slide->addWidget(steps_, 1);
+  slide->addWidget(where_);
+  column->addLayout(slide);
+  auto* row = new QHBoxLayout;
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{choice_, back_, next_, play_, speed_, ask_})
+    row->addWidget(widget);
+  row->addStretch();
+  column->addLayout(row);
+  setWidget(content);
+
+  const auto on = [&](const auto* sender, auto signal, auto act) {
+    OnSignal(runner, sender, signal, this, std::move(act));
+  };
+  const auto goOn = [this] { GoTo(view_->TheWalk().At() + 1); };
+  OnClick(runner, back_, this, [this] { GoTo(view_->TheWalk().At() - 1); });
+  OnClick(runner, next_, this, goOn);
+  on(choice_, &QComboBox::activated, [this] { BeginChosen(); });
+  on(play_, &QPushButton::toggled, [this](bool play) { Play(play); });
+  on(steps_, &QSlider::valueChanged, [this](int step) { GoTo(step); });
+  on(speed_, &QSlider::valueChanged,
+     [this](int speed) { timer_.setInterval(kSlowest / (speed * speed)); });
+  on(ask_, &QCheckBox::toggled, [this] {
+    asked_ = right_ = 0;
+    Play(false);
+    ShowStep();
+  });
+  on(&timer_, &QTimer::timeout, goOn);
+  on(this, &QDockWidget::visibilityChanged, [this](bool shown) {
+    if (!shown) Play(false);
+  });
+  on(view_, &GridView::CellPressed, [this](int r, int c, Qt::MouseButton, QPoint) {
+    view_->MoveTo(r, c);
+    Answer(view_->Current());
+  });
+  on(view_, &GridView::CellWanted, [this](int r, int c) { view_->MoveTo(r, c); });
+  on(view_, &GridView::MarkWanted, [this] { Answer(view_->Current()); });
+  on(view_, &GridView::CharacterTyped, [this](char32_t character) {
+    if (character == U'\r') Answer(view_->Current());
+  });
+  timer_.setInterval(kSlowest / (speed_->value() * speed_->value()));
+  ShowStep();
+}
+
+void StepPanel::Begin(int order, const std::vector<double>& numbers) {
+  order_ = order;
+  numbers_ = numbers;
+  choice_->clear();
+  if (!numbers.empty() && !WalkOf(order, numbers).empty()) {
+    choice_->addItem("the square on the board", 0);
+  }
+  for (const int example : kExamples)
+    choice_->addItem(QString("an example of size %1").arg(example), example);
+  BeginChosen();
+  next_->setFocus();
+}
+
+void StepPanel::BeginChosen() {
+  if (choice_->count() == 0) return;
+  Play(false);
+  const int example = choice_->currentData().toInt();
+  const int order = example == 0 ? order_ : example;
+  view_->Begin(order, WalkOf(order, example == 0 ? numbers_ : ExampleToWalk(example)));
+  asked_ = right_ = 0;
+  steps_->setRange(0, view_->TheWalk().Steps());
+  GoTo(0);
+}
+
+void StepPanel::GoTo(int step) {
+  const int last = view_->TheWalk().Steps();
+  step = std::clamp(step, 0, last);
+  if (step == last) Play(false);
+  view_->GoTo(step);
+  const QSignalBlocker quiet(steps_);
+  steps_->setValue(step);
+  ShowStep();
+}
+
+/// Where the first number goes follows from nothing; it is shown.
+bool StepPanel::Asking() const {
+  const WalkStep* const next = view_->TheWalk().Next();
+  return ask_->isChecked() && next != nullptr && next->Number > 1;
+}
+
+/// The sentence of the step, or the question about the next one.
+void StepPanel::ShowStep() {
+  const Walk& walk = view_->TheWalk();
+  QString text =
+      walk.Done() ? Sentence(walk.Done()->Sentence) : "An empty board. Next goes on, step by step.";
+  if (Asking()) {
+    text += QString("\nClick where %1 goes, or go there with the arrow keys and press Enter.")
+                .arg(walk.Next()->Number);
+  }
+  sentence_->setText(text);
+  QString where = QString("step %1 of %2").arg(walk.At()).arg(walk.Steps());
+  if (ask_->isChecked()) where += QString(", %1 of %2 right").arg(right_).arg(asked_);
+  where_->setText(where);
+  back_->setEnabled(walk.At() > 0);
+  next_->setEnabled(walk.At() < walk.Steps() && !Asking());
+  play_->setEnabled(walk.At() < walk.Steps() && !ask_->isChecked());
+  if (!QAccessible::isActive()) return;
+  sentence_->setAccessibleName(text);
+  QAccessibleEvent event(sentence_, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+void StepPanel::Play(bool on) {
+  const QSignalBlocker quiet(play_);
+  play_->setChecked(on);
+  if (on) {
+    timer_.start();
+  } else {
+    timer_.stop();
+  }
+}
+
+/// A right answer goes on; a wrong one is told the rule.
+void StepPanel::Answer(Place place) {
+  if (!Asking()) return;
+  const WalkStep& next = *view_->TheWalk().Next();
+  ++asked_;
+  if (place == next.Written.front().first) {
+    ++right_;
+    GoTo(view_->TheWalk().At() + 1);
+    return;
+  }
+  ShowStep();
+  sentence_->setText("No, not " + QString::fromStdString(NameOf(place)) + ": " +
+                     QString::fromStdString(next.Sentence) + ".");
+}
+
+}  // namespace numorra

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimer>
+
+#include "app/window/board/walk_view.h"
+#include "toolkit/command_runner.h"
+
+namespace numorra {
+
+/// The panel (`StepPanel`) below the board that leads through a construction: on, back, play with a
+/// speed, a slider over all steps, a sentence for each; or asks where numbers go.
+class StepPanel : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent);
+
+  /// Offers the square on the board, where it is one that can be explained, and the examples, and
+  /// begins with the first of them. `numbers`: of the board, empty without a full one.
+  void Begin(int order, const std::vector<double>& numbers);
+
+ private:
+  void BeginChosen();
+  void GoTo(int step);
+  void ShowStep();
+  void Play(bool on);
+  void Answer(Place place);
+  bool Asking() const;
+
+  WalkView* view_;
+  QComboBox* choice_;
+  QPushButton* back_;
+  QPushButton* next_;
+  QPushButton* play_;
+  QSlider* speed_;
+  QSlider* steps_;
+  QLabel* where_;
+  QCheckBox* ask_;
+  QLabel* sentence_;
+  QTimer timer_;
+  int order_ = 0;
+  std::vector<double> numbers_;
+  int asked_ = 0;
+  int right_ = 0;
+};
+
+}  // namespace numorra
