@@ -16,17 +16,13 @@ constexpr double kSeconds = 3;
 
 /// A normal square of which `share` per cent of the numbers are left, by lot.
 Puzzle BoardWithGaps(int order, int share, NormalSquare& squares, Random& random) {
-  Puzzle puzzle{order, NormalTotal(order), Rules::Normal, false, {}};
-  const CellTable square = squares.Build(order);
-  ForEachCell(order, [&](int r, int c) {
-    puzzle.Cells.push_back(static_cast<std::int64_t>(square(r, c)));
-  });
-  std::vector<std::size_t> cells(puzzle.Cells.size());
-  std::iota(cells.begin(), cells.end(), 0U);
+  Puzzle puzzle{Square<std::int64_t>(SquareOf(squares.Build(order), order)), NormalTotal(order)};
+  std::vector<int> cells(static_cast<std::size_t>(puzzle.Cells.Size()));
+  std::iota(cells.begin(), cells.end(), 0);
   Shuffle(std::span(cells), random);
-  for (std::size_t i = 0; i < cells.size() - cells.size() * static_cast<std::size_t>(share) / 100;
-       ++i)
-    puzzle.Cells[cells[i]] = 0;
+  cells.resize(cells.size() - cells.size() * static_cast<std::size_t>(share) / 100);
+  for (const int cell : cells)
+    puzzle.Cells[cell] = 0;
   return puzzle;
 }
 

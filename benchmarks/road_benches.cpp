@@ -1,7 +1,7 @@
 #include "benches.h"
+#include "puzzle/deduction.h"
 #include "puzzle/fresh_square.h"
 #include "puzzle/making.h"
-#include "puzzle/rules.h"
 #include "puzzle/search.h"
 #include "study/report.h"
 #include "study/special.h"
@@ -13,7 +13,7 @@ namespace {
 void StudySquare(benchmark::State& state) {
   TickingClock time(7);
   ClockSeededRandom random(time);
-  const NumberSquare square(50, BorderedSquare(50, random));
+  const NumberSquare square(BorderedSquare(50, random));
   for (auto _ : state)
     benchmark::DoNotOptimize(Study(square));
 }
@@ -44,7 +44,7 @@ void FindHint(benchmark::State& state) {
   const auto made = MakePuzzle(*FreshSquare({8}, random, stage), {Grade::Hard}, random, stage);
   const Puzzle& puzzle = std::get<MadePuzzle>(made).Clues;
   for (auto _ : state)
-    benchmark::DoNotOptimize(NextStep(puzzle, Grade::Expert, stage));
+    benchmark::DoNotOptimize(NextDeduction(puzzle, Grade::Expert, stage));
 }
 
 struct Measured {

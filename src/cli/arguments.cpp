@@ -10,7 +10,7 @@
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 
 namespace numorra {
 namespace {
@@ -261,8 +261,9 @@ class Reader {
   }
 
   void Clues() {
-    request_.Clues = NumberIn<int>(Value());
-    if (!request_.Clues || *request_.Clues < 0) Fail("the clues are a whole number from 0 on");
+    request_.ClueCount = NumberIn<int>(Value());
+    if (!request_.ClueCount || *request_.ClueCount < 0)
+      Fail("the clues are a whole number from 0 on");
   }
 
   void RulesOption() {

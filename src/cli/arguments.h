@@ -36,7 +36,7 @@ struct SquareRequest {
 
   /// What puzzles are to be like, whose squares are normal ones or have the sum.
   Grade Wanted = Grade::Easy;
-  std::optional<int> Clues;
+  std::optional<int> ClueCount;
 
   /// Where squares are to be read from; "-" is the standard input.
   std::string File = "-";

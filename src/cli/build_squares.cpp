@@ -18,20 +18,11 @@ namespace {
 
 /// A square and what is to be said about it.
 struct Result {
-  CellTable Square;
-  int Order = 0;
+  Square<double> Numbers;
   double Total = 0;
   std::string Remark;
   Rules Asked = Rules::Positive;
 };
-
-/// The other way round than NumbersOf.
-CellTable TableOf(int order, const std::vector<double>& numbers) {
-  CellTable table;
-  auto number = numbers.begin();
-  ForEachCell(order, [&](int r, int c) { table(r, c) = *number++; });
-  return table;
-}
 
 /// Builds one square after the other; each generator goes on from what it built last.
 class SquareBuilder {
@@ -48,36 +39,42 @@ class SquareBuilder {
 
  private:
   Result WithTopRow(const TopRow& top) {
-    const auto found = FindTopRowSquare(top, random_, [] {});
+    const auto found = FindTopRowSquare(top, random_, stage_);
     if (!found) throw Impossible{"no 4x4 square has this top row"};
-    return {found->Square, 4, found->Total, RemarkOn(found->Quality)};
+    return {SquareOf(found->Square, 4), found->Total, RemarkOn(found->Quality)};
   }
 
   Result Special(const SpecialKind& kind) {
     const int order = request_.Size;
     const std::string none = kind.WhyNone(order);
     if (!none.empty()) throw Impossible{none};
-    return {TableOf(order, kind.Build(order, random_)), order, MagicConstant(order), "",
-            Rules::Normal};
+    return OfNormalNumbers(kind.Build(order, random_));
   }
 
   Result Normal() {
-    const int order = request_.Size;
     normal_.ForgetCount();
-    return {normal_.Build(order), order, MagicConstant(order), "", Rules::Normal};
+    return OfNormalNumbers(SquareOf(normal_.Build(request_.Size), request_.Size));
+  }
+
+  static Result OfNormalNumbers(const Square<double>& square) {
+    return {square, static_cast<double>(NormalTotal(square.Order())), "", Rules::Normal};
   }
 
   Result Variable() {
-    const double sum = request_.Sum.value_or(MagicConstant(request_.Size));
+    const int order = request_.Size;
+    const double sum = request_.Sum.value_or(static_cast<double>(NormalTotal(order)));
     const VariablePlan plan =
-        PlanVariableSquare(request_.Size, sum, request_.LimitToNine, request_.Corner.has_value());
-    for (int tries = 1; tries <= kTries; ++tries) {
-      const VariableBuild build = variable_.Build(plan, request_.Corner, tries);
-      if (build.Status == SolveStatus::TryAgain) continue;
-      if (build.Status == SolveStatus::CellValueTooSmall) throw Impossible{"Cell value too small"};
-      return {build.Square, request_.Size, build.Total, RemarkOnDifference(plan, build)};
+        PlanVariableSquare(order, sum, request_.LimitToNine, request_.Corner.has_value());
+    const VariableBuild build = variable_.BuildInTries(plan, request_.Corner);
+    switch (build.Status) {
+      case SolveStatus::Built:
+        break;
+      case SolveStatus::CellValueTooSmall:
+        throw Impossible{"Cell value too small"};
+      case SolveStatus::TryAgain:
+        throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
     }
-    throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
+    return {SquareOf(build.Square, order), build.Total, RemarkOnDifference(plan, build)};
   }
 
   /// What the square has another than was asked for.
@@ -108,16 +105,16 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     Result result = builder.Next();
     if (request.Vary) {
-      const auto varied = Varied(result.Order, NumbersOf(result.Square, result.Order), random);
+      const auto varied = Varied(result.Numbers, random);
       if (!varied) throw Impossible{"all relatives of this square look like it"};
-      result.Square = TableOf(result.Order, *varied);
+      result.Numbers = *varied;
     }
     if (!result.Remark.empty()) streams.Err << kProgramName << result.Remark << "\n";
     if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
-    StoredSquare square{.Order = result.Order, .Total = result.Total, .Asked = result.Asked};
-    for (const double number : NumbersOf(result.Square, result.Order))
-      square.Cells.emplace_back(number);
-    streams.Out << Of(request.Format).Write(square);
+    streams.Out << Of(request.Format)
+                       .Write({.Cells = StoredCells(result.Numbers),
+                               .Total = result.Total,
+                               .Asked = result.Asked});
   }
 }
 

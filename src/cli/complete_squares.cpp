@@ -5,6 +5,7 @@
 
 #include "app/board/numbers.h"
 #include "app/board/random.h"
+#include "app/ports/build_stage.h"
 #include "cli/read_squares.h"
 #include "files/aim.h"
 #include "puzzle/search.h"
@@ -54,7 +55,7 @@ Completed Complete(StoredSquare square, const SquareRequest& request, Random& ra
 }
 
 std::string RowsOf(const std::optional<Puzzle>& puzzle) {
-  return puzzle ? JsonRowsOf(StoredSquareOf(*puzzle, false)) : "null";
+  return puzzle ? JsonRowsOf(StoredSquareOf(*puzzle, false).Cells) : "null";
 }
 
 void Write(const Completed& completed, SquareFormat format, std::ostream& out) {

@@ -4,10 +4,11 @@
 
 #include "app/board/numbers.h"
 #include "app/board/random.h"
+#include "app/ports/build_stage.h"
 #include "puzzle/code.h"
+#include "puzzle/deduction.h"
 #include "puzzle/fresh_square.h"
 #include "puzzle/making.h"
-#include "puzzle/rules.h"
 
 namespace numorra {
 namespace {
@@ -18,7 +19,7 @@ MadePuzzle Make(const SquareRequest& request, Random& random) {
   if (request.Sum) square.Total = static_cast<std::int64_t>(*request.Sum);
   const auto full = FreshSquare(square, random, stage);
   if (!full) throw Impossible{"no square of this size and sum was found"};
-  const auto made = MakePuzzle(*full, {request.Wanted, request.Clues}, random, stage);
+  const auto made = MakePuzzle(*full, {request.Wanted, request.ClueCount}, random, stage);
   if (const auto* cannot = std::get_if<CannotMake>(&made)) throw Impossible{cannot->Why};
   return std::get<MadePuzzle>(made);
 }
@@ -37,15 +38,15 @@ void TellDifference(const SquareRequest& request, const MadePuzzle& made, std::o
 
 void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
   const StoredSquare stored = StoredSquareOf(made.Clues, true);
-  const std::string code = made.Clues.Order <= kMostCodedOrder ? CodeOf(made.Clues) : "";
-  const std::string clues = std::to_string(made.Clues.Order * made.Clues.Order - made.Clues.Gaps());
+  const std::string code = made.Clues.Order() <= kMostCodedOrder ? CodeOf(made.Clues) : "";
+  const std::string clues = std::to_string(made.Clues.Cells.Size() - made.Clues.Gaps());
   switch (format) {
     case SquareFormat::Csv:
       out << CsvOf(stored);
       break;
     case SquareFormat::Json: {
       JsonLine line = JsonLineOf(stored);
-      line.Add("solution", JsonRowsOf(StoredSquareOf(made.Solution, false)));
+      line.Add("solution", JsonRowsOf(StoredSquareOf(made.Solution, false).Cells));
       line.Add("grade", JsonString(NameOf(made.Needed))).Add("clues", clues);
       if (!code.empty()) line.Add("code", JsonString(code));
       out << line.Text() << "\n";

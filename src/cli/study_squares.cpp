@@ -1,5 +1,6 @@
 #include "cli/study_squares.h"
 
+#include <algorithm>
 #include <ostream>
 
 #include "cli/read_squares.h"
@@ -11,17 +12,16 @@ bool StudySquares(const SquareRequest& request, const Streams& streams) {
   bool allFull = true;
   const char* between = "";
   const bool allRead = ReadSquares(request.File, streams, [&](const StoredSquare& square) {
-    std::vector<double> numbers;
-    for (const auto& cell : square.Cells) {
-      if (!cell) {
-        streams.Err << kProgramName << NameOf(PlaceAt(numbers.size(), square.Order))
-                    << " is empty: only full squares can be studied\n";
-        allFull = false;
-        return;
-      }
-      numbers.push_back(*cell);
+    const auto gap = std::find(square.Cells.begin(), square.Cells.end(), std::nullopt);
+    if (gap != square.Cells.end()) {
+      const Place place = square.Cells.PlaceOf(static_cast<int>(gap - square.Cells.begin()));
+      streams.Err << kProgramName << NameOf(place)
+                  << " is empty: only full squares can be studied\n";
+      allFull = false;
+      return;
     }
-    const Report report = Study(NumberSquare(square.Order, std::move(numbers)));
+    const Report report = Study(NumberSquare(
+        SquareOf(square.Order(), [&](int cell) { return square.Cells[cell].value_or(0); })));
     if (request.Format == SquareFormat::Json) {
       streams.Out << JsonOf(report);
     } else {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -27,10 +26,10 @@ std::string JsonString(const std::string& text);
 
 /// The array of valueAt(0) to valueAt(count - 1).
 template <class ValueAt>
-std::string JsonArray(std::size_t count, ValueAt valueAt) {
+std::string JsonArray(int count, ValueAt valueAt) {
   std::string text = "[";
-  for (std::size_t i = 0; i < count; ++i)
-    text += (i > 0 ? ", " : "") + valueAt(i);
+  for (int i = 0; i < count; ++i)
+    text.append(i > 0 ? ", " : "").append(valueAt(i));
   return text + "]";
 }
 

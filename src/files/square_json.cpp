@@ -19,11 +19,13 @@ constexpr int kVersion = 1;
   throw Unreadable{why};
 }
 
-template <class ValueOf>
-std::string Rows(int order, ValueOf valueOf) {
-  const auto n = static_cast<std::size_t>(order);
-  return JsonArray(n, [&](std::size_t row) {
-    return JsonArray(n, [&](std::size_t column) { return valueOf(row * n + column); });
+/// The rows of a square, each value as written(value) has it.
+template <class T, class Write>
+std::string Rows(const Square<T>& square, Write written) {
+  return JsonArray(square.Order(), [&](int row) {
+    return JsonArray(square.Order(), [&](int column) {
+      return written(square[Place{row + 1, column + 1}]);
+    });
   });
 }
 
@@ -35,7 +37,7 @@ class Reader {
 
   StoredSquare Read() {
     CheckFormat();
-    square_.Order = Order();
+    order_ = Order();
     square_.Cells = Cells();
     square_.Total = Total();
     square_.Asked = Asked();
@@ -83,8 +85,8 @@ class Reader {
   }
 
   /// The entries of a member's rows, as many as a square of this order has.
-  std::vector<JsonValue> Entries(const char* name) const {
-    const auto order = static_cast<std::size_t>(square_.Order);
+  Square<JsonValue> Entries(const char* name) const {
+    const auto order = static_cast<std::size_t>(order_);
     const auto& rows = At(name).Rows;
     const std::string quoted = "\"" + std::string(name) + "\"";
     if (rows.size() != order) {
@@ -98,11 +100,11 @@ class Reader {
       }
       entries.insert(entries.end(), row.begin(), row.end());
     }
-    return entries;
+    return {order_, std::move(entries)};
   }
 
-  [[noreturn]] void FailIn(std::size_t cell, const std::string& why) const {
-    Fail(NameOf(PlaceAt(cell, square_.Order)) + ": " + why);
+  [[noreturn]] void FailIn(int cell, const std::string& why) const {
+    Fail(NameOf(PlaceAt(cell, order_)) + ": " + why);
   }
 
   /// Whether more digits were written than that; of more than 15 a double keeps some.
@@ -110,18 +112,17 @@ class Reader {
     return AsShown(number) != number || DigitsOf(Decimal(number)) > most;
   }
 
-  std::vector<std::optional<double>> Cells() const {
-    std::vector<std::optional<double>> cells;
-    for (const JsonValue& entry : Entries("rows")) {
-      const bool gap = entry.Is == Kind::Null;
-      if (!gap && entry.Is != Kind::Number) FailIn(cells.size(), "this is no number");
-      if (!gap && HasMoreDigits(entry.Number, kMostCellDigits)) {
-        FailIn(cells.size(),
-               "the number has more than " + std::to_string(kMostCellDigits) + " digits");
+  StoredCells Cells() const {
+    const Square<JsonValue> entries = Entries("rows");
+    return SquareOf(order_, [&](int cell) -> std::optional<double> {
+      const JsonValue& entry = entries[cell];
+      if (entry.Is == Kind::Null) return std::nullopt;
+      if (entry.Is != Kind::Number) FailIn(cell, "this is no number");
+      if (HasMoreDigits(entry.Number, kMostCellDigits)) {
+        FailIn(cell, "the number has more than " + std::to_string(kMostCellDigits) + " digits");
       }
-      cells.push_back(gap ? std::nullopt : std::optional(entry.Number));
-    }
-    return cells;
+      return entry.Number;
+    });
   }
 
   std::optional<double> Total() const {
@@ -141,20 +142,19 @@ class Reader {
     Fail("\"rules\" is neither normal nor positive");
   }
 
-  std::vector<bool> Givens() const {
-    std::vector<bool> givens;
-    if (!Has("givens")) return givens;
-    for (const JsonValue& entry : Entries("givens")) {
-      const std::size_t cell = givens.size();
-      if (entry.Is != Kind::Boolean) FailIn(cell, "\"givens\" has neither true nor false");
-      const bool given = entry.Number != 0;
+  Square<bool> Givens() const {
+    if (!Has("givens")) return {};
+    const Square<JsonValue> entries = Entries("givens");
+    return SquareOf(order_, [&](int cell) {
+      if (entries[cell].Is != Kind::Boolean) FailIn(cell, "\"givens\" has neither true nor false");
+      const bool given = entries[cell].Number != 0;
       if (given && !square_.Cells[cell]) FailIn(cell, "a gap cannot be given");
-      givens.push_back(given);
-    }
-    return givens;
+      return given;
+    });
   }
 
   JsonMembers members_;
+  int order_ = 0;
   StoredSquare square_;
 };
 
@@ -167,21 +167,17 @@ std::string JsonOf(const StoredSquare& square) {
 JsonLine JsonLineOf(const StoredSquare& square) {
   JsonLine line;
   line.Add("format", JsonString(kFormat)).Add("version", std::to_string(kVersion));
-  line.Add("order", std::to_string(square.Order));
+  line.Add("order", std::to_string(square.Order()));
   if (square.Total) line.Add("total", Decimal(*square.Total));
-  line.Add("rules", JsonString(NameOf(square.Asked))).Add("rows", JsonRowsOf(square));
-  if (!square.Givens.empty()) {
-    line.Add("givens", Rows(square.Order, [&](std::size_t cell) {
-               return std::string(square.Givens[cell] ? "true" : "false");
-             }));
+  line.Add("rules", JsonString(NameOf(square.Asked))).Add("rows", JsonRowsOf(square.Cells));
+  if (!square.Givens.IsEmpty()) {
+    line.Add("givens", Rows(square.Givens, [](bool given) { return given ? "true" : "false"; }));
   }
   return line;
 }
 
-std::string JsonRowsOf(const StoredSquare& square) {
-  return Rows(square.Order, [&](std::size_t cell) {
-    return square.Cells[cell] ? Decimal(*square.Cells[cell]) : "null";
-  });
+std::string JsonRowsOf(const StoredCells& cells) {
+  return Rows(cells, [](const auto& cell) { return cell ? Decimal(*cell) : "null"; });
 }
 
 bool LooksLikeJson(const std::string& text) {

@@ -19,7 +19,7 @@ std::string JsonOf(const StoredSquare& square);
 JsonLine JsonLineOf(const StoredSquare& square);
 
 /// Its rows alone: [[8, null, 6], ...].
-std::string JsonRowsOf(const StoredSquare& square);
+std::string JsonRowsOf(const StoredCells& cells);
 
 /// Whether a text is meant to be JSON: its first character is an opening brace.
 bool LooksLikeJson(const std::string& text);

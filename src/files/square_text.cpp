@@ -13,7 +13,7 @@ namespace numorra {
 namespace {
 
 /// One line of a text and its number, from 1.
-struct Line {
+struct TextLine {
   std::size_t Number;
   std::string Text;
 };
@@ -48,14 +48,14 @@ std::string Plain(std::string text) {
 
 constexpr std::string_view kSeparators = "\t;,";
 
-bool IsEmpty(const Line& line) {
+bool IsEmpty(const TextLine& line) {
   return IsEmptyLine(line.Text);
 }
 
 /// The lines from the first that is written on to the last. The text's first one has the number
 /// `first`.
-std::vector<Line> Lines(const std::string& text, std::size_t first) {
-  std::vector<Line> lines;
+std::vector<TextLine> Lines(const std::string& text, std::size_t first) {
+  std::vector<TextLine> lines;
   std::istringstream input(text);
   for (std::string line; std::getline(input, line);)
     lines.push_back({first++, line});
@@ -124,7 +124,7 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   if (text.find('\0') != std::string::npos) {
     throw Unreadable{"this is no text in UTF-8, as it holds characters of the code 0"};
   }
-  const std::vector<Line> lines = Lines(Plain(text), firstLine);
+  const std::vector<TextLine> lines = Lines(Plain(text), firstLine);
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {
     throw Unreadable{
@@ -132,12 +132,13 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   }
   std::vector<std::vector<std::string>> rows;
   rows.reserve(order);
-  for (const Line& line : lines) {
+  for (const TextLine& line : lines) {
     if (IsEmpty(line)) throw Unreadable{"line " + std::to_string(line.Number) + " is empty"};
     rows.push_back(Fields(line.Text));
   }
   DropTrailingSeparators(rows);
-  StoredSquare square{.Order = static_cast<int>(order)};
+  StoredCells cells(static_cast<int>(order));
+  auto cell = cells.begin();
   for (std::size_t row = 0; row < order; ++row) {
     if (rows[row].size() > order) {
       throw Unreadable{"line " + std::to_string(lines[row].Number) + " has " +
@@ -146,20 +147,18 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
     }
     rows[row].resize(order);
     for (const std::string& field : rows[row])
-      square.Cells.push_back(CellIn(field, lines[row].Number));
+      *cell++ = CellIn(field, lines[row].Number);
   }
-  return square;
+  return {.Cells = std::move(cells)};
 }
 
 /// A line a row, each cell as textOf(cell) has it.
 template <class TextOf>
 std::string Written(const StoredSquare& square, char between, TextOf textOf) {
   std::string text;
-  int column = 0;
-  for (const auto& cell : square.Cells) {
-    text += textOf(cell);
-    column = (column + 1) % square.Order;
-    text += column == 0 ? '\n' : between;
+  for (int cell = 0; cell < square.Cells.Size(); ++cell) {
+    text += textOf(square.Cells[cell]);
+    text += (cell + 1) % square.Order() == 0 ? '\n' : between;
   }
   return text;
 }

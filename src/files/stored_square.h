@@ -2,19 +2,25 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "app/board/rules.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
+/// Numbers, and nothing for a gap.
+using StoredCells = Square<std::optional<double>>;
+
 /// A square as files and the clipboard hold it.
 struct StoredSquare {
-  int Order = 0;
-  std::vector<std::optional<double>> Cells = {};  ///< in reading order; nothing is a gap
-  std::vector<bool> Givens = {};                  ///< by cell; empty when there are none
-  std::optional<double> Total = {};               ///< where it is stored
+  StoredCells Cells = {};
+  Square<bool> Givens = {};          ///< empty when there are none
+  std::optional<double> Total = {};  ///< where it is stored
   Rules Asked = Rules::Positive;
+
+  int Order() const { return Cells.Order(); }
+  bool IsGiven(int cell) const { return !Givens.IsEmpty() && Givens[cell]; }
+  bool HasGaps() const;
 
   bool operator==(const StoredSquare&) const = default;
 };

@@ -15,20 +15,20 @@ const Construction& ConstructionFor(int order) {
   return **found;
 }
 
-std::vector<WalkStep> WalkOf(int order, const std::vector<double>& numbers) {
-  if (WhyNoBoardHas(order)) return {};
-  const PlacedNumbers square(order, numbers);
-  if (!square.IsNormal()) return {};
+std::vector<WalkStep> WalkOf(const Square<double>& square) {
+  if (WhyNoBoardHas(square.Order())) return {};
+  const PlacedNumbers placed(square);
+  if (!placed.IsNormal()) return {};
   for (const Construction* const construction : kConstructions) {
-    if (!construction->Makes(order)) continue;
-    if (std::vector<WalkStep> steps = construction->StepsOf(square); !steps.empty()) return steps;
+    if (!construction->Makes(square.Order())) continue;
+    if (std::vector<WalkStep> steps = construction->StepsOf(placed); !steps.empty()) return steps;
   }
   return {};
 }
 
-std::vector<double> ExampleToWalk(int order) {
+Square<double> ExampleToWalk(int order) {
   BuildChoices firstOfAll;
-  return NumbersOf(ConstructionFor(order).Build(order, firstOfAll), order);
+  return SquareOf(ConstructionFor(order).Build(order, firstOfAll), order);
 }
 
 }  // namespace numorra

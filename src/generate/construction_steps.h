@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/board/place.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
@@ -19,11 +19,10 @@ struct WalkStep {
 };
 
 /// How a normal square is made by a construction of its order, step by step; the last step leaves
-/// the square itself. Empty where no construction makes the square. The numbers are in reading
-/// order.
-std::vector<WalkStep> WalkOf(int order, const std::vector<double>& numbers);
+/// the square itself. Empty where no construction makes the square.
+std::vector<WalkStep> WalkOf(const Square<double>& square);
 
 /// A square of the order, 3 to 50, that is good to walk through first, in reading order.
-std::vector<double> ExampleToWalk(int order);
+Square<double> ExampleToWalk(int order);
 
 }  // namespace numorra

@@ -55,7 +55,7 @@ WalkStep ExchangeOf(int small, Place atSmall, int large, Place atLarge) {
 std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
   const int n = square.Order();
   int turns = 0;
-  while (NumbersOf(SquareTurned(n, turns), n) != square.Numbers()) {
+  while (SquareOf(SquareTurned(n, turns), n) != square.Numbers()) {
     if (++turns == 4) return {};
   }
   // Where the turns have brought a cell.

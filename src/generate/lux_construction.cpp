@@ -76,11 +76,8 @@ CellTable BuildLux(int order, BuildChoices& choices) {
 /// The odd square under a square, by the first number of each block.
 PlacedNumbers OddSquareUnder(const PlacedNumbers& square) {
   const int m = square.Order() / 2;
-  std::vector<double> odd;
-  ForEachCell(m, [&](int row, int column) {
-    odd.push_back((square.At(CellsInOrder({row, column}, m)[0]) + 3) / 4.0);
-  });
-  return {m, std::move(odd)};
+  return PlacedNumbers(SquareOf(
+      m, [&](int cell) { return (square.At(CellsInOrder(PlaceAt(cell, m), m)[0]) + 3) / 4.0; }));
 }
 
 void WriteLetter(WalkStep& step, Place block, const Letter& letter) {

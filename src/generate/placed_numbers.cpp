@@ -5,13 +5,13 @@
 
 namespace numorra {
 
-PlacedNumbers::PlacedNumbers(int order, std::vector<double> numbers)
-    : order_(order), numbers_(std::move(numbers)), places_(numbers_.size() + 1) {
-  for (std::size_t i = 0; i < numbers_.size(); ++i) {
-    const double number = numbers_[i];
-    if (number < 1 || number > static_cast<double>(numbers_.size())) continue;
+PlacedNumbers::PlacedNumbers(Square<double> square)
+    : square_(std::move(square)), places_(static_cast<std::size_t>(square_.Size()) + 1) {
+  for (int cell = 0; cell < square_.Size(); ++cell) {
+    const double number = square_[cell];
+    if (number < 1 || number > square_.Size()) continue;
     const auto whole = static_cast<std::size_t>(number);
-    if (static_cast<double>(whole) == number) places_[whole] = PlaceAt(i, order_);
+    if (static_cast<double>(whole) == number) places_[whole] = square_.PlaceOf(cell);
   }
   isNormal_ =
       std::none_of(places_.begin() + 1, places_.end(), [](Place place) { return place.Row == 0; });

@@ -2,26 +2,25 @@
 
 #include <vector>
 
-#include "app/board/place.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
-/// A square of numbers in reading order, and where each of them stands.
+/// A square of numbers, and where each of them stands.
 class PlacedNumbers {
  public:
-  PlacedNumbers(int order, std::vector<double> numbers);
+  explicit PlacedNumbers(Square<double> square);
 
   /// Whether each of the numbers 1 to n x n stands in it once; what follows is for such squares.
   bool IsNormal() const { return isNormal_; }
 
-  int Order() const { return order_; }
-  const std::vector<double>& Numbers() const { return numbers_; }
-  int At(Place place) const { return static_cast<int>(numbers_[IndexOf(place, order_)]); }
+  int Order() const { return square_.Order(); }
+  const Square<double>& Numbers() const { return square_; }
+  int At(Place place) const { return static_cast<int>(square_[place]); }
   Place PlaceOf(int number) const { return places_[static_cast<std::size_t>(number)]; }
 
  private:
-  int order_;
-  std::vector<double> numbers_;
+  Square<double> square_;
   std::vector<Place> places_;  ///< by number; row 0 for those that are missing
   bool isNormal_;
 };

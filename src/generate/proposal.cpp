@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 
 namespace numorra {
@@ -18,13 +19,9 @@ double Draw(Random& random, double low, double high) {
 
 }  // namespace
 
-double MagicConstant(double order) {
-  return order * (order * order + 1) / 2;
-}
-
-std::string MagicConstantText(const std::string& size) {
+std::string NormalTotalText(const std::string& size) {
   try {
-    return Decimal(MagicConstant(Val(size)));
+    return Decimal(NormalTotal(Val(size)));
   } catch (const RuntimeError&) {
     return {};
   }
@@ -41,7 +38,7 @@ void ProposeSquare(SquareBoxes& boxes, Mode mode, Random& random) {
     if (size != shownSize || total != shownTotal) break;
   }
   boxes.SetSize(Decimal(size));
-  boxes.SetSum(Decimal(mode == ModeNormal ? MagicConstant(size) : total));
+  boxes.SetSum(Decimal(mode == ModeNormal ? NormalTotal(size) : total));
 }
 
 }  // namespace numorra

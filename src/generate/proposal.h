@@ -6,12 +6,9 @@
 
 namespace numorra {
 
-/// The magic constant n (n x n + 1) / 2 of the numbers 1 to n x n.
-double MagicConstant(double order);
-
-/// The same as the text for the sum box, for the text of the size box. Empty when the number is too
-/// large to be written.
-std::string MagicConstantText(const std::string& size);
+/// The normal total as the text for the sum box, for the text of the size box. Empty when the
+/// number is too large to be written.
+std::string NormalTotalText(const std::string& size);
 
 /// Proposes a size from 3 to 14 and a total by writing them into the boxes: in the Normal mode the
 /// magic constant, in the Variable mode a random total from n x n + 1 to 2 x n x n. Never proposes

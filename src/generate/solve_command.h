@@ -2,11 +2,9 @@
 
 #include <optional>
 
-#include "app/board/board.h"
+#include "app/board/command_context.h"
 #include "app/ports/build_options.h"
 #include "app/ports/build_stage.h"
-#include "app/ports/dialogs.h"
-#include "app/ports/square_boxes.h"
 #include "generate/normal_square.h"
 #include "generate/patterned_square.h"
 #include "generate/variable_square.h"
@@ -15,13 +13,9 @@
 namespace numorra {
 
 /// What the solve commands work on and speak with.
-struct SolvePorts {
-  Board& TheBoard;
-  SquareBoxes& Boxes;
+struct SolvePorts : CommandContext {
   BuildOptions& Options;
-  Dialogs& TheDialogs;
   BuildStage& Stage;
-  Random& TheRandom;
   ListBoy& List2;  ///< candidate corner values
   ListBoy& List3;  ///< a second work list, emptied with the first
 };

@@ -23,29 +23,30 @@ bool TopRowCommand::Run() {
   std::optional<TopRow> top;
   std::string text = Last4x4Preset;
   while (!top) {
-    const auto answer = dialogs_.AskText(kPrompt, text);
+    const auto answer = context_.TheDialogs.AskText(kPrompt, text);
     if (!answer) return false;
     text = *answer;
     top = ParseTopRow(text);
-    if (!top) dialogs_.Tell(kNotATopRow);
+    if (!top) context_.TheDialogs.Tell(kNotATopRow);
   }
   std::optional<TopRowSquare> found;
   {
     const BusyPointer busy(stage_);
-    found = FindTopRowSquare(*top, random_, [this] { stage_.Yield(); });
+    found = FindTopRowSquare(*top, context_.TheRandom, stage_);
   }
   if (!found) {
-    dialogs_.Tell(kNoSquare);
+    context_.TheDialogs.Tell(kNoSquare);
     return false;
   }
   Last4x4Preset = text;
-  board_.SolveMode = ModeVariable;
-  board_.BaseValue = ToInt16(BaseOf(found->Total, 4));
-  board_.TotalsChecked = false;
-  boxes_.SetSize("4");
-  boxes_.SetSum(Decimal(found->Total));
-  board_.ShowSquare(4, found->Total, Rules::Positive, found->Square);
-  if (found->Quality != TopRowQuality::AllNew) dialogs_.Tell(Explain(found->Quality));
+  Board& board = context_.TheBoard;
+  board.SolveMode = ModeVariable;
+  board.BaseValue = ToInt16(BaseOf(found->Total, 4));
+  board.TotalsChecked = false;
+  context_.Boxes.SetSize("4");
+  context_.Boxes.SetSum(Decimal(found->Total));
+  board.ShowSquare(4, found->Total, Rules::Positive, found->Square);
+  if (found->Quality != TopRowQuality::AllNew) context_.TheDialogs.Tell(Explain(found->Quality));
   return true;
 }
 

@@ -2,10 +2,8 @@
 
 #include <string>
 
-#include "app/board/board.h"
-#include "app/ports/build_stage.h"
-#include "app/ports/dialogs.h"
-#include "app/ports/square_boxes.h"
+#include "app/board/command_context.h"
+#include "app/ports/work_stage.h"
 #include "generate/top_row_square.h"
 
 namespace numorra {
@@ -14,19 +12,15 @@ namespace numorra {
 /// shows a 4 x 4 magic square with it.
 class TopRowCommand {
  public:
-  TopRowCommand(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage,
-                Random& random)
-      : board_(board), boxes_(boxes), dialogs_(dialogs), stage_(stage), random_(random) {}
+  TopRowCommand(const CommandContext& context, WorkStage& stage)
+      : context_(context), stage_(stage) {}
 
   /// True when a square was shown: the board is then one of the Variable mode.
   bool Run();
 
  private:
-  Board& board_;
-  SquareBoxes& boxes_;
-  Dialogs& dialogs_;
-  BuildStage& stage_;
-  Random& random_;
+  CommandContext context_;
+  WorkStage& stage_;
 
   /// The top row of the last square, with which the next question starts: a date makes a birthday
   /// square.

@@ -20,12 +20,11 @@ constexpr int kSteps = 4096;  // of the search between two yields
 /// can be; `cells_` holds those placed so far.
 class Search {
  public:
-  Search(const TopRow& top, TopRowQuality quality, Random& random,
-         const std::function<void()>& yield)
+  Search(const TopRow& top, TopRowQuality quality, Random& random, Yielding& yielding)
       : lowest_(quality == TopRowQuality::WithZeros ? 0 : 1),
         different_(quality <= TopRowQuality::Different),
         random_(random),
-        yield_(yield),
+        yielding_(yielding),
         sum_(std::accumulate(top.begin(), top.end(), 0)),
         used_(static_cast<std::size_t>(sum_) + 1) {
     for (int i = 0; i < 4; ++i) {
@@ -104,7 +103,7 @@ class Search {
     const int count = high - low + 1;
     const int start = random_.Between(0, count - 1);
     for (int step = 0; step < count; ++step) {
-      if (++steps_ % kSteps == 0) yield_();
+      if (++steps_ % kSteps == 0) yielding_.Yield();
       if (attempt(low + (start + step) % count)) return true;
     }
     return false;
@@ -128,7 +127,7 @@ class Search {
   int lowest_;
   bool different_;
   Random& random_;
-  const std::function<void()>& yield_;
+  Yielding& yielding_;
   int sum_;
   std::vector<char> used_;  ///< by number, up to the sum
   std::array<int, 16> cells_{};
@@ -177,12 +176,12 @@ std::optional<TopRow> ParseTopRow(const std::string& text) {
 }
 
 std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,
-                                             const std::function<void()>& yield) {
+                                             Yielding& yielding) {
   const double total = top[0] + top[1] + top[2] + top[3];
   for (const auto quality : {TopRowQuality::AllNew, TopRowQuality::Different,
                              TopRowQuality::Repeated, TopRowQuality::WithZeros}) {
     random.Reseed();
-    if (auto square = Search(top, quality, random, yield).Run()) {
+    if (auto square = Search(top, quality, random, yielding).Run()) {
       return TopRowSquare{*square, total, quality};
     }
   }

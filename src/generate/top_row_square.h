@@ -1,12 +1,12 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <string>
 
 #include "app/board/cell_table.h"
 #include "app/board/random.h"
+#include "app/ports/yielding.h"
 
 namespace numorra {
 
@@ -43,9 +43,8 @@ std::optional<TopRow> ParseTopRow(const std::string& text);
 ///     m  n  o  p
 ///
 /// A search over the four, each from a random start with wrap-around, pruned as soon as a cell is
-/// out of place, is complete: when it finds nothing there is nothing. `yield` is called now and
+/// out of place, is complete: when it finds nothing there is nothing. It yields now and
 /// then. Nothing when even zeros do not help.
-std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,
-                                             const std::function<void()>& yield);
+std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random, Yielding& yielding);
 
 }  // namespace numorra

@@ -41,6 +41,15 @@ VariableBuild VariableSquare::Build(const VariablePlan& plan, std::optional<doub
   return build;
 }
 
+VariableBuild VariableSquare::BuildInTries(const VariablePlan& plan, std::optional<double> corner) {
+  VariableBuild build;
+  int tries = 1;
+  do {
+    build = Build(plan, corner, tries);
+  } while (build.Status == SolveStatus::TryAgain && ++tries <= kTries);
+  return build;
+}
+
 void VariableSquare::SpreadAll(PatternedSquare& square, int tries) {
   if (!IsEvenSize(square.Order())) OddSizePass(square);
   if (tries == 1) ThirdCornerPass(square, false);

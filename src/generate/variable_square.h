@@ -46,6 +46,9 @@ class VariableSquare {
   /// `tries`: 1 for the first of several builds of a plan, which is varied more than later ones.
   VariableBuild Build(const VariablePlan& plan, std::optional<double> corner, int tries);
 
+  /// The first of up to kTries builds that is one; else the last.
+  VariableBuild BuildInTries(const VariablePlan& plan, std::optional<double> corner);
+
  private:
   static void SpreadAll(PatternedSquare& square, int tries);
   bool SpreadRemainder(TurningSquare& square, const VariablePlan& plan);

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "puzzle/code.h"
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 
 namespace numorra {
 namespace {
@@ -60,8 +60,8 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
   painter.setPen(QPen(Qt::black, kThick));
   painter.drawRect(board);
   painter.setPen(QPen(Qt::black, kThin));
-  for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell) {
-    const Place place = puzzle.PlaceOf(cell);
+  for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
+    const Place place = puzzle.Cells.PlaceOf(cell);
     const QRectF here(board.left() + (place.Column - 1) * side,
                       board.top() + (place.Row - 1) * side, side, side);
     painter.drawRect(here);
@@ -83,7 +83,7 @@ QString Missing(const Puzzle& puzzle) {
 }
 
 QString CodeText(const Puzzle& puzzle) {
-  return puzzle.Order > kMostCodedOrder ? QString() : QString::fromStdString(CodeOf(puzzle));
+  return puzzle.Order() > kMostCodedOrder ? QString() : QString::fromStdString(CodeOf(puzzle));
 }
 
 QString RulesText(const std::vector<MadePuzzle>& puzzles) {
@@ -162,7 +162,7 @@ void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
   for (int place = 0; place < wish_.PerPage; ++place) {
     const int number = first + place;
     if (number >= static_cast<int>(puzzles_.size())) break;
-    const int order = puzzles_[static_cast<std::size_t>(number)].Clues.Order;
+    const int order = puzzles_[static_cast<std::size_t>(number)].Clues.Order();
     const Slot slot{SlotArea(size, place), number};
     (answers ? PaintAnswer(painter, slot, CellSide(size, order))
              : PaintPuzzle(painter, slot, CellSide(size, order)));
@@ -193,7 +193,7 @@ void Worksheet::PaintCaptioned(QPainter& painter, const Slot& slot, double side,
                                const Puzzle& shown, const QString& above,
                                const QString& below) const {
   const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
-  const QRectF board = BoardIn(slot.Area, side, clues.Order);
+  const QRectF board = BoardIn(slot.Area, side, clues.Order());
   const double left = slot.Area.left();
   const double width = slot.Area.width();
   Write(painter, {left, board.top() - kCaption, width, kCaption}, Qt::AlignCenter, above,

@@ -27,19 +27,19 @@ std::int64_t LeastWithout(const std::vector<std::int64_t>& low, std::size_t with
 }  // namespace
 
 Candidates::Candidates(const Puzzle& puzzle)
-    : order_(puzzle.Order),
+    : order_(puzzle.Order()),
       most_(puzzle.Most()),
-      map_(LineMap::Of(puzzle.Order)),
-      gaps_(static_cast<int>(puzzle.Cells.size())),
-      values_(puzzle.Cells.size()),
-      low_(puzzle.Cells.size(), 1),
-      high_(puzzle.Cells.size(), most_),
-      count_(puzzle.Cells.size(), most_),
+      map_(LineMap::Of(puzzle.Order())),
+      gaps_(puzzle.Cells.Size()),
+      values_(At(gaps_)),
+      low_(At(gaps_), 1),
+      high_(At(gaps_), most_),
+      count_(At(gaps_), most_),
       rest_(At(map_.Lines()), puzzle.Target),
-      open_(At(map_.Lines()), puzzle.Order),
+      open_(At(map_.Lines()), puzzle.Order()),
       touched_(At(map_.Lines())) {
   for (int cell = 0; cell < Cells(); ++cell) {
-    const std::int64_t number = puzzle.Cells[At(cell)];
+    const std::int64_t number = puzzle.Cells[cell];
     if (number != 0) Take(cell, number);
   }
   for (int line = 0; line < map_.Lines(); ++line)

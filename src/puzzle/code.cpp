@@ -105,17 +105,16 @@ void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& mis
 /// Takes the puzzle's digits through the coder, one by one.
 void Pass(Coder& coder, Puzzle& puzzle) {
   constexpr std::uint64_t kRules = 3;  // of which one is free
-  puzzle.Order =
-      kMinOrder + static_cast<int>(coder.Digit(static_cast<std::uint64_t>(puzzle.Order - kMinOrder),
-                                               kCodedOrders));
+  const int order =
+      kMinOrder + static_cast<int>(coder.Digit(
+                      static_cast<std::uint64_t>(puzzle.Order() - kMinOrder), kCodedOrders));
+  if (puzzle.Order() != order) puzzle.Cells = Square<std::int64_t>(order);
   const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0 : 1, kRules);
   puzzle.Asked = rules == 0 ? Rules::Normal : Rules::Positive;
   puzzle.Target =
       rules == 0
-          ? NormalTotal(puzzle.Order)
+          ? NormalTotal(order)
           : static_cast<std::int64_t>(coder.Number(static_cast<std::uint64_t>(puzzle.Target)));
-  const auto order = static_cast<std::size_t>(puzzle.Order);
-  puzzle.Cells.resize(order * order);
   std::vector<std::int64_t> missing;
   for (std::int64_t number = 1; rules == 0 && number <= puzzle.Most(); ++number)
     missing.push_back(number);
@@ -205,7 +204,7 @@ std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
   for (const unsigned value : *values)
     number.Push(value, std::uint64_t{1} << kLetterBits);
   Coder coder(std::move(number));
-  Puzzle puzzle{kMinOrder, 0, Rules::Normal, false, {}};
+  Puzzle puzzle{.Cells = Square<std::int64_t>(kMinOrder)};
   Pass(coder, puzzle);
   const auto checked = PuzzleOf(StoredSquareOf(puzzle, true));
   if (!coder.AllRead() || std::holds_alternative<AgainstRules>(checked)) return Unreadable{kBroken};

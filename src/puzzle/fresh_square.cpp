@@ -8,33 +8,25 @@
 namespace numorra {
 namespace {
 
-Puzzle PuzzleOf(int order, std::int64_t total, Rules rules, const std::vector<double>& numbers) {
-  Puzzle puzzle{order, total, rules, false, {}};
-  for (const double number : numbers)
-    puzzle.Cells.push_back(static_cast<std::int64_t>(number));
-  return puzzle;
+Puzzle PuzzleOf(const Square<double>& square, std::int64_t total, Rules rules) {
+  return {Square<std::int64_t>(square), total, rules};
 }
 
 }  // namespace
 
-std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, BuildStage& stage) {
+std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, Yielding& yielding) {
   const int n = wish.Order;
+  SilentStage stage(&yielding);
   if (!wish.Total && !wish.LimitToNine) {
-    std::vector<double> numbers = NumbersOf(NormalSquare(random, stage).Build(n), n);
-    if (const auto varied = Varied(n, numbers, random)) numbers = *varied;
-    return PuzzleOf(n, NormalTotal(n), Rules::Normal, numbers);
+    const Square<double> square = SquareOf(NormalSquare(random, stage).Build(n), n);
+    return PuzzleOf(Varied(square, random).value_or(square), NormalTotal(n), Rules::Normal);
   }
   const auto total = static_cast<double>(wish.Total.value_or(NormalTotal(n)));
   const VariablePlan plan = PlanVariableSquare(n, total, wish.LimitToNine, false);
-  VariableSquare builder(random, stage);
-  for (int tries = 1; tries <= kTries; ++tries) {
-    const VariableBuild build = builder.Build(plan, {}, tries);
-    if (build.Status == SolveStatus::CellValueTooSmall) return std::nullopt;
-    if (build.Status == SolveStatus::TryAgain) continue;
-    return PuzzleOf(n, static_cast<std::int64_t>(build.Total), Rules::Positive,
-                    NumbersOf(build.Square, n));
-  }
-  return std::nullopt;
+  const VariableBuild build = VariableSquare(random, stage).BuildInTries(plan, {});
+  if (build.Status != SolveStatus::Built) return std::nullopt;
+  return PuzzleOf(SquareOf(build.Square, n), static_cast<std::int64_t>(build.Total),
+                  Rules::Positive);
 }
 
 }  // namespace numorra

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "app/board/random.h"
-#include "app/ports/build_stage.h"
+#include "app/ports/yielding.h"
 #include "puzzle/puzzle.h"
 
 namespace numorra {
@@ -19,6 +19,6 @@ struct SquareWish {
 /// A full square by lot: a normal one, or one of any total where a total or the limit is wished
 /// for. Nothing where there is none, or none was found in ten tries. The total is that of the
 /// square that was built: a limit or a small total may have corrected it.
-std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, BuildStage& stage);
+std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, Yielding& yielding);
 
 }  // namespace numorra

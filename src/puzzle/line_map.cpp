@@ -4,8 +4,8 @@
 #include <memory>
 #include <mutex>
 
+#include "app/board/line.h"
 #include "app/board/orders.h"
-#include "study/line.h"
 
 namespace numorra {
 
@@ -13,7 +13,7 @@ LineMap::LineMap(int order) : lines_(static_cast<std::size_t>(order * order)) {
   for (const Line line : MagicLines(order)) {
     std::vector<int> cells;
     for (int i = 0; i < order; ++i) {
-      cells.push_back(static_cast<int>(line.Cell(i, order)));
+      cells.push_back(line.Cell(i, order));
       lines_[static_cast<std::size_t>(cells.back())].push_back(static_cast<int>(cells_.size()));
     }
     cells_.push_back(std::move(cells));

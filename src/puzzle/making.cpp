@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 #include "puzzle/search.h"
 
 namespace numorra {
@@ -18,8 +18,8 @@ bool RulesSolve(const Puzzle& puzzle, Grade grade) {
 
 class Digger {
  public:
-  Digger(const Puzzle& square, const PuzzleWish& wish, Random& random, BuildStage& stage)
-      : square_(square), wish_(wish), random_(random), stage_(stage) {}
+  Digger(const Puzzle& square, const PuzzleWish& wish, Random& random, Yielding& yielding)
+      : square_(square), wish_(wish), random_(random), yielding_(yielding) {}
 
   MadePuzzle Dig() {
     Puzzle puzzle = square_;
@@ -29,7 +29,7 @@ class Digger {
     if (wish_.Wanted == Grade::Expert) {
       Remove(puzzle, [&](const Puzzle& dug) {
         return std::holds_alternative<OneSolution>(
-            Solve(dug, {.Nodes = kExpertNodes}, random_, stage_));
+            Solve(dug, {.Nodes = kExpertNodes}, random_, yielding_));
       });
     }
     return {puzzle, square_, GradeOf(puzzle)};
@@ -39,29 +39,27 @@ class Digger {
   bool AddClues(MadePuzzle& made, int clues) {
     for (const bool keepGrade : {true, false}) {
       for (const std::vector<int>& cells : CellsByLot()) {
-        const int have = square_.Order * square_.Order - made.Clues.Gaps();
+        const int have = square_.Cells.Size() - made.Clues.Gaps();
         if (have == clues) return true;
         if (have + static_cast<int>(cells.size()) > clues) continue;
-        if (made.Clues.Cells[static_cast<std::size_t>(cells[0])] != 0) continue;
-        stage_.Yield();
+        if (made.Clues.Cells[cells[0]] != 0) continue;
+        yielding_.Yield();
         Puzzle more = made.Clues;
-        for (const int cell : cells) {
-          more.Cells[static_cast<std::size_t>(cell)] =
-              square_.Cells[static_cast<std::size_t>(cell)];
-        }
+        for (const int cell : cells)
+          more.Cells[cell] = square_.Cells[cell];
         const Grade grade = GradeOf(more);
         if (keepGrade && grade != made.Needed) continue;
         made.Clues = std::move(more);
         made.Needed = grade;
       }
     }
-    return square_.Order * square_.Order - made.Clues.Gaps() == clues;
+    return square_.Cells.Size() - made.Clues.Gaps() == clues;
   }
 
  private:
   /// The cells that come and go together, in an order by lot.
   std::vector<std::vector<int>> CellsByLot() {
-    const int cells = square_.Order * square_.Order;
+    const int cells = square_.Cells.Size();
     std::vector<std::vector<int>> together;
     for (int cell = 0; cell < cells; ++cell) {
       const int opposite = cells - 1 - cell;
@@ -79,22 +77,20 @@ class Digger {
   template <class IsSolvable>
   void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
     for (const std::vector<int>& cells : CellsByLot()) {
-      if (puzzle.Cells[static_cast<std::size_t>(cells[0])] == 0) continue;
-      stage_.Yield();
+      if (puzzle.Cells[cells[0]] == 0) continue;
+      yielding_.Yield();
       for (const int cell : cells)
-        puzzle.Cells[static_cast<std::size_t>(cell)] = 0;
+        puzzle.Cells[cell] = 0;
       if (isSolvable(puzzle)) continue;
-      for (const int cell : cells) {
-        puzzle.Cells[static_cast<std::size_t>(cell)] =
-            square_.Cells[static_cast<std::size_t>(cell)];
-      }
+      for (const int cell : cells)
+        puzzle.Cells[cell] = square_.Cells[cell];
     }
   }
 
   const Puzzle& square_;
   const PuzzleWish& wish_;
   Random& random_;
-  BuildStage& stage_;
+  Yielding& yielding_;
 };
 
 }  // namespace
@@ -107,12 +103,12 @@ Grade GradeOf(const Puzzle& puzzle) {
 }
 
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
-                                                Random& random, BuildStage& stage) {
-  const int cells = square.Order * square.Order;
-  if (wish.Clues && (*wish.Clues < 0 || *wish.Clues >= cells)) {
+                                                Random& random, Yielding& yielding) {
+  const int cells = square.Cells.Size();
+  if (wish.ClueCount && (*wish.ClueCount < 0 || *wish.ClueCount >= cells)) {
     return CannotMake{"a puzzle of this size has fewer than " + std::to_string(cells) + " clues"};
   }
-  Digger digger(square, wish, random, stage);
+  Digger digger(square, wish, random, yielding);
   std::optional<MadePuzzle> best;
   int fewest = cells;
   bool passedBy = false;
@@ -120,8 +116,8 @@ std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const Puzz
     MadePuzzle made = digger.Dig();
     const int clues = cells - made.Clues.Gaps();
     fewest = std::min(fewest, clues);
-    if (wish.Clues && clues > *wish.Clues) continue;
-    if (wish.Clues && !digger.AddClues(made, *wish.Clues)) {
+    if (wish.ClueCount && clues > *wish.ClueCount) continue;
+    if (wish.ClueCount && !digger.AddClues(made, *wish.ClueCount)) {
       passedBy = true;
       continue;
     }
@@ -130,7 +126,7 @@ std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const Puzz
   }
   if (best) return *best;
   if (passedBy) {
-    return CannotMake{"symmetric gaps do not leave " + std::to_string(*wish.Clues) +
+    return CannotMake{"symmetric gaps do not leave " + std::to_string(*wish.ClueCount) +
                       " clues here: try one more or less"};
   }
   return CannotMake{"from this square a puzzle that is " + std::string(NameOf(wish.Wanted)) +

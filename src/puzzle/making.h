@@ -5,7 +5,7 @@
 #include <variant>
 
 #include "app/board/random.h"
-#include "app/ports/build_stage.h"
+#include "app/ports/yielding.h"
 #include "puzzle/candidates.h"
 
 namespace numorra {
@@ -13,8 +13,8 @@ namespace numorra {
 /// What a puzzle is to be like.
 struct PuzzleWish {
   Grade Wanted = Grade::Easy;
-  std::optional<int> Clues = {};  ///< how many numbers are given; as few as can be without
-  bool Symmetric = false;         ///< gaps in opposite cells, or in none of them
+  std::optional<int> ClueCount = {};  ///< how many numbers are given; as few as can be without
+  bool Symmetric = false;             ///< gaps in opposite cells, or in none of them
 };
 
 /// A puzzle with one solution, and the hardest rules that it needs.
@@ -46,7 +46,7 @@ inline constexpr std::int64_t kExpertNodes = 200;
 /// The grade of what was made is the hardest rule that it needs: several orders are tried for one
 /// of the grade that is wanted, and the hardest found is taken where the square gives none.
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
-                                                Random& random, BuildStage& stage);
+                                                Random& random, Yielding& yielding);
 
 /// The easiest grade whose rules solve the puzzle; expert where none does.
 Grade GradeOf(const Puzzle& puzzle);

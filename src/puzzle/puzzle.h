@@ -1,11 +1,9 @@
 #pragma once
 
-#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
-#include <vector>
 
 #include "app/board/orders.h"
 #include "app/board/place.h"
@@ -19,18 +17,17 @@ struct Puzzle {
   /// The largest target: all sums of a board then fit into 64 bits with room to spare.
   static constexpr std::int64_t kMostTarget = 1'000'000'000'000'000;
 
-  int Order = 0;
+  Square<std::int64_t> Cells = {};  ///< 0 is a gap
   std::int64_t Target = 0;
   Rules Asked = Rules::Normal;
-  bool LimitToNine = false;         ///< no number above 9; for the positive rules
-  std::vector<std::int64_t> Cells;  ///< in reading order; 0 is a gap
+  bool LimitToNine = false;  ///< no number above 9; for the positive rules
+
+  int Order() const { return Cells.Order(); }
 
   /// The largest number that may stand in it.
   std::int64_t Most() const;
 
   int Gaps() const;
-
-  Place PlaceOf(std::integral auto cell) const { return PlaceAt(cell, Order); }
 };
 
 /// A square that breaks its rules as it stands: one sentence, and the cell where there is one.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/board/numbers.h"
-#include "app/ports/timed_stage.h"
+#include "app/ports/timed_yielding.h"
 #include "puzzle/candidates.h"
 #include "study/special.h"
 
@@ -24,11 +24,11 @@ std::int64_t Luby(std::int64_t i) {
 class Search {
  public:
   /// Without random numbers there is the complete search alone.
-  Search(const Puzzle& puzzle, const SearchLimit& limit, Random* random, BuildStage& stage)
+  Search(const Puzzle& puzzle, const SearchLimit& limit, Random* random, Yielding& yielding)
       : puzzle_(puzzle),
         limit_(limit),
         random_(random),
-        stage_(stage),
+        yielding_(yielding),
         board_(puzzle),
         weights_(static_cast<std::size_t>(board_.Map().Lines()), 1) {}
 
@@ -72,16 +72,14 @@ class Search {
   /// half round is another.
   bool IsEmptyNormal() const {
     constexpr int kSmallestBordered = 5;
-    return board_.IsNormal() && puzzle_.Order >= kSmallestBordered &&
+    return board_.IsNormal() && puzzle_.Order() >= kSmallestBordered &&
            puzzle_.Gaps() == board_.Cells();
   }
   SearchResult Constructed() {
     SeveralSolutions both{puzzle_, puzzle_};
-    const std::vector<double> square = BorderedSquare(puzzle_.Order, *random_);
-    for (std::size_t cell = 0; cell < square.size(); ++cell) {
-      both.First.Cells[cell] = static_cast<std::int64_t>(square[cell]);
-      both.Second.Cells[square.size() - 1 - cell] = both.First.Cells[cell];
-    }
+    both.First.Cells = Square<std::int64_t>(BorderedSquare(puzzle_.Order(), *random_));
+    std::copy(both.First.Cells.begin(), both.First.Cells.end(),
+              std::make_reverse_iterator(both.Second.Cells.end()));
     return both;
   }
 
@@ -95,14 +93,14 @@ class Search {
     if (limit_.Nodes && static_cast<double>(nodes_) >= share * static_cast<double>(*limit_.Nodes)) {
       return true;
     }
-    return limit_.Seconds && stage_.SecondsWorked() >= share * *limit_.Seconds;
+    return limit_.Seconds && yielding_.SecondsWorked() >= share * *limit_.Seconds;
   }
 
   /// Notes a solution; true when enough are known.
   bool NoteSolution() {
     Puzzle solved = puzzle_;
     for (int cell = 0; cell < board_.Cells(); ++cell)
-      solved.Cells[static_cast<std::size_t>(cell)] = board_.Value(cell);
+      solved.Cells[cell] = board_.Value(cell);
     ++solutions_;
     if (!first_) {
       first_ = std::move(solved);
@@ -114,7 +112,7 @@ class Search {
 
   End Descend() {
     ++nodes_;
-    stage_.Yield();
+    yielding_.Yield();
     if (!board_.Propagate(Grade::Hard)) {
       if (board_.FailedLine() >= 0) ++weights_[static_cast<std::size_t>(board_.FailedLine())];
       return End::AllSeen;
@@ -188,7 +186,7 @@ class Search {
   const Puzzle& puzzle_;
   const SearchLimit& limit_;
   Random* random_;
-  TimedStage stage_;
+  TimedYielding yielding_;
   Candidates board_;
   std::vector<std::int64_t> weights_;  ///< by line: 1 and how often it was found impossible
   bool randomly_ = false;
@@ -215,13 +213,13 @@ std::string WhyOpen(const NotSettled& open, double seconds) {
 }
 
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,
-                   BuildStage& stage) {
-  return Search(puzzle, limit, &random, stage).Run();
+                   Yielding& yielding) {
+  return Search(puzzle, limit, &random, yielding).Run();
 }
 
 std::optional<std::int64_t> CountSolutions(const Puzzle& puzzle, std::int64_t most,
-                                           const SearchLimit& limit, BuildStage& stage) {
-  return Search(puzzle, limit, nullptr, stage).Count(most);
+                                           const SearchLimit& limit, Yielding& yielding) {
+  return Search(puzzle, limit, nullptr, yielding).Count(most);
 }
 
 }  // namespace numorra

@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "app/board/random.h"
-#include "app/ports/build_stage.h"
+#include "app/ports/yielding.h"
 #include "puzzle/puzzle.h"
 
 namespace numorra {
@@ -49,13 +49,13 @@ inline constexpr int kMostSearchedGaps = 1000;
 /// Hemery, Lecoutre and Sais 2004). A search that comes to its end by itself has seen all
 /// solutions.
 ///
-/// The stage is yielded to at every node; what it throws ends the search.
+/// The yielding is yielded to at every node; what it throws ends the search.
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,
-                   BuildStage& stage);
+                   Yielding& yielding);
 
 /// How many solutions a puzzle has, counted up to `most` by the complete search alone; nothing when
 /// the limit came first.
 std::optional<std::int64_t> CountSolutions(const Puzzle& puzzle, std::int64_t most,
-                                           const SearchLimit& limit, BuildStage& stage);
+                                           const SearchLimit& limit, Yielding& yielding);
 
 }  // namespace numorra

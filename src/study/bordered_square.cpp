@@ -96,13 +96,12 @@ Ring EvenRing(int order, Random& random) {
 
 /// The square with the ring around it, its numbers raised so that they follow the ring's small
 /// ones.
-std::vector<double> WithRing(const std::vector<double>& inner, int order, const Ring& ring) {
+Square<double> WithRing(const Square<double>& inner, const Ring& ring) {
+  const int order = inner.Order() + 2;
   const int numbers = order * order;
   const auto numberOf = [&](int entry) { return entry > 0 ? entry : numbers + 1 + entry; };
-  std::vector<double> square(static_cast<std::size_t>(numbers));
-  const auto put = [&](int i, int j, int entry) {
-    square[static_cast<std::size_t>(i * order + j)] = numberOf(entry);
-  };
+  Square<double> square(order);
+  const auto put = [&](int i, int j, int entry) { square[i * order + j] = numberOf(entry); };
   const int last = order - 1;
   put(0, 0, ring.Left);
   put(last, last, -ring.Left);
@@ -116,34 +115,32 @@ std::vector<double> WithRing(const std::vector<double>& inner, int order, const 
     put(i, 0, side);
     put(i, last, -side);
     for (int j = 1; j < last; ++j) {
-      square[static_cast<std::size_t>(i * order + j)] =
-          inner[static_cast<std::size_t>((i - 1) * (order - 2) + j - 1)] + 2 * order - 2;
+      square[i * order + j] = inner[Place{i, j}] + 2 * order - 2;
     }
   }
   return square;
 }
 
-std::vector<double> Core(bool even, Random& random) {
-  if (!even) return {8, 1, 6, 3, 5, 7, 4, 9, 2};
+Square<double> Core(bool even, Random& random) {
+  if (!even) return {3, {8, 1, 6, 3, 5, 7, 4, 9, 2}};
   const auto& squares = SquaresOfOrder4();
   const auto& chosen =
       squares[static_cast<std::size_t>(random.Between(0, static_cast<int>(squares.size()) - 1))];
-  return {chosen.begin(), chosen.end()};
+  return {4, {chosen.begin(), chosen.end()}};
 }
 
 }  // namespace
 
-std::vector<double> BorderedSquare(int order, Random& random) {
+Square<double> BorderedSquare(int order, Random& random) {
   const bool even = order % 2 == 0;
-  std::vector<double> square = Core(even, random);
+  Square<double> square = Core(even, random);
   for (int around = even ? 6 : 5; around <= order; around += 2) {
     Ring ring = even ? EvenRing(around, random) : OddRing(around, random);
     Shuffle(std::span(ring.Top), random);
     Shuffle(std::span(ring.Side), random);
-    square = ImageOf(random.Between(0, kImages - 1), around - 2, square);
-    square = WithRing(square, around, ring);
+    square = WithRing(ImageOf(random.Between(0, kImages - 1), square), ring);
   }
-  return ImageOf(random.Between(0, kImages - 1), order, square);
+  return ImageOf(random.Between(0, kImages - 1), square);
 }
 
 }  // namespace numorra

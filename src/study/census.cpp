@@ -73,8 +73,8 @@ const std::vector<Square4>& SquaresOfOrder4() {
   return squares;
 }
 
-std::optional<int> CensusNumber(const std::vector<double>& standardForm) {
-  if (standardForm.size() != kCells) return std::nullopt;
+std::optional<int> CensusNumber(const Square<double>& standardForm) {
+  if (standardForm.Size() != kCells) return std::nullopt;
   const auto& squares = SquaresOfOrder4();
   const auto isBefore = [](const auto& a, const auto& b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end());

@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "app/board/square.h"
+
 namespace numorra {
 
 /// A normal magic square of order 4, in reading order.
@@ -15,6 +17,6 @@ using Square4 = std::array<int, 16>;
 const std::vector<Square4>& SquaresOfOrder4();
 
 /// The place, from 1, of a standard form of order 4 among them; nothing for other squares.
-std::optional<int> CensusNumber(const std::vector<double>& standardForm);
+std::optional<int> CensusNumber(const Square<double>& standardForm);
 
 }  // namespace numorra

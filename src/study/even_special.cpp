@@ -19,9 +19,9 @@ struct Auxiliary {
   }
 };
 
-std::vector<double> EvenSquare(int n, const Auxiliary& a, const Auxiliary& b, Random& random) {
-  return NumbersOf(n, random,
-                   [&](int i, int j) { return std::pair(a.Digit(i, j), b.Digit(j, i)); });
+Square<double> EvenSquare(int n, const Auxiliary& a, const Auxiliary& b, Random& random) {
+  return SquareOfDigits(n, random,
+                        [&](int i, int j) { return std::pair(a.Digit(i, j), b.Digit(j, i)); });
 }
 
 /// 1, 3, 5, ..., n - 1, one of each pair, with signs and in an order by lot.
@@ -77,23 +77,23 @@ Auxiliary OppositeInFours(int n, Random& random) {
 }
 
 template <Auxiliary (*Make)(int, Random&)>
-std::vector<double> SquareOf(int n, Random& random) {
+Square<double> Made(int n, Random& random) {
   const Auxiliary a = Make(n, random);
   return EvenSquare(n, a, Make(n, random), random);
 }
 
 }  // namespace
 
-std::vector<double> MostPerfectSquare(int order, Random& random) {
-  return SquareOf<Alternating>(order, random);
+Square<double> MostPerfectSquare(int order, Random& random) {
+  return Made<Alternating>(order, random);
 }
 
-std::vector<double> EvenAssociative(int order, Random& random) {
-  return SquareOf<Opposite>(order, random);
+Square<double> EvenAssociative(int order, Random& random) {
+  return Made<Opposite>(order, random);
 }
 
-std::vector<double> EvenUltramagic(int order, Random& random) {
-  return SquareOf<OppositeInFours>(order, random);
+Square<double> EvenUltramagic(int order, Random& random) {
+  return Made<OppositeInFours>(order, random);
 }
 
 }  // namespace numorra

@@ -12,28 +12,26 @@ namespace {
 
 /// The cells by their numbers: counted where these are whole and near together, as they are on
 /// nearly every board, which is several times as fast as comparing them.
-std::vector<std::size_t> CellsByNumber(const NumberSquare& square) {
+std::vector<int> CellsByNumber(const NumberSquare& square) {
   const auto& numbers = square.Numbers();
-  std::vector<std::size_t> cells(numbers.size());
+  std::vector<int> cells(static_cast<std::size_t>(numbers.Size()));
   const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
   const double lowest = *least;
   const double span = *most - lowest;
   constexpr double kNear = 16;
   if (square.One() == 1 && square.HasUnits() && span <= kNear * static_cast<double>(cells.size())) {
-    const auto slot = [&](std::size_t cell) {
-      return static_cast<std::size_t>(numbers[cell] - lowest);
-    };
+    const auto slot = [&](int cell) { return static_cast<std::size_t>(numbers[cell] - lowest); };
     std::vector<std::size_t> ends(static_cast<std::size_t>(span) + 2);
-    for (std::size_t cell = 0; cell < cells.size(); ++cell)
+    for (int cell = 0; cell < numbers.Size(); ++cell)
       ++ends[slot(cell) + 1];
     std::partial_sum(ends.begin(), ends.end(), ends.begin());
-    for (std::size_t cell = 0; cell < cells.size(); ++cell)
+    for (int cell = 0; cell < numbers.Size(); ++cell)
       cells[ends[slot(cell)]++] = cell;
     return cells;
   }
-  std::iota(cells.begin(), cells.end(), std::size_t{0});
+  std::iota(cells.begin(), cells.end(), 0);
   std::stable_sort(cells.begin(), cells.end(),
-                   [&](std::size_t a, std::size_t b) { return numbers[a] < numbers[b]; });
+                   [&](int a, int b) { return numbers[a] < numbers[b]; });
   return cells;
 }
 
@@ -59,11 +57,11 @@ std::string Facts::Run(std::int64_t first, std::int64_t last) const {
          (first % Square.One() == 0 ? "" : " in steps of 1");
 }
 
-std::string Facts::NumberIn(std::size_t cell) const {
+std::string Facts::NumberIn(int cell) const {
   return Decimal(Square.Numbers()[cell]);
 }
 
-std::string Facts::NumberAndPlace(std::size_t cell) const {
+std::string Facts::NumberAndPlace(int cell) const {
   return NumberIn(cell) + " in " + NameOf(Square.PlaceOf(cell));
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "app/board/line.h"
 #include "study/judgement.h"
-#include "study/line.h"
 #include "study/number_square.h"
 
 namespace numorra {
@@ -15,11 +15,11 @@ struct Facts {
   explicit Facts(NumberSquare square);
 
   NumberSquare Square;
-  std::vector<Line> Lines;             ///< MagicLines
-  std::vector<std::int64_t> Sums;      ///< of the lines, in units; empty without units
-  std::int64_t Total = 0;              ///< which most lines share; among equals the first row's
-  int LinesOfTotal = 0;                ///< how many do
-  std::vector<std::size_t> Ascending;  ///< the cells from the smallest number to the largest
+  std::vector<Line> Lines;         ///< MagicLines
+  std::vector<std::int64_t> Sums;  ///< of the lines, in units; empty without units
+  std::int64_t Total = 0;          ///< which most lines share; among equals the first row's
+  int LinesOfTotal = 0;            ///< how many do
+  std::vector<int> Ascending;      ///< the cells from the smallest number to the largest
 
   int N() const { return Square.Order(); }
   double Smallest() const { return Square.Numbers()[Ascending.front()]; }
@@ -32,8 +32,8 @@ struct Facts {
   std::string Run(std::int64_t first, std::int64_t last) const;
 
   /// The number in a cell as it is shown, and where it stands: "7 in row 1, column 2".
-  std::string NumberIn(std::size_t cell) const;
-  std::string NumberAndPlace(std::size_t cell) const;
+  std::string NumberIn(int cell) const;
+  std::string NumberAndPlace(int cell) const;
 };
 
 }  // namespace numorra

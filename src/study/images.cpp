@@ -17,39 +17,25 @@ const char* NameOfImage(int image) {
 }
 
 /// Bit 0 mirrors left to right, bit 1 top to bottom, bit 2 exchanges rows and columns.
-std::size_t SourceInImage(int image, int i, int j, int order) {
+int SourceInImage(int image, int i, int j, int order) {
   if ((image & 4) != 0) std::swap(i, j);
   if ((image & 1) != 0) j = order - 1 - j;
   if ((image & 2) != 0) i = order - 1 - i;
-  return static_cast<std::size_t>(i * order + j);
+  return i * order + j;
 }
 
-std::vector<double> ImageOf(int image, int order, const std::vector<double>& numbers) {
-  std::vector<double> turned;
-  turned.reserve(numbers.size());
-  for (int i = 0; i < order; ++i) {
-    for (int j = 0; j < order; ++j)
-      turned.push_back(numbers[SourceInImage(image, i, j, order)]);
-  }
-  return turned;
+Square<double> ImageOf(int image, const Square<double>& square) {
+  const int n = square.Order();
+  return SquareOf(n, [&](int cell) { return square[SourceInImage(image, cell / n, cell % n, n)]; });
 }
 
-std::vector<double> StandardForm(int order, const std::vector<double>& numbers) {
-  const auto isBefore = [&](int a, int b) {
-    for (int i = 0; i < order; ++i) {
-      for (int j = 0; j < order; ++j) {
-        const double inA = numbers[SourceInImage(a, i, j, order)];
-        const double inB = numbers[SourceInImage(b, i, j, order)];
-        if (inA != inB) return inA < inB;
-      }
-    }
-    return false;
-  };
-  int best = 0;
+Square<double> StandardForm(const Square<double>& square) {
+  Square<double> smallest = square;
   for (int image = 1; image < kImages; ++image) {
-    if (isBefore(image, best)) best = image;
+    if (Square<double> other = ImageOf(image, square); other < smallest)
+      smallest = std::move(other);
   }
-  return ImageOf(best, order, numbers);
+  return smallest;
 }
 
 }  // namespace numorra

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <vector>
-
-#include "study/number_square.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
@@ -13,14 +11,13 @@ inline constexpr int kImages = 8;
 const char* NameOfImage(int image);
 
 /// The index of the cell of the square that stands at (i, j) of the image.
-std::size_t SourceInImage(int image, int i, int j, int order);
+int SourceInImage(int image, int i, int j, int order);
 
 /// Of the eight images the one that is smallest in reading order. For distinct numbers that is the
 /// one with the smallest of the corners at the top left and the smaller of its two neighbours to
 /// the right of it (Frénicle 1693). Two squares are the same when their standard forms are.
-std::vector<double> StandardForm(int order, const std::vector<double>& numbers);
+Square<double> StandardForm(const Square<double>& square);
 
-/// The image's numbers in reading order.
-std::vector<double> ImageOf(int image, int order, const std::vector<double>& numbers);
+Square<double> ImageOf(int image, const Square<double>& square);
 
 }  // namespace numorra

@@ -13,7 +13,7 @@ Judgement LinesReachTotal(const Facts& facts, std::size_t count, const std::stri
     if (facts.Sums[line] == facts.Total) continue;
     return Fails(NameOf(facts.Lines[line], facts.N()) + " adds up to " +
                      facts.Shown(facts.Sums[line]) + ", not " + facts.Shown(facts.Total),
-                 PlacesOf(facts.Lines[line], facts.Square));
+                 PlacesOf(facts.Lines[line], facts.N()));
   }
   return Holds(which + " add up to " + facts.Shown(facts.Total));
 }
@@ -24,7 +24,7 @@ Judgement DiagonalsReachTotal(const Facts& facts, const std::vector<Line>& diago
     if (sum == facts.Total) continue;
     return Fails(NameOf(diagonal, facts.N()) + " adds up to " + facts.Shown(sum) + ", not " +
                      facts.Shown(facts.Total),
-                 PlacesOf(diagonal, facts.Square));
+                 PlacesOf(diagonal, facts.N()));
   }
   return Holds({});
 }
@@ -38,13 +38,13 @@ Judgement PowersAreMagic(const Facts& facts, int exponent) {
   const std::int64_t most = exponent == 2 ? kMostSquared : kMostCubed;
   const std::string powers = exponent == 2 ? "squares" : "cubes";
   const auto& units = facts.Square.Units();
-  for (const std::size_t cell : {facts.Ascending.front(), facts.Ascending.back()}) {
+  for (const int cell : {facts.Ascending.front(), facts.Ascending.back()}) {
     if (std::abs(units[cell]) <= most) continue;
     return TooLarge("the " + powers + " of numbers like " + facts.NumberIn(cell) +
                     " are too large to be added exactly");
   }
   const auto sumOf = [&](Line line) {
-    return SumOf(line, facts.N(), [&](std::size_t cell) {
+    return SumOf(line, facts.N(), [&](int cell) {
       return units[cell] * units[cell] * (exponent == 2 ? 1 : units[cell]);
     });
   };
@@ -55,7 +55,7 @@ Judgement PowersAreMagic(const Facts& facts, int exponent) {
     if (sum == first) continue;
     return Fails("the " + powers + " in " + NameOf(line, facts.N()) + " add up to " + shown(sum) +
                      ", those in row 1 to " + shown(first),
-                 PlacesOf(line, facts.Square));
+                 PlacesOf(line, facts.N()));
   }
   return Holds("the " + powers + " in every line add up to " + shown(first));
 }
@@ -86,7 +86,7 @@ Judgement JudgePandiagonal(const Facts& facts) {
   if (Judgement diagonals = DiagonalsReachTotal(facts, broken); !diagonals) return diagonals;
   return Holds("all " + std::to_string(2 * facts.N()) + " wrapped diagonals add up to " +
                    facts.Shown(facts.Total) + ", such as " + NameOf(broken.front(), facts.N()),
-               PlacesOf(broken.front(), facts.Square));
+               PlacesOf(broken.front(), facts.N()));
 }
 
 Judgement JudgeSemiPandiagonal(const Facts& facts) {
@@ -99,7 +99,7 @@ Judgement JudgeSemiPandiagonal(const Facts& facts) {
   }
   return Holds(
       NameOf(falling, 4) + " and " + NameOf(rising, 4) + " add up to " + facts.Shown(facts.Total),
-      PlacesOf(falling, facts.Square));
+      PlacesOf(falling, facts.N()));
 }
 
 Judgement JudgeBimagic(const Facts& facts) {
@@ -119,8 +119,8 @@ Judgement JudgeHeterosquare(const Facts& facts) {
     const Line a = facts.Lines[lines[i - 1]];
     const Line b = facts.Lines[lines[i]];
     if (facts.Sums[lines[i - 1]] != facts.Sums[lines[i]]) continue;
-    std::vector<Place> cells = PlacesOf(a, facts.Square);
-    const std::vector<Place> others = PlacesOf(b, facts.Square);
+    std::vector<Place> cells = PlacesOf(a, facts.N());
+    const std::vector<Place> others = PlacesOf(b, facts.N());
     cells.insert(cells.end(), others.begin(), others.end());
     return Fails(NameOf(a, facts.N()) + " and " + NameOf(b, facts.N()) + " both add up to " +
                      facts.Shown(facts.Sums[lines[i]]),
@@ -140,7 +140,7 @@ Judgement JudgeAntimagic(const Facts& facts) {
     if (sum - before == facts.Square.One()) continue;
     return Fails("the next sum after " + facts.Shown(before) + " is " + facts.Shown(sum) +
                      ", that of " + NameOf(facts.Lines[lines[i]], facts.N()),
-                 PlacesOf(facts.Lines[lines[i]], facts.Square));
+                 PlacesOf(facts.Lines[lines[i]], facts.N()));
   }
   return Holds("the sums of its lines are those " +
                facts.Run(facts.Sums[lines.front()], facts.Sums[lines.back()]));

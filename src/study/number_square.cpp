@@ -19,17 +19,17 @@ bool ToUnits(double number, std::int64_t one, std::int64_t& units) {
 
 }  // namespace
 
-NumberSquare::NumberSquare(int order, std::vector<double> numbers)
-    : order_(order), numbers_(std::move(numbers)), units_(numbers_.size()) {
+NumberSquare::NumberSquare(Square<double> numbers)
+    : numbers_(std::move(numbers)), units_(numbers_.Order()) {
   const auto allAreWhole = [this] {
-    for (std::size_t cell = 0; cell < numbers_.size(); ++cell) {
+    for (int cell = 0; cell < numbers_.Size(); ++cell) {
       if (!ToUnits(numbers_[cell], one_, units_[cell])) return false;
     }
     return true;
   };
   while (!allAreWhole()) {
     if (++decimals_ > kMostDecimals) {
-      units_.clear();
+      units_ = {};
       return;
     }
     one_ *= 10;

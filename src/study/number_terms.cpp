@@ -13,9 +13,8 @@ template <class Visit>
 void ForEachNumber(const Facts& facts, Visit visit) {
   const auto& numbers = facts.Square.Numbers();
   for (auto cell = facts.Ascending.begin(); cell != facts.Ascending.end();) {
-    const auto next = std::find_if(cell, facts.Ascending.end(), [&](std::size_t other) {
-      return numbers[other] != numbers[*cell];
-    });
+    const auto next = std::find_if(cell, facts.Ascending.end(),
+                                   [&](int other) { return numbers[other] != numbers[*cell]; });
     if (visit(cell, next)) return;
     cell = next;
   }
@@ -31,8 +30,7 @@ Judgement NothingRepeated(const Facts& facts) {
   ForEachNumber(facts, [&](auto begin, auto end) {
     if (end - begin == 1) return false;
     found = Fails(facts.NumberIn(*begin) + " stands in it " + Times(end - begin));
-    std::for_each(begin, end,
-                  [&](std::size_t cell) { found.Cells.push_back(facts.Square.PlaceOf(cell)); });
+    std::for_each(begin, end, [&](int cell) { found.Cells.push_back(facts.Square.PlaceOf(cell)); });
     return true;
   });
   return found;
@@ -42,10 +40,10 @@ Judgement NothingRepeated(const Facts& facts) {
 
 Judgement JudgeNormal(const Facts& facts) {
   const auto& numbers = facts.Square.Numbers();
-  const auto count = static_cast<double>(numbers.size());
-  const std::string range = "1 to " + std::to_string(numbers.size());
-  std::vector<bool> seen(numbers.size());
-  for (const std::size_t cell : facts.Ascending) {
+  const int count = numbers.Size();
+  const std::string range = "1 to " + std::to_string(count);
+  std::vector<bool> seen(static_cast<std::size_t>(count));
+  for (const int cell : facts.Ascending) {
     const double number = numbers[cell];
     if (number < 1 || number > count || number != std::floor(number)) {
       return Fails(facts.NumberAndPlace(cell) + " is none of the numbers " + range,
@@ -69,8 +67,8 @@ Judgement JudgeConsecutive(const Facts& facts) {
   if (Judgement distinct = NothingRepeated(facts); !distinct) return distinct;
   const auto& units = facts.Square.Units();
   for (std::size_t i = 1; i < facts.Ascending.size(); ++i) {
-    const std::size_t before = facts.Ascending[i - 1];
-    const std::size_t cell = facts.Ascending[i];
+    const int before = facts.Ascending[i - 1];
+    const int cell = facts.Ascending[i];
     if (units[cell] - units[before] == facts.Square.One()) continue;
     return Fails("the next number after " + facts.NumberIn(before) + " is " + facts.NumberIn(cell),
                  {facts.Square.PlaceOf(before), facts.Square.PlaceOf(cell)});
@@ -82,10 +80,10 @@ Judgement JudgeConsecutive(const Facts& facts) {
 /// Numbers get their ranks, so that what has been seen in a line fits in a table.
 Judgement JudgeLatin(const Facts& facts) {
   const int n = facts.N();
-  std::vector<int> rank(facts.Ascending.size());
+  Square<int> rank(n);
   int ranks = 0;
   ForEachNumber(facts, [&](auto begin, auto end) {
-    std::for_each(begin, end, [&](std::size_t cell) { rank[cell] = ranks; });
+    std::for_each(begin, end, [&](int cell) { rank[cell] = ranks; });
     ++ranks;
     return false;
   });
@@ -97,7 +95,7 @@ Judgement JudgeLatin(const Facts& facts) {
     if (line.Way != Line::Row && line.Way != Line::Column) continue;
     std::vector<int> seenAt(static_cast<std::size_t>(n), -1);
     for (int i = 0; i < n; ++i) {
-      const std::size_t cell = line.Cell(i, n);
+      const int cell = line.Cell(i, n);
       int& seen = seenAt[static_cast<std::size_t>(rank[cell])];
       if (seen >= 0) {
         return Fails(facts.NumberIn(cell) + " stands in " + NameOf(line, n) + " twice",
@@ -110,7 +108,7 @@ Judgement JudgeLatin(const Facts& facts) {
 }
 
 Judgement JudgePrime(const Facts& facts) {
-  for (const std::size_t cell : facts.Ascending) {
+  for (const int cell : facts.Ascending) {
     if (IsPrime(facts.Square.Numbers()[cell])) continue;
     return Fails(facts.NumberAndPlace(cell) + " is not a prime", {facts.Square.PlaceOf(cell)});
   }

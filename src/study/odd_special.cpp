@@ -88,16 +88,16 @@ Digits NasikDigits(int n, Random& random) {
   return digits;
 }
 
-std::vector<double> OddSquare(int n, int step, const Digits& a, const Digits& b, Random& random) {
+Square<double> OddSquare(int n, int step, const Digits& a, const Digits& b, Random& random) {
   const int middle = (n - 1) / 2;
-  return NumbersOf(n, random, [&](int i, int j) {
+  return SquareOfDigits(n, random, [&](int i, int j) {
     return std::pair(a[IndexOf(step * i + j, n)] + middle, b[IndexOf(step * i - j, n)] + middle);
   });
 }
 
 /// With the digits mirrored where opposite cells have them: (n - 1 - i, n - 1 - j) takes the index
 /// t of A to -(step + 1) - t and that of B to -(step - 1) - t.
-std::vector<double> MirroredSquare(int n, int step, bool thirds, Random& random) {
+Square<double> MirroredSquare(int n, int step, bool thirds, Random& random) {
   const Digits a = MirroredDigits(n, -(step + 1), thirds, random);
   const Digits b = MirroredDigits(n, -(step - 1), thirds, random);
   return OddSquare(n, step, a, b, random);
@@ -105,16 +105,16 @@ std::vector<double> MirroredSquare(int n, int step, bool thirds, Random& random)
 
 }  // namespace
 
-std::vector<double> OddAssociative(int order, Random& random) {
+Square<double> OddAssociative(int order, Random& random) {
   return MirroredSquare(order, 1, false, random);
 }
 
-std::vector<double> OddPandiagonal(int order, Random& random) {
+Square<double> OddPandiagonal(int order, Random& random) {
   const Digits a = NasikDigits(order, random);
   return OddSquare(order, 2, a, NasikDigits(order, random), random);
 }
 
-std::vector<double> OddUltramagic(int order, Random& random) {
+Square<double> OddUltramagic(int order, Random& random) {
   return MirroredSquare(order, 2, order % 3 == 0, random);
 }
 

@@ -14,15 +14,12 @@ Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf par
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const auto& units = facts.Square.Units();
   const int n = facts.N();
-  const auto pairAt = [&](std::size_t cell) {
-    const int i = static_cast<int>(cell) / n;
-    return partnerOf(i, static_cast<int>(cell) % n);
-  };
-  const auto places = [&](std::size_t cell) {
+  const auto pairAt = [&](int cell) { return partnerOf(cell / n, cell % n); };
+  const auto places = [&](int cell) {
     return std::vector<Place>{facts.Square.PlaceOf(cell), facts.Square.PlaceOf(pairAt(cell))};
   };
   const std::int64_t wanted = units[0] + units[pairAt(0)];
-  for (std::size_t cell = 1; cell < units.size(); ++cell) {
+  for (int cell = 1; cell < units.Size(); ++cell) {
     const std::int64_t sum = units[cell] + units[pairAt(cell)];
     if (sum == wanted) continue;
     return Fails(facts.NumberAndPlace(cell) + " and " + facts.NumberAndPlace(pairAt(cell)) +
@@ -40,7 +37,7 @@ Judgement MiddleIsMagic(const Facts& facts, int k) {
   const auto sumOf = [&](Line line) {
     std::int64_t sum = 0;
     for (int i = 0; i < k; ++i) {
-      const auto inMiddle = static_cast<int>(line.Cell(i, k));
+      const int inMiddle = line.Cell(i, k);
       sum += units[facts.Square.Index(first + inMiddle / k, first + inMiddle % k)];
     }
     return sum;
@@ -53,7 +50,7 @@ Judgement MiddleIsMagic(const Facts& facts, int k) {
                              " square in the middle, " + NameOf(line, k) + " adds up to " +
                              facts.Shown(sum) + ", row 1 to " + facts.Shown(wanted));
     for (int i = 0; i < k; ++i) {
-      const auto inMiddle = static_cast<int>(line.Cell(i, k));
+      const int inMiddle = line.Cell(i, k);
       broken.Cells.push_back({first + inMiddle / k + 1, first + inMiddle % k + 1});
     }
     return broken;
@@ -171,14 +168,13 @@ Judgement JudgeBordered(const Facts& facts) {
     return std::min({place.Row, place.Column, n + 1 - place.Row, n + 1 - place.Column}) - 1;
   };
   std::vector<int> rings;
-  rings.reserve(units.size());
-  for (std::size_t cell = 0; cell < units.size(); ++cell)
+  for (int cell = 0; cell < units.Size(); ++cell)
     rings.push_back(ringOf(facts.Square.PlaceOf(cell)));
   for (int ring = (n - kSmallestMiddle) / 2; ring > 0; --ring) {
-    const std::size_t* before = nullptr;
-    for (const std::size_t& cell : facts.Ascending) {
+    const int* before = nullptr;
+    for (const int& cell : facts.Ascending) {
       if (rings[cell] < ring) continue;
-      const std::size_t* const last = std::exchange(before, &cell);
+      const int* const last = std::exchange(before, &cell);
       if (!last || units[cell] - units[*last] == facts.Square.One()) continue;
       const std::string side = std::to_string(n - 2 * ring);
       return Fails("in the " + side + " x " + side +

@@ -25,49 +25,40 @@ std::vector<int> DrawPermutation(int order, Random& random) {
   return lines;
 }
 
-std::vector<double> Permuted(const std::vector<double>& numbers, const std::vector<int>& lines) {
-  std::vector<double> permuted;
-  permuted.reserve(numbers.size());
-  for (const int i : lines) {
-    for (const int j : lines)
-      permuted.push_back(
-          numbers[static_cast<std::size_t>(i) * lines.size() + static_cast<std::size_t>(j)]);
-  }
-  return permuted;
+Square<double> Permuted(const Square<double>& square, const std::vector<int>& lines) {
+  const int n = square.Order();
+  const auto source = [&](int line) { return lines[static_cast<std::size_t>(line)]; };
+  return SquareOf(n, [&](int cell) { return square[source(cell / n) * n + source(cell % n)]; });
 }
 
 }  // namespace
 
-std::optional<std::vector<double>> Varied(int order, const std::vector<double>& numbers,
-                                          Random& random) {
+std::optional<Square<double>> Varied(const Square<double>& square, Random& random) {
   constexpr int kDraws = 1000;
   constexpr int kSmallestWithOthers = 4;
-  const std::vector<double> standard = StandardForm(order, numbers);
-  for (int draw = 0; order >= kSmallestWithOthers && draw < kDraws; ++draw) {
-    const auto permuted = Permuted(numbers, DrawPermutation(order, random));
-    if (StandardForm(order, permuted) == standard) continue;
-    return ImageOf(random.Between(0, kImages - 1), order, permuted);
+  const Square<double> standard = StandardForm(square);
+  for (int draw = 0; square.Order() >= kSmallestWithOthers && draw < kDraws; ++draw) {
+    const auto permuted = Permuted(square, DrawPermutation(square.Order(), random));
+    if (StandardForm(permuted) == standard) continue;
+    return ImageOf(random.Between(0, kImages - 1), permuted);
   }
   const int first = random.Between(1, kImages - 1);
   for (int image = 0; image < kImages; ++image) {
-    auto turned = ImageOf((first + image) % kImages, order, numbers);
-    if (turned != numbers) return turned;
+    auto turned = ImageOf((first + image) % kImages, square);
+    if (turned != square) return turned;
   }
   return std::nullopt;
 }
 
-std::vector<double> ComplementOf(const std::vector<double>& numbers) {
-  const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
-  std::vector<double> complement;
-  complement.reserve(numbers.size());
-  for (const double number : numbers) {
+Square<double> ComplementOf(const Square<double>& square) {
+  const auto [least, most] = std::minmax_element(square.begin(), square.end());
+  return SquareOf(square.Order(), [&, least = *least, most = *most](int cell) {
     DecimalSum sum;
-    sum.Add(*least);
-    sum.Add(*most);
-    sum.Subtract(number);
-    complement.push_back(sum.Total());
-  }
-  return complement;
+    sum.Add(least);
+    sum.Add(most);
+    sum.Subtract(square[cell]);
+    return sum.Total();
+  });
 }
 
 }  // namespace numorra

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "app/board/random.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
@@ -15,10 +15,9 @@ namespace numorra {
 /// permutation and its reverse give the same square. It is another square, not an image of this
 /// one, wherever the order (from 4 on) and its numbers allow that; else another image. Nothing
 /// when all its relatives look like itself.
-std::optional<std::vector<double>> Varied(int order, const std::vector<double>& numbers,
-                                          Random& random);
+std::optional<Square<double>> Varied(const Square<double>& square, Random& random);
 
 /// smallest + largest - number, for each number, as it is shown.
-std::vector<double> ComplementOf(const std::vector<double>& numbers);
+Square<double> ComplementOf(const Square<double>& square);
 
 }  // namespace numorra

@@ -11,13 +11,11 @@
 namespace numorra {
 namespace {
 
-/// The numbers of an order x order square on one line: "1 2 3 / 4 5 6 / 7 8 9".
-std::string OnOneLine(int order, const std::vector<double>& numbers) {
+/// The numbers of a square on one line: "1 2 3 / 4 5 6 / 7 8 9".
+std::string OnOneLine(const Square<double>& square) {
   std::string line;
-  int column = 0;
-  for (const double number : numbers) {
-    line += (line.empty() ? "" : column == 0 ? " / " : " ") + Decimal(number);
-    column = (column + 1) % order;
+  for (int cell = 0; cell < square.Size(); ++cell) {
+    line += (cell == 0 ? "" : cell % square.Order() == 0 ? " / " : " ") + Decimal(square[cell]);
   }
   return line;
 }
@@ -26,7 +24,7 @@ std::string RepeatedIn(const Facts& facts) {
   const auto& numbers = facts.Square.Numbers();
   std::vector<std::string> repeated;
   for (std::size_t i = 1; i < facts.Ascending.size(); ++i) {
-    const std::size_t cell = facts.Ascending[i];
+    const int cell = facts.Ascending[i];
     if (numbers[cell] != numbers[facts.Ascending[i - 1]]) continue;
     if (repeated.empty() || repeated.back() != facts.NumberIn(cell)) {
       repeated.push_back(facts.NumberIn(cell));
@@ -45,7 +43,7 @@ std::string RepeatedIn(const Facts& facts) {
 std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   constexpr int kLargestShown = 10;
   std::vector<Detail> details;
-  if (const FamousSquare* famous = FamousWithForm(report.Order, report.StandardForm)) {
+  if (const FamousSquare* famous = FamousWithForm(report.StandardForm)) {
     details.emplace_back("famous", famous->Story);
   }
   details.emplace_back("sum", facts.Square.HasUnits()
@@ -55,8 +53,8 @@ std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   details.emplace_back("smallest", Decimal(facts.Smallest()));
   details.emplace_back("largest", Decimal(facts.Largest()));
   details.emplace_back("repeated", RepeatedIn(facts));
-  if (report.Order <= kLargestShown) {
-    details.emplace_back("standard form", OnOneLine(report.Order, report.StandardForm));
+  if (facts.N() <= kLargestShown) {
+    details.emplace_back("standard form", OnOneLine(report.StandardForm));
   }
   if (report.Census > 0) {
     details.emplace_back("census number", std::to_string(report.Census) + " of the 880 of order 4");
@@ -78,19 +76,14 @@ std::string JsonByTerm(const Report& report, ValueOf valueOf) {
   return json.Text();
 }
 
-std::string JsonRows(int order, const std::vector<double>& numbers) {
-  return JsonRowsOf({.Order = order, .Cells = {numbers.begin(), numbers.end()}});
-}
-
 }  // namespace
 
 Report Study(NumberSquare square) {
   const Facts facts(std::move(square));
   Report report;
-  report.Order = facts.N();
   report.Numbers = facts.Square.Numbers();
   if (facts.Square.HasUnits()) report.Total = facts.Shown(facts.Total);
-  report.StandardForm = StandardForm(facts.N(), facts.Square.Numbers());
+  report.StandardForm = StandardForm(facts.Square.Numbers());
   report.Properties.reserve(Terms().size());
   for (const Term& term : Terms())
     report.Properties.push_back({&term, term.Judge(facts)});
@@ -114,7 +107,7 @@ const char* WordFor(Answer answer) {
 }
 
 std::string TextOf(const Report& report) {
-  const std::string order = std::to_string(report.Order);
+  const std::string order = std::to_string(report.Numbers.Order());
   std::string text = order + " x " + order + "\n";
   for (const auto& [name, value] : report.Details)
     text.append(name).append(": ").append(value).append("\n");
@@ -125,14 +118,14 @@ std::string TextOf(const Report& report) {
 
 std::string JsonOf(const Report& report) {
   JsonLine json;
-  json.Add("order", std::to_string(report.Order));
+  json.Add("order", std::to_string(report.Numbers.Order()));
   json.Add("total", report.Total.empty() ? "null" : report.Total);
   json.Add("properties",
            JsonByTerm(report, [](const Judgement& found) { return JsonWord(found.Says); }));
   json.Add("evidence",
            JsonByTerm(report, [](const Judgement& found) { return JsonString(found.Why); }));
-  json.Add("rows", JsonRows(report.Order, report.Numbers));
-  json.Add("standard-form", JsonRows(report.Order, report.StandardForm));
+  json.Add("rows", JsonRowsOf(StoredCells(report.Numbers)));
+  json.Add("standard-form", JsonRowsOf(StoredCells(report.StandardForm)));
   if (report.Census > 0) json.Add("census", std::to_string(report.Census));
   return json.Text() + "\n";
 }

@@ -19,12 +19,11 @@ using Detail = std::pair<std::string, std::string>;
 
 /// What a square is.
 struct Report {
-  int Order = 0;
-  std::vector<double> Numbers;       ///< in reading order
+  Square<double> Numbers;
   std::string Total;                 ///< which most lines share; empty when too large to say
   std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, fame
   std::vector<Property> Properties;  ///< one for each of Terms()
-  std::vector<double> StandardForm;
+  Square<double> StandardForm;
   int Census = 0;  ///< its number among the 880 of order 4; 0 for all others
 };
 

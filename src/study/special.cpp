@@ -77,15 +77,15 @@ const SpecialKind* FindSpecialKind(const std::string& term) {
   return found == kSpecialKinds.end() ? nullptr : found;
 }
 
-std::vector<double> AssociativeSquare(int order, Random& random) {
+Square<double> AssociativeSquare(int order, Random& random) {
   return order % 2 == 0 ? EvenAssociative(order, random) : OddAssociative(order, random);
 }
 
-std::vector<double> PandiagonalSquare(int order, Random& random) {
+Square<double> PandiagonalSquare(int order, Random& random) {
   return order % 2 == 0 ? MostPerfectSquare(order, random) : OddPandiagonal(order, random);
 }
 
-std::vector<double> UltramagicSquare(int order, Random& random) {
+Square<double> UltramagicSquare(int order, Random& random) {
   return order % 2 == 0 ? EvenUltramagic(order, random) : OddUltramagic(order, random);
 }
 

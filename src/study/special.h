@@ -2,9 +2,9 @@
 
 #include <array>
 #include <string>
-#include <vector>
 
 #include "app/board/random.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
@@ -17,8 +17,8 @@ struct SpecialKind {
   /// Why no normal square of this kind has the order, one of 3..50; empty where one has.
   std::string (*WhyNone)(int order);
 
-  /// The numbers, in reading order, of such a square; another at every call.
-  std::vector<double> (*Build)(int order, Random& random);
+  /// Such a square, another at every call.
+  Square<double> (*Build)(int order, Random& random);
 
   /// Whether all members of the family of such a square (study/relatives.h) are of this kind, too.
   bool KeptByFamily;
@@ -31,10 +31,10 @@ extern const std::array<SpecialKind, 5> kSpecialKinds;
 const SpecialKind* FindSpecialKind(const std::string& term);
 
 // Each for the orders at which WhyNone says nothing.
-std::vector<double> AssociativeSquare(int order, Random& random);
-std::vector<double> PandiagonalSquare(int order, Random& random);
-std::vector<double> MostPerfectSquare(int order, Random& random);
-std::vector<double> UltramagicSquare(int order, Random& random);
-std::vector<double> BorderedSquare(int order, Random& random);
+Square<double> AssociativeSquare(int order, Random& random);
+Square<double> PandiagonalSquare(int order, Random& random);
+Square<double> MostPerfectSquare(int order, Random& random);
+Square<double> UltramagicSquare(int order, Random& random);
+Square<double> BorderedSquare(int order, Random& random);
 
 }  // namespace numorra

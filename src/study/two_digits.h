@@ -31,24 +31,21 @@
 ///   the square is ultramagic.
 namespace numorra {
 
-std::vector<double> OddAssociative(int order, Random& random);
-std::vector<double> OddPandiagonal(int order, Random& random);
-std::vector<double> OddUltramagic(int order, Random& random);
+Square<double> OddAssociative(int order, Random& random);
+Square<double> OddPandiagonal(int order, Random& random);
+Square<double> OddUltramagic(int order, Random& random);
 
-std::vector<double> EvenAssociative(int order, Random& random);
-std::vector<double> EvenUltramagic(int order, Random& random);
+Square<double> EvenAssociative(int order, Random& random);
+Square<double> EvenUltramagic(int order, Random& random);
 
-/// The numbers n a + b + 1 in reading order, turned by lot. digitsAt(i, j) gives the pair {a, b}.
+/// The square of the numbers n a + b + 1, turned at random. digitsAt(i, j) gives the pair {a, b}.
 template <class DigitsAt>
-std::vector<double> NumbersOf(int order, Random& random, DigitsAt digitsAt) {
-  std::vector<double> numbers;
-  for (int i = 0; i < order; ++i) {
-    for (int j = 0; j < order; ++j) {
-      const auto [a, b] = digitsAt(i, j);
-      numbers.push_back(order * a + b + 1);
-    }
-  }
-  return ImageOf(random.Between(0, kImages - 1), order, numbers);
+Square<double> SquareOfDigits(int order, Random& random, DigitsAt digitsAt) {
+  const auto numberAt = [&](int cell) -> double {
+    const auto [a, b] = digitsAt(cell / order, cell % order);
+    return order * a + b + 1;
+  };
+  return ImageOf(random.Between(0, kImages - 1), SquareOf(order, numberAt));
 }
 
 /// `first`, which adds up to 0, and behind it quadruples of the numbers from `next` on, `step`

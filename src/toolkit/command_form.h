@@ -5,7 +5,7 @@
 
 #include <QDialog>
 
-#include "app/ports/build_stage.h"
+#include "app/ports/yielding.h"
 #include "toolkit/command_runner.h"
 
 namespace numorra {
@@ -31,10 +31,10 @@ class CommandForm : public QDialog {
   std::optional<int> closing_;  ///< the result to close with
 };
 
-/// A dialog as the stage of what it makes: it says so when that takes longer than a frame.
-class FormStage : public SilentStage {
+/// What a dialog makes yields here, and the dialog says so when that takes longer than a frame.
+class FormYielding : public Yielding {
  public:
-  FormStage(CommandRunner& runner, std::function<void()> onWait)
+  FormYielding(CommandRunner& runner, std::function<void()> onWait)
       : runner_(runner), onWait_(std::move(onWait)) {}
 
   void Yield() override {

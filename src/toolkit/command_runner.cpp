@@ -13,6 +13,7 @@
 namespace numorra {
 
 void CommandRunner::Run(std::string name, Command command) {
+  if (closed_) return;
   newestName_ = std::move(name);
   newest_ = std::move(command);
   superseded_ = true;
@@ -50,9 +51,9 @@ void CommandRunner::Yield() {
   if (superseded_) throw Superseded();
 }
 
-void CommandRunner::Stop() {
+void CommandRunner::Close() {
   newest_ = nullptr;
-  superseded_ = true;
+  superseded_ = closed_ = true;
 }
 
 }  // namespace numorra

@@ -46,8 +46,8 @@ class CommandRunner {
   /// Superseded when it is to make way.
   void Yield();
 
-  /// The window is closing: the running command is superseded and nothing runs after it.
-  void Stop();
+  /// For a window that closes: supersedes the running command, and runs none from now on.
+  void Close();
 
  private:
   Dialogs& dialogs_;
@@ -56,6 +56,7 @@ class CommandRunner {
   Command newest_;
   bool running_ = false;
   bool superseded_ = false;
+  bool closed_ = false;
   QElapsedTimer sinceYield_;
 };
 

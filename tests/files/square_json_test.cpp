@@ -18,11 +18,11 @@ const std::string kPuzzle =
     "\"rules\": \"normal\", \"rows\": [[8, null, 6], [3, 5, 7], [4, 9, 2]], "
     "\"givens\": [[true, false, true], [false, false, false], [false, false, false]]}\n";
 
-const StoredSquare kStored{.Order = 3,
-                           .Cells = {8, {}, 6, 3, 5, 7, 4, 9, 2},
-                           .Givens = {true, false, true, false, false, false, false, false, false},
-                           .Total = 15,
-                           .Asked = Rules::Normal};
+const StoredSquare kStored{
+    .Cells = {3, {8, {}, 6, 3, 5, 7, 4, 9, 2}},
+    .Givens = {3, {true, false, true, false, false, false, false, false, false}},
+    .Total = 15,
+    .Asked = Rules::Normal};
 
 TEST(SquareJson, IsWrittenOnOneLineAndReadInAnyForm) {
   EXPECT_EQ(JsonOf(kStored), kPuzzle);
@@ -37,7 +37,7 @@ TEST(SquareJson, IsWrittenOnOneLineAndReadInAnyForm) {
     EXPECT_EQ(std::get<StoredSquare>(read), kStored);
   }
   const auto rows = ReadSquareJson(R"({"rows": [[-8, 0.5, 6], [3, 5, 7], [4, 9, 2]]})");
-  EXPECT_EQ(std::get<StoredSquare>(rows), (StoredSquare{3, {-8, 0.5, 6, 3, 5, 7, 4, 9, 2}}));
+  EXPECT_EQ(std::get<StoredSquare>(rows), (StoredSquare{{3, {-8, 0.5, 6, 3, 5, 7, 4, 9, 2}}}));
 }
 
 TEST(SquareJson, ThatIsNoneIsRefusedWithItsPlace) {
@@ -84,13 +84,13 @@ TEST(Formats, ReadWhatTheyWrite) {
   for (const Format& format : kFormats) {
     EXPECT_EQ(FormatNamed(format.Name), format.Id);
     StoredSquare square = kStored;
-    if (format.Id != SquareFormat::Json) square = {.Order = 3, .Cells = kStored.Cells};
+    if (format.Id != SquareFormat::Json) square = {.Cells = kStored.Cells};
     const auto read = ReadSquare(format.Write(square));
     ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << format.Name;
     EXPECT_EQ(std::get<StoredSquare>(read), square) << format.Name;
   }
   EXPECT_EQ(FormatNamed("xml"), std::nullopt);
-  EXPECT_EQ(TextOf({.Order = 3, .Cells = {8, {}, 16, 3, 5, 7, 4, 9, 2}, .Total = 15}),
+  EXPECT_EQ(TextOf({.Cells = {3, {8, {}, 16, 3, 5, 7, 4, 9, 2}}, .Total = 15}),
             " 8  . 16\n 3  5  7\n 4  9  2\n\ntotal 15\n");
   const auto large = ReadSquare(std::string(kMostTextBytes, ' ') + kPuzzle);
   EXPECT_EQ(std::get<Unreadable>(large).Why, kTooLongForASquare);

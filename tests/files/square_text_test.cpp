@@ -6,8 +6,7 @@ namespace numorra {
 namespace {
 
 TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
-  using Cells = std::vector<std::optional<double>>;
-  const Cells loShu{8, 1, 6, 3, 5, 7, 4, 9, 2};
+  const StoredCells loShu{3, {8, 1, 6, 3, 5, 7, 4, 9, 2}};
   for (const char* text :
        {"8\t1\t6\n3\t5\t7\n4\t9\t2\n", "8\t1\t6\r\n3\t5\t7\r\n4\t9\t2",
         "8\t1\t6\r3\t5\t7\r4\t9\t2\r", "8\t1\t6\t\n3\t5\t7\t\n4\t9\t2\t", "8,1,6\n3,5,7\n4,9,2",
@@ -24,8 +23,9 @@ TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
   const auto signs = ReadSquareText(
       "\xE2\x88\x92"
       "1 -2.5 3\n4 5 6\n7 8 00000000000000000.5000");
-  EXPECT_EQ(std::get<StoredSquare>(signs).Cells, (Cells{-1, -2.5, 3, 4, 5, 6, 7, 8, 0.5}));
-  const Cells gaps{8, {}, 6, {}, 5, {}, 4, {}, {}};
+  EXPECT_EQ(std::get<StoredSquare>(signs).Cells,
+            (StoredCells{3, {-1, -2.5, 3, 4, 5, 6, 7, 8, 0.5}}));
+  const StoredCells gaps{3, {8, {}, 6, {}, 5, {}, 4, {}, {}}};
   for (const char* text : {"8 . 6\n- 5 _\n4", "8,,6\n,5,\n4,,", "8,,6\n,5\n4", "8\t\t6\n\t5\n4\n\n",
                            "8;-;6;\n;5;;\n4;_;;", "8 - 6\n\xE2\x88\x92 5\n4 . ."}) {
     const auto read = ReadSquareText(text);

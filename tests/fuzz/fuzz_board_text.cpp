@@ -10,10 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ScriptedDialogs dialogs;
   Board board;
   PlainBoxes boxes;
+  SeededRandom random(1);
   const std::string text = TextOf(data, size);
   const auto read = ReadSquareText(text);
   const auto* square = std::get_if<StoredSquare>(&read);
-  const bool pasted = PasteBoard(board, boxes, dialogs, text);
+  const bool pasted = PasteBoard({board, boxes, dialogs, random}, text);
   Check(pasted == (square != nullptr) && dialogs.Take().size() == (pasted ? 0 : 1));
   if (!pasted) return 0;
   for (const std::string& again : {BoardText(board), CsvOf(*square)}) {

@@ -8,20 +8,18 @@ using namespace numorra;
 namespace {
 
 bool Solves(const Puzzle& solved, const Puzzle& puzzle) {
-  slow::Rows rows(static_cast<std::size_t>(puzzle.Order));
-  for (std::size_t cell = 0; cell < solved.Cells.size(); ++cell) {
+  for (int cell = 0; cell < solved.Cells.Size(); ++cell) {
     if (puzzle.Cells[cell] != 0 && puzzle.Cells[cell] != solved.Cells[cell]) return false;
     if (solved.Cells[cell] < 1 || solved.Cells[cell] > puzzle.Most()) return false;
-    rows[cell / rows.size()].push_back(static_cast<double>(solved.Cells[cell]));
   }
-  if (puzzle.Asked == Rules::Normal) return slow::WhyNotNormal(rows).empty();
-  return slow::WhyNotMagic(rows, static_cast<double>(puzzle.Target)).empty();
+  if (puzzle.Asked == Rules::Normal) return slow::WhyNotNormal(RowsOf(solved.Cells)).empty();
+  return slow::WhyNotMagic(RowsOf(solved.Cells), static_cast<double>(puzzle.Target)).empty();
 }
 
 /// Every hint is right where there is one solution.
-void FollowHints(Puzzle board, const Puzzle& solved, BuildStage& stage) {
-  while (const auto step = NextStep(board, Grade::Hard, stage)) {
-    const auto cell = static_cast<std::size_t>(step->Cell);
+void FollowHints(Puzzle board, const Puzzle& solved, Yielding& yielding) {
+  while (const auto step = NextDeduction(board, Grade::Hard, yielding)) {
+    const int cell = step->Cell;
     Check(board.Cells[cell] == 0 && step->Number == solved.Cells[cell] && !step->Why.empty());
     board.Cells[cell] = step->Number;
   }
@@ -36,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   auto read = ReadSquareText(TextOf(data + 1, size - 1));
   auto* square = std::get_if<StoredSquare>(&read);
   constexpr int kMostOrder = 6;
-  if (!square || square->Order > kMostOrder) return 0;
+  if (!square || square->Order() > kMostOrder) return 0;
   square->Asked = data[0] % 2 == 0 ? Rules::Normal : Rules::Positive;
   const auto aim = AimOf(*square);
   if (aim) square->Total = aim->Target;

@@ -8,7 +8,7 @@ using namespace numorra;
 /// What Val reads, Str writes so that it reads the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text = TextOf(data, size);
-  MagicConstantText(text);
+  NormalTotalText(text);
   try {
     const double value = Val(text);
     Check(Val(Str(value)) == value);

@@ -13,12 +13,6 @@
 namespace numorra {
 namespace {
 
-std::vector<double> Flat(const CellTable& cells, int order) {
-  std::vector<double> numbers;
-  ForEachCell(order, [&](int r, int c) { numbers.push_back(cells(r, c)); });
-  return numbers;
-}
-
 bool Says(const std::string& sentence, const std::string& what) {
   return sentence.find(what) != std::string::npos;
 }
@@ -42,8 +36,9 @@ void ExpectTrueMove(const WalkStep& step, Place from, Place to, int n) {
 }
 
 /// Plays the steps: the last board is the square itself, and what is said is what is done.
-void ExpectWalk(int order, const std::vector<double>& square) {
-  const std::vector<WalkStep> steps = WalkOf(order, square);
+void ExpectWalk(const Square<double>& square) {
+  const int order = square.Order();
+  const std::vector<WalkStep> steps = WalkOf(square);
   ASSERT_FALSE(steps.empty()) << "order " << order;
   std::map<std::pair<int, int>, std::string> board;
   for (std::size_t i = 0; i < steps.size(); ++i) {
@@ -82,35 +77,35 @@ TEST(Walk, EndsAtEverySquareThatIsBuilt) {
   SilentStage stage;
   NormalSquare squares(random, stage);
   for (int order = 3; order <= kMaxOrder; ++order) {
-    ExpectWalk(order, ExampleToWalk(order));
+    ExpectWalk(ExampleToWalk(order));
     if (order % 2 == 0) {  // four quarter turns; or an odd square by lot
       for (int choice = 0; choice < 4; ++choice)
-        ExpectWalk(order, Flat(squares.Build(order), order));
+        ExpectWalk(SquareOf(squares.Build(order), order));
       continue;
     }
-    const auto starts = FindMagicStarts(order, MagicConstant(order));
+    const auto starts = FindMagicStarts(order, NormalTotal(order));
     for (std::size_t i = 0; i < starts.size(); i += order < 12 ? 1 : starts.size() / 4) {
       CellTable cells;
       FillByStepping(cells, order, starts[i].StartRow, starts[i].StartColumn,
                      kSteppings[starts[i].Pattern]);
-      ExpectWalk(order, Flat(cells, order));
+      ExpectWalk(SquareOf(cells, order));
     }
   }
   for (int image = 0; image < kImages; ++image)
-    ExpectWalk(5, ImageOf(image, 5, ExampleToWalk(5)));
+    ExpectWalk(ImageOf(image, ExampleToWalk(5)));
 }
 
 TEST(Walk, SaysWhatAClassNeedsToHear) {
-  const std::vector<WalkStep> odd = WalkOf(5, ExampleToWalk(5));
+  const std::vector<WalkStep> odd = WalkOf(ExampleToWalk(5));
   EXPECT_EQ(odd[0].Sentence, "1 goes to row 1, column 3");
   EXPECT_EQ(odd[1].Sentence,
             "2 goes up and to the right, out of the board at the top, so in at the bottom");
   EXPECT_EQ(odd[2].Sentence, "3 goes up and to the right");
   EXPECT_EQ(odd[5].Sentence, "6 finds 1 in its way up and to the right, so it goes below 5");
-  const std::vector<WalkStep> eight = WalkOf(8, ExampleToWalk(8));
+  const std::vector<WalkStep> eight = WalkOf(ExampleToWalk(8));
   EXPECT_EQ(eight[1].Sentence, "row 2 takes 9 to 16, from the left");
   EXPECT_EQ(eight[9].Sentence, "1 and 64, opposite each other, change places");
-  const std::vector<WalkStep> six = WalkOf(6, ExampleToWalk(6));
+  const std::vector<WalkStep> six = WalkOf(ExampleToWalk(6));
   EXPECT_EQ(six[0].Sentence,
             "every block of four cells gets a letter: 2 rows of L, one of U, none of X");
   EXPECT_EQ(six[2].Sentence,
@@ -124,14 +119,14 @@ TEST(Walk, SaysWhatAClassNeedsToHear) {
 }
 
 TEST(Walk, KnowsWhatItCannotExplain) {
-  EXPECT_TRUE(WalkOf(3, {4, 9, 2, 3, 5, 7, 8, 1, 5}).empty());
-  EXPECT_TRUE(WalkOf(4, {16, 3, 2, 13, 5, 10, 11, 8, 9, 6, 7, 12, 4, 15, 1, 14}).empty());
-  EXPECT_TRUE(WalkOf(5, {1, 23, 16, 4, 21, 15, 14, 7, 18, 11, 24, 17, 13,
-                         9, 2,  20, 8, 19, 12, 6,  5, 3,  10, 22, 25})
+  EXPECT_TRUE(WalkOf({3, {4, 9, 2, 3, 5, 7, 8, 1, 5}}).empty());
+  EXPECT_TRUE(WalkOf({4, {16, 3, 2, 13, 5, 10, 11, 8, 9, 6, 7, 12, 4, 15, 1, 14}}).empty());
+  EXPECT_TRUE(WalkOf({5, {1, 23, 16, 4, 21, 15, 14, 7, 18, 11, 24, 17, 13,
+                          9, 2,  20, 8, 19, 12, 6,  5, 3,  10, 22, 25}})
                   .empty());
-  EXPECT_TRUE(WalkOf(1, {1}).empty() && WalkOf(2, {1, 4, 3, 2}).empty());
-  EXPECT_TRUE(WalkOf(3, {0.5, 9, 2, 3, 5, 7, 8, 1, 6}).empty());
-  EXPECT_TRUE(WalkOf(3, {8, 1.5, 6, 3, 5, 7, 4, 9, 2}).empty());
+  EXPECT_TRUE(WalkOf({1, {1}}).empty() && WalkOf({2, {1, 4, 3, 2}}).empty());
+  EXPECT_TRUE(WalkOf({3, {0.5, 9, 2, 3, 5, 7, 8, 1, 6}}).empty());
+  EXPECT_TRUE(WalkOf({3, {8, 1.5, 6, 3, 5, 7, 4, 9, 2}}).empty());
 }
 
 }  // namespace

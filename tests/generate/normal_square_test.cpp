@@ -19,7 +19,7 @@ std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
       for (std::int16_t column = 1; column <= order; ++column) {
         CellTable cells;
         FillByStepping(cells, order, row, column, kSteppings[pattern]);
-        if (slow::WhyNotMagic(RowsOf(cells, order), MagicConstant(order)).empty()) {
+        if (slow::WhyNotMagic(RowsOf(cells, order), NormalTotal(order)).empty()) {
           kept.push_back({row, column, pattern});
         }
       }
@@ -30,10 +30,10 @@ std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
 
 TEST(FindMagicStarts, FindsWhatThePlainSearchFindsInItsOrder) {
   for (std::int16_t order = 1; order <= 17; order += 2) {
-    EXPECT_EQ(FindMagicStarts(order, MagicConstant(order)), PlainSearch(order)) << order;
+    EXPECT_EQ(FindMagicStarts(order, NormalTotal(order)), PlainSearch(order)) << order;
   }
-  EXPECT_EQ(FindMagicStarts(49, MagicConstant(49)).size(), 98U);
-  EXPECT_EQ(FindMagicStarts(45, MagicConstant(45)).size(), 30U);
+  EXPECT_EQ(FindMagicStarts(49, NormalTotal(49)).size(), 98U);
+  EXPECT_EQ(FindMagicStarts(45, NormalTotal(45)).size(), 30U);
 }
 
 TEST(NormalSquare, IsNormalAndMagicAtEveryOrder) {
@@ -70,7 +70,8 @@ TEST(NormalSquare, TurnsDoublyEvenSquaresOnAtEveryRun) {
   ScriptedRandom random({0.5});
   NotingStage stage;
   NormalSquare generator(random, stage);
-  CellTable expected = TableOf(ParseRows("16 2 3 13 / 5 11 10 8 / 9 7 6 12 / 4 14 15 1"));
+  CellTable expected =
+      TableOf(SquareFrom(ParseRows("16 2 3 13 / 5 11 10 8 / 9 7 6 12 / 4 14 15 1")));
   for (int run = 1; run <= 5; ++run) {
     RotateBoard90(expected, 4);
     EXPECT_EQ(RowsOf(generator.Build(4), 4), RowsOf(expected, 4)) << run;

@@ -37,9 +37,9 @@ TEST(MagicConstant, FollowsTheTextOfTheSizeBox) {
                                                        {"14", "1379"}, {"50", "62525"}, {"", "0"},
                                                        {"x", "0"},     {"-2", "-5"}};
   for (const auto& [size, sum] : cases)
-    EXPECT_EQ(MagicConstantText(size), sum) << size;
-  EXPECT_EQ(MagicConstantText(std::string(400, '9')), "");
-  EXPECT_EQ(MagicConstantText(std::string(150, '9')), "");
+    EXPECT_EQ(NormalTotalText(size), sum) << size;
+  EXPECT_EQ(NormalTotalText(std::string(400, '9')), "");
+  EXPECT_EQ(NormalTotalText(std::string(150, '9')), "");
 }
 
 }  // namespace

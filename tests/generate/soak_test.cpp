@@ -47,7 +47,7 @@ class BuildsByLot {
     TopRow top{};
     for (int& number : top)
       number = random_.Between(0, random_.Between(0, 1) ? 31 : 9999);
-    const auto found = FindTopRowSquare(top, random_, [] {});
+    const auto found = FindTopRowSquare(top, random_, stage_);
     if (!found && ++Unsolvable) return {};
     const slow::Rows rows = RowsOf(found->Square, 4);
     if (!std::equal(top.begin(), top.end(), rows[0].begin())) return "another top row";

@@ -25,7 +25,7 @@ class SolveCommandTest : public testing::Test, protected SolveHarness {
   }
 
   ScriptedRandom halves_{{0.5}};
-  SolveCommand dull_{{TheBoard, Boxes, Options, TheDialogs, Stage, halves_, List2, List3}};
+  SolveCommand dull_{{{TheBoard, Boxes, TheDialogs, halves_}, Options, Stage, List2, List3}};
 
   void ExpectSettled() {
     EXPECT_FALSE(Stage.Busy);

@@ -24,7 +24,7 @@ TEST(TopRows, AreFourNumbersAsInADate) {
 
 TEST(TopRowCommand, AsksUntilItIsOneAndKeepsWhatMadeASquare) {
   SolveHarness h;
-  TopRowCommand command(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage, h.TheRandom);
+  TopRowCommand command(h.Context(), h.Stage);
   const std::string prompt = "Top row: four numbers, such as the parts of a date ";
   h.TheDialogs.Texts = {"30,9,19", "31/12/19/99"};
   EXPECT_TRUE(command.Run());
@@ -99,12 +99,14 @@ TEST(TopRows, OfDatesMakeTheBestSquareThereIs) {
       continue;
     }
     const TopRow top{day, month, year / 100, year % 100};
-    int yields = 0;
-    const auto found = FindTopRowSquare(top, random, [&] { ++yields; });
+    constexpr int kMost = 1'000'000;
+    NotingStage stage;
+    stage.YieldsLeft = kMost;
+    const auto found = FindTopRowSquare(top, random, stage);
     ASSERT_TRUE(found);
     ++dates;
     ++count[static_cast<std::size_t>(found->Quality)];
-    worst = std::max(worst, yields);
+    worst = std::max(worst, kMost - stage.YieldsLeft);
     const auto rows = RowsOf(found->Square, 4);
     ASSERT_EQ(slow::WhyNotMagic(rows, day + month + top[2] + top[3]), "");
     ASSERT_TRUE(std::equal(top.begin(), top.end(), rows[0].begin()));
@@ -134,8 +136,9 @@ TEST(TopRows, AreDecidedSoon) {
     TopRow top{};
     for (int& number : top)
       number = random.Between(0, random.Between(0, 1) ? 9 : 9999);
-    int yields = 0;
-    const auto found = FindTopRowSquare(top, random, [&] { ASSERT_LT(++yields, 2000); });
+    NotingStage stage;
+    stage.YieldsLeft = 2000;
+    const auto found = FindTopRowSquare(top, random, stage);
     if (!found) continue;
     const double sum = top[0] + top[1] + top[2] + top[3];
     const auto rows = RowsOf(found->Square, 4);

@@ -55,6 +55,7 @@ class RefusedMemory : public PlayTest {
   PlainBoxes boxes_{"4", "34"};
   NotingStage stage_;
   SeededRandom lot_{1};
+  CommandContext context_{board_, boxes_, dialogs_, lot_};
 };
 
 constexpr const char* kOpen = "1 . . . / . 6 . . / . . 11 . / . . . .";
@@ -62,7 +63,7 @@ constexpr const char* kOne = "8 1 . / . 5 . / . . .";
 constexpr const char* kFull = "16 3 2 13 / 5 10 11 8 / 9 6 7 12 / 4 15 14 1";
 
 TEST_F(RefusedMemory, EndsASearchAndLeavesTheBoard) {
-  const auto fill = [&] { FillGaps(board_, false, dialogs_, stage_, lot_); };
+  const auto fill = [&] { FillGaps(context_, false, stage_); };
   EXPECT_GT(Refuse(kOpen, true, fill), 20);
   EXPECT_GT(Refuse(kOne, true, [&] { Hints(board_, lot_, stage_).Next(); }), 20);
   EXPECT_GT(Refuse(kOne, true, [&] { CheckEntries(board_, lot_, stage_); }), 10);
@@ -70,12 +71,12 @@ TEST_F(RefusedMemory, EndsASearchAndLeavesTheBoard) {
 }
 
 TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {
-  const auto vary = [&] { VaryBoard(board_, dialogs_, lot_); };
+  const auto vary = [&] { VaryBoard(context_); };
   EXPECT_GT(Refuse(kFull, false, vary), 5);
-  EXPECT_GT(Refuse(kFull, false, [&] { ComplementBoard(board_, boxes_, dialogs_); }), 3);
-  EXPECT_GT(Refuse(kFull, false, [&] { BringToStandardForm(board_, dialogs_); }), 3);
-  EXPECT_GT(Refuse(kFull, false, [&] { LayOutFamous(FamousSquares().back(), board_, boxes_); }), 3);
-  const auto special = [&] { LayOutSpecial(kSpecialKinds[1], board_, boxes_, dialogs_, lot_); };
+  EXPECT_GT(Refuse(kFull, false, [&] { ComplementBoard(context_); }), 3);
+  EXPECT_GT(Refuse(kFull, false, [&] { BringToStandardForm(context_); }), 3);
+  EXPECT_GT(Refuse(kFull, false, [&] { LayOutFamous(FamousSquares().back(), context_); }), 3);
+  const auto special = [&] { LayOutSpecial(kSpecialKinds[1], context_); };
   EXPECT_GT(Refuse(kFull, false, special), 3);
   EXPECT_GT(Refuse(kFull, true, [&] { TextOf(Study(*SquareOn(board_))); }), 20);
   const auto make = [&] {

@@ -31,7 +31,7 @@ class Monkey {
   std::string LastDone;
 
  private:
-  using Deed = void (Monkey::*)();
+  using CommandResult = void (Monkey::*)();
 
   int Below(int bound) { return static_cast<int>(dice_() % static_cast<unsigned>(bound)); }
   template <class List>

@@ -105,14 +105,13 @@ class WorksheetTest : public testing::Test {
       if (number && before != "total") numbers.push_back(word);
       before = word.Text;
     }
-    const auto first = static_cast<std::size_t>(place) * solution.Cells.size();
-    numbers = {numbers.begin() + static_cast<std::ptrdiff_t>(first),
-               numbers.begin() + static_cast<std::ptrdiff_t>(first + solution.Cells.size())};
+    const auto first = place * solution.Cells.Size();
+    numbers = {numbers.begin() + first, numbers.begin() + first + solution.Cells.Size()};
     const QPointF start = numbers.front().Box.center();
     const QPointF step = (numbers.back().Box.center() - start) / (kOrder - 1);
     EXPECT_NEAR(step.x(), step.y(), 0.2);
     for (std::size_t cell = 0; cell < numbers.size(); ++cell) {
-      EXPECT_EQ(numbers[cell].Text.toInt(), solution.Cells[cell]);
+      EXPECT_EQ(numbers[cell].Text.toInt(), solution.Cells[static_cast<int>(cell)]);
       const QPointF at = numbers[cell].Box.center() - start;
       EXPECT_NEAR(at.x(), static_cast<double>(cell % kOrder) * step.x(), 0.3);
       EXPECT_NEAR(at.y(), static_cast<double>(cell / kOrder) * step.y(), 0.3);

@@ -5,8 +5,8 @@
 
 #include "files/square_json.h"
 #include "puzzle/code.h"
+#include "puzzle/deduction.h"
 #include "puzzle/fresh_square.h"
-#include "puzzle/rules.h"
 #include "puzzle/search.h"
 #include "support/puzzle_judge.h"
 #include "support/soak.h"
@@ -25,7 +25,7 @@ class MakingTest : public testing::Test {
   std::variant<MadePuzzle, CannotMake> Make(const Puzzle& square, const PuzzleWish& wish) {
     return MakePuzzle(square, wish, random_, stage_);
   }
-  static int Clues(const Puzzle& puzzle) { return puzzle.Order * puzzle.Order - puzzle.Gaps(); }
+  static int Clues(const Puzzle& puzzle) { return puzzle.Cells.Size() - puzzle.Gaps(); }
 
   SeededRandom random_{21};
   SilentStage stage_;
@@ -94,7 +94,7 @@ TEST_F(MakingTest, KeepsToTheCluesAndTheSymmetry) {
   ASSERT_TRUE(std::holds_alternative<MadePuzzle>(symmetric));
   const Puzzle& clues = std::get<MadePuzzle>(symmetric).Clues;
   EXPECT_EQ(Clues(clues), 17);
-  for (std::size_t cell = 0; cell < 25; ++cell)
+  for (int cell = 0; cell < 25; ++cell)
     EXPECT_EQ(clues.Cells[cell] == 0, clues.Cells[24 - cell] == 0);
   const auto why = [&](const PuzzleWish& wish) {
     const auto result = Make(square, wish);
@@ -161,8 +161,8 @@ TEST(Code, OfVersion1IsReadForEver) {
             "null, null]]"}}) {
     const auto square = ReadSquareOrCode(code);
     ASSERT_TRUE(std::holds_alternative<StoredSquare>(square));
-    EXPECT_EQ(JsonRowsOf(std::get<StoredSquare>(square)), rows);
-    EXPECT_FALSE(std::get<StoredSquare>(square).Givens.empty());
+    EXPECT_EQ(JsonRowsOf(std::get<StoredSquare>(square).Cells), rows);
+    EXPECT_FALSE(std::get<StoredSquare>(square).Givens.IsEmpty());
   }
   for (const char* broken : {"NP", "NP1", "NP2H7FKRSZ", "NP1H7FKRS!", "NP1H7FKRS"}) {
     const auto read = ReadSquareOrCode(broken);

@@ -5,7 +5,7 @@
 #include <numeric>
 #include <thread>
 
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 #include "study/special.h"
 #include "support/boards.h"
 #include "support/squares_of_order4.h"
@@ -17,24 +17,11 @@ namespace {
 /// Gaps are 0.
 Puzzle PuzzleFrom(const std::string& rows, std::int64_t target, Rules rules = Rules::Normal,
                   bool limit = false) {
-  const slow::Rows parsed = ParseRows(rows);
-  Puzzle puzzle{static_cast<int>(parsed.size()), target, rules, limit, {}};
-  for (const auto& row : parsed) {
-    for (const double number : row)
-      puzzle.Cells.push_back(static_cast<std::int64_t>(number));
-  }
-  return puzzle;
-}
-
-slow::Rows RowsOf(const Puzzle& puzzle) {
-  slow::Rows rows(static_cast<std::size_t>(puzzle.Order));
-  for (std::size_t cell = 0; cell < puzzle.Cells.size(); ++cell)
-    rows[cell / rows.size()].push_back(static_cast<double>(puzzle.Cells[cell]));
-  return rows;
+  return {Square<std::int64_t>(SquareFrom(ParseRows(rows))), target, rules, limit};
 }
 
 bool Fits(const Puzzle& solved, const Puzzle& clues) {
-  for (std::size_t cell = 0; cell < clues.Cells.size(); ++cell) {
+  for (int cell = 0; cell < clues.Cells.Size(); ++cell) {
     if (clues.Cells[cell] != 0 && clues.Cells[cell] != solved.Cells[cell]) return false;
   }
   return true;
@@ -42,20 +29,17 @@ bool Fits(const Puzzle& solved, const Puzzle& clues) {
 
 /// A normal square with only `share` per cent of its numbers left.
 Puzzle WithGaps(Puzzle puzzle, int share, Random& random) {
-  std::vector<std::size_t> cells(puzzle.Cells.size());
-  std::iota(cells.begin(), cells.end(), 0U);
+  std::vector<int> cells(static_cast<std::size_t>(puzzle.Cells.Size()));
+  std::iota(cells.begin(), cells.end(), 0);
   Shuffle(std::span(cells), random);
   cells.resize(cells.size() - cells.size() * static_cast<std::size_t>(share) / 100);
-  for (const std::size_t cell : cells)
+  for (const int cell : cells)
     puzzle.Cells[cell] = 0;
   return puzzle;
 }
 
-Puzzle SquareOf(int order, Random& random) {
-  Puzzle puzzle{order, NormalTotal(order), Rules::Normal, false, {}};
-  for (const double number : BorderedSquare(order, random))
-    puzzle.Cells.push_back(static_cast<std::int64_t>(number));
-  return puzzle;
+Puzzle Bordered(int order, Random& random) {
+  return {Square<std::int64_t>(BorderedSquare(order, random)), NormalTotal(order)};
 }
 
 class SearchTest : public testing::Test {
@@ -97,7 +81,7 @@ TEST_F(SearchTest, CountsItsOwnTimeAlone) {
 }
 
 TEST_F(SearchTest, SaysWhatIsOpenAndWhy) {
-  Puzzle wide{33, 90'000, Rules::Positive, false, std::vector<std::int64_t>(std::size_t{33} * 33)};
+  Puzzle wide{Square<std::int64_t>(33), 90'000, Rules::Positive};
   wide.Cells[0] = 2000;
   const SearchResult result = Solve(wide, {.Seconds = 3}, random_, stage_);
   EXPECT_EQ(WhyOpen(std::get<NotSettled>(result), 3),
@@ -115,16 +99,11 @@ TEST_F(SearchTest, AgreesWithTheListOfAllSquares) {
     for (int draw = 0; draw < 6; ++draw) {
       Puzzle whole = PuzzleFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
       const slow::Rows& chosen = all[static_cast<std::size_t>(random_.Between(0, 7039))];
-      for (std::size_t cell = 0; cell < 16; ++cell)
-        whole.Cells[cell] = static_cast<std::int64_t>(chosen[cell / 4][cell % 4]);
+      whole.Cells = Square<std::int64_t>(SquareFrom(chosen));
       Puzzle puzzle = WithGaps(whole, share, random_);
       if (draw % 2 == 1) std::swap(puzzle.Cells[0], puzzle.Cells[6]);
       const auto solutions = std::count_if(all.begin(), all.end(), [&](const slow::Rows& square) {
-        for (std::size_t cell = 0; cell < 16; ++cell) {
-          const auto clue = static_cast<double>(puzzle.Cells[cell]);
-          if (clue != 0 && clue != square[cell / 4][cell % 4]) return false;
-        }
-        return true;
+        return Fits({Square<std::int64_t>(SquareFrom(square))}, puzzle);
       });
       const SearchResult result = Find(puzzle);
       EXPECT_EQ(result.index(), solutions == 0 ? 2U : solutions == 1 ? 0U : 1U) << solutions;
@@ -136,7 +115,7 @@ TEST_F(SearchTest, AgreesWithTheListOfAllSquares) {
 TEST_F(SearchTest, GivesBackSquaresThatFitTheClues) {
   for (int order = 5; order <= 8; ++order) {
     for (const int share : {0, 30, 50, 70, 90}) {
-      const Puzzle clues = WithGaps(SquareOf(order, random_), share, random_);
+      const Puzzle clues = WithGaps(Bordered(order, random_), share, random_);
       const SearchResult result = Find(clues, 3000);
       std::vector<Puzzle> found;
       if (const auto* one = std::get_if<OneSolution>(&result)) found = {one->Solved};
@@ -151,7 +130,7 @@ TEST_F(SearchTest, GivesBackSquaresThatFitTheClues) {
       EXPECT_TRUE(share < 70 || std::holds_alternative<OneSolution>(result) || found.size() == 2);
       for (const Puzzle& solved : found) {
         EXPECT_TRUE(Fits(solved, clues));
-        EXPECT_EQ(slow::WhyNotNormal(RowsOf(solved)), "");
+        EXPECT_EQ(slow::WhyNotNormal(RowsOf(solved.Cells)), "");
       }
     }
   }
@@ -160,16 +139,17 @@ TEST_F(SearchTest, GivesBackSquaresThatFitTheClues) {
 TEST_F(SearchTest, NeverTakesTheImpossibleForPossible) {
   for (int order = 4; order <= 6; ++order) {
     for (const int share : {50, 70, 90}) {
-      const Puzzle whole = SquareOf(order == 4 ? 5 : order, random_);
+      const Puzzle whole = Bordered(order == 4 ? 5 : order, random_);
       Puzzle clues = WithGaps(whole, share, random_);
-      std::vector<std::size_t> given;
-      for (std::size_t cell = 0; cell < clues.Cells.size(); ++cell) {
+      std::vector<int> given;
+      for (int cell = 0; cell < clues.Cells.Size(); ++cell) {
         if (clues.Cells[cell] != 0) given.push_back(cell);
       }
       std::swap(clues.Cells[given[0]], clues.Cells[given.back()]);
       const SearchResult result = Find(clues, 200'000);
       if (const auto* one = std::get_if<OneSolution>(&result)) {
-        EXPECT_EQ(slow::WhyNotNormal(RowsOf(one->Solved)), "") << "another square has these clues";
+        EXPECT_EQ(slow::WhyNotNormal(RowsOf(one->Solved.Cells)), "")
+            << "another square has these clues";
       } else if (!std::holds_alternative<SeveralSolutions>(result)) {
         EXPECT_TRUE(std::holds_alternative<NoSolution>(result)) << order << ", " << share;
       }
@@ -193,11 +173,9 @@ TEST_F(SearchTest, KnowsThePositiveRules) {
 TEST_F(SearchTest, EndsOnLargeNumbers) {
   const std::int64_t many = 1'000'000'000'000;
   const Puzzle puzzle{
-      4,
+      {4, {many + 1, 0, 0, many, 0, many - 1, many, 0, 0, many, many, 0, many, 0, 0, many}},
       4 * many,
-      Rules::Positive,
-      false,
-      {many + 1, 0, 0, many, 0, many - 1, many, 0, 0, many, many, 0, many, 0, 0, many}};
+      Rules::Positive};
   const SearchResult result = Solve(puzzle, {.Nodes = 3}, random_, stage_);
   EXPECT_FALSE(std::holds_alternative<OneSolution>(result) ||
                std::holds_alternative<SeveralSolutions>(result));
@@ -211,11 +189,11 @@ TEST_F(SearchTest, StopsWhenItIsTold) {
   stage.YieldsLeft = 10;
   EXPECT_THROW(Solve(empty, {}, random_, stage), Superseded);
   SeededRandom a(1), b(1);
-  const Puzzle large = WithGaps(SquareOf(9, random_), 20, random_);
+  const Puzzle large = WithGaps(Bordered(9, random_), 20, random_);
   const SearchResult first = Solve(large, {.Nodes = 3000}, a, stage_);
   const SearchResult again = Solve(large, {.Nodes = 3000}, b, stage_);
   EXPECT_EQ(first.index(), again.index());
-  Puzzle huge{50, NormalTotal(50), Rules::Normal, false, std::vector<std::int64_t>(2500)};
+  Puzzle huge{Square<std::int64_t>(50), NormalTotal(50)};
   EXPECT_TRUE(std::holds_alternative<SeveralSolutions>(Find(huge))) << "by construction";
   huge.Cells[7] = 5;
   EXPECT_TRUE(std::holds_alternative<NotSettled>(Find(huge)));
@@ -227,11 +205,9 @@ TEST(Puzzle, SaysWhatBreaksTheRules) {
     const auto* against = std::get_if<AgainstRules>(&puzzle);
     return against ? against->Why : "";
   };
-  StoredSquare square{
-      .Order = 3, .Cells = {8, {}, 6, {}, 5, {}, {}, {}, 2}, .Asked = Rules::Normal};
+  StoredSquare square{.Cells = {3, {8, {}, 6, {}, 5, {}, {}, {}, 2}}, .Asked = Rules::Normal};
   EXPECT_EQ(why(square), "");
-  EXPECT_EQ(why({.Order = 3,
-                 .Cells = {20, {}, {}, {}, {}, {}, {}, {}, {}},
+  EXPECT_EQ(why({.Cells = {3, {20, {}, {}, {}, {}, {}, {}, {}, {}}},
                  .Total = 15,
                  .Asked = Rules::Positive}),
             "20 in row 1, column 1 is more than the sum leaves for one cell, 13");
@@ -269,7 +245,7 @@ TEST(Rules, GiveTheNextNumberAndWhy) {
   };
   SilentStage stage;
   for (const Case& c : cases) {
-    const auto step = NextStep(PuzzleFrom(c.Rows, 15), Grade::Expert, stage);
+    const auto step = NextDeduction(PuzzleFrom(c.Rows, 15), Grade::Expert, stage);
     if (std::string(c.Why).empty()) {
       EXPECT_EQ(step, std::nullopt) << c.Rows;
       continue;
@@ -287,15 +263,14 @@ TEST(Rules, LeadToTheSolution) {
   std::array<int, 4> needed{};
   for (int order = 3; order <= 7; ++order) {
     for (int draw = 0; draw < 10; ++draw) {
-      Puzzle puzzle = WithGaps(SquareOf(std::max(5, order), random), 30 + 5 * draw, random);
+      Puzzle puzzle = WithGaps(Bordered(std::max(5, order), random), 30 + 5 * draw, random);
       const SearchResult result = Solve(puzzle, {.Nodes = 5000}, random, stage);
       const auto* one = std::get_if<OneSolution>(&result);
       if (!one) continue;
-      while (const auto step = NextStep(puzzle, Grade::Expert, stage)) {
-        auto& cell = puzzle.Cells[static_cast<std::size_t>(step->Cell)];
+      while (const auto step = NextDeduction(puzzle, Grade::Expert, stage)) {
+        auto& cell = puzzle.Cells[step->Cell];
         ASSERT_EQ(cell, 0);
-        ASSERT_EQ(step->Number, one->Solved.Cells[static_cast<std::size_t>(step->Cell)])
-            << step->Why;
+        ASSERT_EQ(step->Number, one->Solved.Cells[step->Cell]) << step->Why;
         EXPECT_NE(step->Why, "");
         ++needed[static_cast<std::size_t>(step->Needed)];
         cell = step->Number;

@@ -17,22 +17,8 @@
 namespace numorra {
 namespace {
 
-std::vector<double> Flat(const slow::Rows& rows) {
-  std::vector<double> numbers;
-  for (const auto& row : rows)
-    numbers.insert(numbers.end(), row.begin(), row.end());
-  return numbers;
-}
-
-slow::Rows Square(int order, const std::vector<double>& numbers) {
-  slow::Rows rows;
-  for (int i = 0; i < order; ++i)
-    rows.emplace_back(numbers.begin() + i * order, numbers.begin() + (i + 1) * order);
-  return rows;
-}
-
 Report StudyOf(const slow::Rows& rows) {
-  return Study(NumberSquare(static_cast<int>(rows.size()), Flat(rows)));
+  return Study(NumberSquare(SquareFrom(rows)));
 }
 
 Judgement Find(const Report& report, const std::string& term) {
@@ -73,7 +59,7 @@ TEST(Study, KnowsAllSquaresOfOrder4) {
   for (const slow::Rows& rows : slow::SquaresOfOrder4()) {
     const Report report = StudyOf(rows);
     ASSERT_EQ(report.Census, ++census);
-    ASSERT_EQ(report.StandardForm, Flat(rows));
+    ASSERT_EQ(report.StandardForm, SquareFrom(rows));
     for (const auto& [term, found] : report.Properties)
       count[term->Name] += found ? 1 : 0;
     if (census % 40 == 0) ExpectAgreement(rows);
@@ -119,7 +105,7 @@ TEST(Study, FindsTheSixteenUltramagicSquaresOfOrder5) {
         rows[row].push_back(26 - rows[4 - row][4 - column]);
     }
     const Report report = StudyOf(rows);
-    if (Find(report, "ultramagic") && report.StandardForm == Flat(rows)) ++found;
+    if (Find(report, "ultramagic") && report.StandardForm == SquareFrom(rows)) ++found;
   };
   for (int a = 1; a < 13; ++a) {
     for (int b = 1; b <= 25; ++b) {
@@ -143,7 +129,7 @@ TEST(Study, AgreesWithTheSlowClassifier) {
   for (int order = 3; order <= 50; ++order) {
     for (const SpecialKind& kind : kSpecialKinds) {
       if (!kind.WhyNone(order).empty()) continue;
-      slow::Rows rows = Square(order, kind.Build(order, random));
+      slow::Rows rows = RowsOf(kind.Build(order, random));
       EXPECT_EQ(slow::WhyNotNormal(rows), "") << kind.Term << " of order " << order;
       EXPECT_EQ(slow::Classify(rows)[kind.Term], true) << kind.Term << " of order " << order;
       ExpectAgreement(rows);
@@ -226,7 +212,7 @@ TEST(Study, TellsWhatIsShortEnoughToBeRead) {
     for (int number = 0; number < order * order; ++number)
       numbers.push_back(number < 24 ? number / 2 : number);
     std::map<std::string, std::string> details;
-    for (const auto& [name, text] : StudyOf(Square(order, numbers)).Details)
+    for (const auto& [name, text] : Study(NumberSquare({order, numbers})).Details)
       details[name] = text;
     EXPECT_EQ(details["repeated"], "0, 1, 2, 3, 4, 5, 6, 7, 8, 9 and 2 more");
     EXPECT_EQ(details.contains("standard form"), order == 10);
@@ -245,7 +231,7 @@ TEST(Famous, AreWhatTheirStoriesSay) {
   EXPECT_EQ(FamousSquares().size(), 12U);
   const char* const terms[] = {"associative", "most-perfect", "concentric", "bordered", "bimagic"};
   for (const FamousSquare& famous : FamousSquares()) {
-    const slow::Rows rows = Square(famous.Order, famous.Numbers);
+    const slow::Rows rows = RowsOf(famous.Numbers);
     ExpectAgreement(rows);
     const slow::Answers is = slow::Classify(rows);
     EXPECT_EQ(slow::LineTotals(rows).front(), famous.Total);
@@ -270,29 +256,29 @@ TEST(Famous, AreWhatTheirStoriesSay) {
 TEST(Relatives, AreOtherSquaresOfTheFamily) {
   SeededRandom random(5);
   for (const int order : {3, 4, 5, 10}) {
-    std::vector<double> square(static_cast<std::size_t>(order * order));
+    Square<double> square(order);
     std::iota(square.begin(), square.end(), 1.0);  // which is associative
     if (order != 10) square = AssociativeSquare(order, random);
-    std::set<std::vector<double>> forms;
+    std::set<Square<double>> forms;
     for (int draw = 0; draw < 100; ++draw) {
-      const auto varied = Varied(order, square, random);
+      const auto varied = Varied(square, random);
       ASSERT_TRUE(varied);
       EXPECT_NE(*varied, square);
-      EXPECT_EQ(slow::Classify(Square(order, *varied))["associative"], true);
+      EXPECT_EQ(slow::Classify(RowsOf(*varied))["associative"], true);
       if (order == 4 || order == 5) {
-        EXPECT_EQ(slow::WhyNotNormal(Square(order, *varied)), "");
+        EXPECT_EQ(slow::WhyNotNormal(RowsOf(*varied)), "");
       }
-      forms.insert(StandardForm(order, *varied));
+      forms.insert(StandardForm(*varied));
     }
     // Order 3 only turns; orders 4 and 5 have four classes, of which one is shown.
     EXPECT_TRUE(order == 3   ? forms.size() == 1
                 : order < 10 ? forms.size() == 3
                              : forms.size() > 90)
         << forms.size() << " at order " << order;
-    EXPECT_EQ(forms.count(StandardForm(order, square)), order == 3 ? 1U : 0U);
+    EXPECT_EQ(forms.count(StandardForm(square)), order == 3 ? 1U : 0U);
   }
-  EXPECT_EQ(Varied(3, std::vector<double>(9, 7.0), random), std::nullopt);
-  EXPECT_EQ(ComplementOf({0.1, 0.25, 3}), (std::vector<double>{3, 2.85, 0.1}));
+  EXPECT_EQ(Varied(Square<double>(3, 7.0), random), std::nullopt);
+  EXPECT_EQ(ComplementOf({2, {0.1, 0.25, 3, 3}}), Square<double>(2, {3, 2.85, 0.1, 0.1}));
 }
 
 TEST(Special, SaysWhyThereIsNone) {
@@ -317,9 +303,9 @@ TEST(Special, IsVariedByLot) {
   for (const SpecialKind& kind : kSpecialKinds) {
     for (const int order : {4, 5, 8, 9}) {
       if (!kind.WhyNone(order).empty()) continue;
-      std::set<std::vector<double>> forms;
+      std::set<Square<double>> forms;
       for (int draw = 0; draw < 50; ++draw)
-        forms.insert(StandardForm(order, kind.Build(order, random)));
+        forms.insert(StandardForm(kind.Build(order, random)));
       EXPECT_GE(forms.size(), order < 6 ? 4U : 45U) << kind.Term << " of order " << order;
     }
   }

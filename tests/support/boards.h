@@ -32,14 +32,22 @@ inline slow::Rows RowsOf(const CellTable& cells, int order) {
   return rows;
 }
 
-inline CellTable TableOf(const slow::Rows& rows) {
-  CellTable cells;
-  for (std::size_t r = 0; r < rows.size(); ++r) {
-    for (std::size_t c = 0; c < rows.size(); ++c) {
-      cells(static_cast<int>(r) + 1, static_cast<int>(c) + 1) = rows[r][c];
-    }
+template <class T>
+slow::Rows RowsOf(const Square<T>& square) {
+  slow::Rows rows;
+  for (int cell = 0; cell < square.Size(); ++cell) {
+    if (cell % square.Order() == 0) rows.emplace_back();
+    rows.back().push_back(static_cast<double>(square[cell]));
   }
-  return cells;
+  return rows;
+}
+
+inline Square<double> SquareFrom(const slow::Rows& rows) {
+  Square<double> square(static_cast<int>(rows.size()));
+  auto cell = square.begin();
+  for (const auto& row : rows)
+    cell = std::copy(row.begin(), row.end(), cell);
+  return square;
 }
 
 /// What the grid shows in its value block.
@@ -61,7 +69,7 @@ inline void ShowRows(Board& board, const std::string& text, double target = 15,
   board.TargetTotal = target;
   board.BaseValue = baseValue;
   board.SetupBoard();
-  board.BoardValues = TableOf(rows);
+  board.BoardValues = TableOf(SquareFrom(rows));
   board.ShowBoard();
 }
 

@@ -5,9 +5,10 @@
 #include <string>
 
 #include "puzzle/code.h"
+#include "puzzle/deduction.h"
 #include "puzzle/making.h"
-#include "puzzle/rules.h"
 #include "puzzle/search.h"
+#include "support/boards.h"
 #include "support/slow_checker.h"
 #include "support/stand_ins.h"
 
@@ -19,11 +20,11 @@ namespace numorra {
 class SlowCounter {
  public:
   explicit SlowCounter(const Puzzle& puzzle)
-      : n_(puzzle.Order),
+      : n_(puzzle.Order()),
         total_(puzzle.Target),
         normal_(puzzle.Asked == Rules::Normal),
         most_(normal_ ? n_ * n_ : puzzle.Most()),
-        cells_(puzzle.Cells),
+        cells_(puzzle.Cells.begin(), puzzle.Cells.end()),
         used_(static_cast<std::size_t>(most_) + 1) {
     for (const std::int64_t cell : cells_) {
       if (cell != 0) used_[static_cast<std::size_t>(cell)] = normal_;
@@ -86,7 +87,7 @@ class SlowCounter {
 
 /// Whether a reason of two gaps in a line tells what the other holds, and so the number; and one of
 /// more gaps a range within the line's rest that has the number in it.
-inline bool IsDecisive(const Step& step) {
+inline bool IsDecisive(const Deduction& step) {
   const char* const reason = std::strstr(step.Why.c_str(), "needs ");
   if (!reason) return true;
   long long rest = 0, low = 0, high = 0;
@@ -104,16 +105,15 @@ inline bool IsDecisive(const Step& step) {
 /// What is wrong with a puzzle that was made; empty when it has one solution, every hint leads
 /// there, its grade is what its hints need, and its code reads back.
 inline std::string WhyUnfair(const MadePuzzle& made) {
-  const int n = made.Clues.Order;
+  const int n = made.Clues.Order();
   SeededRandom random(1);
   SilentStage stage;
-  slow::Rows rows(static_cast<std::size_t>(n));
-  for (std::size_t cell = 0; cell < made.Solution.Cells.size(); ++cell) {
+  for (int cell = 0; cell < made.Solution.Cells.Size(); ++cell) {
     const std::int64_t clue = made.Clues.Cells[cell];
     if (clue != 0 && clue != made.Solution.Cells[cell]) return "a clue that is not the solution's";
-    rows[cell / rows.size()].push_back(static_cast<double>(made.Solution.Cells[cell]));
   }
-  std::string why = slow::WhyNotMagic(rows, static_cast<double>(made.Clues.Target));
+  std::string why =
+      slow::WhyNotMagic(RowsOf(made.Solution.Cells), static_cast<double>(made.Clues.Target));
   if (!why.empty()) return why;
   const bool normal = made.Clues.Asked == Rules::Normal;
   if (n <= 4 && normal && SlowCounter(made.Clues).Count() != 1) return "not one solution";
@@ -125,9 +125,9 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
   if (made.Needed == Grade::Easy && normal && clues < least) return "too few clues to be easy";
   auto hardest = Grade::Easy;
   Puzzle board = made.Clues;
-  while (const auto step = NextStep(board, std::min(made.Needed, Grade::Hard), stage)) {
-    auto& cell = board.Cells[static_cast<std::size_t>(step->Cell)];
-    if (cell != 0 || step->Number != made.Solution.Cells[static_cast<std::size_t>(step->Cell)]) {
+  while (const auto step = NextDeduction(board, std::min(made.Needed, Grade::Hard), stage)) {
+    auto& cell = board.Cells[step->Cell];
+    if (cell != 0 || step->Number != made.Solution.Cells[step->Cell]) {
       return "a hint that leads astray: " + step->Why;
     }
     if (!IsDecisive(*step)) return "a reason that is none: " + step->Why;

@@ -15,6 +15,8 @@ struct SolveHarness {
     Commands.Auto();
   }
 
+  CommandContext Context() { return {TheBoard, Boxes, TheDialogs, TheRandom}; }
+
   SeededRandom TheRandom{17};
   Board TheBoard;
   PlainBoxes Boxes;
@@ -23,7 +25,7 @@ struct SolveHarness {
   NotingStage Stage;
   ListBoy List2{TheRandom};
   ListBoy List3{TheRandom};
-  SolveCommand Commands{{TheBoard, Boxes, Options, TheDialogs, Stage, TheRandom, List2, List3}};
+  SolveCommand Commands{{Context(), Options, Stage, List2, List3}};
 };
 
 }  // namespace numorra

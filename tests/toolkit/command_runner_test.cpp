@@ -75,7 +75,8 @@ TEST_F(CommandRunnerTest, RunsTheNewerCommandAfterOneThatNeverYieldsAndNoneAtThe
     runner_.Run("command", [this] {
       log_ += "second";
       runner_.Run("command", [this] { log_ += "never"; });
-      runner_.Stop();
+      runner_.Close();
+      runner_.Run("command", [this] { log_ += "too late"; });
       runner_.Yield();
       log_ += "not reached";
     });

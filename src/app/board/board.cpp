@@ -149,10 +149,16 @@ void ComputeTotals(CellTable& cells, int order) {
   cells(0, last) = cells(last, 0) = other.Total();
 }
 
-std::vector<double> NumbersOf(const CellTable& cells, int order) {
-  std::vector<double> numbers;
-  ForEachCell(order, [&](int r, int c) { numbers.push_back(cells(r, c)); });
-  return numbers;
+Square<double> SquareOf(const CellTable& cells, int order) {
+  Square<double> square(order);
+  ForEachCell(order, [&](int r, int c) { square[Place{r, c}] = cells(r, c); });
+  return square;
+}
+
+CellTable TableOf(const Square<double>& square) {
+  CellTable table;
+  ForEachCell(square.Order(), [&](int r, int c) { table(r, c) = square[Place{r, c}]; });
+  return table;
 }
 
 }  // namespace numorra

@@ -2,11 +2,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <vector>
 
 #include "app/board/cell_table.h"
 #include "app/board/grid.h"
 #include "app/board/rules.h"
+#include "app/board/square.h"
 
 namespace numorra {
 
@@ -117,7 +117,8 @@ void ForEachCell(int order, Visit visit) {
 /// Stores the totals of the n x n block of `cells` around it, as Board::ComputeTotals does.
 void ComputeTotals(CellTable& cells, int order);
 
-/// The numbers of the n x n block of `cells` in reading order.
-std::vector<double> NumbersOf(const CellTable& cells, int order);
+/// The n x n block of `cells`, and a table with the square in its block.
+Square<double> SquareOf(const CellTable& cells, int order);
+CellTable TableOf(const Square<double>& square);
 
 }  // namespace numorra

@@ -22,9 +22,11 @@ inline const char* WhyNoBoardHas(int order) {
 }
 
 /// What every line of a square of the numbers 1 to order x order adds up to.
+inline double NormalTotal(double order) {
+  return order * (order * order + 1) / 2;
+}
 inline std::int64_t NormalTotal(int order) {
-  const std::int64_t n = order;
-  return n * (n * n + 1) / 2;
+  return static_cast<std::int64_t>(NormalTotal(static_cast<double>(order)));
 }
 
 /// The least that a cell of a base board may hold.

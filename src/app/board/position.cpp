@@ -23,21 +23,20 @@ Position PositionOf(const Board& board) {
   Position position;
   if (!board.Shown()) return position;
   const Grid& grid = board.grid;
-  position.Order = board.GridSize;
+  const auto cellAt = [&](int cell) -> const Grid::Cell& {
+    const Place place = PlaceAt(cell, board.GridSize);
+    return grid.At(place.Row, place.Column);
+  };
+  position.Texts = SquareOf(board.GridSize, [&](int cell) {
+    const Grid::Cell& shown = cellAt(cell);
+    return shown.IsGap() ? std::string() : shown.Text;
+  });
+  if (board.HasGivens()) {
+    position.Givens = SquareOf(board.GridSize, [&](int cell) { return cellAt(cell).Given; });
+  }
   position.Target = board.TargetTotal;
   position.Base = board.BaseValue;
-  position.Texts.reserve(static_cast<std::size_t>(board.GridSize) *
-                         static_cast<std::size_t>(board.GridSize));
-  ForEachCell(board.GridSize, [&](int row, int column) {
-    const Grid::Cell& cell = grid.At(row, column);
-    position.Texts.push_back(cell.IsGap() ? std::string() : cell.Text);
-  });
   position.Asked = board.Asked;
-  if (board.HasGivens()) {
-    position.Givens.reserve(position.Texts.size());
-    ForEachCell(board.GridSize,
-                [&](int row, int column) { position.Givens.push_back(grid.Given(row, column)); });
-  }
   position.Checked = board.TotalsChecked;
   position.Judged = board.TotalsJudged;
   position.Typing = board.Typing();
@@ -50,7 +49,7 @@ Position PositionOf(const Board& board) {
 void Restore(Board& board, const Position& position) {
   Grid& grid = board.grid;
   const RedrawLock lock(grid);
-  if (position.Order == 0) {
+  if (position.Order() == 0) {
     board.SetOverlayShown(false);
     grid.Reshape(0, 0);
     grid.SetVisible(false);
@@ -58,17 +57,16 @@ void Restore(Board& board, const Position& position) {
     return;
   }
   board.NewEntry = true;  // what was typed is gone, not to be checked
-  const bool reshaped = !board.Shown() || board.GridSize != position.Order;
-  board.GridSize = position.Order;
+  const bool reshaped = !board.Shown() || board.GridSize != position.Order();
+  board.GridSize = static_cast<std::int16_t>(position.Order());
   board.TargetTotal = position.Target;
   board.BaseValue = position.Base;
   if (reshaped) board.SetupBoard();
   board.Asked = position.Asked;
-  std::size_t cell = 0;
   ForEachCell(board.GridSize, [&](int row, int column) {
-    grid.SetText(row, column, position.Texts[cell]);
-    grid.SetGiven(row, column, !position.Givens.empty() && position.Givens[cell]);
-    ++cell;
+    const Place place{row, column};
+    grid.SetText(row, column, position.Texts[place]);
+    grid.SetGiven(row, column, !position.Givens.IsEmpty() && position.Givens[place]);
   });
   board.ReadGrid();
   board.ShowTotals();
@@ -86,9 +84,7 @@ void Restore(Board& board, const Position& position) {
 }
 
 bool IsChange(const Position& before, const Position& after) {
-  const auto seen = [](const Position& p) {
-    return std::tie(p.Order, p.Target, p.Texts, p.Givens);
-  };
+  const auto seen = [](const Position& p) { return std::tie(p.Target, p.Texts, p.Givens); };
   return seen(before) != seen(after);
 }
 

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "app/board/board.h"
 
@@ -11,19 +10,19 @@ namespace numorra {
 /// All of a board that a player would expect back, in one value: what undo keeps.
 /// The marks, the boxes, the mode, a drawing and the menu's memory of one command are not in it.
 struct Position {
-  std::int16_t Order = 0;  ///< 0 where there is no board
+  Square<std::string> Texts = {};  ///< of the value cells; an empty one is a gap
+  Square<bool> Givens = {};        ///< empty when there are none
   double Target = 0;
   std::int16_t Base = 0;
   Rules Asked = Rules::Normal;
-  std::vector<std::string> Texts =
-      {};                         ///< of the value cells in reading order; an empty one is a gap
-  std::vector<bool> Givens = {};  ///< by cell; empty when there are none
-  bool Checked = false;           ///< a check has been made, so that keys reach the board
-  bool Judged = false;            ///< the totals are coloured
-  bool Typing = false;            ///< the current cell was typed into and not yet left
-  bool WinTold = false;           ///< the player has been congratulated on it
-  int Row = 0;                    ///< the current cell
+  bool Checked = false;  ///< a check has been made, so that keys reach the board
+  bool Judged = false;   ///< the totals are coloured
+  bool Typing = false;   ///< the current cell was typed into and not yet left
+  bool WinTold = false;  ///< the player has been congratulated on it
+  int Row = 0;           ///< the current cell
   int Column = 0;
+
+  int Order() const { return Texts.Order(); }  ///< 0 where there is no board
 
   bool operator==(const Position&) const = default;
 };

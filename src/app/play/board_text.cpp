@@ -15,13 +15,13 @@ std::string BoardText(const Board& board) {
   return text;
 }
 
-bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text) {
+bool PasteBoard(const CommandContext& context, const std::string& text) {
   const auto read = ReadSquareOrCode(text);
   if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
-    dialogs.Tell(unreadable->Why);
+    context.TheDialogs.Tell(unreadable->Why);
     return false;
   }
-  LayOut(board, boxes, std::get<StoredSquare>(read));
+  LayOut(context.TheBoard, context.Boxes, std::get<StoredSquare>(read));
   return true;
 }
 

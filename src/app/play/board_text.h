@@ -2,9 +2,7 @@
 
 #include <string>
 
-#include "app/board/board.h"
-#include "app/ports/dialogs.h"
-#include "app/ports/square_boxes.h"
+#include "app/board/command_context.h"
 
 namespace numorra {
 
@@ -14,6 +12,6 @@ std::string BoardText(const Board& board);
 
 /// Shows a text as ReadSquareOrCode takes it as a board, to be checked and played, as LayOut does.
 /// False, with a message that says what is wrong and nothing changed, for any other text.
-bool PasteBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, const std::string& text);
+bool PasteBoard(const CommandContext& context, const std::string& text);
 
 }  // namespace numorra

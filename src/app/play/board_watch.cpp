@@ -5,9 +5,9 @@
 namespace numorra {
 
 void BoardWatch::End(const std::string& name) {
-  const Deed deed{name, std::move(before_), PositionOf(board_)};
+  const CommandResult result{name, std::move(before_), PositionOf(board_)};
   for (const Listener& listener : listeners_)
-    listener(deed);
+    listener(result);
 }
 
 }  // namespace numorra

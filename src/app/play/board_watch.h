@@ -9,7 +9,7 @@
 namespace numorra {
 
 /// What a command has left behind.
-struct Deed {
+struct CommandResult {
   std::string Name;  ///< what a player would call the command
   Position Before;
   Position After;
@@ -21,7 +21,7 @@ struct Deed {
 /// listen. No command knows of them.
 class BoardWatch {
  public:
-  using Listener = std::function<void(const Deed&)>;
+  using Listener = std::function<void(const CommandResult&)>;
 
   explicit BoardWatch(const Board& board) : board_(board) {}
 

@@ -1,11 +1,11 @@
 #include "app/play/fill_gaps.h"
 
+#include "app/board/line.h"
 #include "app/board/numbers.h"
 #include "app/board/position.h"
 #include "app/board/totals_check.h"
 #include "app/play/lay_out.h"
-#include "app/ports/timed_stage.h"
-#include "study/line.h"
+#include "app/ports/timed_yielding.h"
 
 namespace numorra {
 namespace {
@@ -16,12 +16,10 @@ constexpr double kSecondsForEntries = 2;
 void Show(Board& board, const Puzzle& solved) {
   const RedrawLock lock(board.grid);
   board.ReadGrid();
-  std::size_t cell = 0;
   ForEachCell(board.GridSize, [&](int r, int c) {
     if (board.grid.At(r, c).IsGap()) {
-      board.BoardValues(r, c) = static_cast<double>(solved.Cells[cell]);
+      board.BoardValues(r, c) = static_cast<double>(solved.Cells[Place{r, c}]);
     }
-    ++cell;
   });
   board.ShowBoard();
   board.NewEntry = true;  // what was typed before is not for the player to be congratulated on
@@ -31,34 +29,34 @@ void Show(Board& board, const Puzzle& solved) {
 /// ": column 9 adds up to 135, not 369" of the first line without a gap of which something like it
 /// is true.
 std::string FullWrongLine(const Puzzle& puzzle) {
-  for (const Line line : MagicLines(puzzle.Order)) {
+  for (const Line line : MagicLines(puzzle.Order())) {
     bool full = true;
-    const std::int64_t sum = SumOf(line, puzzle.Order, [&](std::size_t cell) {
+    const std::int64_t sum = SumOf(line, puzzle.Order(), [&](int cell) {
       full = full && puzzle.Cells[cell] != 0;
       return puzzle.Cells[cell];
     });
     if (!full || sum == puzzle.Target) continue;
-    return ": " + NameOf(line, puzzle.Order) + " adds up to " + std::to_string(sum) + ", not " +
+    return ": " + NameOf(line, puzzle.Order()) + " adds up to " + std::to_string(sum) + ", not " +
            std::to_string(puzzle.Target);
   }
   return {};
 }
 
-std::string WhyNone(const Puzzle& puzzle, const std::vector<bool>& givens, Random& random,
-                    BuildStage& stage) {
+std::string WhyNone(const Puzzle& puzzle, const Square<bool>& givens, Random& random,
+                    WorkStage& stage) {
   const BusyPointer busy(stage);
   const std::vector<Place> entries = EntriesInTheWay(puzzle, givens, random, stage);
   if (entries.empty()) return "nothing can fill these gaps" + FullWrongLine(puzzle);
   std::string why = "nothing can fill these gaps: ";
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    const std::int64_t number = puzzle.Cells[IndexOf(entries[i], puzzle.Order)];
+    const std::int64_t number = puzzle.Cells[entries[i]];
     why += (i > 0 ? ", or " : "") + std::to_string(number) + " in " + NameOf(entries[i]);
   }
   return why + " cannot stay";
 }
 
 /// The search for the board, gone on with when the player wants it.
-SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& stage,
+SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& stage,
                           Random& random) {
   const auto search = [&](double seconds) {
     const BusyPointer busy(stage);
@@ -82,27 +80,30 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& st
 
 }  // namespace
 
-std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const std::vector<bool>& givens,
-                                   Random& random, BuildStage& stage) {
+std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const Square<bool>& givens, Random& random,
+                                   Yielding& yielding) {
   constexpr std::size_t kMostNamed = 3;
   std::vector<Place> entries;
   Puzzle without = puzzle;
-  TimedStage timed(stage);
-  for (std::size_t cell = 0; cell < puzzle.Cells.size() && entries.size() < kMostNamed; ++cell) {
-    if (puzzle.Cells[cell] == 0 || (!givens.empty() && givens[cell])) continue;
+  TimedYielding timed(yielding);
+  for (int cell = 0; cell < puzzle.Cells.Size() && entries.size() < kMostNamed; ++cell) {
+    if (puzzle.Cells[cell] == 0 || (!givens.IsEmpty() && givens[cell])) continue;
     if (timed.SecondsWorked() > kSecondsForEntries) break;
     without.Cells[cell] = 0;
     const SearchResult result = Solve(without, {.Nodes = kNodesForAnEntry}, random, timed);
     const auto* open = std::get_if<NotSettled>(&result);
     const bool possible =
         open ? open->Found.has_value() : !std::holds_alternative<NoSolution>(result);
-    if (possible) entries.push_back(puzzle.PlaceOf(cell));
+    if (possible) entries.push_back(puzzle.Cells.PlaceOf(cell));
     without.Cells[cell] = puzzle.Cells[cell];
   }
   return entries;
 }
 
-void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stage, Random& random) {
+void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage) {
+  Board& board = context.TheBoard;
+  Dialogs& dialogs = context.TheDialogs;
+  Random& random = context.TheRandom;
   if (!board.HasGaps()) {
     dialogs.Tell("the board has no gaps to fill");
     return;
@@ -130,8 +131,8 @@ void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stag
 
 void EmptyBoard(Board& board) {
   Position position = PositionOf(board);
-  for (std::size_t cell = 0; cell < position.Texts.size(); ++cell) {
-    if (position.Givens.empty() || !position.Givens[cell]) position.Texts[cell].clear();
+  for (int cell = 0; cell < position.Texts.Size(); ++cell) {
+    if (position.Givens.IsEmpty() || !position.Givens[cell]) position.Texts[cell].clear();
   }
   position.Checked = position.Judged = true;
   position.Typing = position.WinTold = false;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "app/board/board.h"
-#include "app/board/random.h"
-#include "app/ports/build_stage.h"
-#include "app/ports/dialogs.h"
+#include "app/board/command_context.h"
+#include "app/ports/work_stage.h"
 #include "puzzle/search.h"
 
 namespace numorra {
@@ -17,7 +15,7 @@ inline constexpr double kLongSearch = 30;
 /// entry alone, or which full line, is in the way; asks whether to go on when that was not settled
 /// in time. The board changes at the end or not at all. `limitToNine`: no number above 9, by the
 /// positive rules.
-void FillGaps(Board& board, bool limitToNine, Dialogs& dialogs, BuildStage& stage, Random& random);
+void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage);
 
 /// Empties every cell that is not given: to start a puzzle over, or to enter one. Keys reach the
 /// board afterwards.
@@ -25,7 +23,7 @@ void EmptyBoard(Board& board);
 
 /// The entries, of those that no given fixes, each of which alone leaves the puzzle without a
 /// solution; the first that are found.
-std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const std::vector<bool>& givens,
-                                   Random& random, BuildStage& stage);
+std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const Square<bool>& givens, Random& random,
+                                   Yielding& yielding);
 
 }  // namespace numorra

@@ -22,28 +22,28 @@ struct Wrong {
 /// The entries that differ from the only solution of the board's givens; nothing where there are no
 /// givens, or not one solution.
 std::optional<Wrong> AgainstGivens(const Board& board, const Puzzle& puzzle, Random& random,
-                                   BuildStage& stage) {
-  const std::vector<bool> givens = StoredSquareOf(board).Givens;
-  if (givens.empty()) return std::nullopt;
+                                   WorkStage& stage) {
+  const Square<bool> givens = StoredSquareOf(board).Givens;
+  if (givens.IsEmpty()) return std::nullopt;
   Puzzle clues = puzzle;
-  for (std::size_t cell = 0; cell < givens.size(); ++cell) {
+  for (int cell = 0; cell < givens.Size(); ++cell) {
     if (!givens[cell]) clues.Cells[cell] = 0;
   }
   const SearchResult result = Solve(clues, kLimit, random, stage);
   const auto* one = std::get_if<OneSolution>(&result);
   if (!one) return std::nullopt;
   Wrong wrong;
-  for (std::size_t cell = 0; cell < givens.size(); ++cell) {
+  for (int cell = 0; cell < givens.Size(); ++cell) {
     const bool filled = puzzle.Cells[cell] != 0;
     if (filled && puzzle.Cells[cell] != one->Solved.Cells[cell]) {
-      wrong.Cells.push_back(puzzle.PlaceOf(cell));
+      wrong.Cells.push_back(puzzle.Cells.PlaceOf(cell));
     }
   }
   return wrong;
 }
 
 /// What stands in the way of a board that has no solution.
-Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, BuildStage& stage) {
+Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, WorkStage& stage) {
   if (auto wrong = AgainstGivens(board, puzzle, random, stage)) return *wrong;
   return {EntriesInTheWay(puzzle, StoredSquareOf(board).Givens, random, stage), false};
 }
@@ -76,7 +76,7 @@ Remark Against(const AgainstRules& against) {
 /// What `say` says of the puzzle on the board and of what a search finds out about it, while the
 /// pointer is busy; or what breaks the rules.
 template <class Say>
-Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say say) {
+Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say) {
   const auto read = PuzzleOf(StoredSquareOf(board));
   if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
   const auto& puzzle = std::get<Puzzle>(read);
@@ -86,18 +86,18 @@ Remark AfterSearch(const Board& board, Random& random, BuildStage& stage, Say sa
 }
 
 /// The next number by rules, or else one of the solution that trying has to find.
-std::optional<Step> FindStep(const Puzzle& puzzle, const Puzzle& solved, BuildStage& stage) {
-  if (auto step = NextStep(puzzle, Grade::Expert, stage)) return step;
+std::optional<Deduction> FindStep(const Puzzle& puzzle, const Puzzle& solved, WorkStage& stage) {
+  if (auto step = NextDeduction(puzzle, Grade::Expert, stage)) return step;
   const Candidates board(puzzle);
   for (int cell = 0; cell < board.Cells(); ++cell) {
     if (board.Value(cell) != 0) continue;
-    const std::int64_t number = solved.Cells[static_cast<std::size_t>(cell)];
-    return Step{cell,
-                number,
-                Grade::Expert,
-                {puzzle.PlaceOf(cell)},
-                NameOf(puzzle.PlaceOf(cell)),
-                "only a longer search shows it: " + WhyTried(board, cell, number)};
+    const std::int64_t number = solved.Cells[cell];
+    return Deduction{cell,
+                     number,
+                     Grade::Expert,
+                     {puzzle.Cells.PlaceOf(cell)},
+                     NameOf(puzzle.Cells.PlaceOf(cell)),
+                     "only a longer search shows it: " + WhyTried(board, cell, number)};
   }
   return std::nullopt;
 }
@@ -149,7 +149,7 @@ Remark Hints::Begin() {
   return AfterSearch(board_, random_, stage_, say);
 }
 
-Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
+Remark CheckEntries(const Board& board, Random& random, WorkStage& stage) {
   const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
     if (std::holds_alternative<NoSolution>(result)) {
       return CannotStay(board, InTheWay(board, puzzle, random, stage));
@@ -160,7 +160,7 @@ Remark CheckEntries(const Board& board, Random& random, BuildStage& stage) {
   return AfterSearch(board, random, stage, say);
 }
 
-Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage) {
+Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage) {
   if (!board.HasGaps()) return {"a puzzle has gaps: empty some cells with Backspace first"};
   const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
     constexpr std::int64_t kMostCounted = 100;

@@ -7,8 +7,8 @@
 #include "app/board/board.h"
 #include "app/board/position.h"
 #include "app/board/random.h"
-#include "app/ports/build_stage.h"
-#include "puzzle/rules.h"
+#include "app/ports/work_stage.h"
+#include "puzzle/deduction.h"
 
 namespace numorra {
 
@@ -23,7 +23,7 @@ struct Remark {
 /// any solution is pointed at first; where there are several, or none, that is said.
 class Hints {
  public:
-  Hints(Board& board, Random& random, BuildStage& stage)
+  Hints(Board& board, Random& random, WorkStage& stage)
       : board_(board), random_(random), stage_(stage) {}
 
   Remark Next();
@@ -33,17 +33,17 @@ class Hints {
 
   Board& board_;
   Random& random_;
-  BuildStage& stage_;
+  WorkStage& stage_;
   Position position_;  ///< of the board that the step is for
-  std::optional<Step> step_;
+  std::optional<Deduction> step_;
   int presses_ = 0;
 };
 
 /// Which entries cannot stay, without giving the solution away: those that differ from the only
 /// solution of the givens; without givens, those that alone leave no solution.
-Remark CheckEntries(const Board& board, Random& random, BuildStage& stage);
+Remark CheckEntries(const Board& board, Random& random, WorkStage& stage);
 
 /// Makes the numbers on the board the givens, and says how many solutions the puzzle has.
-Remark EnterPuzzle(Board& board, Random& random, BuildStage& stage);
+Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage);
 
 }  // namespace numorra

@@ -11,36 +11,37 @@
 namespace numorra {
 StoredSquare StoredSquareOf(const Board& board) {
   const Position position = PositionOf(board);
-  StoredSquare square{.Order = position.Order,
-                      .Givens = position.Givens,
-                      .Total = position.Target,
-                      .Asked = position.Asked};
-  for (const std::string& text : position.Texts) {
-    square.Cells.push_back(text.empty() ? std::nullopt : std::optional(Val(text)));
-  }
-  return square;
+  const auto number = [&](int cell) {
+    const std::string& text = position.Texts[cell];
+    return text.empty() ? std::nullopt : std::optional(Val(text));
+  };
+  return {.Cells = SquareOf(position.Order(), number),
+          .Givens = position.Givens,
+          .Total = position.Target,
+          .Asked = position.Asked};
 }
 
 void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square) {
   constexpr double kHighestBase = std::numeric_limits<std::int16_t>::max();
   const Aim aim = AimOf(square).value_or(Aim{AsShown(Val(boxes.Sum())), square.Asked});
-  Position position{.Order = static_cast<std::int16_t>(square.Order),
-                    .Target = aim.Target,
-                    .Base = ToInt16(std::min(kHighestBase, BaseOf(aim.Target, square.Order))),
-                    .Asked = aim.Asked,
-                    .Givens = square.Givens,
-                    .Checked = true,
-                    .Judged = true,
-                    .Row = 1,
-                    .Column = 1};
-  for (const auto& cell : square.Cells)
-    position.Texts.push_back(cell ? Decimal(*cell) : "");
-  const bool puzzle = !square.Givens.empty() || std::find(square.Cells.begin(), square.Cells.end(),
-                                                          std::nullopt) != square.Cells.end();
+  const auto textOf = [&](int cell) {
+    return square.Cells[cell] ? Decimal(*square.Cells[cell]) : std::string();
+  };
+  const int order = square.Order();
+  const Position position{.Texts = SquareOf(order, textOf),
+                          .Givens = square.Givens,
+                          .Target = aim.Target,
+                          .Base = ToInt16(std::min(kHighestBase, BaseOf(aim.Target, order))),
+                          .Asked = aim.Asked,
+                          .Checked = true,
+                          .Judged = true,
+                          .Row = 1,
+                          .Column = 1};
+  const bool puzzle = !square.Givens.IsEmpty() || square.HasGaps();
   const bool normal =
-      aim.Asked == Rules::Normal && aim.Target == static_cast<double>(NormalTotal(square.Order));
+      aim.Asked == Rules::Normal && aim.Target == static_cast<double>(NormalTotal(order));
   if (!puzzle || !normal) board.SolveMode = ModeVariable;
-  boxes.SetSize(Decimal(square.Order));
+  boxes.SetSize(Decimal(order));
   boxes.SetSum(Decimal(aim.Target));
   Restore(board, Position());  // a new board: no shade, mark or drawing of the old one stays
   Restore(board, position);

@@ -10,7 +10,10 @@ constexpr int kLargestSimpleSize = 20;
 
 }  // namespace
 
-void BuildManualBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage) {
+void BuildManualBoard(const CommandContext& context, BuildStage& stage) {
+  Board& board = context.TheBoard;
+  SquareBoxes& boxes = context.Boxes;
+  Dialogs& dialogs = context.TheDialogs;
   board.SetOverlayShown(false);
   stage.ShowCount("");
   const std::int16_t order = ToInt16(Val(boxes.Size()));

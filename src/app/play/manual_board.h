@@ -1,9 +1,7 @@
 #pragma once
 
-#include "app/board/board.h"
+#include "app/board/command_context.h"
 #include "app/ports/build_stage.h"
-#include "app/ports/dialogs.h"
-#include "app/ports/square_boxes.h"
 
 namespace numorra {
 
@@ -11,6 +9,6 @@ namespace numorra {
 /// Variable mode every cell holds one more than its share of the sum, so that the board is not the
 /// untouched base board; in the Normal mode the cells hold 1 to n x n in reading order. A refused
 /// size leaves everything but the sum box as it was.
-void BuildManualBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs, BuildStage& stage);
+void BuildManualBoard(const CommandContext& context, BuildStage& stage);
 
 }  // namespace numorra

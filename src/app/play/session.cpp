@@ -22,14 +22,13 @@ Session::Commands::Commands(Session& session, const SessionPorts& ports)
     : Entry(session.TheBoard, ports.TheDialogs),
       Edits(session.TheBoard, ports.TheDialogs, session.TheRandom, session.LastCommand),
       Hints(session.TheBoard, session.TheRandom, ports.Searching),
-      Solve({session.TheBoard, ports.Boxes, ports.Options, ports.TheDialogs, ports.Building,
-             session.TheRandom, session.List2, session.List3}),
-      TopRow(session.TheBoard, ports.Boxes, ports.TheDialogs, ports.Building, session.TheRandom) {}
+      Solve({session.Context(), ports.Options, ports.Building, session.List2, session.List3}),
+      TopRow(session.Context(), ports.Building) {}
 
 void Session::Connect(const SessionPorts& ports) {
   ports_.emplace(ports);
   commands_.emplace(*this, ports);
-  Watch.Listen([this](const Deed& deed) { History.Note(deed); });
+  Watch.Listen([this](const CommandResult& result) { History.Note(result); });
 }
 
 void Session::Disconnect() {
@@ -55,7 +54,7 @@ void Session::SetMode(Mode mode) {
 
 void Session::FollowSize() {
   if (TheBoard.SolveMode == ModeVariable) return;
-  ports_->Boxes.SetSum(MagicConstantText(ports_->Boxes.Size()));
+  ports_->Boxes.SetSum(NormalTotalText(ports_->Boxes.Size()));
 }
 
 void Session::ProposeSquare() {
@@ -67,7 +66,7 @@ void Session::OfferCorners(ListBox& choice) {
 }
 
 void Session::BuildManually() {
-  BuildManualBoard(TheBoard, ports_->Boxes, ports_->TheDialogs, ports_->Building);
+  BuildManualBoard(Context(), ports_->Building);
 }
 
 bool Session::BuildFromTopRow() {
@@ -85,27 +84,27 @@ void Session::LayOut(const StoredSquare& square) {
 }
 
 bool Session::Paste(const std::string& text) {
-  return PasteBoard(TheBoard, ports_->Boxes, ports_->TheDialogs, text);
+  return PasteBoard(Context(), text);
 }
 
 void Session::Vary() {
-  VaryBoard(TheBoard, ports_->TheDialogs, TheRandom);
+  VaryBoard(Context());
 }
 
 void Session::Complement() {
-  ComplementBoard(TheBoard, ports_->Boxes, ports_->TheDialogs);
+  ComplementBoard(Context());
 }
 
 void Session::BringToStandardForm() {
-  numorra::BringToStandardForm(TheBoard, ports_->TheDialogs);
+  numorra::BringToStandardForm(Context());
 }
 
 bool Session::LayOutSpecial(const SpecialKind& kind) {
-  return numorra::LayOutSpecial(kind, TheBoard, ports_->Boxes, ports_->TheDialogs, TheRandom);
+  return numorra::LayOutSpecial(kind, Context());
 }
 
 void Session::LayOutFamous(const FamousSquare& famous) {
-  numorra::LayOutFamous(famous, TheBoard, ports_->Boxes);
+  numorra::LayOutFamous(famous, Context());
 }
 
 Remark Session::Hint() {
@@ -121,8 +120,7 @@ Remark Session::EnterPuzzle() {
 }
 
 void Session::FillGaps() {
-  numorra::FillGaps(TheBoard, ports_->Options.LimitToNine(), ports_->TheDialogs, ports_->Searching,
-                    TheRandom);
+  numorra::FillGaps(Context(), ports_->Options.LimitToNine(), ports_->Searching);
 }
 
 void Session::EmptyBoard() {
@@ -134,7 +132,7 @@ std::optional<Puzzle> Session::PuzzleOnBoard() const {
     return std::nullopt;
   }
   StoredSquare square = StoredSquareOf(TheBoard);
-  for (std::size_t cell = 0; cell < square.Givens.size(); ++cell) {
+  for (int cell = 0; cell < square.Givens.Size(); ++cell) {
     if (!square.Givens[cell]) square.Cells[cell].reset();
   }
   auto read = PuzzleOf(square);
@@ -154,7 +152,7 @@ std::optional<MadePuzzle> Session::SolvedPuzzleOnBoard() {
 
 std::optional<std::string> Session::PuzzleCode() const {
   const auto puzzle = PuzzleOnBoard();
-  if (puzzle && puzzle->Order <= kMostCodedOrder) return CodeOf(*puzzle);
+  if (puzzle && puzzle->Order() <= kMostCodedOrder) return CodeOf(*puzzle);
   ports_->TheDialogs.Tell(
       "there is a code for boards with gaps, of size 3 to 10, that keep their rules");
   return std::nullopt;

@@ -26,8 +26,8 @@ struct SessionPorts {
   SquareBoxes& Boxes;
   BuildOptions& Options;
   Dialogs& TheDialogs;
-  BuildStage& Building;   ///< where builds are shown
-  BuildStage& Searching;  ///< where searches are
+  BuildStage& Building;  ///< where builds are shown
+  WorkStage& Searching;  ///< where searches are
 };
 
 /// A board in play and all that belongs to playing it: what has been done to it, the player's keys,
@@ -125,6 +125,8 @@ class Session {
 
   ListBoy List2;
   ListBoy List3;
+  CommandContext Context() { return {TheBoard, ports_->Boxes, ports_->TheDialogs, TheRandom}; }
+
   std::optional<SessionPorts> ports_;
   std::optional<Commands> commands_;
 };

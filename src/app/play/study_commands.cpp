@@ -13,26 +13,30 @@
 namespace numorra {
 namespace {
 
+Square<double> NumbersOn(const Board& board) {
+  return SquareOf(board.GridSize, [&](int cell) {
+    const Place place = PlaceAt(cell, board.GridSize);
+    return Val(board.grid.Text(place.Row, place.Column));
+  });
+}
+
 /// The numbers of the full board; of another one the player is told what is missing.
-std::optional<std::vector<double>> FullBoard(const Board& board, Dialogs& dialogs) {
-  std::vector<double> numbers;
+std::optional<Square<double>> FullBoard(const CommandContext& context) {
+  const Board& board = context.TheBoard;
   std::optional<Place> gap;
   ForEachCell(board.GridSize, [&](int r, int c) {
-    const std::string& text = board.grid.Text(r, c);
     if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
-    numbers.push_back(Val(text));
   });
-  if (!gap) return numbers;
-  dialogs.Tell(NameOf(*gap) + " is empty: this works on full boards");
+  if (!gap) return NumbersOn(board);
+  context.TheDialogs.Tell(NameOf(*gap) + " is empty: this works on full boards");
   return std::nullopt;
 }
 
 /// Puts other numbers in the place of the board's.
-void Replace(Board& board, const std::vector<double>& numbers) {
+void Replace(Board& board, const Square<double>& numbers) {
   const RedrawLock lock(board.grid);
-  auto number = numbers.begin();
   ForEachCell(board.GridSize, [&](int r, int c) {
-    board.BoardValues(r, c) = *number++;
+    board.BoardValues(r, c) = numbers[Place{r, c}];
     board.grid.SetGiven(r, c, false);
   });
   board.ShowBoard();
@@ -40,42 +44,36 @@ void Replace(Board& board, const std::vector<double>& numbers) {
   RefreshTotals(board);
 }
 
-std::vector<std::optional<double>> CellsOf(const std::vector<double>& numbers) {
-  return {numbers.begin(), numbers.end()};
-}
-
 }  // namespace
 
 std::optional<NumberSquare> SquareOn(const Board& board) {
   if (!board.Shown() || board.HasGaps()) return std::nullopt;
-  std::vector<double> numbers;
-  numbers.reserve(static_cast<std::size_t>(board.GridSize * board.GridSize));
-  ForEachCell(board.GridSize, [&](int r, int c) { numbers.push_back(Val(board.grid.Text(r, c))); });
-  return NumberSquare(board.GridSize, std::move(numbers));
+  return NumberSquare(NumbersOn(board));
 }
 
-void VaryBoard(Board& board, Dialogs& dialogs, Random& random) {
-  const auto numbers = FullBoard(board, dialogs);
+void VaryBoard(const CommandContext& context) {
+  const auto numbers = FullBoard(context);
   if (!numbers) return;
-  random.Reseed();
-  if (const auto varied = Varied(board.GridSize, *numbers, random)) {
-    Replace(board, *varied);
+  context.TheRandom.Reseed();
+  if (const auto varied = Varied(*numbers, context.TheRandom)) {
+    Replace(context.TheBoard, *varied);
   } else {
-    dialogs.Tell("all relatives of this square look like it");
+    context.TheDialogs.Tell("all relatives of this square look like it");
   }
 }
 
-void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs) {
-  const auto numbers = FullBoard(board, dialogs);
+void ComplementBoard(const CommandContext& context) {
+  const auto numbers = FullBoard(context);
   if (!numbers) return;
-  const std::vector<double> complement = ComplementOf(*numbers);
-  for (std::size_t cell = 0; cell < complement.size(); ++cell) {
+  const Square<double> complement = ComplementOf(*numbers);
+  for (int cell = 0; cell < complement.Size(); ++cell) {
     if (DigitsOf(Decimal(complement[cell])) <= kMostCellDigits) continue;
-    dialogs.Tell("the complement of " + Decimal((*numbers)[cell]) + " in " +
-                 NameOf(PlaceAt(cell, board.GridSize)) + " has more than " +
-                 std::to_string(kMostCellDigits) + " digits");
+    context.TheDialogs.Tell("the complement of " + Decimal((*numbers)[cell]) + " in " +
+                            NameOf(complement.PlaceOf(cell)) + " has more than " +
+                            std::to_string(kMostCellDigits) + " digits");
     return;
   }
+  Board& board = context.TheBoard;
   const auto [least, most] = std::minmax_element(numbers->begin(), numbers->end());
   DecimalSum target;
   for (int line = 0; line < board.GridSize; ++line) {
@@ -85,43 +83,41 @@ void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs) {
   target.Subtract(board.TargetTotal);
   if (target.Total() != board.TargetTotal) {
     board.TargetTotal = target.Total();
-    if (board.SolveMode == ModeVariable) boxes.SetSum(Decimal(board.TargetTotal));
+    if (board.SolveMode == ModeVariable) context.Boxes.SetSum(Decimal(board.TargetTotal));
   }
   Replace(board, complement);
 }
 
-void BringToStandardForm(Board& board, Dialogs& dialogs) {
-  const auto numbers = FullBoard(board, dialogs);
+void BringToStandardForm(const CommandContext& context) {
+  const auto numbers = FullBoard(context);
   if (!numbers) return;
-  const std::vector<double> form = StandardForm(board.GridSize, *numbers);
+  const Square<double> form = StandardForm(*numbers);
   if (form == *numbers) {
-    dialogs.Tell("this is the standard form");
+    context.TheDialogs.Tell("this is the standard form");
   } else {
-    Replace(board, form);
+    Replace(context.TheBoard, form);
   }
 }
 
-bool LayOutSpecial(const SpecialKind& kind, Board& board, SquareBoxes& boxes, Dialogs& dialogs,
-                   Random& random) {
-  const int order = ToInt16(Val(boxes.Size()));
+bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context) {
+  const int order = ToInt16(Val(context.Boxes.Size()));
   const char* const none = WhyNoBoardHas(order);
   const std::string why = none ? none : kind.WhyNone(order);
   if (!why.empty()) {
-    dialogs.Tell(why);
+    context.TheDialogs.Tell(why);
     return false;
   }
-  random.Reseed();
-  LayOut(board, boxes,
-         {.Order = order,
-          .Cells = CellsOf(kind.Build(order, random)),
+  context.TheRandom.Reseed();
+  LayOut(context.TheBoard, context.Boxes,
+         {.Cells = StoredCells(kind.Build(order, context.TheRandom)),
           .Total = static_cast<double>(NormalTotal(order)),
           .Asked = Rules::Normal});
   return true;
 }
 
-void LayOutFamous(const FamousSquare& famous, Board& board, SquareBoxes& boxes) {
-  LayOut(board, boxes,
-         {.Order = famous.Order, .Cells = CellsOf(famous.Numbers), .Total = famous.Total});
+void LayOutFamous(const FamousSquare& famous, const CommandContext& context) {
+  LayOut(context.TheBoard, context.Boxes,
+         {.Cells = StoredCells(famous.Numbers), .Total = famous.Total});
 }
 
 }  // namespace numorra

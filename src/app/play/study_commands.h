@@ -2,10 +2,7 @@
 
 #include <optional>
 
-#include "app/board/board.h"
-#include "app/board/random.h"
-#include "app/ports/dialogs.h"
-#include "app/ports/square_boxes.h"
+#include "app/board/command_context.h"
 #include "study/famous.h"
 #include "study/number_square.h"
 #include "study/special.h"
@@ -18,20 +15,19 @@ namespace numorra {
 std::optional<NumberSquare> SquareOn(const Board& board);
 
 /// Another square of its family in the board's place.
-void VaryBoard(Board& board, Dialogs& dialogs, Random& random);
+void VaryBoard(const CommandContext& context);
 
 /// largest + smallest - number in each cell. The target goes along, so that lines that were right
 /// stay right; in the Variable mode the sum box does, too.
-void ComplementBoard(Board& board, SquareBoxes& boxes, Dialogs& dialogs);
+void ComplementBoard(const CommandContext& context);
 
 /// That of its eight images which is smallest in reading order.
-void BringToStandardForm(Board& board, Dialogs& dialogs);
+void BringToStandardForm(const CommandContext& context);
 
 /// A square of that kind, by lot, of the order in the size box, as a new board of the normal rules.
 /// False, with the reason, where there is none.
-bool LayOutSpecial(const SpecialKind& kind, Board& board, SquareBoxes& boxes, Dialogs& dialogs,
-                   Random& random);
+bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context);
 
-void LayOutFamous(const FamousSquare& famous, Board& board, SquareBoxes& boxes);
+void LayOutFamous(const FamousSquare& famous, const CommandContext& context);
 
 }  // namespace numorra

@@ -4,22 +4,22 @@
 
 namespace numorra {
 
-void UndoHistory::Note(const Deed& deed) {
+void UndoHistory::Note(const CommandResult& result) {
   const bool walked = std::exchange(walking_, false);
-  const bool typed = deed.Name == kTyping;
+  const bool typed = result.Name == kTyping;
   if (!typed || walked) typing_ = false;
-  if (walked || !deed.ChangedTheBoard()) return;
+  if (walked || !result.ChangedTheBoard()) return;
   if (typing_) {
-    positions_.back() = deed.After;
+    positions_.back() = result.After;
     if (!IsChange(positions_[now_ - 1], positions_[now_])) ForgetLastStep();
     return;
   }
   typing_ = typed;
   names_.resize(now_);
   positions_.resize(now_);
-  names_.push_back(deed.Name);
-  positions_.push_back(deed.Before);
-  positions_.push_back(deed.After);
+  names_.push_back(result.Name);
+  positions_.push_back(result.Before);
+  positions_.push_back(result.After);
   if (names_.size() > kMostSteps) {
     names_.pop_front();
     positions_.pop_front();

@@ -23,7 +23,7 @@ class UndoHistory {
   static constexpr const char* kTyping = "typing";
 
   /// Listens to every command. The history's own are no steps.
-  void Note(const Deed& deed);
+  void Note(const CommandResult& result);
 
   bool CanUndo() const { return now_ > 0; }
   bool CanRedo() const { return now_ < names_.size(); }

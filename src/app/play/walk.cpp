@@ -3,11 +3,27 @@
 #include <utility>
 
 #include "app/board/board.h"
+#include "app/board/line.h"
 #include "app/board/numbers.h"
 #include "app/play/board_state.h"
 
 namespace numorra {
 namespace {
+
+/// Where the frame shows a line's total.
+std::vector<Place> TotalsOf(Line line, int order) {
+  switch (line.Way) {
+    case Line::Row:
+      return {{line.K + 1, 0}};
+    case Line::Column:
+      return {{0, line.K + 1}};
+    case Line::Falling:
+      return {{0, 0}};
+    case Line::Rising:
+      break;
+  }
+  return {{0, order + 1}, {order + 1, 0}};
+}
 
 /// A board of the order with nothing on it.
 void Empty(Grid& grid, int order) {
@@ -53,29 +69,21 @@ void Walk::GoTo(int step) {
 /// Full lines of numbers have their totals, those that are right in their colour.
 void Walk::ShowTotals() {
   const int n = order_;
-  const double target = static_cast<double>(NormalTotal(n));
-  const auto show = [&](Place total, auto textAt) {
+  const auto target = static_cast<double>(NormalTotal(n));
+  for (const Line line : MagicLines(n)) {
     double sum = 0;
     bool full = true;
-    for (int i = 1; i <= n && full; ++i) {
-      const std::string& text = textAt(i);
-      full = !text.empty() && text[0] >= '0' && text[0] <= '9';
+    for (const Place place : PlacesOf(line, n)) {
+      const std::string& text = grid_.Text(place.Row, place.Column);
+      full = full && !text.empty() && text[0] >= '0' && text[0] <= '9';
       sum += full ? Val(text) : 0;
     }
-    grid_.SetText(total.Row, total.Column, full ? Decimal(sum) : "");
-    grid_.Judge(total.Row, total.Column,
-                full && sum == target ? Verdict::Right : Verdict::Unjudged);
-  };
-  const auto text = [&](int row, int column) -> const std::string& {
-    return grid_.Text(row, column);
-  };
-  for (int line = 1; line <= n; ++line) {
-    show({line, 0}, [&](int i) -> const std::string& { return text(line, i); });
-    show({0, line}, [&](int i) -> const std::string& { return text(i, line); });
+    for (const Place total : TotalsOf(line, n)) {
+      grid_.SetText(total.Row, total.Column, full ? Decimal(sum) : "");
+      grid_.Judge(total.Row, total.Column,
+                  full && sum == target ? Verdict::Right : Verdict::Unjudged);
+    }
   }
-  show({0, 0}, [&](int i) -> const std::string& { return text(i, i); });
-  for (const Place total : {Place{0, n + 1}, Place{n + 1, 0}})
-    show(total, [&](int i) -> const std::string& { return text(i, n + 1 - i); });
 }
 
 std::string StateOf(const Walk& walk) {

@@ -81,7 +81,7 @@ void MainWindow::ConnectSession() {
   session_.Connect({*controls_->Square, *controls_, world_.TheDialogs, stage_, searchStage_});
   runner_.OnBegin = [this] { session_.BeginCommand(); };
   runner_.OnEnd = [this](const std::string& name) { session_.EndCommand(name); };
-  session_.Watch.Listen([this](const Deed&) { ShowState(); });
+  session_.Watch.Listen([this](const CommandResult&) { ShowState(); });
   session_.TheBoard.OnShown = [this] { place_->ShowBoard(); };
   world_.Boxes.BeforeBox = [this] { ShowStateLine(); };
   OnSignal(runner_, place_, &BoardPlace::SightChanged, this, [this] { ShowStateLine(); });
@@ -132,7 +132,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  runner_.Stop();
+  runner_.Close();
   event->accept();
 }
 

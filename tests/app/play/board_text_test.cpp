@@ -11,7 +11,7 @@ namespace {
 class BoardTextTest : public PlayTest {
  protected:
   bool Paste(const std::string& text) {
-    const bool pasted = PasteBoard(board_, boxes_, dialogs_, text);
+    const bool pasted = PasteBoard({board_, boxes_, dialogs_, random_}, text);
     if (pasted) CheckAndReturn(board_, dialogs_);
     return pasted;
   }

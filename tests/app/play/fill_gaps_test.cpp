@@ -12,17 +12,16 @@ class FillGapsTest : public PlayTest {
   void LayOutGaps(const std::string& rows, double target, Rules rules = Rules::Normal,
                   const std::vector<int>& givens = {}) {
     const slow::Rows parsed = ParseRows(rows);
-    StoredSquare square{.Order = static_cast<int>(parsed.size()), .Total = target, .Asked = rules};
-    for (const auto& row : parsed) {
-      for (const double number : row)
-        square.Cells.push_back(number == 0 ? std::nullopt : std::optional(number));
+    StoredSquare square{.Cells = StoredCells(SquareFrom(parsed)), .Total = target, .Asked = rules};
+    for (auto& cell : square.Cells) {
+      if (cell == 0) cell.reset();
     }
-    if (!givens.empty()) square.Givens.resize(square.Cells.size());
+    if (!givens.empty()) square.Givens = Square<bool>(square.Order());
     for (const int cell : givens)
-      square.Givens[static_cast<std::size_t>(cell)] = true;
+      square.Givens[cell] = true;
     LayOut(board_, boxes_, square);
   }
-  void Fill(bool limit = false) { FillGaps(board_, limit, dialogs_, stage_, random_); }
+  void Fill(bool limit = false) { FillGaps({board_, boxes_, dialogs_, random_}, limit, stage_); }
 
   PlainBoxes boxes_;
   NotingStage stage_;

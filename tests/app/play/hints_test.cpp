@@ -64,11 +64,9 @@ TEST_F(HintsTest, PointAtWhatCannotStay) {
 /// The same cells with another total are another board.
 TEST_F(HintsTest, BelongToOneTotal) {
   const auto layOut = [this](double total) {
-    LayOut(board_, boxes_,
-           {.Order = 3,
-            .Cells = {5, 5, {}, 5, 5, {}, {}, {}, {}},
-            .Total = total,
-            .Asked = Rules::Positive});
+    LayOut(
+        board_, boxes_,
+        {.Cells = {3, {5, 5, {}, 5, 5, {}, {}, {}, {}}}, .Total = total, .Asked = Rules::Positive});
   };
   layOut(15);
   hints_.Next();

@@ -77,7 +77,7 @@ TEST_F(LayOutTest, GapsStayGaps) {
 /// Every command on a given: turned with it, passed by, or refused in one sentence.
 TEST_F(LayOutTest, GivensStay) {
   StoredSquare square = std::get<StoredSquare>(ReadSquareText("8 1 6\n3 5 7\n4 9 1"));
-  square.Givens.assign(9, false);
+  square.Givens = Square<bool>(3);
   square.Givens[0] = square.Givens[4] = true;
   const Messages refused{"the number in row 1, column 1 is given and cannot be changed"};
   const std::function<void()> deeds[] = {[this] { entry_.TypeCharacter('5'); },

@@ -10,7 +10,7 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   SolveHarness h;
   CellEntry entry(h.TheBoard, h.TheDialogs);
   h.Boxes = PlainBoxes("3", "15");
-  BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
+  BuildManualBoard(h.Context(), h.Stage);
   EXPECT_EQ(h.TheBoard.BaseValue, 5);
   EXPECT_EQ(h.TheBoard.Asked, Rules::Positive);
   EXPECT_EQ(ShownRows(h.TheBoard.grid), slow::Rows(3, {6, 6, 6}));
@@ -22,7 +22,7 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   EXPECT_FALSE(h.Stage.Busy);
 
   h.Boxes = PlainBoxes("4", "5");
-  BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
+  BuildManualBoard(h.Context(), h.Stage);
   EXPECT_EQ(h.Boxes.SumText, " 8");
   EXPECT_EQ(h.TheBoard.BaseValue, 2);
   EXPECT_EQ(h.TheBoard.TargetTotal, 8);
@@ -31,7 +31,7 @@ TEST(ManualBoard, StartsEveryCellAboveItsShare) {
   h.TheBoard.SolveMode = ModeNormal;
   h.TheBoard.CellFlags(2, 2) = 7;
   h.Boxes = PlainBoxes("3", "15");
-  BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
+  BuildManualBoard(h.Context(), h.Stage);
   EXPECT_EQ(ShownRows(h.TheBoard.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
   EXPECT_EQ(h.TheBoard.CellFlags(2, 2), 0);
   EXPECT_EQ(h.TheBoard.Asked, Rules::Normal);
@@ -43,7 +43,7 @@ TEST(ManualBoard, RefusesAndKeepsWhatWas) {
   SolveHarness h;
   const auto manual = [&h](const char* size, const char* sum) {
     h.Boxes = PlainBoxes(size, sum);
-    BuildManualBoard(h.TheBoard, h.Boxes, h.TheDialogs, h.Stage);
+    BuildManualBoard(h.Context(), h.Stage);
     return h.TheDialogs.Take();
   };
   manual("3", "15");

@@ -70,7 +70,7 @@ TEST_F(SessionTest, APuzzleIsMadeAndSolvedWithHints) {
   });
   const auto solved = session_.SolvedPuzzleOnBoard();
   ASSERT_TRUE(solved);
-  const std::int64_t right = solved->Solution.Cells[IndexOf(gap, 4)];
+  const std::int64_t right = solved->Solution.Cells[gap];
   Type(gap.Row, gap.Column, std::to_string(right % 16 + 1));
   const std::vector<Place> wrong = Do("Hint", [this] { return session_.Hint(); }).Where;
   EXPECT_NE(std::find(wrong.begin(), wrong.end(), gap), wrong.end()) << "pointed at";
@@ -120,7 +120,7 @@ TEST_F(SessionTest, SaysWhatFreshSquaresAreToBeLike) {
 
 TEST_F(SessionTest, ForgetsWhoeverShowedIt) {
   int told = 0;
-  session_.Watch.Listen([&](const Deed&) { ++told; });
+  session_.Watch.Listen([&](const CommandResult&) { ++told; });
   Do("Auto", [this] { session_.Solve().Auto(); });
   const Position before = PositionOf(session_.TheBoard);
   session_.Disconnect();

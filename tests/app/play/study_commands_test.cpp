@@ -8,28 +8,29 @@ namespace {
 class StudyCommands : public PlayTest {
  protected:
   PlainBoxes boxes_{"3", "15"};
+  CommandContext context_{board_, boxes_, dialogs_, random_};
 };
 
 TEST_F(StudyCommands, ShowRelatives) {
   Show("8 1 6 / 3 5 7 / 4 9 2");
   Go(2, 3);
   board_.grid.SetGiven(1, 1, true);
-  ComplementBoard(board_, boxes_, dialogs_);
+  ComplementBoard(context_);
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("2 9 4 / 7 5 3 / 6 1 8"));
   EXPECT_FALSE(board_.HasGivens());
   EXPECT_EQ(board_.grid.VerdictOf(0, 0), Verdict::Right);
   EXPECT_EQ(Where(), std::pair(2, 3));
   EXPECT_EQ(boxes_.SumText, "15");
-  BringToStandardForm(board_, dialogs_);
+  BringToStandardForm(context_);
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("2 7 6 / 9 5 1 / 4 3 8"));
-  VaryBoard(board_, dialogs_, random_);
+  VaryBoard(context_);
   EXPECT_NE(ShownRows(board_.grid), ParseRows("2 7 6 / 9 5 1 / 4 3 8"));
   EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
 }
 
 TEST_F(StudyCommands, TakeTheTargetAlong) {
   Show("10.5 1 6 / 3 5 7 / 4 9 2", 15);
-  ComplementBoard(board_, boxes_, dialogs_);
+  ComplementBoard(context_);
   EXPECT_EQ(At(1, 1), "1");
   EXPECT_EQ(At(1, 2), "10.5");
   EXPECT_EQ(board_.TargetTotal, 19.5);
@@ -37,7 +38,7 @@ TEST_F(StudyCommands, TakeTheTargetAlong) {
   EXPECT_EQ(board_.grid.VerdictOf(2, 0), Verdict::Right);
   board_.SolveMode = ModeNormal;
   board_.grid.SetText(3, 3, "20");
-  ComplementBoard(board_, boxes_, dialogs_);
+  ComplementBoard(context_);
   EXPECT_NE(board_.TargetTotal, 19.5);
   EXPECT_EQ(boxes_.SumText, "19.5") << "in the Normal mode the box belongs to the size";
 }
@@ -45,18 +46,18 @@ TEST_F(StudyCommands, TakeTheTargetAlong) {
 TEST_F(StudyCommands, RefuseInOneSentence) {
   Show("8 1 6 / 3 5 7 / 4 9 2");
   board_.grid.SetText(2, 3, "");
-  VaryBoard(board_, dialogs_, random_);
-  ComplementBoard(board_, boxes_, dialogs_);
-  BringToStandardForm(board_, dialogs_);
+  VaryBoard(context_);
+  ComplementBoard(context_);
+  BringToStandardForm(context_);
   const std::string gap = "row 2, column 3 is empty: this works on full boards";
   EXPECT_EQ(dialogs_.Take(), (Messages{gap, gap, gap}));
   EXPECT_EQ(At(2, 3), "");
 
   Show("7 7 7 / 7 7 7 / 7 7 7");
-  VaryBoard(board_, dialogs_, random_);
-  BringToStandardForm(board_, dialogs_);
+  VaryBoard(context_);
+  BringToStandardForm(context_);
   Show("99999999999999 1 1 / 1 0.25 1 / 1 1 1");
-  ComplementBoard(board_, boxes_, dialogs_);
+  ComplementBoard(context_);
   EXPECT_EQ(dialogs_.Take(),
             (Messages{"all relatives of this square look like it", "this is the standard form",
                       "the complement of 1 in row 1, column 2 has "
@@ -72,16 +73,16 @@ TEST_F(StudyCommands, LayOutSquaresOfTheSizeBox) {
                   "no pandiagonal normal square has order 6: its sums would make a quarter of "
                   "the numbers add up to 166.5, which is no whole number"}}) {
     boxes_.SizeText = size;
-    EXPECT_FALSE(LayOutSpecial(*FindSpecialKind("pandiagonal"), board_, boxes_, dialogs_, random_));
+    EXPECT_FALSE(LayOutSpecial(*FindSpecialKind("pandiagonal"), context_));
     EXPECT_EQ(dialogs_.Take(), Messages{message});
     EXPECT_FALSE(board_.Shown());
   }
   boxes_.SizeText = "7";
-  EXPECT_TRUE(LayOutSpecial(*FindSpecialKind("pandiagonal"), board_, boxes_, dialogs_, random_));
+  EXPECT_TRUE(LayOutSpecial(*FindSpecialKind("pandiagonal"), context_));
   EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
   EXPECT_EQ(board_.Asked, Rules::Normal);
   EXPECT_EQ(boxes_.SumText, "175");
-  LayOutFamous(FamousSquares().front(), board_, boxes_);
+  LayOutFamous(FamousSquares().front(), context_);
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("4 9 2 / 3 5 7 / 8 1 6"));
   EXPECT_EQ(boxes_.SizeText, "3");
 }

@@ -9,7 +9,7 @@ namespace {
 class UndoHistoryTest : public PlayTest {
  protected:
   UndoHistoryTest() {
-    watch_.Listen([this](const Deed& deed) { undo_.Note(deed); });
+    watch_.Listen([this](const CommandResult& result) { undo_.Note(result); });
   }
 
   template <class Command>

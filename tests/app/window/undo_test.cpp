@@ -14,7 +14,7 @@ class UndoTest : public WindowTest {
   QString Text(const char* action) { return Find<QAction>(action).text().remove('&'); }
 
   /// Does it, takes it back, does it again; the board is each time as it was.
-  void ExpectStep(const std::string& name, const std::function<void()>& deed) {
+  void ExpectStep(const std::string& name, const std::function<void()>& result) {
     SCOPED_TRACE(name);
     const Position before = Now();
     deed();

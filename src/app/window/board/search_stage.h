@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/ports/build_stage.h"
+#include "app/ports/work_stage.h"
 #include "app/window/board/board_place.h"
 #include "toolkit/command_runner.h"
 
@@ -9,14 +9,14 @@ namespace numorra {
 /// The window as the stage of a search: a bar below the board says how long it has been at it. It
 /// comes with the first yield that lets events run and goes with the search. Stopping is a command
 /// that takes the search's place.
-class SearchStage : public BuildStage {
+class SearchStage : public WorkStage {
  public:
   SearchStage(BoardPlace& place, CommandRunner& runner) : place_(place), runner_(runner) {}
 
-  using BuildStage::ShowCount;
+  /// What the bar calls the next search.
+  void Call(const char* doing) { doing_ = doing; }
+
   void ShowBusy(bool busy) override;
-  void ShowCounter(bool) override {}
-  void ShowCount(const char* text) override { doing_ = text; }
   void Yield() override;
 
  private:

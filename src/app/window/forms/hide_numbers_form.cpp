@@ -7,14 +7,14 @@
 #include <QVBoxLayout>
 
 #include "puzzle/code.h"
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
 
 namespace numorra {
 
 QString DescriptionOf(const MadePuzzle& made) {
-  const int clues = made.Clues.Order * made.Clues.Order - made.Clues.Gaps();
+  const int clues = made.Clues.Cells.Size() - made.Clues.Gaps();
   QString description = QString("%1 clues, %2: ").arg(clues).arg(NameOf(made.Needed));
   for (int grade = 0; grade <= static_cast<int>(made.Needed); ++grade) {
     if (grade > 0) description += "; ";
@@ -60,12 +60,12 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
   row->addStretch();
   row->addWidget(buttons);
   column->addLayout(row);
-  wish_->SetOrder(square_ ? square_->Order : fresh_.Order);
+  wish_->SetOrder(square_ ? square_->Order() : fresh_.Order);
 
   OnSignal(runner_, wish_, &PuzzleWishBox::Changed, this, [this] { Make(); });
   OnClick(runner_, another, this, [this] { Make(); });
   OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, [this](bool fromBoard) {
-    wish_->SetOrder(fromBoard && square_ ? square_->Order : fresh_.Order);
+    wish_->SetOrder(fromBoard && square_ ? square_->Order() : fresh_.Order);
     Make();
   });
   OnClick(runner_, copy_, this, [this] {
@@ -85,7 +85,7 @@ void HideNumbersForm::Make() {
     made_.reset();
     take_->setEnabled(false);
     copy_->setEnabled(false);
-    FormStage stage(runner_, [this] { told_->setText("Making a puzzle..."); });
+    FormYielding stage(runner_, [this] { told_->setText("Making a puzzle..."); });
     random_.Reseed();
     const bool board = fromBoard_->isChecked();
     const std::optional<Puzzle> square = board ? square_ : FreshSquare(fresh_, random_, stage);
@@ -99,7 +99,7 @@ void HideNumbersForm::Make() {
       return;
     }
     made_ = std::get<MadePuzzle>(std::move(made));
-    const bool coded = square->Order <= kMostCodedOrder;
+    const bool coded = square->Order() <= kMostCodedOrder;
     told_->setText(DescriptionOf(*made_) +
                    (coded ? "\n" + QString::fromStdString(CodeOf(made_->Clues)) : QString()));
     take_->setEnabled(true);

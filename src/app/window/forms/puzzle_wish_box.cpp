@@ -2,7 +2,7 @@
 
 #include <QFormLayout>
 
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 #include "toolkit/named.h"
 
 namespace numorra {
@@ -36,7 +36,7 @@ PuzzleWishBox::PuzzleWishBox(QWidget* parent)
 
 PuzzleWish PuzzleWishBox::Wish() const {
   PuzzleWish wish{static_cast<Grade>(grade_->currentIndex()), {}, symmetric_->isChecked()};
-  if (!fewest_->isChecked()) wish.Clues = clues_->value();
+  if (!fewest_->isChecked()) wish.ClueCount = clues_->value();
   return wish;
 }
 

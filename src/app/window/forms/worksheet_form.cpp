@@ -96,7 +96,7 @@ std::vector<MadePuzzle> WorksheetForm::Puzzles() {
   ShowMaking(true);
   const auto done = qScopeGuard([this] { ShowMaking(false); });
   std::vector<MadePuzzle> puzzles;
-  FormStage stage(runner_, [&] {
+  FormYielding stage(runner_, [&] {
     told_->setText(
         QString("Making puzzle %1 of %2...").arg(puzzles.size() + 1).arg(count_->value()));
   });

@@ -86,7 +86,7 @@ void BoardInput::ConnectMenu() {
     desk_.RunOnCurrentCell(session.LastCommand.Caption, [&session] { session.Edits().Redo(); });
   });
   session.Watch.Listen(
-      [this](const Deed&) { desk_.Menu.ShowHistory(desk_.TheSession.LastCommand); });
+      [this](const CommandResult&) { desk_.Menu.ShowHistory(desk_.TheSession.LastCommand); });
 }
 
 void BoardInput::Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition) {

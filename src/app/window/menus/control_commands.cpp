@@ -19,7 +19,7 @@ ControlCommands::ControlCommands(Desk& desk, QObject* parent) : QObject(parent),
   ConnectBuilds();
   ConnectModes();
   ConnectColours();
-  desk_.TheSession.Watch.Listen([this](const Deed&) { ShowState(); });
+  desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
   ShowState();
 }
 

@@ -36,7 +36,7 @@ EditMenu::EditMenu(QMenuBar* bar, Desk& desk) : QObject(bar), desk_(desk) {
                               desk_.Menu.EnableEditing(true);
                             });
                           }});
-  desk_.TheSession.Watch.Listen([this](const Deed&) { ShowState(); });
+  desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
   ShowState();
 }
 

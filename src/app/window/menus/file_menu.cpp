@@ -32,7 +32,7 @@ FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
   // Not every desktop names a standard key for it.
   AddItem(menu,
           {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }});
-  desk_.TheSession.Watch.Listen([this](const Deed&) { ShowState(); });
+  desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
   ShowState();
 }
 

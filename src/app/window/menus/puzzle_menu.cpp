@@ -53,8 +53,8 @@ PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* s
   BoardPlace& place = desk_.Place;
   OnClick(desk_.Runner, place.SearchBar->Button, this, [this] { desk_.Runner.Run("Stop", [] {}); });
   OnClick(desk_.Runner, place.RemarkBar->Button, this, [this] { desk_.Place.ForgetRemark(); });
-  desk_.TheSession.Watch.Listen([this](const Deed& deed) {
-    desk_.Place.EndCommand(deed.ChangedTheBoard());
+  desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
+    desk_.Place.EndCommand(result.ChangedTheBoard());
     ShowState();
   });
   ShowState();
@@ -67,7 +67,7 @@ void PuzzleMenu::ShowState() {
 
 void PuzzleMenu::ShowRemark(const char* name, const char* doing, std::function<Remark()> find) {
   desk_.RunOnCurrentCell(name, [this, doing, find = std::move(find)] {
-    stage_.ShowCount(doing);
+    stage_.Call(doing);
     desk_.Place.ShowRemark(find());
   });
 }
@@ -75,7 +75,7 @@ void PuzzleMenu::ShowRemark(const char* name, const char* doing, std::function<R
 void PuzzleMenu::FillGaps() {
   desk_.RunOnCurrentCell("Fill Gaps", [this] {
     desk_.Place.ForgetRemark();
-    stage_.ShowCount("Filling the gaps");
+    stage_.Call("Filling the gaps");
     desk_.TheSession.FillGaps();
   });
 }

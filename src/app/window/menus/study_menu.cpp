@@ -22,8 +22,8 @@ StudyMenu::StudyMenu(QMainWindow* window, Desk& desk, PanelRoom& room)
   AddSquares(menu);
   menu->addSeparator();
   AddWalk(menu, window);
-  desk_.TheSession.Watch.Listen([this](const Deed& deed) {
-    if (deed.ChangedTheBoard()) desk_.Place.EndWalk();
+  desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
+    if (result.ChangedTheBoard()) desk_.Place.EndWalk();
     ShowState();
   });
   ShowState();
@@ -95,10 +95,9 @@ void StudyMenu::FollowSteps() {
   shown_->setChecked(shown);
   if (!shown) return desk_.Place.EndWalk();
   if (desk_.Place.Walking()) return;
-  const Board& board = desk_.TheBoard();
-  const auto square = SquareOn(board);
+  const auto square = SquareOn(desk_.TheBoard());
   desk_.Place.ShowWalk();
-  steps_->Begin(board.GridSize, square ? square->Numbers() : std::vector<double>());
+  steps_->Begin(square ? square->Numbers() : Square<double>());
 }
 
 }  // namespace numorra

@@ -50,8 +50,8 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
            [this](const std::vector<Place>& cells) { desk_.Place.PointAt(cells); });
   OnSignal(desk_.Runner, properties_, &QDockWidget::visibilityChanged, this,
            [this] { FollowProperties(); });
-  desk_.TheSession.Watch.Listen([this](const Deed& deed) {
-    studied_ = studied_ && !deed.ChangedTheBoard();
+  desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
+    studied_ = studied_ && !result.ChangedTheBoard();
     StudyBoard();
   });
   for (GridView* cells : std::initializer_list<GridView*>{desk_.Place.View, desk_.Place.Walk}) {

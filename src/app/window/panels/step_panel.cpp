@@ -98,11 +98,10 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
   ShowStep();
 }
 
-void StepPanel::Begin(int order, const std::vector<double>& numbers) {
-  order_ = order;
-  numbers_ = numbers;
+void StepPanel::Begin(const Square<double>& square) {
+  square_ = square;
   choice_->clear();
-  if (!numbers.empty() && !WalkOf(order, numbers).empty()) {
+  if (!WalkOf(square).empty()) {
     choice_->addItem("the square on the board", 0);
   }
   for (const int example : kExamples)
@@ -115,8 +114,8 @@ void StepPanel::BeginChosen() {
   if (choice_->count() == 0) return;
   Play(false);
   const int example = choice_->currentData().toInt();
-  const int order = example == 0 ? order_ : example;
-  view_->Begin(order, WalkOf(order, example == 0 ? numbers_ : ExampleToWalk(example)));
+  const Square<double> square = example == 0 ? square_ : ExampleToWalk(example);
+  view_->Begin(square.Order(), WalkOf(square));
   asked_ = right_ = 0;
   steps_->setRange(0, view_->TheWalk().Steps());
   GoTo(0);

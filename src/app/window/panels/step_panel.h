@@ -22,8 +22,8 @@ class StepPanel : public QDockWidget {
   StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent);
 
   /// Offers the square on the board, where it is one that can be explained, and the examples, and
-  /// begins with the first of them. `numbers`: of the board, empty without a full one.
-  void Begin(int order, const std::vector<double>& numbers);
+  /// begins with the first of them. `square`: the board, empty without a full one.
+  void Begin(const Square<double>& square);
 
  private:
   void BeginChosen();
@@ -44,8 +44,7 @@ class StepPanel : public QDockWidget {
   QCheckBox* ask_;
   QLabel* sentence_;
   QTimer timer_;
-  int order_ = 0;
-  std::vector<double> numbers_;
+  Square<double> square_;
   int asked_ = 0;
   int right_ = 0;
 };

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "app/ports/build_stage.h"
+#include "app/ports/yielding.h"
 #include "puzzle/candidates.h"
 
 namespace numorra {
 
 /// A number that follows from the others, and why: what a hint shows.
-struct Step {
+struct Deduction {
   int Cell = 0;
   std::int64_t Number = 0;
   Grade Needed = Grade::Easy;     ///< the easiest rules that find it
@@ -23,8 +23,8 @@ struct Step {
 /// when they give none, or contradict each other. Expert gives what trying gives: a gap of which
 /// all numbers but one lead, by the hard rules, to a contradiction.
 ///
-/// The stage is yielded to at every trial; what it throws ends it.
-std::optional<Step> NextStep(const Puzzle& puzzle, Grade most, BuildStage& stage);
+/// The yielding is yielded to at every trial; what it throws ends it.
+std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yielding& yielding);
 
 /// What is said of a number that trying alone has found.
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number);

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "study/number_square.h"
+#include "app/board/place.h"
 
 namespace numorra {
 
@@ -20,7 +20,7 @@ struct Line {
   int K;
 
   /// The index of its i-th cell in reading order, in a square of order n.
-  std::size_t Cell(int i, int n) const;
+  int Cell(int i, int n) const;
 };
 
 /// The 2n + 2 lines that a magic square is judged by: rows, columns, both main diagonals.
@@ -32,7 +32,8 @@ std::vector<Line> BrokenDiagonals(int order);
 /// What the line is called: "row 2", "the broken diagonal that falls from row 1, column 3".
 std::string NameOf(Line line, int order);
 
-std::vector<Place> PlacesOf(Line line, const NumberSquare& square);
+/// Its cells in a square of the order.
+std::vector<Place> PlacesOf(Line line, int order);
 
 /// The sum over its cells of valueOf(index).
 template <class ValueOf>
@@ -41,11 +42,6 @@ std::int64_t SumOf(Line line, int order, ValueOf valueOf) {
   for (int i = 0; i < order; ++i)
     sum += valueOf(line.Cell(i, order));
   return sum;
-}
-
-inline std::int64_t SumOf(Line line, const NumberSquare& square) {
-  const auto& units = square.Units();
-  return SumOf(line, square.Order(), [&](std::size_t cell) { return units[cell]; });
 }
 
 }  // namespace numorra

@@ -1,9 +1,9 @@
-#include "puzzle/rules.h"
+#include "puzzle/deduction.h"
 
 #include <algorithm>
 #include <array>
 
-#include "study/line.h"
+#include "app/board/line.h"
 
 namespace numorra {
 namespace {
@@ -30,18 +30,19 @@ std::vector<Place> PlaceOf(const Candidates& board, int cell) {
   return PlacesOf(board, {cell});
 }
 
-std::optional<Step> SingleGap(const Puzzle& puzzle, const Candidates& board) {
+std::optional<Deduction> SingleGap(const Puzzle& puzzle, const Candidates& board) {
   for (int line = 0; line < board.Map().Lines(); ++line) {
     const std::vector<int> gaps = board.GapsOf(line);
     if (gaps.size() != 1 || !board.Allows(gaps[0], board.Rest(line))) continue;
     const std::string number = std::to_string(board.Rest(line));
-    return Step{gaps[0],
-                board.Rest(line),
-                Grade::Easy,
-                PlacesOf(board, board.Map().CellsOf(line)),
-                LineName(board, line),
-                std::to_string(puzzle.Order - 1) + " numbers stand in " + LineName(board, line) +
-                    ", the total is " + std::to_string(puzzle.Target) + ": the last is " + number};
+    return Deduction{gaps[0],
+                     board.Rest(line),
+                     Grade::Easy,
+                     PlacesOf(board, board.Map().CellsOf(line)),
+                     LineName(board, line),
+                     std::to_string(puzzle.Order() - 1) + " numbers stand in " +
+                         LineName(board, line) + ", the total is " + std::to_string(puzzle.Target) +
+                         ": the last is " + number};
   }
   return std::nullopt;
 }
@@ -128,32 +129,33 @@ std::vector<std::int64_t> NumbersFor(const Puzzle& puzzle, const Candidates& boa
 
 /// A gap with one number, or a number with one place, once the grade's rules have narrowed the
 /// gaps.
-std::optional<Step> OnePossibility(const Puzzle& puzzle, Grade grade) {
+std::optional<Deduction> OnePossibility(const Puzzle& puzzle, Grade grade) {
   Candidates board(puzzle);
   if (!board.Narrow(grade)) return std::nullopt;
   for (int cell = 0; cell < board.Cells(); ++cell) {
     if (board.Value(cell) != 0 || board.Count(cell) != 1) continue;
     const std::int64_t number = board.Low(cell);
-    return Step{cell,
-                number,
-                grade,
-                PlaceOf(board, cell),
-                PlaceName(board, cell),
-                WhyOnly(board, cell, number, NumbersFor(puzzle, board, cell))};
+    return Deduction{cell,
+                     number,
+                     grade,
+                     PlaceOf(board, cell),
+                     PlaceName(board, cell),
+                     WhyOnly(board, cell, number, NumbersFor(puzzle, board, cell))};
   }
   Candidates::Single single;
   if (!board.IsNormal() || !board.FindSinglePlace(single) || single.Cell < 0) return std::nullopt;
-  return Step{single.Cell,
-              single.Number,
-              grade,
-              PlaceOf(board, single.Cell),
-              PlaceName(board, single.Cell),
-              std::to_string(single.Number) + " can stand in " + PlaceName(board, single.Cell) +
-                  " alone: the lines of every other gap rule it out"};
+  return Deduction{single.Cell,
+                   single.Number,
+                   grade,
+                   PlaceOf(board, single.Cell),
+                   PlaceName(board, single.Cell),
+                   std::to_string(single.Number) + " can stand in " +
+                       PlaceName(board, single.Cell) +
+                       " alone: the lines of every other gap rule it out"};
 }
 
 /// A gap of which all numbers but one lead to a contradiction.
-std::optional<Step> Tried(const Puzzle& puzzle, BuildStage& stage) {
+std::optional<Deduction> Tried(const Puzzle& puzzle, Yielding& yielding) {
   constexpr std::int64_t kMostTried = 12;
   Candidates board(puzzle);
   if (!board.Propagate(Grade::Hard)) return std::nullopt;
@@ -163,18 +165,18 @@ std::optional<Step> Tried(const Puzzle& puzzle, BuildStage& stage) {
       std::vector<std::int64_t> possible;
       for (std::int64_t number = board.Low(cell); number <= board.High(cell); ++number) {
         if (!board.Allows(cell, number)) continue;
-        stage.Yield();
+        yielding.Yield();
         const std::size_t mark = board.Mark();
         if (board.Put(cell, number) && board.Propagate(Grade::Hard)) possible.push_back(number);
         board.UndoTo(mark);
       }
       if (possible.size() == 1) {
-        return Step{cell,
-                    possible[0],
-                    Grade::Expert,
-                    PlaceOf(board, cell),
-                    PlaceName(board, cell),
-                    WhyTried(board, cell, possible[0])};
+        return Deduction{cell,
+                         possible[0],
+                         Grade::Expert,
+                         PlaceOf(board, cell),
+                         PlaceName(board, cell),
+                         WhyTried(board, cell, possible[0])};
       }
     }
   }
@@ -183,7 +185,7 @@ std::optional<Step> Tried(const Puzzle& puzzle, BuildStage& stage) {
 
 }  // namespace
 
-std::optional<Step> NextStep(const Puzzle& puzzle, Grade most, BuildStage& stage) {
+std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yielding& yielding) {
   {
     Candidates board(puzzle);
     if (auto step = SingleGap(puzzle, board)) return step;
@@ -192,7 +194,7 @@ std::optional<Step> NextStep(const Puzzle& puzzle, Grade most, BuildStage& stage
     if (grade > most) return std::nullopt;
     if (auto step = OnePossibility(puzzle, grade)) return step;
   }
-  return most == Grade::Expert ? Tried(puzzle, stage) : std::nullopt;
+  return most == Grade::Expert ? Tried(puzzle, yielding) : std::nullopt;
 }
 
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number) {

@@ -1,8 +1,8 @@
-#include "study/line.h"
+#include "app/board/line.h"
 
 namespace numorra {
 
-std::size_t Line::Cell(int i, int n) const {
+int Line::Cell(int i, int n) const {
   int row = i;
   int column = K;
   switch (Way) {
@@ -19,7 +19,7 @@ std::size_t Line::Cell(int i, int n) const {
       column = K >= i ? K - i : K - i + n;
       break;
   }
-  return static_cast<std::size_t>(row * n + column);
+  return row * n + column;
 }
 
 std::vector<Line> MagicLines(int order) {
@@ -60,10 +60,10 @@ std::string NameOf(Line line, int order) {
   return "the broken diagonal that rises to row 1, column " + number;
 }
 
-std::vector<Place> PlacesOf(Line line, const NumberSquare& square) {
+std::vector<Place> PlacesOf(Line line, int order) {
   std::vector<Place> places;
-  for (int i = 0; i < square.Order(); ++i)
-    places.push_back(square.PlaceOf(line.Cell(i, square.Order())));
+  for (int i = 0; i < order; ++i)
+    places.push_back(PlaceAt(line.Cell(i, order), order));
   return places;
 }
 
