@@ -47,7 +47,7 @@ TEST_F(MakingTest, MakesFairPuzzlesOfEveryGrade) {
 }
 
 /// The same by lot, for as long as a soak goes on; every other one has any total.
-TEST_F(MakingTest, SoaksInPuzzlesByLot) {
+TEST_F(MakingTest, SoaksInRandomPuzzles) {
   const Soak soak;
   SeededRandom lot(soak.Seed);
   int made = 0;
