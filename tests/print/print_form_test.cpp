@@ -104,7 +104,7 @@ TEST_F(PrintTest, SaysWhatIsWrongWithASheetBeforeItIsPrinted) {
   Open();
   EXPECT_EQ(doubts(),
             "The lines of this square do not all add up to 9000.|"
-            "Numbers of more than 3 places run into their neighbors on the sheet.|");
+            "Numbers with more than 3 characters overlap their neighbors on the sheet.|");
 }
 
 /// An assistive tool may press what a box in front should keep from being pressed.

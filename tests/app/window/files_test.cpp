@@ -134,9 +134,9 @@ TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
   mkfifo(fifo.toUtf8().constData(), 0600);
   const std::pair<QString, QString> cases[] = {
       {In("none"), "File error: there is no file " + In("none")},
-      {fifo, "File error: " + fifo + " is no regular file"},
-      {"/dev/zero", "File error: /dev/zero is no regular file"},
-      {folder_.path(), "File error: " + folder_.path() + " is no regular file"},
+      {fifo, "File error: " + fifo + " is not a regular file"},
+      {"/dev/zero", "File error: /dev/zero is not a regular file"},
+      {folder_.path(), "File error: " + folder_.path() + " is not a regular file"},
       {Written("large", QByteArray((1 << 20) + 1, '1')),
        "File error: " + In("large") + " is too large to be a square"},
       {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is no number"},
@@ -186,9 +186,9 @@ TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   QFile::link(circle, circle);
   QFile::link(Written("linked.json", "old"), link);
   const std::pair<QString, std::string> cases[] = {
-      {pipe, " is no regular file"},
-      {circle, " is a link that leads to no file"},
-      {In("q.png"), " is a picture's name: Export Picture writes pictures"}};
+      {pipe, " is not a regular file"},
+      {circle, " is a link that does not lead to a file"},
+      {In("q.png"), " has a picture's suffix: use Export Picture to save pictures"}};
   for (const auto& [name, why] : cases) {
     Trigger("SaveAsx", name);
     EXPECT_EQ(dialogs_.Take(), Messages{"File error: " + name.toStdString() + why});

@@ -102,7 +102,7 @@ void GridView::SetFitting(bool fitting) {
   viewport()->update();
 }
 
-/// The largest zoom at which the last line still ends inside the view.
+/// Sets the largest zoom at which the last line still fits in the view.
 void GridView::Fit() {
   const int lines = std::max(grid_.Rows(), grid_.Columns());
   if (lines == 0) return;
@@ -116,7 +116,7 @@ void GridView::BringIntoView(int row, int column) {
   const auto bring = [this](QScrollBar* bar, int line, int length) {
     const int fixed = painter_.Edge(Grid::kFixedLines);
     if (line < Grid::kFixedLines) return;
-    const int last = painter_.Edge(line + 1) - length;  // above `first` where no cell fits in
+    const int last = painter_.Edge(line + 1) - length;  // above `first` if no cell fits
     const int first = painter_.Edge(line) - fixed;
     bar->setValue(std::min(std::max(bar->value(), last), first));
   };
@@ -148,7 +148,7 @@ void GridView::paintEvent(QPaintEvent* event) {
   UpdateScrollBars();
   QPainter painter(viewport());
   if (!grid_.Visible()) return PaintInvitation(painter);
-  constexpr int kMostParts = 40;  // of which the painting costs less than that of all together
+  constexpr int kMostParts = 40;  // above it, painting everything at once is cheaper
   const QRegion& dirty = event->region();
   if (dirty.rectCount() > kMostParts) {
     painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
@@ -164,7 +164,7 @@ void GridView::paintEvent(QPaintEvent* event) {
   PaintOutlined(painter);
 }
 
-/// An empty view says what fills it.
+/// An empty view explains how to fill it.
 void GridView::PaintInvitation(QPainter& painter) {
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
@@ -172,7 +172,7 @@ void GridView::PaintInvitation(QPainter& painter) {
                    "F1 explains everything.");
 }
 
-/// What is told is what is painted, so once a repaint at most.
+/// Screen readers are told what is painted, so at most once per repaint.
 void GridView::TellCurrentCell() {
   if (!hasFocus()) return;
   const ShownCell now{grid_.CurrentRow(), grid_.CurrentColumn(),
@@ -212,7 +212,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers();
   const bool command =
       modifiers.testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  // Keyboards without a keypad step with Alt, and those without a menu key have Shift+F10.
+  // Alt steps on keyboards without a keypad; Shift+F10 serves those without a menu key.
   const bool steps = modifiers.testFlag(Qt::KeypadModifier);
   const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
   const bool menu = event->key() == Qt::Key_F10 && modifiers.testFlag(Qt::ShiftModifier);
@@ -240,7 +240,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// Whether the key is one that moves the current cell.
+/// Whether the key moves the current cell.
 bool GridView::Navigate(int key, bool toTheVeryEnd) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
@@ -322,7 +322,7 @@ void GridView::UpdateScrollBars() {
   if (fitting_) Fit();
   const QSize table(painter_.Edge(shape.width()), painter_.Edge(shape.height()));
   const QSize whole = maximumViewportSize();
-  // What fits needs no bars, even where each of them is only in the other's way.
+  // A table that fits needs no scroll bars, even if each bar alone makes the other one necessary.
   const bool fits = table.boundedTo(whole) == table;
   const QSize room = fits ? whole : viewport()->size();
   const auto set = [this](QScrollBar* bar, int length, int seen) {
@@ -341,9 +341,8 @@ bool GridView::CurrentInBlock() const {
   return inside(grid_.CurrentRow(), grid_.Rows()) && inside(grid_.CurrentColumn(), grid_.Columns());
 }
 
-/// Leads the eye along the current row and column to their totals: plain cells are tinted, totals
-/// that are there get a frame in the colour of their text. Shaded cells show their shade and
-/// nothing else.
+/// Shows how the current row and column lead to their totals: plain cells are tinted, visible
+/// totals get a frame in their text colour. Shaded cells show only their shade.
 void GridView::PaintGuides(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
@@ -376,7 +375,7 @@ void GridView::PaintGuides(QPainter& painter) {
   frameTotal(0, column);
 }
 
-/// What scrolls, and the line before it, on which frames may lie.
+/// The scrolling area and the line before it, on which frames may lie.
 void GridView::ClipToScrollingCells(QPainter& painter) const {
   const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
@@ -389,8 +388,8 @@ void GridView::PaintOutlined(QPainter& painter) {
   });
 }
 
-/// The current cell anew, in a ring of the theme's highlight with a light one inside, to be seen on
-/// every colour. The number lies over the rings, so that long ones stay readable.
+/// Repaints the current cell with a ring in the theme's highlight and a light ring inside, visible
+/// on every colour. The number is painted over the rings, so that long ones stay readable.
 void GridView::PaintCurrentCell(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
