@@ -14,7 +14,7 @@ namespace {
 constexpr int kBoards = 20;
 constexpr double kSeconds = 3;
 
-/// A normal square of which `share` per cent of the numbers are left, by lot.
+/// A normal square with `share` per cent of its numbers, chosen at random.
 Puzzle BoardWithGaps(int order, int share, NormalSquare& squares, Random& random) {
   Puzzle puzzle{order, NormalTotal(order), Rules::Normal, false, {}};
   const CellTable square = squares.Build(order);

@@ -30,7 +30,7 @@ Outcome RunWith(const std::string& line, const std::string& input = "") {
   return RunOn(in, line);
 }
 
-/// A text and behind it another one, again and again without an end.
+/// A text followed by another one, repeated endlessly.
 class Endless : public std::streambuf {
  public:
   Endless(std::string start, std::string again)
@@ -188,7 +188,7 @@ TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
 }
 
 /// As in the window: quarter turns by 1, 2, 3, 0, and never the start of the last odd square.
-TEST(SquareProgram, GoesOnFromTheSquareBefore) {
+TEST(SquareProgram, ContinuesFromTheSquareBefore) {
   const auto fours = Blocks(RunWith("--size 4 --count 5 --format csv").Out);
   EXPECT_EQ(std::set<std::string>(fours.begin(), fours.end()).size(), 4U);
   EXPECT_EQ(fours[0], fours[4]);
@@ -196,8 +196,9 @@ TEST(SquareProgram, GoesOnFromTheSquareBefore) {
   EXPECT_EQ(std::adjacent_find(fives.begin(), fives.end()), fives.end());
 }
 
-/// Of what never ends as much is read as one square may take; squares are taken as they come.
-TEST(SquareProgram, ReadsWithoutAnEndInBoundedMemory) {
+/// Of endless input, only as much is read as one square may take; squares are answered as they
+/// come.
+TEST(SquareProgram, ReadsEndlessInputInBoundedMemory) {
   const std::string square = "\r\n8 1 6\r3 5 7\r\n4 9 2\n\ntotal 15\n\n";
   struct Case {
     std::string start, again, line;

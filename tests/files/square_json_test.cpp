@@ -40,7 +40,7 @@ TEST(SquareJson, IsWrittenOnOneLineAndReadInAnyForm) {
   EXPECT_EQ(std::get<StoredSquare>(rows), (StoredSquare{3, {-8, 0.5, 6, 3, 5, 7, 4, 9, 2}}));
 }
 
-TEST(SquareJson, ThatIsNoneIsRefusedWithItsPlace) {
+TEST(SquareJson, ThatIsInvalidIsRefusedWithItsPlace) {
   const std::string none = "this JSON holds no square of Numorra";
   const std::pair<std::string, std::string> cases[] = {
       {"{\n\n\"a\": [}", "line 5, column 7: this is no valid JSON"},

@@ -36,7 +36,7 @@ TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
   }
 }
 
-TEST(SquareTexts, ThatAreNoneAreRefusedWithTheirLine) {
+TEST(SquareTexts, ThatAreInvalidAreRefusedWithTheirLine) {
   const std::string none =
       "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text";
   std::string wide;

@@ -42,7 +42,7 @@ inline CellTable TableOf(const slow::Rows& rows) {
   return cells;
 }
 
-/// What the grid shows in its value block.
+/// The texts in the grid's value block.
 inline slow::Rows ShownRows(const Grid& grid) {
   slow::Rows rows;
   for (int r = 1; r < grid.Rows() - 1; ++r) {

@@ -19,7 +19,7 @@
 namespace numorra {
 namespace {
 
-/// Chooses the names that it is told.
+/// Returns the given file names.
 struct ScriptedFiles : FileChooser {
   QString ToOpen(QWidget*, const QString&, const QString&) override { return Name; }
   QString ToSave(QWidget*, const QString&, const QString&) override { return Name; }
@@ -127,7 +127,7 @@ TEST_F(FilesTest, WhatTheCompanionWritesOpensAndIsPasted) {
   }
 }
 
-TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
+TEST_F(FilesTest, UnreadableFilesAreReportedAndChangeNothing) {
   Make("SolveManual", "3", "15");
   const Position before = Now();
   const QString fifo = In("fifo");
@@ -178,7 +178,7 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
 }
 
-/// What is no file, or another kind of file by its name, is not replaced.
+/// Something that is not a file, or has the name of another kind of file, is not replaced.
 TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   Make("SolveAuto", "3");
   const QString pipe = In("pipe.json"), circle = In("circle.json"), link = In("link.json");
@@ -201,7 +201,7 @@ TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   EXPECT_TRUE(Read("linked.json").startsWith("{")) << "through a link to a file";
 }
 
-/// Somebody else cuts the file short, takes it away and writes it again all the while.
+/// Another process truncates, removes and rewrites the file at the same time.
 TEST_F(FilesTest, AFileThatChangesWhileItIsReadIsReadWholeOrRefused) {
   const QString name = In("restless");
   std::atomic<bool> goesOn = true;
