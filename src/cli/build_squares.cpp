@@ -16,7 +16,7 @@
 namespace numorra {
 namespace {
 
-/// A square and what is to be said about it.
+/// A square with a remark about it.
 struct Result {
   CellTable Square;
   int Order = 0;
@@ -25,7 +25,7 @@ struct Result {
   Rules Asked = Rules::Positive;
 };
 
-/// The other way round than NumbersOf.
+/// The inverse of NumbersOf.
 CellTable TableOf(int order, const std::vector<double>& numbers) {
   CellTable table;
   auto number = numbers.begin();
@@ -33,7 +33,7 @@ CellTable TableOf(int order, const std::vector<double>& numbers) {
   return table;
 }
 
-/// Builds one square after the other; each generator goes on from what it built last.
+/// Builds one square after the other; each generator continues from its last square.
 class SquareBuilder {
  public:
   SquareBuilder(const SquareRequest& request, Random& random)
@@ -80,7 +80,7 @@ class SquareBuilder {
     throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
   }
 
-  /// What the square has another than was asked for.
+  /// How the square differs from the request.
   std::string RemarkOnDifference(const VariablePlan& plan, const VariableBuild& build) const {
     std::string remark;
     if (request_.Corner && build.Square(1, 1) != *request_.Corner) {
@@ -109,7 +109,7 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
     Result result = builder.Next();
     if (request.Vary) {
       const auto varied = Varied(result.Order, NumbersOf(result.Square, result.Order), random);
-      if (!varied) throw Impossible{"all relatives of this square look like it"};
+      if (!varied) throw Impossible{"all squares of this family look like this one"};
       result.Square = TableOf(result.Order, *varied);
     }
     if (!result.Remark.empty()) streams.Err << kProgramName << result.Remark << "\n";

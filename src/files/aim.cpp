@@ -11,7 +11,7 @@
 namespace numorra {
 namespace {
 
-/// The sum of the first line of those that cellAt(line, place) gives which has no gap.
+/// The sum of the first line without a gap, with cells from cellAt(line, place).
 template <class CellAt>
 std::optional<double> FirstFullSum(int lines, int places, CellAt cellAt) {
   for (int line = 0; line < lines; ++line) {

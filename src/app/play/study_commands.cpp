@@ -13,7 +13,7 @@
 namespace numorra {
 namespace {
 
-/// The numbers of the full board; of another one the player is told what is missing.
+/// The numbers of a full board; otherwise tells the player what is missing.
 std::optional<std::vector<double>> FullBoard(const Board& board, Dialogs& dialogs) {
   std::vector<double> numbers;
   std::optional<Place> gap;
@@ -23,11 +23,11 @@ std::optional<std::vector<double>> FullBoard(const Board& board, Dialogs& dialog
     numbers.push_back(Val(text));
   });
   if (!gap) return numbers;
-  dialogs.Tell(NameOf(*gap) + " is empty: this works on full boards");
+  dialogs.Tell(NameOf(*gap) + " is empty: this needs a full board");
   return std::nullopt;
 }
 
-/// Puts other numbers in the place of the board's.
+/// Replaces the board's numbers.
 void Replace(Board& board, const std::vector<double>& numbers) {
   const RedrawLock lock(board.grid);
   auto number = numbers.begin();
@@ -61,7 +61,7 @@ void VaryBoard(Board& board, Dialogs& dialogs, Random& random) {
   if (const auto varied = Varied(board.GridSize, *numbers, random)) {
     Replace(board, *varied);
   } else {
-    dialogs.Tell("all relatives of this square look like it");
+    dialogs.Tell("all squares of this family look like this one");
   }
 }
 

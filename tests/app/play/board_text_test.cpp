@@ -41,7 +41,7 @@ TEST_F(BoardTextTest, ShowsATextAsABoardToBePlayed) {
 TEST_F(BoardTextTest, RefusesOtherTextsAndChangesNothing) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   EXPECT_FALSE(Paste("1 2 3\n4 5 x\n7 8 9"));
-  EXPECT_EQ(dialogs_.Take(), Messages{"line 2: \"x\" is no number"});
+  EXPECT_EQ(dialogs_.Take(), Messages{"line 2: \"x\" is not a number"});
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
   EXPECT_EQ(boxes_.SumText, "9");
 }

@@ -57,12 +57,11 @@ TEST_F(FillGapsTest, FillsAndSaysHowManySolutionsThereAre) {
   EXPECT_TRUE(board_.HasGaps());
   Fill();
   EXPECT_EQ(slow::WhyNotMagic(ShownRows(board_.grid), 30), "");
-  EXPECT_EQ(
-      dialogs_.Take(),
-      (Messages{"the board has no gaps to fill", "this is one of several ways to fill the gaps",
-                "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
-                "to 9",
-                "this is one of several ways to fill the gaps"}));
+  EXPECT_EQ(dialogs_.Take(),
+            (Messages{"the board has no gaps to fill", "this is one of several solutions",
+                      "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
+                      "to 9",
+                      "this is one of several solutions"}));
 }
 
 TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {

@@ -48,7 +48,7 @@ TEST_F(StudyCommands, RefuseInOneSentence) {
   VaryBoard(board_, dialogs_, random_);
   ComplementBoard(board_, boxes_, dialogs_);
   BringToStandardForm(board_, dialogs_);
-  const std::string gap = "row 2, column 3 is empty: this works on full boards";
+  const std::string gap = "row 2, column 3 is empty: this needs a full board";
   EXPECT_EQ(dialogs_.Take(), (Messages{gap, gap, gap}));
   EXPECT_EQ(At(2, 3), "");
 
@@ -58,7 +58,7 @@ TEST_F(StudyCommands, RefuseInOneSentence) {
   Show("99999999999999 1 1 / 1 0.25 1 / 1 1 1");
   ComplementBoard(board_, boxes_, dialogs_);
   EXPECT_EQ(dialogs_.Take(),
-            (Messages{"all relatives of this square look like it", "this is the standard form",
+            (Messages{"all squares of this family look like this one", "this is the standard form",
                       "the complement of 1 in row 1, column 2 has "
                       "more than 14 digits"}));
   EXPECT_EQ(At(1, 2), "1");

@@ -139,9 +139,9 @@ TEST_F(FilesTest, UnreadableFilesAreReportedAndChangeNothing) {
       {folder_.path(), "File error: " + folder_.path() + " is not a regular file"},
       {Written("large", QByteArray((1 << 20) + 1, '1')),
        "File error: " + In("large") + " is too large to be a square"},
-      {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is no number"},
-      {Written("json", "{\n\n\"a\": [}"), "line 3, column 7: this is no valid JSON"},
-      {Written("mark", "\xEF\xBB\xBF{}"), "this JSON holds no square of Numorra"},
+      {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is not a number"},
+      {Written("json", "{\n\n\"a\": [}"), "line 3, column 7: this is not valid JSON"},
+      {Written("mark", "\xEF\xBB\xBF{}"), "this JSON is not a Numorra square"},
       {Written("utf16", QByteArray("\xFF\xFE"
                                    "1\0\t\0"
                                    "2\0",

@@ -33,7 +33,7 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   const Messages noCode = {
-      "there is a code for boards with gaps, of size 3 to 10, that keep their rules"};
+      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"};
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
