@@ -88,7 +88,7 @@ void ViewMenu::StudyBoard() {
     properties_->Show(Study(std::move(*square)));
   } else {
     properties_->ShowNone(desk_.TheBoard().Shown()
-                              ? "The board has empty cells. Fill them to see its properties."
+                              ? "The board has empty cells: fill them to see its properties."
                               : "There is no board to study.");
   }
 }
