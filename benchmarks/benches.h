@@ -16,7 +16,7 @@ inline constexpr const char* kVariable = "variable generator";
 inline constexpr const char* kArithmetic = "the patterns' own arithmetic";
 
 /// Registers, at every order, the time from the click on each command to the painted board, and the
-/// repaints that it is held against. Returns the commands' names.
+/// repaints used as a yardstick. Returns the commands' names.
 std::vector<std::string> RegisterWindowBenches();
 
 /// Work without a window, and how many repaints of a window with a board of order 50 it may take.
@@ -26,19 +26,19 @@ struct Road {
 };
 std::vector<Road> RegisterRoadBenches();
 
-/// Registers the generators without a window.
+/// Registers the generators.
 void RegisterGeneratorBenches();
 
 /// Prints how varied the squares of the variable generator are, by order and base.
 void PrintVariety();
 
-/// Prints which share of boards with gaps is settled in time, by order and share of clues.
+/// Prints the share of boards with gaps that are settled in time, by order and share of clues.
 void PrintFilling();
 
 /// A normal board with 70 % of its numbers and one solution.
 Puzzle UniqueBoardOfOrder8();
 
-/// Whole processes: what a child measured of itself.
+/// Figures of whole processes, each measured by the child process itself.
 struct Probe {
   Figure Seconds;    ///< from its start to its first paint
   Figure Kilobytes;  ///< the most memory it had resident
@@ -48,14 +48,14 @@ struct Probe {
 /// loads the fonts.
 inline constexpr const char* kProbeKinds[] = {"ours", "bare", "word"};
 
-/// Runs `program --probe KIND` for each kind in turn, again and again.
+/// Runs `program --probe KIND` repeatedly for each kind in turn.
 std::map<std::string, Probe> RunProbes(const char* program, int runs);
 
-/// The child's side: opens the window and reports when it is painted.
+/// The child process: opens the window and reports when it is painted.
 int RunProbeChild(const std::string& kind);
 
-/// Seconds that Octave takes for magic(3) to magic(50), medians of several runs in one process; 0
-/// where it is not installed.
+/// The seconds that Octave takes for magic(3) to magic(50), medians of several runs in one process;
+/// 0 if it is not installed.
 Figure OctaveSeconds();
 
 }  // namespace numorra::bench

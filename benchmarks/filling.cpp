@@ -14,7 +14,7 @@ namespace {
 constexpr int kBoards = 20;
 constexpr double kSeconds = 3;
 
-/// A normal square of which `share` per cent of the numbers are left, by lot.
+/// A normal square with `share` per cent of its numbers, chosen at random.
 Puzzle BoardWithGaps(int order, int share, NormalSquare& squares, Random& random) {
   Puzzle puzzle{Square<std::int64_t>(SquareOf(squares.Build(order), order)), NormalTotal(order)};
   std::vector<int> cells(static_cast<std::size_t>(puzzle.Cells.Size()));

@@ -41,8 +41,8 @@ void BuildVariable(benchmark::State& state, int order) {
     benchmark::DoNotOptimize(shop.Variable.Build(plan, {}, 1));
 }
 
-/// As many applications of an eight-cell pattern as a build makes, with a random multiplier each:
-/// what no way of building by patterns can do without.
+/// Applies an eight-cell pattern as often as a build does, each time with a random multiplier: the
+/// minimum work of any method that builds by patterns.
 void AddPatterns(benchmark::State& state, int order) {
   Workshop shop;
   const int applications = shop.Variable.Build(PlanFor(order), {}, 1).PassCount;

@@ -7,7 +7,7 @@
 #include "benches.h"
 
 /// Runs every measurement and prints one table. Each figure is a ratio of two medians of this run,
-/// the runs of both interleaved at random; the spread beside it is the larger of the two.
+/// with the runs of both interleaved at random; the spread beside it is the larger of the two.
 namespace {
 
 using namespace numorra::bench;
@@ -100,7 +100,7 @@ int main(int argc, char** argv) {
 
   PrintCommands(results, names);
   PrintRoads(results, roads);
-  if (argc > 1) return 0;  // a selection: the whole processes are left out
+  if (argc > 1) return 0;  // a selection: skip the whole processes
   std::printf("\n");
   PrintLine("the toolkit's table view / our board, order 50",
             Between(results.Of(At(kTableRepaint, 50)), results.Of(At(kBoardRepaint, 50))),

@@ -7,11 +7,10 @@
 
 namespace numorra::bench {
 
-/// The orders at which everything is measured.
+/// The orders that are measured.
 inline constexpr int kOrders[] = {5, 10, 20, 30, 49, 50};
 
-/// A figure over several runs: its median, and how far the middle half of the runs lies apart as a
-/// share of the median.
+/// A figure over several runs: its median, and its interquartile range as a share of the median.
 struct Figure {
   double Median = 0;
   double Spread = 0;
@@ -19,10 +18,10 @@ struct Figure {
 
 Figure FigureOf(std::vector<double> values);
 
-/// The exponent k of the power n^k that fits the times best, by least squares on the logarithms.
+/// The exponent k of the power n^k that best fits the times, by least squares on the logarithms.
 double FitExponent(const std::map<int, double>& timeByOrder);
 
-/// Keeps the time of every run, in seconds, by the benchmark's name.
+/// Collects the time of every run, in seconds, by the benchmark's name.
 class Results : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }

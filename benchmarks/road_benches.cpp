@@ -9,7 +9,7 @@
 namespace numorra::bench {
 namespace {
 
-/// A bordered square is what takes the longest: its rings are looked at, too.
+/// A bordered square takes the longest, because its rings are studied too.
 void StudySquare(benchmark::State& state) {
   TickingClock time(7);
   ClockSeededRandom random(time);

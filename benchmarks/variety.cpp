@@ -12,7 +12,7 @@ namespace {
 constexpr int kOrdersOfVariety[] = {4, 5, 6, 8, 10, 20, 50};
 constexpr int kBases[] = {2, 3, 4, 5, 10, 60};
 
-/// What is not varied in some builds: shares from 0 to 1.
+/// What lacks variety in a set of builds, as shares from 0 to 1.
 struct Dullness {
   double Flat = 0;        ///< boards with one number everywhere
   double Equal = 0;       ///< cells that hold the board's most frequent number

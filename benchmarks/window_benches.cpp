@@ -14,7 +14,7 @@
 namespace numorra::bench {
 namespace {
 
-/// Says yes to everything, at once.
+/// Answers yes to everything at once.
 class Yes : public Dialogs {
  public:
   void Tell(const std::string&) override {}
@@ -24,7 +24,7 @@ class Yes : public Dialogs {
   }
 };
 
-/// Counts the paints of what shows the board.
+/// Counts the paints of the board's widgets.
 class PaintCounter : public QObject {
  public:
   bool eventFilter(QObject*, QEvent* event) override {
@@ -34,11 +34,11 @@ class PaintCounter : public QObject {
   int Paints = 0;
 };
 
-/// One real window for all measurements, large enough to show a board of order 50 whole.
+/// One real window for all measurements, large enough to show a whole board of order 50.
 class Stand {
  public:
   static Stand& Get() {
-    static auto* stand = new Stand;  // the application is gone before statics are
+    static auto* stand = new Stand;  // leaked: the application ends before statics do
     return *stand;
   }
 
@@ -49,7 +49,7 @@ class Stand {
 
   void Trigger(const char* action) { Find<QAction>(action).trigger(); }
 
-  /// So much smaller than at first.
+  /// Makes the window smaller than at first by this much.
   void Resize(int smaller) { window_.resize(1700 - smaller, 1500 - smaller); }
 
   void Click(const char* button) { Find<QAbstractButton>(button).click(); }
@@ -59,7 +59,7 @@ class Stand {
     QCoreApplication::sendEvent(&window_.View(), &event);
   }
 
-  /// Lets events run until the board, or a drawing of it, has been painted.
+  /// Processes events until the board, or a drawing of it, has been painted.
   void AwaitPaint() {
     const int before = counter_.Paints;
     while (counter_.Paints == before)
@@ -71,7 +71,7 @@ class Stand {
     Find<QLineEdit>("Text4").setText(QString::number(sum));
   }
 
-  /// A checked board of the Variable mode, and nothing left to paint.
+  /// Lays out a checked board in the Variable mode, with nothing left to paint.
   void Prepare(int order) {
     Trigger("NormalSizex");
     Find<QWidget>("PropertiesPanel").hide();
@@ -92,7 +92,7 @@ class Stand {
       QCoreApplication::processEvents();
   }
 
-  /// Everything in the window, by way of the event loop as a command's own paint comes.
+  /// Repaints everything in the window through the event loop, as after a command.
   void Repaint() {
     for (QWidget* widget : window_.findChildren<QWidget*>())
       widget->update();
@@ -226,7 +226,7 @@ void MeasureCommand(benchmark::State& state, const Command& command, int order) 
     stand.AwaitPaint();
     return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
   };
-  run();  // the zoom of another measurement has left texts of another size
+  run();  // an earlier measurement of the zoom leaves texts of another size
   for (auto _ : state)
     state.SetIterationTime(run());
 }

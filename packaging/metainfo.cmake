@@ -1,8 +1,8 @@
-# What software centres tell of the program. They fetch pictures from the web, so whoever publishes the
-# program says where they are.
+# The description for software centres. They fetch pictures from the web, so the publisher of the program
+# sets their address.
 set(NUMORRA_PICTURES_URL "" CACHE STRING "public address of docs/pictures, for software centres")
 
-# Writes the metainfo to a file, with pictures where they have an address.
+# Writes the metainfo to a file, with pictures if they have an address.
 function(numorra_metainfo pictures_url file)
   set(NUMORRA_SCREENSHOTS "")
   if(pictures_url)
@@ -11,7 +11,7 @@ function(numorra_metainfo pictures_url file)
         "normal-11|A square of the numbers 1 to 121"
         "manual-5|Solving a square by hand"
         "shaded-10|A square shaded by its values"
-        "vectors-10|The way from the smallest number to the largest")
+        "vectors-10|The path from the smallest number to the largest")
       string(REPLACE "|" ";" picture ${picture})
       list(POP_FRONT picture name caption)
       string(APPEND NUMORRA_SCREENSHOTS

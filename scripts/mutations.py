@@ -1,8 +1,8 @@
 """The loop behind scripts/mutate: TREE BUILD COUNT SEED.
 
-A change replaces one token by another of its kind: a comparison, a sign, a constant, true and
-false, and and or, a negation. One that does not compile is drawn again; one that makes a test
-fail, crash or take more than a minute has died.
+A mutation replaces one token by another of its kind: a comparison, a sign, a constant, true and
+false, and and or, a negation. One that does not compile is replaced by another; one that makes a
+test fail, crash or take more than a minute is killed.
 """
 
 import pathlib
@@ -11,13 +11,13 @@ import re
 import subprocess
 import sys
 
-# What stays out of the lot: comments, texts, characters, lines for the preprocessor.
+# Never changed: comments, strings, characters, preprocessor lines.
 SKIPPED = re.compile(
     r"""//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)'(?:\\.|[^'\\\n])+'"""
     r"""|^[ \t]*\#(?:\\\n|[^\n])*""",
     re.DOTALL | re.MULTILINE,
 )
-# The formatter puts spaces around an operator with two sides, and none into a template's brackets.
+# The formatter puts spaces around binary operators, and none inside template brackets.
 TOKEN = re.compile(
     r"(?<= )(?:==|!=|<=|>=|<|>|&&|\|\||\+=|-=|[-+*/%])(?=[ \n])"
     r"|\+\+|--|\b(?:true|false)\b|(?<![\w.'])\d+(?![\w.'])|!(?=[\w(])"
@@ -58,30 +58,30 @@ def main():
         return runs("ctest", "--test-dir", build, "-R", pattern, "-j2", "--timeout", "60", "--stop-on-failure")
 
     def passes(file):
-        """Most that die do so by the tests of their own room, which go first."""
+        """Runs the tests of the file's own room first, because they kill most mutants."""
         name = {"window": "app"}.get(file.parent.name, file.parent.name)
         own = [room for room in rooms if room == name]
         return (not own or pass_in(own)) and pass_in([room for room in rooms if room not in own])
 
     if not builds() or not pass_in(rooms):
-        sys.exit("The tests must pass before anything is changed")
-    lot = random.Random(seed)
-    # A change in a header builds half the program anew; few of them hold any logic.
+        sys.exit("The tests must pass before the first mutation.")
+    chance = random.Random(seed)
+    # Headers are left out: each change rebuilds half the program, and few hold any logic.
     places = [place for file in sorted((tree / "src").rglob("*.cpp")) for place in tokens(file)]
-    lot.shuffle(places)
-    tried = died = 0
+    chance.shuffle(places)
+    tried = killed = 0
     for file, start, token in places:
         if tried == count:
             break
-        other = lot.choice(OTHERS.get(token) or [str(int(token) + 1), str(int(token) - 1)])
+        other = chance.choice(OTHERS.get(token) or [str(int(token) + 1), str(int(token) - 1)])
         text = file.read_text()
         file.write_text(text[:start] + other + text[start + len(token) :])
         compiled = builds()
-        lives = compiled and passes(file)
+        survives = compiled and passes(file)
         file.write_text(text)
         tried += compiled
-        died += compiled and not lives
-        if lives:
+        killed += compiled and not survives
+        if survives:
             number = text.count("\n", 0, start)
             column = start - text.rfind("\n", 0, start)
             print(
@@ -89,7 +89,7 @@ def main():
                 f"    {text.splitlines()[number].strip()}",
                 flush=True,
             )
-    print(f"{tried} changes from seed {seed}: {died} died, {tried - died} live, of {len(places)} places")
+    print(f"{tried} mutants from seed {seed}: {killed} killed, {tried - killed} survived, of {len(places)} places")
 
 
 main()

@@ -1,12 +1,12 @@
-# Sourced by the project's commands: installs what a machine lacks, and builds with little noise.
+# Sourced by the project's commands: installs missing packages, and builds with little output.
 
 kBuildPackages=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation)
 
-# need_packages NAME...: installs the Debian packages that are missing; silent when none is.
+# need_packages NAME...: installs missing Debian packages; silent if there are none.
 need_packages() {
   local missing=() name
   if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    return 0 # Not a Debian machine: the build itself will name what it misses.
+    return 0 # Not a Debian machine: the build names what is missing.
   fi
   for name in "$@"; do
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] ||
@@ -28,7 +28,7 @@ need_packages() {
     { tail -n 15 build/install.log >&2; echo "Installing failed: see build/install.log" >&2; return 1; }
 }
 
-# build PRESET [TARGET...]: configures when needed and builds; the details go to build/PRESET.log.
+# build PRESET [TARGET...]: configures if needed and builds; details go to build/PRESET.log.
 build() {
   local preset=$1 log=build/$1.log
   shift

@@ -11,8 +11,8 @@
 #include "print/worksheet.h"
 #include "puzzle/fresh_square.h"
 
-/// Takes the documents' pictures: drives the real window, offscreen, with a clock of its own, and
-/// saves what it shows.
+/// Takes the pictures of the documents: operates the real window, offscreen, with a clock of its
+/// own, and saves what it shows.
 namespace {
 
 using numorra::Grid;
@@ -22,7 +22,7 @@ class Album {
  public:
   explicit Album(const QString& folder) : folder_(folder) {}
 
-  /// `width`: of the picture, 0 for the widget's own.
+  /// `width`: of the picture, 0 for the widget's own width.
   void Save(const QWidget& widget, const QString& name, int width = 0) {
     QCoreApplication::processEvents();
     const QString path = folder_.filePath(name + ".png");
@@ -73,7 +73,7 @@ void ShowManualBoard(MainWindow& window) {
   }
 }
 
-/// The panel, on why Dürer's square is not ultramagic.
+/// The properties panel, on why Dürer's square is not ultramagic.
 void ShowPanel(MainWindow& window) {
   window.findChild<QAction*>("Propertiesx")->trigger();
   window.findChild<QAction*>("Melencoliax")->trigger();

@@ -10,13 +10,13 @@
 
 namespace {
 
-/// What the toolkit complained of before it could start: the reason, should it then give up.
+/// The toolkit's first complaint before it could start: the reason if it then gives up.
 QString& ReasonAtStart() {
   static QString reason;
   return reason;
 }
 
-/// Where the toolkit would abort, a person deserves one line with the reason and an exit status.
+/// Instead of aborting, prints one line with the reason and exits with a status.
 void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type == QtFatalMsg) {
     QString reason = ReasonAtStart().isEmpty() ? message : ReasonAtStart();
@@ -32,8 +32,8 @@ void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& mes
   }
 }
 
-/// The toolkit's file dialogs note where they last were in a file of its own in the player's home;
-/// nothing is to be kept that was not asked for, so they are given no place for it.
+/// The toolkit's file dialogs save their last folder in a settings file in the player's home. We
+/// save nothing unasked, so we give them no place to write it.
 void KeepNoSettings() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }

@@ -24,7 +24,7 @@ std::optional<Number> NumberIn(const std::string& text) {
   return number;
 }
 
-/// The names of the formats, or of those of answers alone: "text, csv or json".
+/// The names of all formats, or only of those for answers: "text, csv or json".
 std::string NamesOf(bool answersAlone, const std::string& between, const std::string& beforeLast) {
   std::vector<std::string> names;
   for (const Format& format : kFormats) {
@@ -36,7 +36,7 @@ std::string NamesOf(bool answersAlone, const std::string& between, const std::st
   return text;
 }
 
-/// A line of the usage.
+/// A line of the usage text.
 std::string OptionText(const std::string& option, const std::string& says) {
   constexpr std::size_t kSaysFrom = 25;
   std::string line = "  " + option;
@@ -44,7 +44,7 @@ std::string OptionText(const std::string& option, const std::string& says) {
   return line + "  " + says + "\n";
 }
 
-/// What each format is, a line each.
+/// A line for each format.
 std::string FormatLines() {
   std::string lines;
   for (const Format& format : kFormats) {
@@ -55,7 +55,7 @@ std::string FormatLines() {
   return lines;
 }
 
-/// A number as cells have them.
+/// A number as a cell may hold it.
 std::optional<double> DecimalIn(const std::string& text) {
   try {
     const double number = StrictVal(text);
@@ -65,7 +65,7 @@ std::optional<double> DecimalIn(const std::string& text) {
   }
 }
 
-/// Takes one word after the other; the first thing that is wrong is told.
+/// Reads the words one by one and reports the first error.
 class Reader {
  public:
   explicit Reader(const std::vector<std::string>& words) : words_(words) {}
@@ -111,7 +111,7 @@ class Reader {
   }
 
   void TakeFile() {
-    if (fileNamed_) Fail("one file at a time, not '" + words_[next_] + "' too");
+    if (fileNamed_) Fail("only one file can be read, not '" + words_[next_] + "' too");
     fileNamed_ = true;
     request_.File = words_[next_++];
   }
@@ -120,48 +120,49 @@ class Reader {
     if (request_.Command == Command::Puzzle) {
       if (request_.Size == 0) Fail("the size is missing");
       if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
-        Fail("the sum of a puzzle is a whole number");
+        Fail("the sum of a puzzle must be a whole number");
       }
       CheckSum();
       return;
     }
     if (request_.Command != Command::Build) {
       if (request_.LimitToNine && request_.RulesWanted == Rules::Normal) {
-        Fail("the limit goes with the positive rules");
+        Fail("the limit to 9 needs the positive rules");
       }
       if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
-      if (!Of(request_.Format).ForAnswers) Fail("the format is " + NamesOf(true, ", ", " or "));
+      if (!Of(request_.Format).ForAnswers)
+        Fail("the format must be " + NamesOf(true, ", ", " or "));
       return;
     }
     CheckSum();
     const bool variable = request_.Sum || request_.LimitToNine || request_.Corner;
     if (request_.Top) {
       if (request_.Size != 0 || variable || request_.Kind) {
-        Fail("a top row goes with no other wish");
+        Fail("a top row cannot be combined with a size, sum, limit, corner or kind");
       }
     } else if (request_.Size == 0) {
       Fail("the size is missing");
     }
-    if (request_.Kind && variable) Fail("a kind goes with a size alone");
-    if (request_.Corner && request_.LimitToNine) Fail("the limit does not go with a corner");
+    if (request_.Kind && variable) Fail("a kind cannot be combined with a sum, limit or corner");
+    if (request_.Corner && request_.LimitToNine) Fail("the limit cannot be combined with a corner");
     CheckVary();
   }
 
-  /// Squares are made of 16-bit shares of the sum; the limit lowers any larger one.
+  /// Squares are built from 16-bit shares of the sum; the limit lowers any larger sum.
   void CheckSum() {
     const double bound = (std::numeric_limits<std::int16_t>::max() + 1.0) * request_.Size;
     if (request_.Size == 0 || !request_.Sum || request_.LimitToNine || *request_.Sum < bound)
       return;
-    Fail("the sum for size " + std::to_string(request_.Size) + " is below " + Decimal(bound));
+    Fail("the sum for size " + std::to_string(request_.Size) + " must be below " + Decimal(bound));
   }
 
-  /// A relative of a square has lost what the order of its lines gave it.
+  /// Varying a square changes the order of its lines, and so what depends on that order.
   void CheckVary() {
     if (!request_.Vary) return;
-    if (request_.Top) Fail("a square that is varied does not keep its top row");
-    if (request_.Corner) Fail("a square that is varied does not keep its corner");
+    if (request_.Top) Fail("a varied square does not keep its top row");
+    if (request_.Corner) Fail("a varied square does not keep its corner");
     if (request_.Kind && !request_.Kind->KeptByFamily) {
-      Fail("a square that is varied does not stay " + std::string(request_.Kind->Term));
+      Fail("a varied square does not stay " + std::string(request_.Kind->Term));
     }
   }
 
@@ -173,7 +174,7 @@ class Reader {
     if (equals != std::string::npos) attached_ = word.substr(equals + 1);
   }
 
-  /// What takes the option, where the command has it.
+  /// The function that reads the option; null if the command does not have it.
   Member Handler() const {
     struct Option {
       const char* Name;
@@ -220,7 +221,7 @@ class Reader {
   void Size() {
     const auto size = NumberIn<int>(Value());
     if (!size || *size < kMinOrder || *size > kMaxOrder) {
-      Fail("the size is a whole number from 3 to 50");
+      Fail("the size must be a whole number from 3 to 50");
     } else {
       request_.Size = *size;
     }
@@ -229,7 +230,8 @@ class Reader {
   void Sum() {
     request_.Sum = DecimalIn(Value());
     if (!request_.Sum || *request_.Sum <= 0) {
-      Fail("the sum is a number above 0 of at most " + std::to_string(kMostCellDigits) + " digits");
+      Fail("the sum must be a number above 0 with at most " + std::to_string(kMostCellDigits) +
+           " digits");
     }
   }
 
@@ -237,12 +239,13 @@ class Reader {
 
   void Corner() {
     request_.Corner = NumberIn<int>(Value());
-    if (!request_.Corner || *request_.Corner < 1) Fail("the corner is a whole number from 1 on");
+    if (!request_.Corner || *request_.Corner < 1)
+      Fail("the corner must be a whole number of 1 or more");
   }
 
   void TopRowOption() {
     request_.Top = ParseTopRow(Value());
-    if (!request_.Top) Fail("the top row is four whole numbers from 0 to 9999");
+    if (!request_.Top) Fail("the top row must be four whole numbers from 0 to 9999");
   }
 
   void Kind() {
@@ -251,19 +254,19 @@ class Reader {
     std::string kinds;
     for (const SpecialKind& kind : kSpecialKinds)
       kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
-    Fail("the kind is one of " + kinds);
+    Fail("the kind must be one of " + kinds);
   }
 
   void GradeOption() {
     const auto grade = GradeNamed(Value());
-    if (!grade) Fail("the grade is easy, medium, hard or expert");
+    if (!grade) Fail("the grade must be easy, medium, hard or expert");
     request_.Wanted = grade.value_or(Grade::Easy);
   }
 
   void Clues() {
     request_.ClueCount = NumberIn<int>(Value());
     if (!request_.ClueCount || *request_.ClueCount < 0)
-      Fail("the clues are a whole number from 0 on");
+      Fail("the number of clues must be a whole number of 0 or more");
   }
 
   void RulesOption() {
@@ -271,7 +274,7 @@ class Reader {
     for (const Rules rules : {Rules::Normal, Rules::Positive}) {
       if (name == NameOf(rules)) request_.RulesWanted = rules;
     }
-    if (!request_.RulesWanted) Fail("the rules are normal or positive");
+    if (!request_.RulesWanted) Fail("the rules must be normal or positive");
   }
 
   void Seconds() {
@@ -280,7 +283,7 @@ class Reader {
     if (seconds && *seconds > 0 && *seconds <= kMost) {
       request_.Seconds = *seconds;
     } else {
-      Fail("the seconds are a plain number above 0, such as 0.5 or 30");
+      Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
     }
   }
 
@@ -290,19 +293,19 @@ class Reader {
     constexpr int kMost = 1'000'000;
     const auto count = NumberIn<int>(Value());
     if (!count || *count < 1 || *count > kMost)
-      Fail("the count is a whole number from 1 to 1000000");
+      Fail("the count must be a whole number from 1 to 1000000");
     request_.Count = count.value_or(1);
   }
 
   void Format() {
     const auto format = FormatNamed(Value());
-    if (!format) Fail("the format is " + NamesOf(false, ", ", " or "));
+    if (!format) Fail("the format must be " + NamesOf(false, ", ", " or "));
     request_.Format = format.value_or(request_.Format);
   }
 
   void Seed() {
     request_.Seed = NumberIn<std::uint64_t>(Value());
-    if (!request_.Seed) Fail("the seed is a whole number from 0 on");
+    if (!request_.Seed) Fail("the seed must be a whole number of 0 or more");
   }
 
   void Help() { special_ = HelpRequest{}; }
@@ -335,62 +338,59 @@ std::string Usage() {
        numorra-square complete [FILE|-] [options]
        numorra-square puzzle --size N [options]
 
-Prints magic squares and the total of their lines: of the numbers 1 to N x N, of
-any total, 4 x 4 with a top row of your choice, or of a special kind.
+Prints magic squares and the total of their lines: squares of the numbers 1 to
+N x N, of any total, 4 x 4 with a top row of your choice, or of a special kind.
 
-  --size N                 how many cells a side has, 3 to 50
-  --sum T                  the total wanted instead of that of 1 to N x N, below
+  --size N                 the number of cells on a side, 3 to 50
+  --sum T                  the total, instead of that of 1 to N x N; below
                            32768 x N
   --limit-to-9             no number above 9; the total is then at most 5 x N
-  --corner V               the number wanted at the top left, from size 4 on
+  --corner V               the number in the top left corner, for sizes from 4
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
   --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
                            bordered
-  --vary                   another square of the family of the one that is built;
-                           of the kinds only associative squares stay what they
-                           are, and no corner or top row stays where it is
-  --count M                so many squares, 1 to 1000000
+  --vary                   another square of the same family instead; not with a
+                           corner, a top row, or a kind other than associative,
+                           which it would not keep
+  --count M                the number of squares, 1 to 1000000
 )" + OptionText("--format " + all, "how squares are written:") +
          FormatLines() +
-         R"(  --seed N                 start random numbers from N, so that a run can be
-                           repeated
-  --help                   this page
+         R"(  --seed N                 seed of the random numbers; the same seed repeats a run
+  --help                   this text
   --version                the program's version
 
-study says what squares are, and why. It reads rows of numbers from a file or
-from the standard input, squares separated by empty lines, and all that this program
-writes: JSON objects are told by their first brace, and their "rows" are the square.
-Each is answered as soon as it is read, however many come; reading ends at one that
-takes more than a megabyte. JSON says the same to programs, one object a line.
+study says what kinds of squares they are, and why. It reads rows of numbers from
+a file or from the standard input, with an empty line between squares, and everything
+that this program writes, such as JSON objects with "rows". It answers each square as
+soon as it is read, in an input of any length; it stops at a square of more than a
+megabyte. In JSON, the answers are one object per line.
 
-complete fills the gaps (nothing, or one of - . _ between separators) of squares
-that it reads as study does, and says whether there is one way, several or none.
-Its exit status is 3 for none and 4 for what was not settled in time.
+complete reads squares in the same way and fills their gaps (nothing, or one of - . _
+between separators). It says whether there is one solution, several or none. Its exit
+status is 3 for none and 4 if the search did not finish in time.
 
-  --rules normal|positive  each of 1 to N x N once, or any whole numbers of 1 or
-                           more; without it what the square suggests
-  --sum T                  the total, instead of the one that the square tells
+  --rules normal|positive  each number from 1 to N x N once, or any whole numbers of
+                           1 or more; by default the square decides
+  --sum T                  the total, instead of the square's own
   --limit-to-9             no number above 9, by the positive rules
-  --seconds S              how long to search for each square: 3
-)" +
-         OptionText("--format " + ofAnswers,
-                    "JSON is one object a line, with what else is to be said") +
+  --seconds S              how long to search for each square; 3 by default
+)" + OptionText("--format " + ofAnswers, "JSON is one object per line, with a reason, if any,") +
          R"(                           as "why"
 
 puzzle makes squares with gaps that have one solution. Their codes, up to size
 10, are read by study, complete and the window.
 
-  --size N                 how many cells a side has
+  --size N                 the number of cells on a side
   --grade easy|medium|hard|expert
-                           the hardest rules that it needs
-  --clues K                how many numbers are given; without it as few as can be
+                           the hardest rule that it needs
+  --clues K                how many numbers are given; by default as few as possible
   --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
-  --count M, --seed N      so many; the same seed gives the same ones
-)" + OptionText("--format " + all, "JSON is one object a line, with its solution") +
+  --count M, --seed N      the number of puzzles, and the seed that repeats them
+)" + OptionText("--format " + all, "JSON is one object per line, with its solution") +
          R"(
-The exit status is 0 when all was done, 1 when there is no such square or something
-could not be read or written, 2 for bad arguments, 3 and 4 as complete has them, and
-5 when there was not enough memory.
+The exit status is 0 on success, 1 if there is no such square or something could not
+be read or written, 2 for bad arguments, 3 and 4 as described for complete, and 5 if
+there was not enough memory.
 )";
 }
 

@@ -14,16 +14,16 @@
 
 namespace numorra {
 
-/// What the first word asks for: squares to be built, when it is none of the others.
+/// The command in the first word; Build if the first word is not a command.
 enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle };
 
-/// What a command line asks for. Which of the options there are is up to the command.
+/// The request of a command line. Which options apply depends on the command.
 struct SquareRequest {
   SquareCommand Command = SquareCommand::Build;
   SquareFormat Format = SquareFormat::Text;
 
-  /// Squares to be built: normal ones, ones of any total when a sum, the limit or a corner is
-  /// given, 4 x 4 ones with a top row, or ones of a special kind.
+  /// Squares to build: normal ones, ones of any total if a sum, the limit or a corner is given, 4 x
+  /// 4 ones with a top row, or ones of a special kind.
   int Size = 0;
   std::optional<double> Sum;
   bool LimitToNine = false;
@@ -34,15 +34,15 @@ struct SquareRequest {
   int Count = 1;
   std::optional<std::uint64_t> Seed;
 
-  /// What puzzles are to be like, whose squares are normal ones or have the sum.
+  /// The puzzles to make; their squares are normal or have the sum.
   Grade Wanted = Grade::Easy;
   std::optional<int> ClueCount;
 
-  /// Where squares are to be read from; "-" is the standard input.
+  /// The file with the squares; "-" is the standard input.
   std::string File = "-";
 
-  /// By which rules gaps are filled, where not by those that the square itself suggests, and how
-  /// long is searched for each.
+  /// The rules for filling gaps, if not those that the square itself suggests, and the time limit
+  /// of each search.
   std::optional<Rules> RulesWanted;
   double Seconds = 3;
 };
@@ -57,11 +57,11 @@ struct BadArguments {
 
 using Arguments = std::variant<SquareRequest, HelpRequest, VersionRequest, BadArguments>;
 
-/// Reads the words after the program's name. Values follow their option as the next word or behind
-/// an equals sign.
+/// Reads the words after the program's name. The value of an option is the next word, or follows an
+/// equals sign.
 Arguments ParseArguments(const std::vector<std::string>& words);
 
-/// What --help prints.
+/// The text that --help prints.
 std::string Usage();
 
 }  // namespace numorra

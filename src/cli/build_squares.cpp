@@ -16,7 +16,7 @@
 namespace numorra {
 namespace {
 
-/// A square and what is to be said about it.
+/// A square with a remark about it.
 struct Result {
   Square<double> Numbers;
   double Total = 0;
@@ -24,7 +24,7 @@ struct Result {
   Rules Asked = Rules::Positive;
 };
 
-/// Builds one square after the other; each generator goes on from what it built last.
+/// Builds one square after the other; each generator continues from its last square.
 class SquareBuilder {
  public:
   SquareBuilder(const SquareRequest& request, Random& random)
@@ -77,7 +77,7 @@ class SquareBuilder {
     return {SquareOf(build.Square, order), build.Total, RemarkOnDifference(plan, build)};
   }
 
-  /// What the square has another than was asked for.
+  /// How the square differs from the request.
   std::string RemarkOnDifference(const VariablePlan& plan, const VariableBuild& build) const {
     std::string remark;
     if (request_.Corner && build.Square(1, 1) != *request_.Corner) {
@@ -106,7 +106,7 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
     Result result = builder.Next();
     if (request.Vary) {
       const auto varied = Varied(result.Numbers, random);
-      if (!varied) throw Impossible{"all relatives of this square look like it"};
+      if (!varied) throw Impossible{"all squares of this family look like this one"};
       result.Numbers = *varied;
     }
     if (!result.Remark.empty()) streams.Err << kProgramName << result.Remark << "\n";

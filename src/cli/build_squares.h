@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-/// Builds and writes as many squares as are asked for. Throws Impossible for what no square meets.
+/// Builds and writes the requested squares. Throws Impossible if there is no such square.
 void BuildSquares(const SquareRequest& request, const Streams& streams);
 
 }  // namespace numorra

@@ -5,11 +5,11 @@
 
 namespace numorra {
 
-/// What has come of the boards that were to be completed; the worst counts for several.
+/// The result for several boards: the worst one counts.
 enum class Completion : std::uint8_t { Completed, Unreadable, Impossible, Unsettled };
 
-/// Reads boards, fills their gaps and writes what came of it. Throws Impossible where there is
-/// nothing to read.
+/// Reads boards, fills their gaps and writes the results. Throws Impossible if there is nothing to
+/// read.
 Completion CompleteSquares(const SquareRequest& request, const Streams& streams);
 
 }  // namespace numorra

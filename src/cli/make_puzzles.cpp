@@ -24,15 +24,15 @@ MadePuzzle Make(const SquareRequest& request, Random& random) {
   return std::get<MadePuzzle>(made);
 }
 
-/// Tells where a wish could not be met.
+/// Reports where a request could not be met.
 void TellDifference(const SquareRequest& request, const MadePuzzle& made, std::ostream& err) {
   const auto total = static_cast<double>(made.Clues.Target);
   if (request.Sum && total != *request.Sum) {
     err << kProgramName << "the total is " << Decimal(total) << "\n";
   }
   if (made.Needed != request.Wanted) {
-    err << kProgramName << "this square gives no puzzle that is " << NameOf(request.Wanted)
-        << ": this one is " << NameOf(made.Needed) << "\n";
+    err << kProgramName << "this square has no " << NameOf(request.Wanted)
+        << " puzzle: this one is " << NameOf(made.Needed) << "\n";
   }
 }
 
@@ -54,7 +54,7 @@ void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
     }
     case SquareFormat::Text: {
       std::string text = TextOf(stored);
-      text.pop_back();  // the total's line goes on
+      text.pop_back();  // continue the total's line
       out << text << ", " << NameOf(made.Needed) << ", " << clues << " clues"
           << (code.empty() ? "" : ", " + code) << "\n";
       break;

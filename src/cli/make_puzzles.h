@@ -5,8 +5,8 @@
 
 namespace numorra {
 
-/// Makes and writes as many puzzles as are asked for, each from a square of its own. The same seed
-/// gives the same ones. Throws Impossible for what no puzzle can be.
+/// Makes and writes the requested puzzles, each from a square of its own. The same seed gives the
+/// same puzzles. Throws Impossible if there is no such puzzle.
 void MakePuzzles(const SquareRequest& request, const Streams& streams);
 
 }  // namespace numorra

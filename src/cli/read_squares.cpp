@@ -11,7 +11,7 @@
 namespace numorra {
 namespace {
 
-/// The reason alone, without advice for the window, and the line of the file that it is about.
+/// The reason without the advice for the window, and with the line of the file.
 std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
   const std::string why = unreadable.Why.substr(0, unreadable.Why.find('\n'));
   return why.starts_with("line ") ? why : "line " + std::to_string(firstLine) + ": " + why;
@@ -43,7 +43,7 @@ bool ReadSquares(const std::string& file, const Streams& streams,
     }
   }
   if (const auto line = blocks.TooLongFrom()) {
-    tell("line " + std::to_string(*line) + ": " + kTooLongForASquare + "; reading ends here");
+    tell("line " + std::to_string(*line) + ": " + kTooLongForASquare + "; reading stops here");
   } else if (streams.Out && (!in.eof() || in.bad())) {
     throw Impossible{"'" + file + "' cannot be read"};
   } else if (!any) {

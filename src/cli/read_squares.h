@@ -8,10 +8,10 @@
 
 namespace numorra {
 
-/// Calls visit for each square in the file of this name, or in the standard input for "-", as soon
-/// as it is read, and tells of those that cannot be read; true when there is none. Ends at one that
-/// is too long, and when nothing more can be written. Throws Impossible for a file that cannot be
-/// read and for a text without a square.
+/// Calls `visit` for each square in the file, or in the standard input for "-", as soon as it is
+/// read. Reports squares that cannot be read; returns true if there are none. Stops at a square
+/// that is too long, and when nothing more can be written. Throws Impossible for a file that cannot
+/// be read and for a text without a square.
 bool ReadSquares(const std::string& file, const Streams& streams,
                  const std::function<void(const StoredSquare&)>& visit);
 

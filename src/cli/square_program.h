@@ -8,8 +8,8 @@
 namespace numorra {
 
 /// The command-line companion without its process: `words` are the words after the program's name.
-/// Returns the exit status: 0 done, 1 failed while reading, building or writing, 2 bad arguments, 3
-/// gaps that nothing fills, 4 that was not settled in time, 5 memory that was refused.
+/// Returns the exit status: 0 success, 1 failed to read, build or write, 2 bad arguments, 3 nothing
+/// fills the gaps, 4 not settled in time, 5 not enough memory.
 int RunSquareProgram(const std::vector<std::string>& words, const Streams& streams);
 
 }  // namespace numorra

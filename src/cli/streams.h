@@ -5,14 +5,14 @@
 
 namespace numorra {
 
-/// What a process is given to read from and to write to.
+/// The streams that a process reads from and writes to.
 struct Streams {
   std::istream& In;
   std::ostream& Out;
   std::ostream& Err;
 };
 
-/// How remarks begin.
+/// The beginning of every remark.
 inline constexpr const char* kProgramName = "numorra-square: ";
 
 /// A request that cannot be met, and why.

@@ -5,8 +5,8 @@
 
 namespace numorra {
 
-/// Reads squares and writes what each of them is. False when one could not be read or has gaps, of
-/// which it tells. Throws Impossible where there is nothing to read.
+/// Reads squares and writes what each of them is. Reports squares that cannot be read or have gaps;
+/// returns false if there were any. Throws Impossible if there is nothing to read.
 bool StudySquares(const SquareRequest& request, const Streams& streams);
 
 }  // namespace numorra

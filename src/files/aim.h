@@ -6,17 +6,17 @@
 
 namespace numorra {
 
-/// What every line of a square is to add up to, and by which rules its gaps are to be filled.
+/// The total that every line of a square should have, and the rules for its gaps.
 struct Aim {
   double Target;
   Rules Asked;
 };
 
-/// That of a stored square: its total, rounded as totals are. Without one:
-/// - the sum of the first row when there are no gaps;
-/// - the normal total and rules when its numbers are different, whole and within 1 to n x n;
+/// The aim of a stored square. The target is its stored total, rounded as totals are. Otherwise:
+/// - the sum of the first row if there are no gaps;
+/// - the normal total and rules if its numbers are different, whole and within 1 to n x n;
 /// - the sum of the first line without a gap: rows, then columns, then diagonals.
-/// Nothing where none of these tells.
+/// Nothing if none of these applies.
 std::optional<Aim> AimOf(const StoredSquare& square);
 
 }  // namespace numorra

@@ -39,7 +39,7 @@ std::optional<TextBlock> BlockReader::Next() {
   return std::nullopt;
 }
 
-/// What may stand before a text in its line: blanks, and at its very beginning a byte-order mark.
+/// What may precede a text in its line: blanks, and a byte-order mark at the very beginning.
 std::string BlockReader::TakeBlanks() {
   constexpr std::string_view kBlanks = " \t\xEF\xBB\xBF";
   std::string blanks;
@@ -57,7 +57,7 @@ std::string BlockReader::TakeLine() {
   return line;
 }
 
-/// From an opening brace on to the one that closes it.
+/// The text from an opening brace to the matching closing one.
 std::string BlockReader::TakeObject() {
   std::string object;
   int open = 0;
@@ -80,8 +80,8 @@ std::string BlockReader::TakeObject() {
   return object;
 }
 
-/// The next byte, LF for every kind of line end. Nothing at the end of the text, and of the bytes
-/// that are left.
+/// The next byte, with every kind of line end as LF. Nothing at the end of the text or when no
+/// bytes are left for this square.
 std::optional<char> BlockReader::Take() {
   const int byte = bytesLeft_ > 0 ? in_.get() : kEnd;
   if (byte == kEnd) return std::nullopt;

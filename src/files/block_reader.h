@@ -13,19 +13,19 @@ struct TextBlock {
   std::size_t FirstLine = 1;
 };
 
-/// Takes squares one by one from a text that has one below the other, with empty lines between
-/// them, however many there are. A JSON object is a square by itself, on one line or on many, and
-/// ends where its first brace is closed. A line that says "total 34", as this program's own texts
-/// do, belongs to no square. Lines end by LF, CR or both.
+/// Reads squares one by one from a text of any length, with empty lines between squares. A JSON
+/// object is a square of its own, on one line or many, and ends where its first brace is closed. A
+/// line that begins with "total ", as in this program's own output, belongs to no square. Lines end
+/// with LF, CR or both.
 class BlockReader {
  public:
   explicit BlockReader(std::istream& in) : in_(in) {}
 
-  /// The text of the next square. Nothing at the end of the text, and where kMostTextBytes end no
-  /// square: what follows is not read.
+  /// The text of the next square. Nothing at the end of the text, or if a square is longer than
+  /// kMostTextBytes: the rest is then not read.
   std::optional<TextBlock> Next();
 
-  /// The line from which on too much was to be read for a square.
+  /// The first line of a square that was too long.
   std::optional<std::size_t> TooLongFrom() const { return tooLongFrom_; }
 
  private:
@@ -36,7 +36,7 @@ class BlockReader {
 
   std::istream& in_;
   std::size_t number_ = 1;     ///< of the line that is read next
-  std::size_t bytesLeft_ = 0;  ///< that the next square may take
+  std::size_t bytesLeft_ = 0;  ///< left for the next square
   std::optional<std::size_t> tooLongFrom_;
 };
 

@@ -14,22 +14,21 @@ namespace numorra {
 
 enum class SquareFormat : std::uint8_t { Text, Csv, Json };
 
-/// A form in which squares are written and read.
+/// A format for writing and reading squares.
 struct Format {
   SquareFormat Id;
-  const char* Name;     ///< as the companion's --format has it
-  const char* Suffix;   ///< of files, without its point
-  const char* Caption;  ///< in the dialog for a file's name; empty where the window only reads it
+  const char* Name;     ///< the name for the companion's --format
+  const char* Suffix;   ///< of files, without the dot
+  const char* Caption;  ///< in file dialogs; empty if the window only reads the format
   const char* Says;     ///< what is written
-  bool ForAnswers;      ///< whether the companion's answers about squares are written in it, too
+  bool ForAnswers;      ///< whether the companion also writes its answers in it
   std::string (*Write)(const StoredSquare&);
-  bool (*LooksLike)(const std::string& text);  ///< nothing: for texts that look like no other
+  bool (*LooksLike)(const std::string& text);  ///< null: for all other texts
   std::variant<StoredSquare, Unreadable> (*Read)(const std::string& text, std::size_t firstLine);
 };
 
-/// All formats, as SquareFormat numbers them: from the plainest, which the companion writes unless
-/// it is told otherwise, to the one that keeps all of a square, which the window's dialogs show
-/// first.
+/// All formats in the order of SquareFormat: from the plainest, the companion's default, to the one
+/// that keeps everything, which the window's dialogs show first.
 inline constexpr Format kFormats[] = {
     {SquareFormat::Text, "text", "txt", "", "aligned columns and the total", true, TextOf, nullptr,
      ReadSquareText},
@@ -40,11 +39,11 @@ inline constexpr Format kFormats[] = {
 
 const Format& Of(SquareFormat format);
 
-/// The format of this name; nothing where there is none.
+/// The format of this name; null if there is none.
 std::optional<SquareFormat> FormatNamed(std::string_view name);
 
-/// Reads a square in the format that the text looks like, whatever the name of its file says.
-/// Refuses texts of more than kMostTextBytes. `firstLine`: the number of the text's first line.
+/// Reads a square in the format that the text looks like, whatever its file name. Refuses texts of
+/// more than kMostTextBytes. `firstLine`: the number of the text's first line.
 std::variant<StoredSquare, Unreadable> ReadSquare(const std::string& text,
                                                   std::size_t firstLine = 1);
 

@@ -5,11 +5,11 @@
 
 namespace numorra {
 
-/// Writes one JSON object on one line, with a blank behind each comma and colon. Members stand in
-/// the order in which they are added; their values are JSON already.
+/// Writes one JSON object on one line, with a blank after each comma and colon. Members appear in
+/// the order in which they are added; their values must be JSON already.
 ///
-/// Values of the JSON library are not used for this: they allocate memory while they are destroyed,
-/// so that memory refused there would end the program.
+/// It does not use the JSON library's values: their destructors allocate memory, and a refused
+/// allocation there would end the program.
 class JsonLine {
  public:
   JsonLine& Add(std::string_view name, std::string_view value);
@@ -21,7 +21,7 @@ class JsonLine {
   std::string text_ = "{";
 };
 
-/// The text in quotes, escaped. What is not UTF-8 in it is replaced.
+/// The text in quotes, escaped. Invalid UTF-8 is replaced.
 std::string JsonString(const std::string& text);
 
 /// The array of valueAt(0) to valueAt(count - 1).

@@ -8,8 +8,8 @@ namespace {
 
 using Kind = JsonValue::Kind;
 
-/// Gathers the members while the library reads. The object is level 1, a member that is an array
-/// level 2, and a row level 3.
+/// Collects the members while the library parses. The object is level 1, an array as a member level
+/// 2, and a row level 3.
 class Gatherer : public nlohmann::json_sax<nlohmann::json> {
  public:
   Gatherer(const std::string& text, std::size_t firstLine) : text_(text), firstLine_(firstLine) {}
@@ -44,10 +44,10 @@ class Gatherer : public nlohmann::json_sax<nlohmann::json> {
     const std::size_t column = lineEnd == std::string::npos ? end + 1 : end - lineEnd;
     const std::string where =
         "line " + std::to_string(firstLine_ + lines) + ", column " + std::to_string(column) + ": ";
-    if (level_ == 0 && !Members.empty()) throw Unreadable{where + "something follows the square"};
+    if (level_ == 0 && !Members.empty()) throw Unreadable{where + "there is text after the square"};
     if (error.id == kNumberOutOfRange) throw Unreadable{where + "this number is too large"};
     if (end == text_.size()) throw Unreadable{where + "the JSON ends too early"};
-    throw Unreadable{where + "this is no valid JSON"};
+    throw Unreadable{where + "this is not valid JSON"};
   }
 
  private:

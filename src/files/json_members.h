@@ -10,17 +10,17 @@
 
 namespace numorra {
 
-/// A value in JSON, as far as squares have them.
+/// A JSON value, as far as squares use it.
 struct JsonValue {
   enum class Kind : std::uint8_t { Null, Boolean, Number, Text, Other };
 
   Kind Is = Kind::Other;
-  double Number = 0;  ///< of a boolean 1 or 0
+  double Number = 0;  ///< 1 or 0 for a boolean
   std::string Text = {};
 };
 
-/// A member of an object: a value, or an array with what stands in each of its arrays. An entry
-/// that is no array counts as an empty one.
+/// A member of an object: a value, or an array with the entries of each of its arrays. An entry
+/// that is not an array counts as an empty one.
 struct JsonMember {
   JsonValue Value;
   std::vector<std::vector<JsonValue>> Rows;
@@ -28,10 +28,9 @@ struct JsonMember {
 
 using JsonMembers = std::map<std::string, JsonMember>;
 
-/// The members of the one JSON object in `text`, of which the first line has the number
-/// `firstLine`. What lies deeper is passed over, however deep it is. Throws Unreadable, with line
-/// and column, where the text is no JSON, where a number is beyond those of a double, and where
-/// something follows the object.
+/// The members of the one JSON object in `text`, whose first line has the number `firstLine`. Skips
+/// deeper values of any depth. Throws Unreadable, with line and column, if the text is not JSON, if
+/// a number does not fit in a double, or if there is text after the object.
 JsonMembers JsonMembersIn(const std::string& text, std::size_t firstLine);
 
 }  // namespace numorra

@@ -29,7 +29,7 @@ std::string Rows(const Square<T>& square, Write written) {
   });
 }
 
-/// The members of an object, held to what a square has.
+/// The members of an object, checked against what a square has.
 class Reader {
  public:
   Reader(const std::string& text, std::size_t firstLine)
@@ -48,7 +48,7 @@ class Reader {
  private:
   bool Has(const char* name) const { return members_.contains(name); }
 
-  /// The member; an empty one where there is none.
+  /// The member; an empty one if there is none.
   const JsonMember& At(const char* name) const {
     static const JsonMember kNone;
     const auto found = members_.find(name);
@@ -66,7 +66,7 @@ class Reader {
     const double version = NumberAt("version", named ? 0 : kVersion);
     if (!(named ? At("format").Value.Text == kFormat : Has("rows")) || version < 1 ||
         version != std::floor(version)) {
-      Fail("this JSON holds no square of Numorra");
+      Fail("this JSON is not a Numorra square");
     }
     if (version > kVersion) Fail("this square was written by a later version of Numorra");
   }
@@ -74,17 +74,17 @@ class Reader {
   int Order() const {
     const JsonMember& rows = At("rows");
     const bool counted = !Has("order") && Has("rows");
-    if (counted && rows.Value.Is == Kind::Null) Fail("\"rows\" holds no square");
+    if (counted && rows.Value.Is == Kind::Null) Fail("\"rows\" contains no square");
     const double order = counted ? static_cast<double>(rows.Rows.size()) : NumberAt("order", -1);
     if (order != std::floor(order) || order < kMinOrder || order > kMaxOrder) {
       const std::string range = std::to_string(kMinOrder) + " to " + std::to_string(kMaxOrder);
       if (counted) Fail("\"rows\" has " + Decimal(order) + " rows, not " + range);
-      Fail("\"order\" is no whole number from " + range);
+      Fail("\"order\" must be a whole number from " + range);
     }
     return static_cast<int>(order);
   }
 
-  /// The entries of a member's rows, as many as a square of this order has.
+  /// The entries of a member's rows, checked to be as many as a square of this order has.
   Square<JsonValue> Entries(const char* name) const {
     const auto order = static_cast<std::size_t>(order_);
     const auto& rows = At(name).Rows;
@@ -107,7 +107,7 @@ class Reader {
     Fail(NameOf(PlaceAt(cell, order_)) + ": " + why);
   }
 
-  /// Whether more digits were written than that; of more than 15 a double keeps some.
+  /// Whether the number was written with more digits; a double keeps only about 15.
   static bool HasMoreDigits(double number, int most) {
     return AsShown(number) != number || DigitsOf(Decimal(number)) > most;
   }
@@ -117,7 +117,7 @@ class Reader {
     return SquareOf(order_, [&](int cell) -> std::optional<double> {
       const JsonValue& entry = entries[cell];
       if (entry.Is == Kind::Null) return std::nullopt;
-      if (entry.Is != Kind::Number) FailIn(cell, "this is no number");
+      if (entry.Is != Kind::Number) FailIn(cell, "this is not a number");
       if (HasMoreDigits(entry.Number, kMostCellDigits)) {
         FailIn(cell, "the number has more than " + std::to_string(kMostCellDigits) + " digits");
       }
@@ -128,7 +128,7 @@ class Reader {
   std::optional<double> Total() const {
     const JsonValue& total = At("total").Value;
     if (!Has("total") || total.Is == Kind::Null) return std::nullopt;
-    if (total.Is != Kind::Number) Fail("\"total\" is no number");
+    if (total.Is != Kind::Number) Fail("\"total\" is not a number");
     if (HasMoreDigits(total.Number, kMostTotalDigits)) {
       Fail("\"total\" has more than " + std::to_string(kMostTotalDigits) + " digits");
     }
@@ -139,14 +139,14 @@ class Reader {
     const std::string& name = At("rules").Value.Text;
     if (!Has("rules") || name == NameOf(Rules::Positive)) return Rules::Positive;
     if (name == NameOf(Rules::Normal)) return Rules::Normal;
-    Fail("\"rules\" is neither normal nor positive");
+    Fail("\"rules\" must be normal or positive");
   }
 
   Square<bool> Givens() const {
     if (!Has("givens")) return {};
     const Square<JsonValue> entries = Entries("givens");
     return SquareOf(order_, [&](int cell) {
-      if (entries[cell].Is != Kind::Boolean) FailIn(cell, "\"givens\" has neither true nor false");
+      if (entries[cell].Is != Kind::Boolean) FailIn(cell, "\"givens\" must be true or false");
       const bool given = entries[cell].Number != 0;
       if (given && !square_.Cells[cell]) FailIn(cell, "a gap cannot be given");
       return given;

@@ -30,7 +30,7 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
   text = replaced.append(text, done);
 }
 
-/// The text in the plainest form: one kind of line end, blank and minus, no brackets.
+/// The text with one kind of line end, blank and minus, and without brackets.
 std::string Plain(std::string text) {
   constexpr std::pair<const char*, const char*> kPlainForms[] = {
       {"\xEF\xBB\xBF", ""},  {"\r\n", "\n"},    {"\r", "\n"},
@@ -52,7 +52,7 @@ bool IsEmpty(const TextLine& line) {
   return IsEmptyLine(line.Text);
 }
 
-/// The lines from the first that is written on to the last. The text's first one has the number
+/// The lines from the first to the last that is not empty. The text's first line has the number
 /// `first`.
 std::vector<TextLine> Lines(const std::string& text, std::size_t first) {
   std::vector<TextLine> lines;
@@ -65,7 +65,8 @@ std::vector<TextLine> Lines(const std::string& text, std::size_t first) {
   return lines;
 }
 
-/// The fields of a line. Blanks separate as many as they are, other separators each for itself.
+/// The fields of a line. Several blanks count as one separator, every other separator counts by
+/// itself.
 std::vector<std::string> Fields(const std::string& line) {
   std::vector<std::string> fields;
   const auto* const kind =
@@ -83,7 +84,7 @@ std::vector<std::string> Fields(const std::string& line) {
   return fields;
 }
 
-/// Takes the empty field at every line's end away that a separator leaves there.
+/// Removes the empty field at the end of every line if all lines end with a separator.
 void DropTrailingSeparators(std::vector<std::vector<std::string>>& rows) {
   const auto tooLong = [&](const auto& fields) { return fields.size() > rows.size(); };
   const auto endsEmpty = [](const auto& fields) {
@@ -109,26 +110,26 @@ std::optional<double> CellIn(const std::string& field, std::size_t line) {
     if (DigitsOf(field) <= kMostCellDigits) return number;
   } catch (const RuntimeError& error) {
     if (error.Kind() == Fault::TypeMismatch) {
-      throw Unreadable{where + "\"" + shown + "\" is no number"};
+      throw Unreadable{where + "\"" + shown + "\" is not a number"};
     }
   }
   throw Unreadable{where + shown + " has more than " + std::to_string(kMostCellDigits) + " digits"};
 }
 
-/// The square in a text of which the first line has the number `firstLine`.
+/// The square in a text whose first line has the number `firstLine`.
 StoredSquare Read(const std::string& text, std::size_t firstLine) {
   if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
   if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
     throw Unreadable{"this text is in UTF-16: save it as UTF-8"};
   }
   if (text.find('\0') != std::string::npos) {
-    throw Unreadable{"this is no text in UTF-8, as it holds characters of the code 0"};
+    throw Unreadable{"this is not UTF-8 text: it contains characters with code 0"};
   }
   const std::vector<TextLine> lines = Lines(Plain(text), firstLine);
   const auto order = lines.size();
   if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {
     throw Unreadable{
-        "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text"};
+        "this is not a square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text"};
   }
   std::vector<std::vector<std::string>> rows;
   rows.reserve(order);
@@ -142,8 +143,8 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   for (std::size_t row = 0; row < order; ++row) {
     if (rows[row].size() > order) {
       throw Unreadable{"line " + std::to_string(lines[row].Number) + " has " +
-                       std::to_string(rows[row].size()) + " numbers, not " + std::to_string(order) +
-                       " as there are lines"};
+                       std::to_string(rows[row].size()) + " numbers, but there are " +
+                       std::to_string(order) + " lines"};
     }
     rows[row].resize(order);
     for (const std::string& field : rows[row])
@@ -152,7 +153,7 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   return {.Cells = std::move(cells)};
 }
 
-/// A line a row, each cell as textOf(cell) has it.
+/// One line per row, each cell written by textOf(cell).
 template <class TextOf>
 std::string Written(const StoredSquare& square, char between, TextOf textOf) {
   std::string text;

@@ -8,35 +8,34 @@
 
 namespace numorra {
 
-/// The longest text that is looked at, in bytes: some hundred characters for each of 2,500 numbers.
+/// The longest text that is read, in bytes: some hundred characters for each of 2,500 numbers.
 inline constexpr std::size_t kMostTextBytes = 1 << 20;
 
-/// What is said of longer ones.
+/// The message for longer ones.
 inline constexpr const char* kTooLongForASquare = "this is too long for a square of numbers";
 
 /// Reads a square of 3 x 3 to 50 x 50 cells as people and programs write it, without a total.
 ///
-/// - A line a row, ended by LF, CR or both; empty lines around the square do not count. The number
-/// of
-///   lines is the order, so that fields at a line's end may be missing.
+/// - One line per row, ended by LF, CR or both; empty lines around the square do not count. The
+///   number of lines is the order, so that fields at a line's end may be missing.
 /// - Numbers separated by tabs, by semicolons, by commas, or by blanks, the first of these that the
-///   line has. A separator at the end of every line counts for nothing.
+///   line has. A separator at the end of every line is ignored.
 /// - A literal in brackets, with semicolons or line ends between the rows: [8 1 6; 3 5 7; 4 9 2].
-/// - UTF-8: a byte-order mark, unbreakable blanks and the sign U+2212 as minus are taken too.
+/// - UTF-8: a byte-order mark, no-break spaces and U+2212 as minus are accepted too.
 /// - A gap is nothing, or one of - . _ between separators.
 /// - A number has at most kMostCellDigits digits.
 ///
-/// `firstLine`: the number of the text's first line, from which lines are named.
+/// `firstLine`: the number of the text's first line, used in messages.
 std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
                                                       std::size_t firstLine = 1);
 
-/// Aligned columns, a point for a gap, and the total below where the square has one.
+/// Aligned columns, a dot for a gap, and the total below if the square has one.
 std::string TextOf(const StoredSquare& square);
 
-/// The numbers alone, for spreadsheets: commas between them, a line a row, nothing for a gap.
+/// Only the numbers, for spreadsheets: separated by commas, one line per row, nothing for a gap.
 std::string CsvOf(const StoredSquare& square);
 
-/// Whether a line of a text holds no field, not even an empty one.
+/// Whether a line contains no field, not even an empty one.
 bool IsEmptyLine(const std::string& line);
 
 }  // namespace numorra

@@ -15,7 +15,7 @@ using StoredCells = Square<std::optional<double>>;
 struct StoredSquare {
   StoredCells Cells = {};
   Square<bool> Givens = {};          ///< empty when there are none
-  std::optional<double> Total = {};  ///< where it is stored
+  std::optional<double> Total = {};  ///< if it is stored
   Rules Asked = Rules::Positive;
 
   int Order() const { return Cells.Order(); }
@@ -25,7 +25,7 @@ struct StoredSquare {
   bool operator==(const StoredSquare&) const = default;
 };
 
-/// Why something is no square: one sentence for the player, with the line where there is one.
+/// Why something is not a square: one sentence for the player, with the line if there is one.
 struct Unreadable {
   std::string Why;
 };

@@ -6,7 +6,7 @@
 
 namespace numorra {
 
-/// The About window (`AboutForm`). The button, a press on the text and Esc close it.
+/// The About window (`AboutForm`). Its button, a click on the text or Esc closes it.
 class AboutForm : public QDialog {
   Q_OBJECT
 

@@ -25,7 +25,7 @@ bool IsFlat(const QByteArray& html) {
   constexpr int kDeepestElements = 100;
   static const QRegularExpression kComment("<!--.*?(?:-->|$)",
                                            QRegularExpression::DotMatchesEverythingOption);
-  // What needs no tag that closes it does not count.
+  // Void elements, which need no closing tag, do not count.
   static const QRegularExpression kTag(
       "<\\s*(/?)\\s*(?!(?:p|li|dt|dd|td|th|tr|thead|tbody|tfoot|col|br|wbr|hr|img|meta|link|base|"
       "input|option)\\b)([a-z]+)",

@@ -13,7 +13,7 @@ namespace numorra {
 namespace {
 
 constexpr int kSideMargin = 60;             // twips: 120 on both sides together
-constexpr qint64 kLargestFile = 256 << 10;  // a longer page would keep the window busy for seconds
+constexpr qint64 kLargestFile = 256 << 10;  // a longer page blocks the window for seconds
 
 }  // namespace
 
@@ -60,8 +60,7 @@ HelpForm::HelpForm(const QString& folder, QWidget* parent)
   const QString page = HelpPageIn(folder);
   wb1->setSource(QUrl::fromLocalFile(page));
   if (wb1->document()->isEmpty()) {
-    wb1->setPlainText("The help page cannot be shown. It should stand beside the program as\n" +
-                      page);
+    wb1->setPlainText("The help page cannot be shown. It should be beside the program as\n" + page);
   }
 }
 

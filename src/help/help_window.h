@@ -5,8 +5,7 @@
 
 namespace numorra {
 
-/// A viewer that shows nothing but files of a sensible size in one folder: no other file, no
-/// address outside.
+/// A viewer that shows only files of limited size in one folder: no other file, no outside address.
 class FolderBrowser : public QTextBrowser {
   Q_OBJECT
 
@@ -25,12 +24,12 @@ class FolderBrowser : public QTextBrowser {
   QString folder_;
 };
 
-/// The help window (`HelpForm`): the help page, filling it.
+/// The help window (`HelpForm`), filled by the help page.
 class HelpForm : public QDialog {
   Q_OBJECT
 
  public:
-  /// `folder`: where the help page stands, the program's own folder.
+  /// `folder`: the program's own folder, which contains the help page.
   HelpForm(const QString& folder, QWidget* parent);
 
   FolderBrowser* const wb1;

@@ -87,7 +87,7 @@ std::int32_t ListBoy::ListCount() const {
 
 void ListBoy::ListCount(std::int32_t) {}
 
-/// Sorts the records min..max so that before(a, b) holds between no later a and earlier b.
+/// Sorts the records min..max so that before(a, b) is false for every later a and earlier b.
 template <class Before>
 void ListBoy::QuickSort(std::ptrdiff_t min, std::ptrdiff_t max, Before before) {
   const auto at = [this](std::ptrdiff_t i) -> std::string& {
@@ -113,7 +113,7 @@ void ListBoy::QuickSort(std::ptrdiff_t min, std::ptrdiff_t max, Before before) {
       at(high) = std::move(at(low));
     }
     at(low) = std::move(pivot);
-    // Going down into the smaller side keeps the depth logarithmic.
+    // Recursing into the smaller side keeps the depth logarithmic.
     if (low - min < max - low) {
       QuickSort(min, low - 1, before);
       min = low + 1;

@@ -9,7 +9,7 @@
 
 namespace numorra {
 
-/// An ordinary list box, for the exchange of items with a ListBoy.
+/// An ordinary list box, to exchange items with a ListBoy.
 class ListBox {
  public:
   virtual ~ListBox() = default;
@@ -18,13 +18,13 @@ class ListBox {
   virtual std::string List(int index) const = 0;
 };
 
-/// A sortable list of texts, each with one number attached, its item data.
+/// A sortable list of texts, each with one number, its item data.
 ///
-/// An item is stored as one record: its text, a TAB, its data in decimal. A text may itself hold
-/// TABs; the last one of a record always separates the data. The columns of a record are what
-/// stands between its TABs, counted from 1; a column below 1 stands for the whole text.
+/// An item is stored as one record: its text, a TAB, its data in decimal. A text may contain TABs;
+/// the last TAB of a record always separates the data. The columns of a record are the parts
+/// between its TABs, counted from 1; a column below 1 means the whole text.
 ///
-/// `ItemNumber` counts items from 0. Where it names no item, changes do nothing and reads give an
+/// `ItemNumber` counts items from 0. If it names no item, changes do nothing and reads return an
 /// empty result.
 class ListBoy {
  public:
@@ -34,31 +34,32 @@ class ListBoy {
   explicit ListBoy(Random& random) : random_(random) {}
 
   /// Adds an item with data 0: before item k for a k from 1 to below the count, at the front for
-  /// -1, at the end for 0 and every other number that is not positive; a k of the count or more
-  /// adds nothing.
+  /// -1, and at the end for 0 and every other number that is not positive. Adds nothing for a k of
+  /// the count or more.
   void Additem(const std::string& ItemText, int ItemNumber = kNoItemNumber);
 
   void RemoveItem(int ItemNumber);
 
   std::int32_t ListCount() const;
 
-  /// Accepted and ignored: items alone make the count.
+  /// Accepted and ignored: the count follows from the items.
   void ListCount(std::int32_t New_ListCount);
 
-  /// Sort by whole record, text first, as character codes go. Quicksort with a random pivot (Hoare
-  /// 1961); equal records change nothing.
+  /// Sorts by whole record, text first, by character codes. Quicksort with a random pivot (Hoare
+  /// 1961); the order of equal records makes no difference.
   void SortAscending();
   void SortDescending();
 
-  /// Sort by item data rounded to whole numbers (halves away from zero), equal ones by text. Data
-  /// must be from 0 to below 10^12 - 0.5: what does not fit into twelve digits leaves the rest of
-  /// its digits in front of the text.
+  /// Sorts by item data rounded to whole numbers (halves away from zero), equal ones by text. Data
+  /// must be from 0 to below 10^12 - 0.5: larger numbers leave their excess digits in front of the
+  /// text.
   void SortItemDataAscending();
   void SortItemDataDescending();
 
-  /// The first item whose column matches the wildcard pattern FindText, -1 when none does, nothing
-  /// when StartIndex names no item. SearchDirection true searches towards the front. StartIndex 0
-  /// starts at the first item forwards and at the last backwards.
+  /// Returns the first item whose column matches the wildcard pattern FindText, -1 if none does,
+  /// nothing if StartIndex names no item. SearchDirection true searches towards the front.
+  /// StartIndex 0 starts at the first item when searching forwards and at the last when searching
+  /// backwards.
   std::optional<std::int32_t> Find(const std::string& FindText, int ColumnNumber,
                                    bool SearchDirection, int StartIndex, bool CaseSensitive) const;
 
@@ -72,16 +73,16 @@ class ListBoy {
   /// The item's column, empty when it has no such column.
   std::optional<std::string> list(int ItemNumber, int ColumnNumber) const;
 
-  /// Replaces a column of the item; a column that it does not have is left alone.
+  /// Replaces a column of the item, if it has that column.
   void UpdateText(int ItemNumber, const std::string& NewText, int ColumnNumber);
 
   void Clear();
 
-  /// Appends one item for each line of the file, LF or CR LF. Throws FileError when it cannot be
-  /// read, with the items before the failure kept.
+  /// Appends one item for each line of the file, LF or CR LF. Throws FileError if it cannot be
+  /// read; the items before the failure are kept.
   void LoadFile(const std::string& FileName);
 
-  /// Writes the item texts, one a line with CR LF. Throws FileError when it cannot be written.
+  /// Writes the item texts, one per line with CR LF. Throws FileError if it cannot be written.
   void SaveFile(const std::string& FileName) const;
 
   void FillListBox(ListBox& list) const;

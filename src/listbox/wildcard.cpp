@@ -6,7 +6,7 @@
 namespace numorra {
 namespace {
 
-/// The characters of a UTF-8 text. Bytes that form none stand for themselves.
+/// Splits a UTF-8 text into characters. Invalid bytes stand for themselves.
 std::u32string Characters(std::string_view text) {
   std::u32string characters;
   for (std::size_t i = 0; i < text.size();) {
@@ -22,7 +22,7 @@ std::u32string Characters(std::string_view text) {
   return characters;
 }
 
-/// One element of a pattern, from its first character to the one after its last.
+/// One element of a pattern: its first character and the one after its last.
 struct Element {
   std::size_t Begin;
   std::size_t End;

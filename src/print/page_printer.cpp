@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kMoment = 300;  // milliseconds
 
-/// The same pages, counted in a box over the window where they take longer than a moment.
+/// The same pages, with a progress box over the window if they take longer than a moment.
 PaintedPages Counted(const PaintedPages& pages, QWidget* window) {
   const auto box = std::make_shared<QProgressDialog>("", "&Stop", 0, pages.Count, window);
   box->setObjectName("PagesProgress");
@@ -27,14 +27,14 @@ PaintedPages Counted(const PaintedPages& pages, QWidget* window) {
   counted.Paint = [paint = pages.Paint, count = pages.Count, box](QPainter& painter, QSizeF size,
                                                                   int page) {
     box->setLabelText(QString("Laying out page %1 of %2").arg(page + 1).arg(count));
-    box->setValue(page);  // which lets events run
+    box->setValue(page);  // processes events
     if (box->wasCanceled()) throw PagesStopped();
     paint(painter, size, page);
   };
   return counted;
 }
 
-/// Whether what is painted is recorded for a preview, which cannot be aborted.
+/// Whether the pages are recorded for a preview, which cannot be aborted.
 bool IsPreview(const QPrinter& printer) {
   return printer.paintEngine()->type() == QPaintEngine::Picture;
 }
@@ -49,7 +49,7 @@ void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
   const QRect area = device.pageLayout().paintRectPixels(dpi);
   for (int page = 0; page < pages.Count; ++page) {
     if (page > 0 && !device.newPage()) {
-      throw RuntimeError(Fault::PrinterError, "cannot go on to a new page");
+      throw RuntimeError(Fault::PrinterError, "cannot start a new page");
     }
     painter.resetTransform();
     painter.translate(-area.topLeft());
@@ -81,7 +81,7 @@ void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
       if (!IsPreview(*device)) device->abort();
       QMetaObject::invokeMethod(&dialog, "reject", Qt::QueuedConnection);
     } catch (...) {
-      failed = std::current_exception();  // which must not pass through the toolkit
+      failed = std::current_exception();  // it must not pass through the toolkit
     }
   });
   dialog.exec();

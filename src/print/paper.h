@@ -7,9 +7,9 @@
 
 namespace numorra {
 
-/// Has pages painted on a printer. A PDF file is painted in memory and written once it is whole,
-/// since the toolkit forgets a write that failed when a later one does not. Throws PrinterError,
-/// FileError, and what `paint` throws.
+/// Paints pages on a printer. A PDF file is painted in memory and written in one piece, because the
+/// toolkit forgets a failed write when a later one succeeds. Throws PrinterError, FileError, and
+/// what `paint` throws.
 void PrintOn(QPrinter& printer, const std::function<void(QPagedPaintDevice&)>& paint);
 
 }  // namespace numorra

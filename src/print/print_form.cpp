@@ -53,7 +53,7 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
     label->setTextFormat(Qt::PlainText);
   }
   for (QPushButton* button : {UseTotalx, PrintGridx, PrintSolx, Closex})
-    button->setAutoDefault(false);  // Enter prints nothing by accident
+    button->setAutoDefault(false);  // so that Enter prints nothing by accident
   OnClick(runner_, UseTotalx, this, [this] {
     runner_.Run("Use total", [this] {
       linesTotal_ = DoubtsOf(grid_, Total()).TheLines;
@@ -70,7 +70,7 @@ void PrintForm::showEvent(QShowEvent* event) {
   runner_.Run("Preview", [this] { Preview(); });
 }
 
-/// The sheet as it will be, and what may be wrong with it.
+/// Shows the sheet, and warnings about it.
 void PrintForm::Preview() {
   if (linesTotal_ && !DoubtsOf(grid_, *linesTotal_).Total.empty()) linesTotal_.reset();
   const double total = Total();

@@ -18,15 +18,15 @@ class PrintForm : public CommandForm {
   Q_OBJECT
 
  public:
-  /// The caption's total is what the sum box says, or what the lines add up to once the player has
-  /// chosen that; the box itself stays as it is.
+  /// The caption's total is that of the sum box, or the total of the lines once the player has
+  /// chosen it; the box itself does not change.
   PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer, Dialogs& dialogs,
             QWidget* parent);
 
   QPlainTextEdit* const Text1;
-  QLabel* const TotalDoubt;  ///< that the caption's total is not the square's
+  QLabel* const TotalDoubt;  ///< warns that the caption's total is not the square's
   QPushButton* const UseTotalx;
-  QLabel* const WidthDoubt;  ///< that numbers run into each other
+  QLabel* const WidthDoubt;  ///< warns that numbers overlap
   QPushButton* const PrintGridx;
   QPushButton* const PrintSolx;
   QPushButton* const Closex;
@@ -44,7 +44,7 @@ class PrintForm : public CommandForm {
   const SquareBoxes& boxes_;
   SheetPrinter& printer_;
   Dialogs& dialogs_;
-  std::optional<double> linesTotal_;  ///< in the place of the sum box's
+  std::optional<double> linesTotal_;  ///< replaces the sum box's
 };
 
 }  // namespace numorra

@@ -17,7 +17,7 @@ std::size_t LineWidth(int order) {
   return 4 * static_cast<std::size_t>(order) + 2;
 }
 
-/// Writes `text` over `line` from the 0-based `place` on, as far as the line goes.
+/// Writes `text` over `line` from the 0-based `place`, cut at the line's end.
 void WriteOver(std::string& line, std::size_t place, const std::string& text) {
   const std::size_t length = std::min(text.size(), line.size() - std::min(place, line.size()));
   line.replace(place, length, text, 0, length);

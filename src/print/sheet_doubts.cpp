@@ -22,7 +22,7 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
     agree = agree && cells(line, 0) == cells(0, 0) && cells(0, line) == cells(0, 0);
   const std::string sum = Decimal(total);
   if (gaps) {
-    // Lines with gaps say nothing about the total.
+    // Lines with gaps do not determine the total.
   } else if (!agree) {
     doubts.Total = "The lines of this square do not all add up to " + sum + ".";
   } else if (cells(0, 0) != AsShown(total)) {
@@ -31,8 +31,8 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
                    Decimal(cells(0, 0)) + ".";
   }
   if (wide) {
-    doubts.Width = "Numbers of more than " + std::to_string(kSheetPlaces) +
-                   " places run into their neighbors on the sheet.";
+    doubts.Width = "Numbers with more than " + std::to_string(kSheetPlaces) +
+                   " characters overlap their neighbors on the sheet.";
   }
   return doubts;
 }

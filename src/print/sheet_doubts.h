@@ -7,14 +7,14 @@
 
 namespace numorra {
 
-/// What may be wrong with a sheet, each in one sentence for the player; empty where nothing is.
+/// Warnings about a sheet, each one sentence for the player; empty if there is none.
 struct SheetDoubts {
   std::string Total;               ///< the caption's total is not that of the lines
-  std::optional<double> TheLines;  ///< what all lines add up to, where they agree
-  std::string Width;               ///< numbers run into their neighbours
+  std::optional<double> TheLines;  ///< the total of all lines, if they agree
+  std::string Width;               ///< numbers overlap their neighbours
 };
 
-/// Looks a sheet over whose caption says `total`.
+/// Checks a sheet with `total` in its caption.
 SheetDoubts DoubtsOf(const Grid& grid, double total);
 
 }  // namespace numorra

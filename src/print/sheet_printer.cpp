@@ -9,7 +9,7 @@
 namespace numorra {
 namespace {
 
-/// Paints the lines from the top of the first page on, on as many pages as they take.
+/// Paints the lines from the top of the first page, on as many pages as needed.
 void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   QPainter painter;
   if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
@@ -22,7 +22,7 @@ void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   int top = 0;
   for (const QString& line : QString::fromStdString(text).split("\r\n", Qt::KeepEmptyParts)) {
     if (top + lineHeight > pageHeight && !line.isEmpty()) {
-      if (!device.newPage()) throw RuntimeError(Fault::PrinterError, "cannot go on to a new page");
+      if (!device.newPage()) throw RuntimeError(Fault::PrinterError, "cannot start a new page");
       top = 0;
     }
     painter.drawText(0, top + painter.fontMetrics().ascent(), line);

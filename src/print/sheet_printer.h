@@ -8,21 +8,21 @@
 
 namespace numorra {
 
-/// What puts a sheet of text on paper.
+/// Prints a sheet of text.
 class SheetPrinter {
  public:
   virtual ~SheetPrinter() = default;
 
-  /// Lets the player choose where to print; false when nothing is to be printed.
+  /// Lets the player choose where to print; false if nothing is to be printed.
   virtual bool Choose(QWidget* window) = 0;
 
-  /// Prints the text in one job. Throws PrinterError when that cannot begin or fails on the way,
-  /// FileError when a PDF cannot be written.
+  /// Prints the text in one job. Throws PrinterError if printing cannot begin or fails, FileError
+  /// if a PDF cannot be written.
   virtual void Print(const std::string& text) = 0;
 };
 
-/// A landscape page in "courier new" at 8 points on the printer, or PDF file, of the player's
-/// choice.
+/// Prints a landscape page in "courier new" at 8 points on the printer, or to the PDF file, that
+/// the player chooses.
 class PaperPrinter : public SheetPrinter {
  public:
   bool Choose(QWidget* window) override;
@@ -34,7 +34,7 @@ class PaperPrinter : public SheetPrinter {
  private:
   QPrinter& Device();
 
-  std::unique_ptr<QPrinter> device_;  // made at the first use: looking for printers takes time
+  std::unique_ptr<QPrinter> device_;  // created at first use: looking for printers takes time
 };
 
 }  // namespace numorra

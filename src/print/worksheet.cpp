@@ -12,19 +12,19 @@ namespace {
 constexpr double kMargin = 12;
 constexpr double kHeader = 24;  // title, name, rules
 constexpr double kCaption = 7;  // above a board
-constexpr double kBelow = 16;   // numbers missing and code
-constexpr double kBetween = 6;  // puzzles
+constexpr double kBelow = 16;   // missing numbers and code
+constexpr double kBetween = 6;  // between puzzles
 constexpr double kLargestCell = 22;
 constexpr double kTextHeight = 4;
 constexpr double kSmallText = 3;
 constexpr double kReadable = 1;
 
-/// Texts are laid out in units of a thousandth of a millimetre, or fonts would be rounded to whole
+/// Texts are laid out in thousandths of a millimetre; otherwise font sizes are rounded to whole
 /// millimetres.
 constexpr double kUnits = 1000;
 
-/// Writes a line into `area`, smaller where it would not fit; not at all where it could not be
-/// read.
+/// Writes a line into `area`, smaller if it does not fit; writes nothing if it would be too small
+/// to read.
 void Write(QPainter& painter, const QRectF& area, int flags, const QString& text, double height,
            bool bold = false) {
   painter.save();
@@ -43,14 +43,14 @@ void Write(QPainter& painter, const QRectF& area, int flags, const QString& text
   painter.restore();
 }
 
-/// Where a board stands in its slot: in the middle, with room for what is above and below it.
+/// The place of a board in its slot: in the middle, with room above and below it.
 QRectF BoardIn(const QRectF& slot, double side, int order) {
   QRectF board(0, 0, order * side, order * side);
   board.moveCenter(slot.adjusted(0, kCaption, 0, -kBelow).center());
   return board;
 }
 
-/// The board with the numbers of `puzzle`; those of `clues` heavier.
+/// Paints the board with the numbers of `puzzle`; those of `clues` in bold.
 void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzle& puzzle,
                 const Puzzle& clues) {
   constexpr double kThin = 0.2;
@@ -113,7 +113,7 @@ int Worksheet::PuzzlePages() const {
   return (static_cast<int>(puzzles_.size()) + wish_.PerPage - 1) / wish_.PerPage;
 }
 
-/// How many puzzles stand beside and below each other.
+/// The number of puzzles side by side and one below another.
 QSize Worksheet::Slots(QSizeF size) const {
   constexpr int kSix = 6;
   const QSize tall = wish_.PerPage == 1      ? QSize(1, 1)
@@ -187,8 +187,8 @@ void Worksheet::PaintAnswer(QPainter& painter, const Slot& slot, double side) co
                  {});
 }
 
-/// A board with what stands above it and, where there is such a line, right below it; then the code
-/// of its puzzle.
+/// Paints a board with the text above it and, if there is one, the line below it; then its puzzle
+/// code.
 void Worksheet::PaintCaptioned(QPainter& painter, const Slot& slot, double side,
                                const Puzzle& shown, const QString& above,
                                const QString& below) const {

@@ -11,30 +11,30 @@
 
 namespace numorra {
 
-/// How a worksheet is laid out.
+/// The layout of a worksheet.
 struct WorksheetWish {
   int PerPage = 1;  ///< 1, 2, 4 or 6
   QString Title = "Magic squares";
-  bool TotalGiven = true;  ///< else it is left to be found, where it can be
+  bool TotalGiven = true;  ///< otherwise it is left to be found, if it can be
 };
 
-/// Puzzles on pages, and their answers on pages behind them. A page has a title, a line for a name
-/// and the rules; a puzzle has its total, its board, for normal squares a strip of the numbers that
-/// are missing, and its code; an answer has its grade and code. Cells are of 12 mm and more
-/// wherever they fit.
+/// Puzzles on pages, with their answers on the last pages. A page has a title, a line for a name
+/// and the rules. A puzzle has its total, its board, a strip of the missing numbers if the square
+/// is normal, and its code. An answer has its grade and code. Cells are 12 mm or more where they
+/// fit.
 class Worksheet {
  public:
   Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish);
 
-  /// Of puzzles, and of answers behind them as many.
+  /// The number of pages: those of the puzzles, and as many for the answers.
   int PuzzlePages() const;
   int Pages() const { return 2 * PuzzlePages(); }
 
-  /// Paints page `page`, from 0, on a sheet of `size` millimetres, the painter's units; taller than
-  /// wide or wider than tall.
+  /// Paints page `page`, from 0, on a portrait or landscape sheet of `size` millimetres, which are
+  /// the painter's units.
   void PaintPage(QPainter& painter, QSizeF size, int page) const;
 
-  /// How wide a cell of a puzzle of this order is then, in millimetres.
+  /// The width of a cell of a puzzle of this order on such a sheet, in millimetres.
   double CellSide(QSizeF size, int order) const;
 
  private:
@@ -53,8 +53,7 @@ class Worksheet {
   WorksheetWish wish_;
 };
 
-/// Whether a solver can find out what the total is: it follows from the normal rules, or stands in
-/// a line without a gap.
+/// Whether a solver can determine the total: the normal rules give it, or a line without a gap.
 bool TotalCanBeFound(const Puzzle& puzzle);
 
 }  // namespace numorra

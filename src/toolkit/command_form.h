@@ -10,16 +10,16 @@
 
 namespace numorra {
 
-/// A dialog with commands of its own, which run beside those of the window and are yielded to as
-/// they are. It deletes itself once it is closed.
+/// A dialog whose commands run beside those of the window and yield in the same way. It deletes
+/// itself when it is closed.
 class CommandForm : public QDialog {
   Q_OBJECT
 
  public:
   CommandForm(const char* name, const QString& title, Dialogs& dialogs, QWidget* parent);
 
-  /// Closes the dialog. A command that is running is stopped first, and the dialog stays until it
-  /// has come to its end.
+  /// Closes the dialog. First stops a running command; the dialog stays until the command has
+  /// ended.
   void done(int result) override;
 
  protected:
@@ -31,7 +31,7 @@ class CommandForm : public QDialog {
   std::optional<int> closing_;  ///< the result to close with
 };
 
-/// What a dialog makes yields here, and the dialog says so when that takes longer than a frame.
+/// Makes a dialog the stage of what it builds: it shows a text when that takes longer than a frame.
 class FormYielding : public Yielding {
  public:
   FormYielding(CommandRunner& runner, std::function<void()> onWait)

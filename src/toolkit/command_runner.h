@@ -9,11 +9,11 @@
 
 namespace numorra {
 
-/// The one way in which commands run, and the one place where errors end.
+/// Runs every command, and catches every error.
 ///
-/// An exception unwinds the command and is shown in a box; the program goes on. While a command
-/// yields, the player may start another: it waits, the running one is superseded at its yield and
-/// unwinds, then the newer one runs. So commands never nest, and the newest wins.
+/// An exception unwinds the command and is shown in a box; the program continues. While a command
+/// yields, the player may start another. The new one waits, the running one is superseded at its
+/// yield and unwinds, and then the new one runs. So commands never nest, and the newest wins.
 class CommandRunner {
  public:
   using Command = std::function<void()>;
@@ -24,26 +24,26 @@ class CommandRunner {
   explicit CommandRunner(Dialogs& dialogs, int frameMilliseconds = kFrameMilliseconds)
       : dialogs_(dialogs), frameMilliseconds_(frameMilliseconds) {}
 
-  /// Raised before a command runs, and after it has come to its end in whatever way; `name` is what
-  /// a player would call it.
+  /// Raised before a command runs, and after it has ended in any way; `name` is the player's name
+  /// for it.
   std::function<void()> OnBegin;
   std::function<void(const std::string& name)> OnEnd;
 
-  /// Runs the command, or lets it take the place of the one that is running.
+  /// Runs the command; a running command is superseded first.
   void Run(std::string name, Command command);
 
-  /// Runs what leaves the board alone, such as opening a window, at once and beside a running
-  /// command; errors end here all the same.
+  /// Runs an action that leaves the board alone, such as opening a window, at once and beside a
+  /// running command; catches its errors too.
   void RunBeside(const Command& command);
 
-  /// Whether a command is on its way, waiting for a box or yielding.
+  /// Whether a command is running, waiting for a box or yielding.
   bool Running() const { return running_; }
 
-  /// Whether the next yield will let events run.
+  /// Whether the next yield will process events.
   bool YieldIsDue() const { return sinceYield_.elapsed() >= frameMilliseconds_; }
 
-  /// For the running command: lets pending window events run, at most once a frame. Throws
-  /// Superseded when it is to make way.
+  /// For the running command: processes pending window events, at most once a frame. Throws
+  /// Superseded when another command waits.
   void Yield();
 
   /// For a window that closes: supersedes the running command, and runs none from now on.

@@ -6,21 +6,20 @@
 
 namespace numorra {
 
-/// Asks the player for the names of files; an empty name means that nothing was chosen.
+/// Asks the player for file names; an empty name means that nothing was chosen.
 class FileChooser {
  public:
   virtual ~FileChooser() = default;
 
-  /// A file that is there. `kinds`: as the toolkit's file dialogs have them, "Squares (*.json
-  /// *.csv)".
+  /// Asks for an existing file. `kinds`: in the toolkit's form, "Squares (*.json *.csv)".
   virtual QString ToOpen(QWidget* window, const QString& title, const QString& kinds) = 0;
 
-  /// A name to write to, with the suffix of the chosen kind where the player gives none; what is
-  /// there is to be replaced.
+  /// Asks for a name to write to, adding the suffix of the chosen kind if the player gives none.
+  /// The player has agreed to replace an existing file.
   virtual QString ToSave(QWidget* window, const QString& title, const QString& kinds) = 0;
 };
 
-/// The toolkit's own dialogs, each in the folder of the one before.
+/// The toolkit's own dialogs, each opening in the folder of the previous one.
 class FileDialogs : public FileChooser {
  public:
   QString ToOpen(QWidget* window, const QString& title, const QString& kinds) override;

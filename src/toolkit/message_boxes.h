@@ -13,7 +13,7 @@ class MessageBoxes : public Dialogs {
  public:
   explicit MessageBoxes(QWidget* window) : window_(window) {}
 
-  std::function<void()> BeforeBox;  ///< brings up to date what is seen beside a box
+  std::function<void()> BeforeBox;  ///< updates what is visible beside a box
 
   void Tell(const std::string& message) override;
   bool Ask(const std::string& question) override;

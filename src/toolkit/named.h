@@ -4,7 +4,7 @@
 
 namespace numorra {
 
-/// Gives a control the name by which test drivers and assistive tools find it.
+/// Gives a control the name by which tests and assistive tools find it.
 template <class Control>
 Control* Named(const char* name, Control* control) {
   control->setObjectName(name);

@@ -9,7 +9,7 @@
 
 namespace numorra {
 
-/// Connects a signal to what it does, inside the runner's boundary for errors: nothing that a slot
+/// Connects a signal to an action that runs inside the runner's error boundary: nothing that a slot
 /// throws may pass through the toolkit. `act` takes the signal's arguments, or none.
 template <class Sender, class Signal, class Act>
 void OnSignal(CommandRunner& runner, const Sender* sender, Signal signal, QObject* context,
@@ -24,8 +24,8 @@ void OnSignal(CommandRunner& runner, const Sender* sender, Signal signal, QObjec
   }
 }
 
-/// The same for a click. A button that was disabled while it was pressed does nothing: one that is
-/// pressed by its letter stays down for a moment, and the toolkit then clicks it all the same.
+/// The same for a click. Ignores a button that was disabled while it was pressed: a button pressed
+/// by its mnemonic stays down for a moment, and the toolkit then clicks it anyway.
 template <class Act>
 void OnClick(CommandRunner& runner, const QAbstractButton* button, QObject* context, Act act) {
   OnSignal(runner, button, &QAbstractButton::clicked, context, [button, act = std::move(act)] {

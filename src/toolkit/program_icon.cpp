@@ -2,7 +2,7 @@
 
 static void LoadIcons() {
   Q_INIT_RESOURCE(icons);
-}  // from a static library, by hand
+}  // a static library needs this call
 
 namespace numorra {
 

@@ -4,7 +4,7 @@
 
 namespace numorra {
 
-/// The program's own icon, in the sizes that it was drawn in.
+/// The program's icon, in all the sizes that it was drawn in.
 QIcon ProgramIcon();
 
 }  // namespace numorra

@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-/// A distance given in twips (1/1440 inch) in whole pixels at a logical resolution in dots an inch.
+/// Converts twips (1/1440 inch) to whole pixels at a logical resolution in dots per inch.
 inline int PixelsOf(int twips, double dpi) {
   constexpr double kTwipsPerInch = 1440;
   return qRound(twips * dpi / kTwipsPerInch);

@@ -16,7 +16,7 @@ namespace {
   throw RuntimeError(Fault::FileError, what.toStdString());
 }
 
-/// Whether links lead from there to each other and to no file.
+/// Whether `name` is a link that only leads to other links in a circle.
 bool IsLinkInACircle(const QString& name) {
   std::error_code error;
   (void)std::filesystem::status(name.toStdString(), error);
@@ -28,22 +28,22 @@ bool IsLinkInACircle(const QString& name) {
 QByteArray ReadWholeFile(const QString& name, qint64 mostBytes) {
   const QFileInfo info(name);
   if (!info.exists()) Fail("there is no file " + name);
-  if (!info.isFile()) Fail(name + " is no regular file");
+  if (!info.isFile()) Fail(name + " is not a regular file");
   if (info.size() > mostBytes) Fail(name + " is too large to be a square");
   QFile file(name);
   if (!file.open(QFile::ReadOnly)) Fail("cannot read " + name + ": " + file.errorString());
-  // One byte more than is taken, so that a file that grows meanwhile is noticed.
+  // Reads one byte more than allowed, to notice a file that grows meanwhile.
   QByteArray bytes = file.read(mostBytes + 1);
   if (file.error() != QFile::NoError) Fail("cannot read " + name + ": " + file.errorString());
   if (bytes.size() > mostBytes) Fail(name + " is too large to be a square");
   return bytes;
 }
 
-/// All bytes at once, as the toolkit forgets a write that failed when a later one does not.
+/// Writes all bytes at once: the toolkit forgets a failed write when a later one succeeds.
 void WriteWholeFile(const QString& name, const QByteArray& bytes) {
-  if (IsLinkInACircle(name)) Fail(name + " is a link that leads to no file");
+  if (IsLinkInACircle(name)) Fail(name + " is a link that does not lead to a file");
   if (const QFileInfo info(name); info.exists() && !info.isFile()) {
-    Fail(name + " is no regular file");
+    Fail(name + " is not a regular file");
   }
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// Exchanges two cells; what leaves the first does so as a 16-bit whole number.
+/// Exchanges two cells; the value of the first is rounded to a 16-bit whole number.
 void ExchangeRounding(double& visited, double& mirror) {
   const double rounded = ToInt16(visited);
   visited = mirror;

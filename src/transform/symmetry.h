@@ -6,27 +6,27 @@
 
 namespace numorra {
 
-/// The eight symmetries of a square form a group: four turns (none among them) and four mirrors. A
+/// The eight symmetries of a square form a group: four turns (including none) and four mirrors. A
 /// magic square stays magic under each. All work on the value block, rows and columns 1..order, and
 /// leave the totals around it alone.
 ///
-/// The rotations and the horizontal flip copy values as they are. The other three mirrors pass the
-/// values of the half they walk over, those on the mirror line too, through a 16-bit whole number
-/// (halves to even); the values that come the other way arrive as they were. A value that does not
-/// fit throws Overflow, with the exchanges made so far kept.
+/// The rotations and the horizontal flip copy values unchanged. The other three mirrors round the
+/// values of one half, including the mirror line, to 16-bit whole numbers (halves to even); the
+/// values of the other half do not change. A value that does not fit throws Overflow, and the
+/// exchanges made so far remain.
 struct Symmetry {
-  const char* Name;     ///< of its menu item
-  const char* Caption;  ///< what the item says
+  const char* Name;     ///< of the menu item
+  const char* Caption;  ///< the item's text
   void (*Turn)(CellTable& cells, int order);
 };
 
 /// (r, c) to (c, n + 1 - r): a clockwise quarter turn.
 void RotateBoard90(CellTable& cells, int order);
 
-/// (r, c) to (n + 1 - r, c): top and bottom rows change places.
+/// (r, c) to (n + 1 - r, c): exchanges top and bottom rows.
 void FlipBoardHorizontal(CellTable& cells, int order);
 
-/// (r, c) to (r, n + 1 - c): left and right columns change places.
+/// (r, c) to (r, n + 1 - c): exchanges left and right columns.
 void FlipBoardVertical(CellTable& cells, int order);
 
 /// (r, c) to (n + 1 - c, n + 1 - r): mirrored in the diagonal from top right to bottom left.
@@ -39,7 +39,7 @@ void FlipBoardDiagonal2(CellTable& cells, int order);
 void RotateBoard180(CellTable& cells, int order);
 void RotateBoard270(CellTable& cells, int order);
 
-/// The seven that change a square, in the order of the menu.
+/// The seven symmetries that change a square, in menu order.
 inline constexpr std::array kSymmetries = {
     Symmetry{"flipvx", "Flip vertical", FlipBoardVertical},
     Symmetry{"fliphx", "Flip horizontal", FlipBoardHorizontal},
@@ -50,9 +50,9 @@ inline constexpr std::array kSymmetries = {
     Symmetry{"rot270x", "Rotate 270d", RotateBoard270},
 };
 
-/// The symmetry as a command: reads the grid, turns what it holds and shows it, and judges the
-/// totals again where a check had judged them before. Gaps stay gaps, and givens go with their
-/// numbers. When a value overflows, the grid is as it was.
+/// The symmetry as a command: reads the grid, turns it and shows it, and checks the totals again if
+/// they had been checked before. Gaps and givens move with their cells. If a value overflows, the
+/// grid does not change.
 void TurnBoard(Board& board, const Symmetry& symmetry);
 
 }  // namespace numorra

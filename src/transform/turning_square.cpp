@@ -15,7 +15,7 @@ TurningSquare::TurningSquare(const CellTable& cells, int order) : TurningSquare(
 }
 
 void TurningSquare::RotateBoard90() {
-  // The cell now at (r, c) stood at (n + 1 - c, r).
+  // The cell now at (r, c) was at (n + 1 - c, r).
   origin_ += (order_ + 1) * rowStep_;
   rowStep_ = std::exchange(columnStep_, -rowStep_);
 }

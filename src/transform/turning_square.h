@@ -7,9 +7,9 @@
 
 namespace numorra {
 
-/// A square under construction that is turned again and again. Its numbers stay where they are; a
-/// quarter turn only changes which way the row and column axes run over them, so a turn costs three
-/// additions. Rows and columns count from 1 to the order and are not checked.
+/// A square under construction that is turned again and again. Its numbers are not moved: a quarter
+/// turn only changes the direction of the row and column axes, so it costs three additions. Rows
+/// and columns count from 1 to the order and are not checked.
 class TurningSquare {
  public:
   /// An order x order square of zeros. Throws SubscriptOutOfRange for orders outside 1..51.
@@ -25,10 +25,10 @@ class TurningSquare {
 
   void Fill(double value) { cells_.fill(value); }
 
-  /// A clockwise quarter turn: what was at (r, c) is then at (c, n + 1 - r).
+  /// A clockwise quarter turn: the value at (r, c) moves to (c, n + 1 - r).
   void RotateBoard90();
 
-  /// The square as it now stands, in the value block of a table.
+  /// The current square, in the value block of a table.
   CellTable Settled() const;
 
  private:

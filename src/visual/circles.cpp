@@ -10,11 +10,11 @@
 namespace numorra {
 namespace {
 
-const QColor kGround(104, 108, 114);  // lets white and dark circles stand out
+const QColor kGround(104, 108, 114);  // makes white and dark circles stand out
 const QColor kRules = kGround.lighter(115);
 
-/// A circle of radius 1 as a polygon that is nowhere further than a tenth of a pixel from the
-/// circle when it is drawn with `radius`. The toolkit's own ellipses take twice as long.
+/// A circle of radius 1 as a polygon, accurate to a tenth of a pixel when drawn with `radius`. The
+/// toolkit's own ellipses take twice as long.
 QPolygonF UnitCircle(double radius) {
   constexpr double kFlatness = 0.2;
   const double half = std::acos(std::max(0.0, 1 - kFlatness / std::max(radius, 1.0)));
@@ -27,8 +27,8 @@ QPolygonF UnitCircle(double radius) {
   return circle;
 }
 
-/// The numbers over the circles, each in a halo of its circle's shade, so that it can be read where
-/// it is wider than its circle.
+/// Paints the numbers over the circles, each with a halo in its circle's shade, so that it stays
+/// readable where it is wider than its circle.
 void PaintNumbers(QPainter& painter, const DrawingArea& area, const std::vector<ValuedCell>& path,
                   const Shading& shading) {
   const QSizeF size(area.Side * 0.8, area.Side * 0.36);

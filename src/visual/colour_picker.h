@@ -11,7 +11,7 @@
 
 namespace numorra {
 
-/// A small area of one colour.
+/// A small area filled with one colour.
 class Swatch : public QWidget {
   Q_OBJECT
 
@@ -30,18 +30,18 @@ class Swatch : public QWidget {
   QColor colour_;
 };
 
-/// The "Colors" frame: mixes a colour from three bars, one a channel from 0 to 255, and shades the
-/// board in it. The labels beside the bars are what counts.
+/// The "Colors" frame: mixes a colour with three bars, one per channel from 0 to 255, and shades
+/// the board with it. The labels beside the bars hold the values.
 class ColourPicker : public QGroupBox {
   Q_OBJECT
 
  public:
   explicit ColourPicker(QWidget* parent = nullptr);
 
-  /// Brings labels and swatches in line with the bars, as a change of each of them does.
+  /// Updates labels and swatches from the bars, as every change of a bar does.
   void ShowBars();
 
-  /// The mixed colour, as the labels have it.
+  /// The mixed colour, from the labels.
   Colour Picked() const;
 
  Q_SIGNALS:

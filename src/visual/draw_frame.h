@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// The "Draw" frame: a button for every drawing of the board, and the one that takes them away.
+/// The "Draw" frame: a button for every drawing of the board, and one that removes them.
 class DrawFrame : public QGroupBox {
   Q_OBJECT
 

@@ -10,8 +10,8 @@ namespace numorra {
 namespace {
 
 constexpr double kMargin = 8;         // pixels around the drawing
-constexpr int kSmallestReadable = 6;  // pixels: smaller numbers would be smudges
-constexpr double kHalo = 0.07;        // its width, of the height of a number
+constexpr int kSmallestReadable = 6;  // pixels: smaller numbers are unreadable
+constexpr double kHalo = 0.07;        // its width, as a share of a number's height
 
 }  // namespace
 
@@ -38,7 +38,7 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
   painter.setFont(font);
   if (font.pixelSize() < kSmallestReadable) return;
   painter.setPen(halo);
-  // Painted around the number, as the outline of letters costs many times as much.
+  // The halo is the number painted four times around itself; outlining letters costs far more.
   const double around = std::max(1.0, font.pixelSize() * kHalo);
   for (const QPointF side : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
     painter.drawText(place.translated(side * around), Qt::AlignCenter, text);
@@ -49,7 +49,7 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {
   setObjectName("Picture1");
   setProperty("tag", "");
-  setAttribute(Qt::WA_OpaquePaintEvent);  // or the frames behind would be painted first
+  setAttribute(Qt::WA_OpaquePaintEvent);  // otherwise the frames behind are painted first
   setAccessibleName("Drawing of the board");
 }
 

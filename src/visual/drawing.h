@@ -7,25 +7,25 @@
 
 namespace numorra {
 
-/// The drawing that covers the board (`Picture1`): one picture of all its values at once, as large
-/// as the window lets it be. Its tag names the kind of drawing that is shown, "" is none.
+/// The drawing that covers the board (`Picture1`): one picture of all its values, as large as the
+/// window allows. Its tag names the kind of drawing that is shown; "" means none.
 class Drawing : public QWidget {
   Q_OBJECT
 
  public:
   explicit Drawing(const Board& board, QWidget* parent = nullptr);
 
-  /// Chooses what is drawn; null for nothing.
+  /// Chooses the kind of drawing; null for none.
   void SetKind(const DrawingKind* kind);
 
-  /// The colour that values are shaded with.
+  /// The colour that shades the values.
   void SetColour(Colour picked);
 
-  /// Whether the numbers are written into the drawing.
+  /// Whether the drawing shows the numbers.
   void SetNumbers(bool shown);
 
-  /// Paints what is shown, in the colours of the palette, over the painter's ground, which is as
-  /// large as the widget.
+  /// Paints the drawing in the colours of the palette over the painter's ground, which is as large
+  /// as the widget.
   void Paint(QPainter& painter, const QPalette& palette) const;
 
  protected:

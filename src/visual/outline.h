@@ -10,8 +10,8 @@
 
 namespace numorra {
 
-/// Draws a line around `cells`, to be seen on every ground: dark on a light one. Cells that are
-/// neighbours share one line. rectOf says where a cell lies.
+/// Draws a line around `cells` that is visible on every ground: dark on a light line. Neighbouring
+/// cells share one line. `rectOf` returns the place of a cell.
 void PaintOutline(QPainter& painter, const std::vector<Place>& cells,
                   const std::function<QRectF(Place)>& rectOf);
 

@@ -12,7 +12,7 @@ namespace {
 constexpr std::int32_t kNoHighest = -99;
 constexpr float kShades = 256;
 
-/// The share of light that a channel gives (sRGB).
+/// The luminance of a channel (sRGB).
 double Linear(std::uint8_t channel) {
   const double share = channel / 255.0;
   return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
@@ -35,7 +35,7 @@ Shading::Shading(const Board& board, Colour picked) : picked_(picked) {
   std::int32_t highest = kNoHighest;
   ForEachCell(board.GridSize, [&](int row, int column) {
     const double value = std::nearbyint(Val(board.grid.Text(row, column)));
-    // What no 32-bit number holds has no say.
+    // Ignore numbers that do not fit in 32 bits.
     if (std::abs(value) < 0x1p31) highest = std::max(highest, ToInt32(value));
   });
   if (highest != 0) scale_ = kShades / static_cast<float>(highest);
@@ -54,7 +54,7 @@ std::optional<Colour> Shading::Of(double value) const {
 }
 
 Colour ReadableOn(Colour background) {
-  // Black and white are equally far from this luminance.
+  // Black and white have equal contrast to this luminance.
   constexpr double kMiddle = 0.1791;
   return Luminance(background) > kMiddle ? Rgb(0, 0, 0) : Rgb(255, 255, 255);
 }

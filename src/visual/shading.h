@@ -6,16 +6,15 @@
 
 namespace numorra {
 
-/// How values become shades: the highest value of a board turns the picked colour white, and lower
-/// ones lie in proportion between the picked colour, for 0, and white.
+/// Turns values into shades: the highest value of a board becomes white, 0 becomes the picked
+/// colour, and the values between are interpolated.
 class Shading {
  public:
-  /// The scale of the board on the screen. A board whose highest value is 0 has none: every cell
-  /// then gets the picked colour itself.
+  /// The scale of the board on the screen. A board whose highest value is 0 has no scale: every
+  /// cell then gets the picked colour.
   Shading(const Board& board, Colour picked);
 
-  /// The colour of a value; nothing where a channel would fall below black or a number does not
-  /// fit.
+  /// The colour of a value; none if a channel would fall below black or a number does not fit.
   std::optional<Colour> Of(double value) const;
 
  private:
@@ -23,16 +22,16 @@ class Shading {
   float scale_ = 0;
 };
 
-/// How well two colours stand out from each other, 1 (not at all) to 21, as the web content
-/// accessibility guidelines 2.1 reckon it: texts ask for 4.5, marks for 3.
+/// The contrast ratio of two colours, 1 (none) to 21, as defined by the Web Content Accessibility
+/// Guidelines 2.1, which require 4.5 for text and 3 for marks.
 double Contrast(Colour a, Colour b);
 
-/// Black or white, whichever can be read better on the colour: always at a contrast of 4.5 or more.
+/// Black or white, whichever is more readable on the colour: the contrast is always 4.5 or more.
 Colour ReadableOn(Colour background);
 
-/// The colour fill: shades every value cell, with its text in a readable colour. Totals are left
-/// alone, and a drawing over the board is taken away. Does nothing while the main diagonal's total
-/// is 0 or there is no board.
+/// The colour fill: shades every value cell and writes its text in a readable colour. Does not
+/// change totals; removes a drawing over the board. Does nothing if the main diagonal's total is 0
+/// or there is no board.
 void FillColours(Board& board, Colour picked);
 
 }  // namespace numorra

@@ -6,15 +6,15 @@
 
 namespace numorra {
 
-/// A cell of the value block, rows and columns from 1, and what it holds.
+/// A cell of the value block, with row and column from 1, and its value.
 struct ValuedCell {
   int Row;
   int Column;
   double Value;
 };
 
-/// The cells from the smallest value to the largest, equal values in reading order: the path that
-/// shows how a square was made. Gaps are not on it.
+/// The cells from the smallest value to the largest, equal values in reading order. This path shows
+/// how a square was made. Gaps are left out.
 std::vector<ValuedCell> ValuePath(const Board& board);
 
 }  // namespace numorra

@@ -9,11 +9,11 @@
 namespace numorra {
 namespace {
 
-constexpr double kSmallestArrowed = 30;  // the cells' side from which steps have arrow heads
+constexpr double kSmallestArrowed = 30;  // smallest side of a cell for arrow heads
 constexpr double kFirstHue = 0.68;       // blue, going to red
 
-/// The colours of the way from its start to its end, each so dark or so light that it stands out
-/// from the ground.
+/// The colours of the path from start to end, each dark or light enough to stand out from the
+/// ground.
 class Hues {
  public:
   explicit Hues(const QColor& ground) {
@@ -31,7 +31,7 @@ class Hues {
     }
   }
 
-  /// The colour of a share, 0 to 1, of the way.
+  /// The colour at a share, 0 to 1, of the path.
   const QColor& At(double share) const { return hues_[static_cast<std::size_t>(share * kLast)]; }
 
  private:
@@ -44,7 +44,7 @@ class Hues {
   std::array<QColor, kLast + 1> hues_;
 };
 
-/// An arrow head half way from one point to another.
+/// An arrow head halfway between two points.
 void PaintArrowHead(QPainter& painter, QPointF from, QPointF to, double size) {
   const QPointF way = to - from;
   const double length = std::hypot(way.x(), way.y());
@@ -55,7 +55,7 @@ void PaintArrowHead(QPainter& painter, QPointF from, QPointF to, double size) {
   painter.drawPolygon(QPolygonF({tip, tip - along + across, tip - along - across}));
 }
 
-/// Its hue runs from blue to red; a ring stands where it starts, a square where it ends.
+/// The path's hue runs from blue to red; a ring marks its start, a square its end.
 void PaintVectors(QPainter& painter, const DrawingArea& area) {
   const QColor ground = area.Palette.color(QPalette::Base);
   const QColor ink = area.Palette.color(QPalette::Text);
@@ -86,7 +86,7 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
   painter.setBrush(hues.At(1));
   painter.drawRect(QRectF(end.x() - mark, end.y() - mark, 2 * mark, 2 * mark));
   if (!area.Numbers) return;
-  // Each in the upper left of its cell, beside the way.
+  // Each number in the upper left of its cell, beside the path.
   for (const ValuedCell& cell : path) {
     const QPointF corner = area.Centre(cell.Row, cell.Column) - QPointF(side, side) / 2;
     const QRectF place(corner + QPointF(1, 1), QSizeF(side * 0.48, side * 0.3));
@@ -98,6 +98,6 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
 }  // namespace
 
 const DrawingKind kVectors = {"V", "Command2", "Vec&tors",
-                              "Draw the way from the smallest number to the largest", PaintVectors};
+                              "Draw a path from the smallest number to the largest", PaintVectors};
 
 }  // namespace numorra

@@ -30,7 +30,7 @@ Outcome RunWith(const std::string& line, const std::string& input = "") {
   return RunOn(in, line);
 }
 
-/// A text and behind it another one, again and again without an end.
+/// A text followed by another one, repeated endlessly.
 class Endless : public std::streambuf {
  public:
   Endless(std::string start, std::string again)
@@ -188,7 +188,7 @@ TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
 }
 
 /// As in the window: quarter turns by 1, 2, 3, 0, and never the start of the last odd square.
-TEST(SquareProgram, GoesOnFromTheSquareBefore) {
+TEST(SquareProgram, ContinuesFromTheSquareBefore) {
   const auto fours = Blocks(RunWith("--size 4 --count 5 --format csv").Out);
   EXPECT_EQ(std::set<std::string>(fours.begin(), fours.end()).size(), 4U);
   EXPECT_EQ(fours[0], fours[4]);
@@ -196,8 +196,9 @@ TEST(SquareProgram, GoesOnFromTheSquareBefore) {
   EXPECT_EQ(std::adjacent_find(fives.begin(), fives.end()), fives.end());
 }
 
-/// Of what never ends as much is read as one square may take; squares are taken as they come.
-TEST(SquareProgram, ReadsWithoutAnEndInBoundedMemory) {
+/// Of endless input, only as much is read as one square may take; squares are answered as they
+/// come.
+TEST(SquareProgram, ReadsEndlessInputInBoundedMemory) {
   const std::string square = "\r\n8 1 6\r3 5 7\r\n4 9 2\n\ntotal 15\n\n";
   struct Case {
     std::string start, again, line;
@@ -213,7 +214,7 @@ TEST(SquareProgram, ReadsWithoutAnEndInBoundedMemory) {
     const Outcome run = RunOn(in, "complete");
     EXPECT_EQ(run.Status, 1);
     EXPECT_EQ(run.Err, "numorra-square: line " + c.line +
-                           ": this is too long for a square of numbers; reading ends here\n");
+                           ": this is too long for a square of numbers; reading stops here\n");
     EXPECT_EQ(run.Out.starts_with("one\n"), !c.start.empty());
   }
   Endless endless("", square);
@@ -236,7 +237,7 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_NE(text.Out.find("\n\n4 x 4\n"), std::string::npos);
   const Outcome json = RunWith("study - --format json", "8;1;6\r\n3;5;7\r\n4;9;2\r\n\r\n1,2\n");
   EXPECT_EQ(json.Status, 1);
-  EXPECT_EQ(json.Err, "numorra-square: line 5: this is no square of numbers\n");
+  EXPECT_EQ(json.Err, "numorra-square: line 5: this is not a square of numbers\n");
   EXPECT_EQ(json.Out.find("{\"order\": 3, \"total\": 15, \"properties\": {\"semi-magic\": true, "),
             0U);
   EXPECT_NE(json.Out.find("\"compact\": null"), std::string::npos);
@@ -247,8 +248,8 @@ TEST(SquareProgram, StudiesWhatItReads) {
   EXPECT_NE(json.Out.find("\"standard-form\": [[2, 7, 6], [9, 5, 1], [4, 3, 8]]}\n"),
             std::string::npos);
   EXPECT_EQ(RunWith("study", "1 2 3\n4 x 6\n7 8 9\n\n1 2 3\n4 5 6\n7 y 9\n").Err,
-            "numorra-square: line 2: \"x\" is no number\n"
-            "numorra-square: line 7: \"y\" is no number\n");
+            "numorra-square: line 2: \"x\" is not a number\n"
+            "numorra-square: line 7: \"y\" is not a number\n");
   EXPECT_NE(RunWith("study", "16 3 2 13\n5 10 11 8\n9 6 7 12\n4 15 14 1\n")
                 .Out.find("\nfamous: Albrecht Dürer's engraving"),
             std::string::npos);
@@ -256,11 +257,11 @@ TEST(SquareProgram, StudiesWhatItReads) {
             "numorra-square: row 2, column 2 is empty: only full squares can be studied\n");
   EXPECT_EQ(
       RunWith("study", "\n{\"order\": 3}\n\n{\"rows\": [[1, 2, 3], [4, \"\", 6], [7, 8, 9]]}").Err,
-      "numorra-square: line 2: this JSON holds no square of Numorra\n"
-      "numorra-square: line 4: row 2, column 2: this is no number\n");
+      "numorra-square: line 2: this JSON is not a Numorra square\n"
+      "numorra-square: line 4: row 2, column 2: this is not a number\n");
   EXPECT_EQ(RunWith("study", "\n").Err, "numorra-square: there is no square to read\n");
   EXPECT_EQ(RunWith("study one two").Err,
-            "numorra-square: one file at a time, not 'two' too; try --help\n");
+            "numorra-square: only one file can be read, not 'two' too; try --help\n");
   EXPECT_EQ(RunWith("study /no/such/file").Err, "numorra-square: '/no/such/file' cannot be read\n");
   EXPECT_EQ(RunWith("study /").Status, 1);
 }
@@ -345,7 +346,7 @@ TEST(SquareProgram, MakesPuzzles) {
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --clues 3 --seed 1").Status, 1);
   EXPECT_EQ(RunWith("puzzle --size 3 --grade expert --seed 1").Err,
-            "numorra-square: this square gives no puzzle that is expert: this one is hard\n");
+            "numorra-square: this square has no expert puzzle: this one is hard\n");
   EXPECT_EQ(RunWith("puzzle --size 4 --sum 50 --limit-to-9 --seed 1").Err,
             "numorra-square: the total is 20\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --grade odd").Status, 2);

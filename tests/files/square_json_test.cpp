@@ -40,14 +40,14 @@ TEST(SquareJson, IsWrittenOnOneLineAndReadInAnyForm) {
   EXPECT_EQ(std::get<StoredSquare>(rows), (StoredSquare{{3, {-8, 0.5, 6, 3, 5, 7, 4, 9, 2}}}));
 }
 
-TEST(SquareJson, ThatIsNoneIsRefusedWithItsPlace) {
-  const std::string none = "this JSON holds no square of Numorra";
+TEST(SquareJson, ThatIsInvalidIsRefusedWithItsPlace) {
+  const std::string none = "this JSON is not a Numorra square";
   const std::pair<std::string, std::string> cases[] = {
-      {"{\n\n\"a\": [}", "line 5, column 7: this is no valid JSON"},
+      {"{\n\n\"a\": [}", "line 5, column 7: this is not valid JSON"},
       {"{\n\"a\": [1, ", "line 4, column 10: the JSON ends too early"},
       {"{\"a\": 1e999}", "line 3, column 11: this number is too large"},
-      {"{\"a\": \"\xFF\"}", "line 3, column 8: this is no valid JSON"},
-      {kPuzzle + kPuzzle, "line 4, column 1: something follows the square"},
+      {"{\"a\": \"\xFF\"}", "line 3, column 8: this is not valid JSON"},
+      {kPuzzle + kPuzzle, "line 4, column 1: there is text after the square"},
       {"", "line 3, column 1: the JSON ends too early"},
       {"{}", none},
       {"[[1, 2, 3]]", none},
@@ -55,24 +55,23 @@ TEST(SquareJson, ThatIsNoneIsRefusedWithItsPlace) {
       {Replaced(kPuzzle, "\"version\": 1", "\"version\": 0"), none},
       {Replaced(kPuzzle, "\"version\": 1", "\"version\": 2"),
        "this square was written by a later version of Numorra"},
-      {Replaced(kPuzzle, "r\": 3", "r\": 3000"), "\"order\" is no whole number from 3 to 50"},
-      {Replaced(kPuzzle, "r\": 3", "r\": 3.5"), "\"order\" is no whole number from 3 to 50"},
+      {Replaced(kPuzzle, "r\": 3", "r\": 3000"), "\"order\" must be a whole number from 3 to 50"},
+      {Replaced(kPuzzle, "r\": 3", "r\": 3.5"), "\"order\" must be a whole number from 3 to 50"},
       {Replaced(kPuzzle, "r\": 3", "r\": 4"), "\"rows\" has 3 rows, not 4"},
       {R"({"rows": [[1, 2], [3, 4]]})", "\"rows\" has 2 rows, not 3 to 50"},
-      {R"({"answer": "none", "rows": null})", "\"rows\" holds no square"},
+      {R"({"answer": "none", "rows": null})", "\"rows\" contains no square"},
       {Replaced(kPuzzle, "3, 5, 7", "3, 5"), "row 2 of \"rows\" has 2 cells, not 3"},
       {Replaced(kPuzzle, "[3, 5, 7]", "7"), "row 2 of \"rows\" has 0 cells, not 3"},
-      {Replaced(kPuzzle, "3, 5, 7", "3, \"x\", 7"), "row 2, column 2: this is no number"},
-      {Replaced(kPuzzle, "3, 5, 7", "3, [5], 7"), "row 2, column 2: this is no number"},
+      {Replaced(kPuzzle, "3, 5, 7", "3, \"x\", 7"), "row 2, column 2: this is not a number"},
+      {Replaced(kPuzzle, "3, 5, 7", "3, [5], 7"), "row 2, column 2: this is not a number"},
       {Replaced(kPuzzle, "3, 5, 7", "3, 123456789012345, 7"),
        "row 2, column 2: the number has more than 14 digits"},
       {Replaced(kPuzzle, "15", "1e308"), "\"total\" has more than 16 digits"},
-      {Replaced(kPuzzle, "15", "\"15\""), "\"total\" is no number"},
-      {Replaced(kPuzzle, "\"normal\"", "\"odd\""), "\"rules\" is neither normal nor positive"},
+      {Replaced(kPuzzle, "15", "\"15\""), "\"total\" is not a number"},
+      {Replaced(kPuzzle, "\"normal\"", "\"odd\""), "\"rules\" must be normal or positive"},
       {Replaced(kPuzzle, "[[true, false", "[[true, true"),
        "row 1, column 2: a gap cannot be given"},
-      {Replaced(kPuzzle, "[[true", "[[1"),
-       "row 1, column 1: \"givens\" has neither true nor false"}};
+      {Replaced(kPuzzle, "[[true", "[[1"), "row 1, column 1: \"givens\" must be true or false"}};
   for (const auto& [text, why] : cases) {
     const auto read = ReadSquareJson(text, 3);
     ASSERT_TRUE(std::holds_alternative<Unreadable>(read)) << text;

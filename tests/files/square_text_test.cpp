@@ -36,9 +36,9 @@ TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
   }
 }
 
-TEST(SquareTexts, ThatAreNoneAreRefusedWithTheirLine) {
+TEST(SquareTexts, ThatAreInvalidAreRefusedWithTheirLine) {
   const std::string none =
-      "this is no square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text";
+      "this is not a square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text";
   std::string wide;
   for (int i = 0; i < 51; ++i)
     wide += "1 2 3\n";
@@ -49,13 +49,13 @@ TEST(SquareTexts, ThatAreNoneAreRefusedWithTheirLine) {
       {"[1 2; 3 4]", none},
       {wide, none},
       {std::string(2 << 20, '1'), kTooLongForASquare},
-      {"1 2 3 4\n1 2 3 4\n1 2 3 4", "line 1 has 4 numbers, not 3 as there are lines"},
-      {"\n\n1 2 3\n4 5 6 7\n7 8 9", "line 4 has 4 numbers, not 3 as there are lines"},
+      {"1 2 3 4\n1 2 3 4\n1 2 3 4", "line 1 has 4 numbers, but there are 3 lines"},
+      {"\n\n1 2 3\n4 5 6 7\n7 8 9", "line 4 has 4 numbers, but there are 3 lines"},
       {"1 2 3\n\n4 5 6\n7 8 9", "line 2 is empty"},
-      {"1,2,3,\n4,5,6\n7,8,9", "line 1 has 4 numbers, not 3 as there are lines"},
-      {"1 2 x\n4 5 6\n7 8 9", "line 1: \"x\" is no number"},
-      {"1 2 3\n4 5 6\n1.2.3 8 9", "line 3: \"1.2.3\" is no number"},
-      {"1 2 3\n4 5 6\n7 1e9 9", "line 3: \"1e9\" is no number"},
+      {"1,2,3,\n4,5,6\n7,8,9", "line 1 has 4 numbers, but there are 3 lines"},
+      {"1 2 x\n4 5 6\n7 8 9", "line 1: \"x\" is not a number"},
+      {"1 2 3\n4 5 6\n1.2.3 8 9", "line 3: \"1.2.3\" is not a number"},
+      {"1 2 3\n4 5 6\n7 1e9 9", "line 3: \"1e9\" is not a number"},
       {"1 2 3\n4 5 6\n123456789012345 8 9", "line 3: 123456789012345 has more than 14 digits"},
       {"1 2 3\n-999999999999999.5 5 6\n7 8 9",
        "line 2: -999999999999999.5 has more than 14 digits"},

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-/// What a target expects of the code; the fuzzer keeps the input that breaks it.
+/// A target's expectation of the code; the fuzzer keeps an input that breaks it.
 inline void Check(bool holds) {
   if (!holds) std::abort();
 }

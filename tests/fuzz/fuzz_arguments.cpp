@@ -5,7 +5,7 @@
 
 using namespace numorra;
 
-/// Words are what stands between blanks. What is accepted is within the bounds that are told.
+/// Words are separated by blanks. Accepted arguments are within the documented bounds.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::istringstream input(TextOf(data, size));
   std::vector<std::string> words;

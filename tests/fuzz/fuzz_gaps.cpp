@@ -16,7 +16,7 @@ bool Solves(const Puzzle& solved, const Puzzle& puzzle) {
   return slow::WhyNotMagic(RowsOf(solved.Cells), static_cast<double>(puzzle.Target)).empty();
 }
 
-/// Every hint is right where there is one solution.
+/// Every hint is right if there is one solution.
 void FollowHints(Puzzle board, const Puzzle& solved, Yielding& yielding) {
   while (const auto step = NextDeduction(board, Grade::Hard, yielding)) {
     const int cell = step->Cell;
@@ -27,8 +27,8 @@ void FollowHints(Puzzle board, const Puzzle& solved, Yielding& yielding) {
 
 }  // namespace
 
-/// Boards with any numbers and gaps, of which the first byte chooses the rules: what is said of
-/// their solutions is so, and where a plain search can count them, their number is that.
+/// Boards with any numbers and gaps; the first byte chooses the rules. What the search says of
+/// their solutions is true, and agrees with a plain search where that can count them.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   auto read = ReadSquareText(TextOf(data + 1, size - 1));

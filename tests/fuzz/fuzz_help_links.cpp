@@ -8,7 +8,7 @@
 
 using namespace numorra;
 
-/// Whatever a link says, only what stands in the folder is served.
+/// Whatever a link says, only files in the folder are served.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const QTemporaryDir root;
   static const QString folder = [] {

@@ -8,7 +8,7 @@
 
 using namespace numorra;
 
-/// What is loaded, sorted, searched and saved is loaded again with the same items.
+/// A list that is loaded, sorted, searched and saved loads again with the same items.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::string path = "/tmp/numorra-fuzz-list-" + std::to_string(getpid());
   std::ofstream(path, std::ios::binary) << TextOf(data, size);

@@ -5,7 +5,7 @@
 
 using namespace numorra;
 
-/// What Val reads, Str writes so that it reads the same.
+/// Str writes what Val reads, so that it reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text = TextOf(data, size);
   NormalTotalText(text);

@@ -3,8 +3,8 @@
 
 using namespace numorra;
 
-/// A code with any check character is refused with one sentence, or is a puzzle whose own code
-/// reads back as the same.
+/// A code, with any check character, is refused with one sentence, or is a puzzle whose own code
+/// reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text = TextOf(data, size);
   for (const char check : std::string("0123456789ABCDEFGHJKMNPQRSTVWXYZ")) {

@@ -3,7 +3,7 @@
 
 using namespace numorra;
 
-/// Every file is refused with one sentence, or is a square whose JSON reads back as the same.
+/// Every file is refused with one sentence, or is a square whose JSON reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text = TextOf(data, size);
   const auto read = ReadSquareJson(text);

@@ -5,7 +5,7 @@
 
 using namespace numorra;
 
-/// Every text is refused or gives four numbers in range; small ones a square with them on top.
+/// Every text is refused or gives four numbers in range; small ones give a square with them on top.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const auto top = ParseTopRow(TextOf(data, size));
   if (!top) return 0;

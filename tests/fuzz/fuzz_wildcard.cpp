@@ -3,7 +3,7 @@
 
 using namespace numorra;
 
-/// Pattern and text are what stands before and after the first line end.
+/// The pattern is the input before the first line end, the text is the rest.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string input = TextOf(data, size);
   const std::size_t end = input.find('\n');

@@ -7,7 +7,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-/// Puts every file of a corpus through the target: what the fuzzer has found stays found.
+/// Runs every file of a corpus through the target, so that faults found once stay found.
 int main(int argc, char** argv) {
   int inputs = 0;
   for (int i = 1; i < argc; ++i) {

@@ -17,7 +17,7 @@ bool Says(const std::string& sentence, const std::string& what) {
   return sentence.find(what) != std::string::npos;
 }
 
-/// What an odd walk's sentence must say of the way from one cell to the next.
+/// What an odd walk's sentence must say about the move from one cell to the next.
 void ExpectTrueMove(const WalkStep& step, Place from, Place to, int n) {
   EXPECT_EQ(step.Arrow, std::pair(from, to));
   EXPECT_EQ(Says(step.Sentence, "at the top, so in at the bottom"), to.Row - from.Row > 1)
@@ -35,7 +35,7 @@ void ExpectTrueMove(const WalkStep& step, Place from, Place to, int n) {
                    std::string(up ? "up" : "down") + " and to the " + (right ? "right" : "left")));
 }
 
-/// Plays the steps: the last board is the square itself, and what is said is what is done.
+/// Plays the steps: the last board is the square itself, and the sentences match what is done.
 void ExpectWalk(const Square<double>& square) {
   const int order = square.Order();
   const std::vector<WalkStep> steps = WalkOf(square);
@@ -78,7 +78,7 @@ TEST(Walk, EndsAtEverySquareThatIsBuilt) {
   NormalSquare squares(random, stage);
   for (int order = 3; order <= kMaxOrder; ++order) {
     ExpectWalk(ExampleToWalk(order));
-    if (order % 2 == 0) {  // four quarter turns; or an odd square by lot
+    if (order % 2 == 0) {  // four quarter turns; or a random odd square
       for (int choice = 0; choice < 4; ++choice)
         ExpectWalk(SquareOf(squares.Build(order), order));
       continue;

@@ -11,7 +11,7 @@
 namespace numorra {
 namespace {
 
-/// The search as it is told: every start is filled and every line added up.
+/// The plain search: every start is filled and every line added up.
 std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
   std::vector<SteppingAttempt> kept;
   for (std::int16_t pattern = 0; pattern < 2; ++pattern) {
@@ -48,7 +48,7 @@ TEST(NormalSquare, IsNormalAndMagicAtEveryOrder) {
       EXPECT_EQ(stage.Count, std::to_string(2 * order * order));
     }
   }
-  // Orders that have no magic square are built as far as they go.
+  // Orders without a magic square are built as far as possible.
   EXPECT_EQ(RowsOf(generator.Build(2), 2), ParseRows("1 4 / 2 3"));
   EXPECT_EQ(RowsOf(generator.Build(1), 1), ParseRows("1"));
   EXPECT_THROW(generator.Build(0), RuntimeError);
@@ -66,7 +66,7 @@ TEST(NormalSquare, LaysConwaysLettersOverTheOddSquare) {
   EXPECT_EQ(stage.Count, "24") << "six letters, nine copies, nine blocks";
 }
 
-TEST(NormalSquare, TurnsDoublyEvenSquaresOnAtEveryRun) {
+TEST(NormalSquare, TurnsDoublyEvenSquaresFurtherAtEveryRun) {
   ScriptedRandom random({0.5});
   NotingStage stage;
   NormalSquare generator(random, stage);

@@ -23,7 +23,7 @@ TEST(Proposal, StaysWithinItsBounds) {
 }
 
 TEST(Proposal, IsDrawnAgainWhileItEqualsWhatIsShown) {
-  // 3 + 12 x 0.34 is 7; 50 + 49 x 0.5 is 74: twice the same pair, then another total.
+  // 3 + 12 x 0.34 is 7; 50 + 49 x 0.5 is 74: the same pair twice, then another total.
   ScriptedRandom random({0.34, 0.5, 0.34, 0.75});
   PlainBoxes boxes{"7", "74"};
   ProposeSquare(boxes, ModeVariable, random);

@@ -13,10 +13,10 @@
 namespace numorra {
 namespace {
 
-/// Builds of every generator, each judged: an empty text or what is wrong.
-class BuildsByLot {
+/// Random builds of every generator, each judged: returns an empty text or what is wrong.
+class RandomBuilds {
  public:
-  explicit BuildsByLot(Random& random) : random_(random) {}
+  explicit RandomBuilds(Random& random) : random_(random) {}
 
   /// Any build over a grid of sizes, sums, limits and corners.
   std::string One() {
@@ -96,15 +96,14 @@ TEST(BuildsOfEveryKind, AreWhatTheyShouldBe) {
   constexpr int kBuilds = 800;
   const Soak soak;
   SeededRandom random(soak.Seed);
-  BuildsByLot lot(random);
+  RandomBuilds lot(random);
   while (soak.Minutes > 0 ? soak.Goes() : lot.Builds < kBuilds)
     ASSERT_EQ(lot.One(), "");
   EXPECT_LE(lot.Unsolvable, lot.Builds / 100) << "more than one in a hundred without a solution";
   std::printf("%d builds judged, %d of them without a solution\n", lot.Builds, lot.Unsolvable);
 }
 
-/// Random sources and clocks that no machine should have: every build ends, and is right or
-/// refused.
+/// Random sources and clocks that no real machine has: every build ends, and is right or refused.
 TEST(BuildsOfEveryKind, EndOnAnyRandomSourceAndAnyClock) {
   ScriptedClock still({42}), back({90, 80, 70, 70, 60}),
       midnight({86399999999998, 86399999999999, 0, 1});
@@ -116,7 +115,7 @@ TEST(BuildsOfEveryKind, EndOnAnyRandomSourceAndAnyClock) {
   for (ScriptedClock* clock : {&still, &back, &midnight})
     sources.push_back(std::make_unique<ClockSeededRandom>(*clock));
   for (const auto& random : sources) {
-    BuildsByLot lot(*random);
+    RandomBuilds lot(*random);
     for (int build = 0; build < 6; ++build)
       ASSERT_EQ(lot.One(), "");
     PlainBoxes boxes;

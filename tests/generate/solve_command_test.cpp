@@ -34,7 +34,7 @@ class SolveCommandTest : public testing::Test, protected SolveHarness {
   }
 };
 
-TEST_F(SolveCommandTest, BuildsCorrectsAndTells) {
+TEST_F(SolveCommandTest, BuildsCorrectsAndReports) {
   struct Case {
     const char *size, *sum;
     bool limit;
@@ -97,7 +97,7 @@ TEST_F(SolveCommandTest, RefusesAndKeepsTheBoard) {
   EXPECT_EQ(WhyNotMagicNow(3000), "");
 }
 
-TEST_F(SolveCommandTest, AsksAfterTenTriesAndGoesOnWhenTold) {
+TEST_F(SolveCommandTest, AsksAfterTenTriesAndContinuesIfTold) {
   const std::string question = "\ngive another 10 tries?";
   Auto("10", "25");
   EXPECT_EQ(TheDialogs.Take(),
@@ -192,7 +192,7 @@ TEST_F(SolveCommandTest, CornerPassesRefuseNumbersBelowOne) {
   }
 }
 
-/// Whole numbers are added again and again, and no rounding shows.
+/// Whole numbers are added again and again without rounding errors.
 TEST_F(SolveCommandTest, CornerPassesKeepDecimals) {
   std::string rows;
   for (const char* end : {" / ", " / ", " / ", ""})
@@ -243,8 +243,8 @@ TEST_F(SolveCommandTest, OffersTheCornersThatFit) {
   EXPECT_EQ(choice.Entries, Messages{"any"});
 }
 
-/// The sum is that of the plan, whatever the box says since; a corner that is not met is told.
-TEST_F(SolveCommandTest, SpeaksOfThePlanThatWasBuilt) {
+/// The sum is that of the plan, even if the box has changed; a corner that is not met is reported.
+TEST_F(SolveCommandTest, ReportsThePlanThatWasBuilt) {
   const Messages notDivisible{"Size 3 grid can be solved only for sums divisible by 3"};
   Auto("3", "16");
   EXPECT_EQ(TheDialogs.Take(), notDivisible);

@@ -9,9 +9,8 @@
 namespace numorra {
 namespace {
 
-/// Squares as the passes leave them one after the other, from a flat one and a seed: worked out
-/// once by the plain method, with whole matrices turned cell by cell. Every factor, place and turn
-/// shows in them.
+/// Squares after each pass, from a flat square and a seed, computed once by the plain method that
+/// turns whole matrices cell by cell. They depend on every factor, place and turn.
 TEST(Spreading, LeavesTheSquaresOfThePlainMethod) {
   struct Case {
     int order, base;
@@ -48,8 +47,8 @@ TEST(Spreading, LeavesTheSquaresOfThePlainMethod) {
   }
 }
 
-/// Every cell of every order has one; none touches (1, 1) but its own, nor asks more than the cells
-/// of a flat board can give, nor less.
+/// Every cell of every order has an exchange; none touches (1, 1) except its own, and none asks for
+/// more or less than the cells of a flat board can give.
 TEST(Exchanges, ReachEveryCellOfEveryOrderAndAddUpToZero) {
   SeededRandom random(8);
   SilentStage stage;

@@ -55,8 +55,8 @@ TEST(TopRowCommand, AsksUntilItIsOneAndKeepsWhatMadeASquare) {
   }
 }
 
-/// Whether a square with this top row has twelve free cells that are positive and different, and
-/// new beside the row if so wanted: every choice of the four free numbers is tried.
+/// Whether a square with this top row has twelve free cells that are positive and different, and,
+/// if `allNew`, not in the row: tries every choice of the four free numbers.
 bool HasSquare(const TopRow& top, bool allNew) {
   const auto [a, b, c, d] = top;
   const int sum = a + b + c + d;
@@ -82,9 +82,9 @@ bool HasSquare(const TopRow& top, bool allNew) {
   return false;
 }
 
-/// Dates from 1950 to 2030, some in every run and all of them in a soak: the square is of the best
-/// quality that there is.
-TEST(TopRows, OfDatesMakeTheBestSquareThereIs) {
+/// Dates from 1950 to 2030, some in every run and all of them in a soak: the square has the best
+/// possible quality.
+TEST(TopRows, OfDatesMakeTheBestPossibleSquare) {
   const Soak soak;
   const int stride = soak.Minutes > 0 ? 1 : 131;
   SeededRandom random(4);
@@ -129,8 +129,8 @@ TEST(TopRows, OfDatesMakeTheBestSquareThereIs) {
               dates, count[0], count[1], count[2], count[3], worst);
 }
 
-/// Every top row has an answer soon, large numbers and hopeless ones too.
-TEST(TopRows, AreDecidedSoon) {
+/// Every top row gets an answer quickly, also large numbers and hopeless ones.
+TEST(TopRows, AreDecidedQuickly) {
   SeededRandom random(4);
   for (int time = 0; time < 2000; ++time) {
     TopRow top{};

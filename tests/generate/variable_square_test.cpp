@@ -13,7 +13,7 @@
 namespace numorra {
 namespace {
 
-/// Every cell takes other numbers than the base, and no number fills the board, at small bases too.
+/// Every cell varies from the base, and no number fills the board, also at small bases.
 TEST(VariableSquares, AreVariedAllOver) {
   SeededRandom random(11);
   SilentStage stage;
@@ -21,7 +21,7 @@ TEST(VariableSquares, AreVariedAllOver) {
   constexpr int kBuilds = 40;
   struct Case {
     int order, base, remainder;
-    double mostFrequent, atBase;  // shares that no board, and no cell, may be above
+    double mostFrequent, atBase;  // highest shares for any board and any cell
   };
   const Case cases[] = {{4, 2, 0, 0.9, 0.95}, {4, 10, 0, 0.5, 0.5},  {5, 3, 1, 0.7, 0.95},
                         {9, 50, 0, 0.2, 0.3}, {10, 50, 5, 0.2, 0.3}, {20, 2, 0, 0.7, 0.95}};
@@ -46,9 +46,9 @@ TEST(VariableSquares, AreVariedAllOver) {
   }
 }
 
-/// A row's other cells hold 1 or more: every corner that leaves them that much stands, and no
-/// other.
-TEST(VariableSquares, HaveEveryCornerThatASquareHas) {
+/// The other cells of a row hold 1 or more: every corner that leaves them that much is built, and
+/// no other.
+TEST(VariableSquares, HaveEveryPossibleCorner) {
   SeededRandom random(3);
   SilentStage stage;
   VariableSquare generator(random, stage);

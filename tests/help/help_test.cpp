@@ -35,7 +35,7 @@ class HelpTest : public testing::Test {
   QString folder_;
 };
 
-TEST_F(HelpTest, SaysPlainlyThatThereIsNoPageOrOneThatWouldTakeForEver) {
+TEST_F(HelpTest, ReportsAMissingPageAndOneThatWouldTakeForEver) {
   EXPECT_EQ(HelpPageIn("/"), "/nrhelp.htm");
   for (const QByteArray& page :
        {QByteArray(), QByteArray(5 << 20, 'x'), QByteArray("<TABLE><tr><td>").repeated(20),
@@ -69,9 +69,8 @@ TEST_F(HelpTest, ShowsItsOwnFolderAndNothingElse) {
   EXPECT_EQ(form.wb1->toPlainText(), "more");
 }
 
-/// The page that goes with the program: every picture and link leads somewhere, every name is
-/// there.
-TEST(HelpPage, IsWhole) {
+/// The program's help page: every picture and link leads somewhere, and every name exists.
+TEST(HelpPage, IsComplete) {
   const QString folder = QCoreApplication::applicationDirPath();
   QFile file(HelpPageIn(folder));
   ASSERT_TRUE(file.open(QFile::ReadOnly));

@@ -156,7 +156,7 @@ TEST_F(ListBoyTest, SavesAndLoadsTexts) {
   EXPECT_EQ(list_.ListCount(), 5);
 }
 
-TEST_F(ListBoyTest, LoadsFilesThatNobodyShouldHaveMade) {
+TEST_F(ListBoyTest, LoadsMalformedFiles) {
   const std::string path = testing::TempDir() + "numorra_strange.txt";
   const std::string binary("\0\t\xff\r\r\n\0\n\x80", 9);
   std::ofstream(path, std::ios::binary) << binary;

@@ -1,5 +1,5 @@
 #pragma once
 
-/// How many requests for memory are still granted in this program before one is refused; below 0
-/// all are.
+/// How many requests for memory are still granted in this program before one is refused; all of
+/// them if below 0.
 extern long granted;

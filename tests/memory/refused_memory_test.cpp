@@ -26,9 +26,9 @@ class RefusedMemory : public PlayTest {
     LayOut(board_, boxes_, std::get<StoredSquare>(ReadSquareOrCode(rows)));
   }
 
-  /// Runs a command again and again, each time refusing memory a little later, until all that it
-  /// asks for is granted; how often it was refused. After each refusal the board is whole, and
-  /// what was on it when `searches`.
+  /// Runs a command repeatedly, each time refusing memory a little later, until all requests are
+  /// granted; returns how often memory was refused. After each refusal the board is complete, and
+  /// if `searches` it is unchanged.
   template <class Command>
   int Refuse(const char* board, bool searches, Command command) {
     long later = 0;
@@ -86,14 +86,14 @@ TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {
   EXPECT_GT(Refuse(kFull, true, make), 20);
 }
 
-/// Streams that ask for no memory themselves, which they would not tell.
+/// Streams that allocate no memory themselves, because they would not report a failure.
 struct Room : std::streambuf {
   Room() { setp(Bytes, Bytes + sizeof Bytes); }
   std::string Text() const { return {pbase(), pptr()}; }
   char Bytes[20'000];
 };
 
-/// A sort takes less memory where it is refused more: such a run goes on and says nothing.
+/// A sort takes less memory when more is refused: such a run continues and says nothing.
 TEST(RefusedMemoryOfTheCompanion, IsOneSentenceAndAStatus) {
   const std::vector<std::vector<std::string>> lines = {
       {"complete", "--format", "json"}, {"study"}, {"--size", "9", "--corner", "3"}};

@@ -31,7 +31,7 @@ const Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left, Qt::Key_Ri
                          Qt::Key_Space, Qt::Key_Return, Qt::Key_Menu, Qt::Key_Backspace,
                          Qt::Key_0,     Qt::Key_5,      Qt::Key_9,    Qt::Key_Escape};
 
-/// What the state line has to say, by the slow checker and the totals that are seen.
+/// The expected state line, from the slow checker and the totals on the screen.
 std::string StateByHand(const Board& board) {
   if (!board.Shown()) return "";
   const Grid& grid = board.grid;
@@ -182,7 +182,7 @@ void Monkey::TypeSensibleSize() {
   if (sum->isEnabled()) sum->setText(QString::number(2 * size + Below(60 * size)));
 }
 
-/// Auto or Solve Again, half of the time with something else started in the middle.
+/// Auto or Solve Again, half of the time with another command started in the middle.
 void Monkey::Build() {
   ++Builds;
   if (Below(2) == 0) {
@@ -204,7 +204,7 @@ void Monkey::PressBoard() {
                     window_.View().CellRect(row, column).center());
 }
 
-/// Most keys go to the board, some to whatever has the keyboard.
+/// Most keys go to the board, some to the widget with the keyboard.
 void Monkey::PressKey() {
   QWidget* focus = QApplication::focusWidget();
   QWidget* target = focus && Below(4) == 0 ? focus : &window_.View();
@@ -219,14 +219,14 @@ void Monkey::PressKey() {
   }
 }
 
-/// Maximizes, fills the screen, or ends either, in any order.
+/// Maximizes, enters full screen, or ends either, in any order.
 void Monkey::ChangeState() {
   const Qt::WindowStates states[] = {Qt::WindowMaximized, Qt::WindowFullScreen, Qt::WindowNoState,
                                      Qt::WindowMaximized | Qt::WindowFullScreen};
   window_.setWindowState(Any(states));
 }
 
-/// An assistive tool presses whatever there is, hidden or disabled.
+/// Presses anything an assistive tool could, hidden or disabled.
 void Monkey::PressLikeATool() {
   const auto widgets = Front()->findChildren<QWidget*>();
   if (widgets.isEmpty()) return;
@@ -250,13 +250,13 @@ void Monkey::CopyText() {
 }
 
 void Monkey::AnswerBox() {
-  // A button's own menu holds everything up until it is closed.
+  // A button's own menu blocks everything until it is closed.
   QWidget* popup = QApplication::activePopupWidget();
   if (popup && popup->objectName() != "ManualMenux") popup->close();
   QWidget* modal = QApplication::activeModalWidget();
   if (auto* input = qobject_cast<QInputDialog*>(modal)) {
     ++BoxesAnswered;
-    // A text that cannot be read is asked for again, so now and then one gives up.
+    // A text that cannot be read is asked for again, so it gives up now and then.
     if (Below(3) != 0) input->setTextValue(Any(Texts()));
     Below(2) ? input->accept() : input->reject();
   } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
@@ -270,7 +270,7 @@ void Monkey::AnswerBox() {
   }
 }
 
-/// Searches, and puzzles that are being made, are stopped sooner or later.
+/// Stops searches, and the making of puzzles, sooner or later.
 void Monkey::LosePatience(QWidget* modal) {
   if (Below(20) != 0) return;
   auto* stop = window_.findChild<QPushButton*>("StopSearchx");
@@ -315,7 +315,7 @@ std::string Monkey::UndoAndRedoEverything() {
 std::string Monkey::WhyWrong() {
   const Board& board = window_.TheBoard();
   if (QGuiApplication::overrideCursor()) return "the busy pointer is left over";
-  const auto* frame = window_.findChild<QWidget*>("Frame3");  // full screen hides it as a whole
+  const auto* frame = window_.findChild<QWidget*>("Frame3");  // full screen hides all of it
   if (!window_.findChild<QPushButton*>("SolveAuto")->isVisibleTo(frame)) return "Auto is hidden";
   if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return "a box is left open";
   if (board.Shown() && board.grid.Visible() == board.OverlayShown) return "nothing is in sight";

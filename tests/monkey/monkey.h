@@ -11,21 +11,21 @@
 
 namespace numorra {
 
-/// A monkey at the real window, with real boxes: it does with whatever control is in reach what
-/// can be done with it, in the middle of builds too, and answers boxes with any button, Esc or
-/// their frame. The same seed does the same again.
+/// A monkey at the real window, with real boxes: it operates any control within reach, also in the
+/// middle of builds, and answers boxes with any button, Esc or their frame. The same seed repeats
+/// the same actions.
 class Monkey {
  public:
   explicit Monkey(unsigned seed);
 
-  /// Does one thing. Returns what does not hold afterwards, or nothing.
+  /// Does one random action. Returns what is wrong afterwards, or nothing.
   std::string Step();
 
-  /// Takes everything back, as far as the history reaches, and does it again. Returns what does not
-  /// hold at any step, or nothing.
+  /// Undoes everything, as far as the history reaches, and redoes it. Returns what is wrong at any
+  /// step, or nothing.
   std::string UndoAndRedoEverything();
 
-  /// What has been done so far.
+  /// The actions so far.
   int Builds = 0;
   int BoxesAnswered = 0;
   std::string LastDone;

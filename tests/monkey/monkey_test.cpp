@@ -7,7 +7,8 @@
 namespace numorra {
 namespace {
 
-/// Some steps in every run of the tests; by the clock in a soak. NUMORRA_SEED repeats a run.
+/// Some steps in every run of the tests; in a soak as many as fit the time. NUMORRA_SEED repeats a
+/// run.
 TEST(MonkeyTest, BreaksNothing) {
   constexpr int kSteps = 1500;
   constexpr int kStepsAWindow = 500;

@@ -54,7 +54,7 @@ TEST_F(PrintTest, OpensOnlyWhereThereIsSomethingToPrint) {
   EXPECT_NE(Form(), nullptr);
 }
 
-TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyWhenItWentWell) {
+TEST_F(PrintTest, PrintsBothSheetsAndSaysSoOnlyOnSuccess) {
   Make("SolveAuto", "3");
   Open();
   const Grid& grid = window_.TheBoard().grid;
@@ -104,10 +104,10 @@ TEST_F(PrintTest, SaysWhatIsWrongWithASheetBeforeItIsPrinted) {
   Open();
   EXPECT_EQ(doubts(),
             "The lines of this square do not all add up to 9000.|"
-            "Numbers of more than 3 places run into their neighbors on the sheet.|");
+            "Numbers with more than 3 characters overlap their neighbors on the sheet.|");
 }
 
-/// An assistive tool may press what a box in front should keep from being pressed.
+/// An assistive tool may press a button that a box in front should block.
 TEST_F(PrintTest, ClosesWhenItsCommandHasEnded) {
   Make("SolveAuto", "3");
   Open();

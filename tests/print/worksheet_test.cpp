@@ -19,15 +19,15 @@
 namespace numorra {
 namespace {
 
-constexpr int kPixels = 8;  // a millimetre
+constexpr int kPixels = 8;  // per millimetre
 
-/// A word and where it stands on its page, in millimetres.
+/// A word and its place on its page, in millimetres.
 struct Word {
   QString Text;
   QRectF Box;
 };
 
-/// Prints sheets, and reads back where every word stands.
+/// Prints sheets, and reads back the place of every word.
 class WorksheetTest : public testing::Test {
  protected:
   void Print(int puzzles, const WorksheetWish& wish, QPageLayout::Orientation orientation) {
@@ -81,7 +81,7 @@ class WorksheetTest : public testing::Test {
     return pages_[page].front();
   }
 
-  /// Nothing runs into anything else, or off the page.
+  /// No word overlaps another or leaves the page.
   void ExpectRoom() {
     const QRectF paper = QRectF(QPointF(), size_).adjusted(11, 11, -11, -11);
     for (const auto& page : pages_) {
@@ -95,7 +95,7 @@ class WorksheetTest : public testing::Test {
     }
   }
 
-  /// The board of one of the answers: its numbers stand in a square of the same steps both ways.
+  /// The board of one of the answers: its numbers are spaced equally in both directions.
   QRectF BoardOfAnswer(std::size_t page, int place, const Puzzle& solution) {
     std::vector<Word> numbers;
     QString before;
@@ -120,7 +120,7 @@ class WorksheetTest : public testing::Test {
     return {start - step / 2, QSizeF(step.x(), step.y()) * kOrder};
   }
 
-  /// Lines between all cells, a frame around them, and nothing beside it.
+  /// There are lines between all cells, a frame around them, and no other lines.
   void ExpectLines(int page, const QRectF& board) {
     QImage picture((size_ * kPixels).toSize(), QImage::Format_RGB32);
     picture.fill(Qt::white);
@@ -196,7 +196,7 @@ TEST_F(WorksheetTest, HasRoomForEverything) {
   }
 }
 
-/// Many pages are counted while they are laid out, and Stop closes the preview at once.
+/// A box counts many pages while they are laid out, and its Stop closes the preview at once.
 TEST(Previews, CanBeStopped) {
   constexpr int kPages = 400;
   int painted = 0;

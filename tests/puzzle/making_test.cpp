@@ -31,7 +31,7 @@ class MakingTest : public testing::Test {
   SilentStage stage_;
 };
 
-/// A hundred puzzles, judged by others than those who made them.
+/// A hundred puzzles, judged by code that shares nothing with their making.
 TEST_F(MakingTest, MakesFairPuzzlesOfEveryGrade) {
   for (int order = 3; order <= 8; ++order) {
     for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert}) {
@@ -46,8 +46,8 @@ TEST_F(MakingTest, MakesFairPuzzlesOfEveryGrade) {
   }
 }
 
-/// The same by lot, for as long as a soak goes on; every other one has any total.
-TEST_F(MakingTest, SoaksInPuzzlesByLot) {
+/// Random puzzles for as long as a soak runs; every other one has any total.
+TEST_F(MakingTest, SoaksInRandomPuzzles) {
   const Soak soak;
   SeededRandom lot(soak.Seed);
   int made = 0;
@@ -151,7 +151,7 @@ TEST(Code, HoldsEveryPuzzleAndShowsEveryMistake) {
   }
 }
 
-/// Codes that were once printed.
+/// Codes printed by earlier versions.
 TEST(Code, OfVersion1IsReadForEver) {
   for (const auto& [code, rows] :
        {std::pair{"NP12S3W04", "[[null, null, null], [null, 5, null], [2, 9, null]]"},

@@ -14,7 +14,7 @@
 namespace numorra {
 namespace {
 
-/// Gaps are 0.
+/// 0 is a gap.
 Puzzle PuzzleFrom(const std::string& rows, std::int64_t target, Rules rules = Rules::Normal,
                   bool limit = false) {
   return {Square<std::int64_t>(SquareFrom(ParseRows(rows))), target, rules, limit};
@@ -65,8 +65,8 @@ TEST_F(SearchTest, CountsWhatIsKnown) {
       CountSolutions(PuzzleFrom("4 0 0 16 / 0 0 0 0 / 0 0 0 0 / 1 0 0 13", 34), 99, {}, stage_), 4);
 }
 
-/// Seconds are those in which the search worked: what others did meanwhile does not count.
-TEST_F(SearchTest, CountsItsOwnTimeAlone) {
+/// The seconds count only the search's own work, not what others do meanwhile.
+TEST_F(SearchTest, CountsOnlyItsOwnTime) {
   NotingStage stage;
   const auto sleepOnce = [&] {
     stage.YieldsLeft = 1;
@@ -80,7 +80,7 @@ TEST_F(SearchTest, CountsItsOwnTimeAlone) {
   EXPECT_EQ(CountSolutions(puzzle, 100, limit, stage), 8);
 }
 
-TEST_F(SearchTest, SaysWhatIsOpenAndWhy) {
+TEST_F(SearchTest, SaysWhatIsUnsettledAndWhy) {
   Puzzle wide{Square<std::int64_t>(33), 90'000, Rules::Positive};
   wide.Cells[0] = 2000;
   const SearchResult result = Solve(wide, {.Seconds = 3}, random_, stage_);
@@ -169,7 +169,7 @@ TEST_F(SearchTest, KnowsThePositiveRules) {
   EXPECT_EQ(indexOf("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 1'000'000'000'000, false), 1U);
 }
 
-/// Bounds that close in on each other by ones do so for a while only.
+/// Bounds close in on each other in steps of one only for a limited time.
 TEST_F(SearchTest, EndsOnLargeNumbers) {
   const std::int64_t many = 1'000'000'000'000;
   const Puzzle puzzle{
@@ -256,7 +256,7 @@ TEST(Rules, GiveTheNextNumberAndWhy) {
   }
 }
 
-/// Every step leads on to the only solution, and no easier grade would have found one.
+/// Every step leads to the only solution, and no easier grade would have found one.
 TEST(Rules, LeadToTheSolution) {
   SeededRandom random(4);
   SilentStage stage;

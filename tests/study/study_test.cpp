@@ -74,8 +74,8 @@ TEST(Study, KnowsAllSquaresOfOrder4) {
     EXPECT_EQ(count[term], number) << term;
 }
 
-/// Opposite cells add up to 26, so a b c d e / f g h i j / k l settle the square; of these the
-/// lines settle all but six.
+/// Opposite cells add up to 26, so a b c d e / f g h i j / k l determine the square; the lines
+/// determine all but six of these.
 TEST(Study, FindsTheSixteenUltramagicSquaresOfOrder5) {
   int found = 0;
   const auto free = [](std::initializer_list<int> numbers) {
@@ -227,7 +227,7 @@ TEST(Study, TellsPrimesFromOthers) {
     EXPECT_FALSE(Find(StudyOf({{other, 2, 2}, {2, 2, 2}, {2, 2, 2}}), "prime")) << other;
 }
 
-TEST(Famous, AreWhatTheirStoriesSay) {
+TEST(Famous, MatchTheirDescriptions) {
   EXPECT_EQ(FamousSquares().size(), 12U);
   const char* const terms[] = {"associative", "most-perfect", "concentric", "bordered", "bimagic"};
   for (const FamousSquare& famous : FamousSquares()) {
@@ -257,7 +257,7 @@ TEST(Relatives, AreOtherSquaresOfTheFamily) {
   SeededRandom random(5);
   for (const int order : {3, 4, 5, 10}) {
     Square<double> square(order);
-    std::iota(square.begin(), square.end(), 1.0);  // which is associative
+    std::iota(square.begin(), square.end(), 1.0);  // it is associative
     if (order != 10) square = AssociativeSquare(order, random);
     std::set<Square<double>> forms;
     for (int draw = 0; draw < 100; ++draw) {
@@ -270,7 +270,7 @@ TEST(Relatives, AreOtherSquaresOfTheFamily) {
       }
       forms.insert(StandardForm(*varied));
     }
-    // Order 3 only turns; orders 4 and 5 have four classes, of which one is shown.
+    // Order 3 is only turned; orders 4 and 5 have four classes, of which one is shown.
     EXPECT_TRUE(order == 3   ? forms.size() == 1
                 : order < 10 ? forms.size() == 3
                              : forms.size() > 90)
@@ -298,7 +298,7 @@ TEST(Special, SaysWhyThereIsNone) {
             "numbers add up to 166.5, which is no whole number");
 }
 
-TEST(Special, IsVariedByLot) {
+TEST(Special, IsVariedAtRandom) {
   SeededRandom random(11);
   for (const SpecialKind& kind : kSpecialKinds) {
     for (const int order : {4, 5, 8, 9}) {

@@ -50,7 +50,7 @@ inline Square<double> SquareFrom(const slow::Rows& rows) {
   return square;
 }
 
-/// What the grid shows in its value block.
+/// The texts in the grid's value block.
 inline slow::Rows ShownRows(const Grid& grid) {
   slow::Rows rows;
   for (int r = 1; r < grid.Rows() - 1; ++r) {

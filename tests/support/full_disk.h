@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-/// A disk that is full after some bytes of every file, for a scope.
+/// A disk that is full after some bytes of every file, while in scope.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {

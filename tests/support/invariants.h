@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// What must hold for the board whatever has been done to it: empty, or what does not. Totals are
-/// added up on paper, from what is shown.
+/// Checks what must hold for the board after any action: returns an empty text or what is wrong.
+/// Totals are added in decimal, from what is shown.
 inline std::string WhyInvalid(const Board& board) {
   const Grid& grid = board.grid;
   if (grid.RedrawLocked()) return "the redraw lock is left over";
@@ -20,7 +20,7 @@ inline std::string WhyInvalid(const Board& board) {
       grid.CurrentColumn() > n) {
     return "the current cell is outside the value block";
   }
-  // A number that is being typed counts when its cell is left, and its lines are judged then.
+  // A number that is being typed counts when its cell is left; its lines are judged then.
   const auto typedInto = [&](Place at) {
     return board.Typing() && at == Place{grid.CurrentRow(), grid.CurrentColumn()};
   };

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-/// Decimals added as at school, digit by digit, with no binary number anywhere.
+/// Decimals added digit by digit, as at school, without binary numbers.
 namespace paper {
 
-/// A decimal as a sign and its digits, `kPlaces` of them behind the point, the lowest first.
+/// A decimal as a sign and its digits, `kPlaces` of them after the point, the lowest first.
 constexpr std::size_t kPlaces = 20;
 constexpr std::size_t kDigits = 60;
 
@@ -24,7 +24,7 @@ inline std::vector<int> Digits(std::string number) {
   return digits;
 }
 
-/// The decimal that the digits, of any size and sign, stand for.
+/// The decimal with these digits, which may be of any size and sign.
 inline std::string Written(std::vector<int> digits) {
   bool negative = false;
   const auto carry = [&digits] {

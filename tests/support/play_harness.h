@@ -11,12 +11,12 @@
 
 namespace numorra {
 
-/// A checked board of the Variable mode and all that a player can do with it, without a window.
+/// A checked board in the Variable mode with all that a player can do to it, without a window.
 class PlayTest : public testing::Test {
  protected:
   static constexpr const char* kWin = "WELL DONE, YOU GOT IT";
 
-  /// Shows and checks a board; target 15 and base 5 unless told.
+  /// Shows and checks a board; target 15 and base 5 by default.
   void Show(const std::string& rows, double target = 15, std::int16_t base = 5) {
     board_.SolveMode = ModeVariable;
     ShowRows(board_, rows, target, base);

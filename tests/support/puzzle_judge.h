@@ -14,9 +14,9 @@
 
 namespace numorra {
 
-/// How many ways there are to fill the gaps, up to two: number by number in reading order, a line
-/// being looked at when its last cell is filled. Slow, complete, and sharing nothing with the
-/// product; for boards up to order 5 with some numbers.
+/// Counts the ways to fill the gaps, up to two: number by number in reading order, checking a line
+/// when its last cell is filled. Slow, complete, and sharing no code with the product; for boards
+/// up to order 5 with some numbers.
 class SlowCounter {
  public:
   explicit SlowCounter(const Puzzle& puzzle)
@@ -42,7 +42,7 @@ class SlowCounter {
  private:
   std::int64_t& At(int r, int c) { return cells_[static_cast<std::size_t>(r * n_ + c)]; }
 
-  /// Sums and gaps of the lines through a cell: none may be over, or full and wrong.
+  /// Sums and gaps of the lines through a cell: none may exceed the total, or be full and wrong.
   bool Possible(int r, int c) {
     const auto fits = [&](auto cellAt) {
       std::int64_t sum = 0;
@@ -85,8 +85,8 @@ class SlowCounter {
   int found_ = 0;
 };
 
-/// Whether a reason of two gaps in a line tells what the other holds, and so the number; and one of
-/// more gaps a range within the line's rest that has the number in it.
+/// Whether the reason for two gaps in a line names the other's number, and so this one; and for
+/// more gaps a range that contains the number and fits the line's rest.
 inline bool IsDecisive(const Deduction& step) {
   const char* const reason = std::strstr(step.Why.c_str(), "needs ");
   if (!reason) return true;
@@ -102,8 +102,8 @@ inline bool IsDecisive(const Deduction& step) {
   return found == 3 && low < high && low <= step.Number && step.Number <= high && high < rest;
 }
 
-/// What is wrong with a puzzle that was made; empty when it has one solution, every hint leads
-/// there, its grade is what its hints need, and its code reads back.
+/// What is wrong with a puzzle; empty if it has one solution, every hint leads there, its grade is
+/// what its hints need, and its code reads back.
 inline std::string WhyUnfair(const MadePuzzle& made) {
   const int n = made.Clues.Order();
   SeededRandom random(1);

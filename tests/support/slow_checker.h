@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-/// A second opinion on squares: slow, obvious, and sharing nothing with the product.
+/// A second opinion on squares: slow, obvious, and sharing no code with the product.
 namespace slow {
 
 using Rows = std::vector<std::vector<double>>;
 
-/// Every line's total: the rows from the top, the columns from the left, the diagonal that falls
-/// and the one that rises.
+/// The total of every line: the rows from the top, the columns from the left, the falling diagonal
+/// and the rising one.
 inline std::vector<double> LineTotals(const Rows& rows) {
   const std::size_t n = rows.size();
   std::vector<double> totals(2 * n + 2, 0.0);
@@ -25,7 +25,7 @@ inline std::vector<double> LineTotals(const Rows& rows) {
   return totals;
 }
 
-/// Empty when every line adds up to `total`, otherwise what is wrong.
+/// Empty if every line adds up to `total`, otherwise what is wrong.
 inline std::string WhyNotMagic(const Rows& rows, double total) {
   const auto totals = LineTotals(rows);
   for (std::size_t line = 0; line < totals.size(); ++line) {

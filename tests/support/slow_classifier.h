@@ -8,8 +8,8 @@
 
 #include "support/slow_checker.h"
 
-/// A second opinion on what a square is: each term as its definition reads, for whole numbers up to
-/// some thousands; slow, obvious, and sharing nothing with the product.
+/// A second opinion on the properties of a square: each term by its definition, for whole numbers
+/// up to some thousands; slow, obvious, and sharing no code with the product.
 namespace slow {
 
 using Ints = std::vector<std::vector<long long>>;
@@ -174,7 +174,7 @@ class Classifier {
     Ints image = a_;
     for (int turns = 0; turns < 8; ++turns) {
       if (image == complement) return true;
-      Ints turned = image;  // a quarter turn; mirrored when four are done
+      Ints turned = image;  // a quarter turn; mirrored after four turns
       Each([&](int i, int j) {
         turned[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)] =
             image[static_cast<std::size_t>(n_ - 1 - j)][static_cast<std::size_t>(i)];

@@ -10,8 +10,8 @@ inline double Setting(const char* name, double otherwise) {
   return text ? std::atof(text) : otherwise;
 }
 
-/// How long the open-ended tests go on: NUMORRA_SOAK_MINUTES, 0 for the bounded run of every day.
-/// NUMORRA_SEED is what their random choices start from.
+/// How long the open-ended tests run: NUMORRA_SOAK_MINUTES; 0 is the short daily run. NUMORRA_SEED
+/// seeds their random choices.
 struct Soak {
   double Minutes = Setting("NUMORRA_SOAK_MINUTES", 0);
   unsigned Seed = static_cast<unsigned>(Setting("NUMORRA_SEED", 1));

@@ -13,7 +13,7 @@ namespace slow {
 /// neighbour smaller than the one below, row by row.
 inline std::vector<Rows> SquaresOfOrder4() {
   using Row = std::vector<double>;
-  std::map<unsigned, std::vector<Row>> rows;  // that add up to 34, by the set of their numbers
+  std::map<unsigned, std::vector<Row>> rows;  // rows with sum 34, by the set of their numbers
   for (int a = 1; a <= 16; ++a) {
     for (int b = 1; b <= 16; ++b) {
       for (int c = 1; c <= 16; ++c) {

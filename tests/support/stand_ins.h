@@ -13,12 +13,12 @@
 #include "app/ports/square_boxes.h"
 #include "listbox/list_boy.h"
 
-/// Tests' own worlds: what the logic asks of a window, without one.
+/// Stand-ins for what the logic needs from a window.
 namespace numorra {
 
 using Messages = std::vector<std::string>;
 
-/// Notes what is said, answers questions from a list, and takes offence at what nobody expected.
+/// Records messages, answers questions from a list, and fails on unexpected ones.
 class ScriptedDialogs : public Dialogs {
  public:
   ~ScriptedDialogs() override { EXPECT_EQ(Said, Messages{}) << "unexpected boxes"; }
@@ -45,7 +45,7 @@ class ScriptedDialogs : public Dialogs {
     return text;
   }
 
-  /// What has been said since the last look.
+  /// The messages since the last call.
   Messages Take() { return std::exchange(Said, {}); }
 
   std::function<void()> OnTell;  ///< while the box is open
@@ -68,7 +68,7 @@ struct PlainBoxes : SquareBoxes {
   std::string SumText;
 };
 
-/// A stage that notes what is shown, and may interrupt a build at one of its yields.
+/// A stage that records what is shown, and may interrupt a build at one of its yields.
 class NotingStage : public BuildStage {
  public:
   using BuildStage::ShowCount;
@@ -102,7 +102,7 @@ struct PlainListBox : ListBox {
   std::vector<std::string> Entries;
 };
 
-/// A clock that is read as told, again and again.
+/// A clock that returns given readings, again and again.
 struct ScriptedClock : Clock {
   explicit ScriptedClock(std::vector<std::uint64_t> readings) : Readings(std::move(readings)) {}
   std::uint64_t NanosecondsSinceMidnight() override { return Readings[Next++ % Readings.size()]; }
@@ -122,7 +122,7 @@ class SeededRandom : public Random {
   ClockSeededRandom random_{clock_};
 };
 
-/// Random numbers from a list, again and again.
+/// Random numbers from a list, repeated.
 class ScriptedRandom : public Random {
  public:
   explicit ScriptedRandom(std::vector<double> numbers) : numbers_(std::move(numbers)) {}

@@ -13,7 +13,7 @@
 
 namespace numorra {
 
-/// A clock at which memory runs out at a look of one's choice.
+/// A clock that runs out of memory at a chosen reading.
 struct UnluckyClock : TickingClock {
   using TickingClock::TickingClock;
   std::uint64_t NanosecondsSinceMidnight() override {
@@ -23,7 +23,7 @@ struct UnluckyClock : TickingClock {
   int LooksUntilMemoryIsRefused = -1;
 };
 
-/// A fresh window, driven through its controls as a person would; boxes are answered from a list.
+/// A fresh window, operated through its controls as by a person; boxes are answered from a list.
 class WindowTest : public testing::Test {
  protected:
   explicit WindowTest(World world = {}) : window_(session_, Scripted(world)) {
@@ -38,7 +38,7 @@ class WindowTest : public testing::Test {
     return *control;
   }
 
-  /// Clicks where every kind of button can be hit: near its left edge.
+  /// Clicks near the left edge, where every kind of button reacts.
   void Click(const char* button) {
     auto& control = Find<QAbstractButton>(button);
     QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(8, control.height() / 2));
@@ -51,7 +51,7 @@ class WindowTest : public testing::Test {
     QTest::keyClicks(&edit, text);
   }
 
-  /// Asks for a board of a size: normal, or with a sum.
+  /// Sets the size of a board: normal, or with a sum.
   void Make(const char* button, const std::string& size, const std::string& sum = {}) {
     Click(sum.empty() ? "Option3" : "Option4");
     Type("Text1", size.c_str());
@@ -76,7 +76,7 @@ class WindowTest : public testing::Test {
     action.trigger();
   }
 
-  /// What must hold after every command: the board is whole, and nothing is left over.
+  /// Checks what must hold after every command: the board is complete, and nothing is left over.
   void ExpectSettled() {
     EXPECT_EQ(WhyInvalid(window_.TheBoard()), "");
     EXPECT_TRUE(Find<QPushButton>("SolveAuto").isVisibleTo(&window_));
@@ -84,7 +84,7 @@ class WindowTest : public testing::Test {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
   }
 
-  /// Whether what is on the screen is what a whole repaint of the widget would show.
+  /// Whether the screen equals a full repaint of the widget.
   bool IsSeenWhole(QWidget& widget) {
     QCoreApplication::processEvents();
     const QRect place(widget.mapTo(&window_, QPoint()), widget.size());
@@ -96,8 +96,8 @@ class WindowTest : public testing::Test {
     return comparable(screen.copy(place)) == comparable(widget.grab().toImage());
   }
 
-  /// Runs a long command and acts at the first of its yields at which `due` holds. Whether there
-  /// was such a one.
+  /// Runs a long command and acts at the first of its yields at which `due` holds. Returns whether
+  /// there was one.
   template <class Command, class Due, class Act>
   static bool ActWithin(Command command, Due due, Act act) {
     QTimer look;

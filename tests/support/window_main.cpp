@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The offscreen platform says at every window what it cannot do; real warnings stay in sight.
+/// The offscreen platform warns at every window about what it cannot do; other warnings are shown.
 void LetRealWarningsThrough(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (!message.startsWith("This plugin does not support")) {
     std::fprintf(stderr, "%s\n", qPrintable(message));
@@ -17,7 +17,7 @@ void LetRealWarningsThrough(QtMsgType, const QMessageLogContext&, const QString&
 
 }  // namespace
 
-/// The tests of the window run without a display and leave no trace in anyone's settings.
+/// Runs the window tests without a display and without writing to the player's settings.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(LetRealWarningsThrough);

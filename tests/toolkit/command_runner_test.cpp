@@ -21,7 +21,7 @@ class CommandRunnerTest : public testing::Test {
   std::string log_;
 };
 
-TEST_F(CommandRunnerTest, TellsARuntimeErrorAndGoesOn) {
+TEST_F(CommandRunnerTest, ReportsARuntimeErrorAndContinues) {
   runner_.Run("command", [] { throw RuntimeError(Fault::Overflow); });
   runner_.Run("command", [] { throw RuntimeError(Fault::TypeMismatch); });
   runner_.Run("command", [] { throw std::bad_alloc(); });
@@ -33,7 +33,7 @@ TEST_F(CommandRunnerTest, TellsARuntimeErrorAndGoesOn) {
   EXPECT_EQ(log_, "on");
 }
 
-TEST_F(CommandRunnerTest, TellsOfEveryCommandHoweverItEnds) {
+TEST_F(CommandRunnerTest, ReportsEveryCommandHoweverItEnds) {
   runner_.OnBegin = [this] { log_ += "("; };
   runner_.OnEnd = [this](const std::string& name) { log_ += name + ") "; };
   runner_.Run("fine", [] {});
@@ -97,7 +97,7 @@ TEST_F(CommandRunnerTest, SlotsStayInsideTheBoundary) {
   EXPECT_EQ(log_, "7");
   button.animateClick();
   button.setEnabled(false);
-  constexpr int kPressed = 100;  // milliseconds, as the toolkit has it
+  constexpr int kPressed = 100;  // milliseconds, the toolkit's own value
   QTest::qWait(2 * kPressed);
   EXPECT_EQ(dialogs_.Take(), Messages{}) << "disabled while it was down";
 }

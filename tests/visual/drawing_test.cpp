@@ -104,7 +104,7 @@ TEST_F(VisualTest, DrawingsFollowTheColour) {
   EXPECT_EQ(middle(), QColor(242, 142, 242)) << "drawn again";
 }
 
-/// Areas are in proportion, the largest circle fills its cell, and all stand in the middle.
+/// Areas are in proportion, the largest circle fills its cell, and all are centred.
 TEST_F(VisualTest, CirclesAreAsLargeAsTheirNumbers) {
   Make("SolveAuto", "3");
   Click("Command1");
@@ -131,8 +131,8 @@ TEST_F(VisualTest, CirclesAreAsLargeAsTheirNumbers) {
   });
 }
 
-/// Each step of the way lies between the cells of two numbers that follow each other, with an arrow
-/// head half way.
+/// Each step of the path runs between the cells of two successive numbers, with an arrow head
+/// halfway.
 TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   Type("Text1", "5");
   Click("SolveAuto");
@@ -167,7 +167,7 @@ TEST_F(VisualTest, VectorsGoFromNumberToNumber) {
   }
 }
 
-/// A gap is on no way and has no circle.
+/// A gap is not on the path and has no circle.
 TEST_F(VisualTest, GapsAreNotDrawn) {
   QGuiApplication::clipboard()->setText("4 9 2\n3 5 7\n8 . 6");
   Find<QAction>("Pastex").trigger();
@@ -191,8 +191,8 @@ TEST_F(VisualTest, GapsAreNotDrawn) {
   EXPECT_FALSE(drawing.isVisible());
 }
 
-/// Every cell of a drawing has more ink, or other, when its number is shown, and no more than the
-/// number and its halo take.
+/// Every cell of a drawing has more or other ink when its number is shown, and only where the
+/// number and its halo are.
 TEST_F(VisualTest, NumbersAreWrittenIntoDrawings) {
   Make("SolveAuto", "4");
   auto& drawing = Find<Drawing>("Picture1");
@@ -217,8 +217,8 @@ TEST_F(VisualTest, NumbersAreWrittenIntoDrawings) {
   }
 }
 
-/// Texts stand out by 4.5 and marks by 3, on both themes: the totals, their notch and frame, and
-/// every step of the way.
+/// Contrast is at least 4.5 for texts and 3 for marks, in both themes: the totals, their notch and
+/// frame, and every step of the path.
 TEST_F(VisualTest, EverythingStandsOut) {
   for (const ColourUse total : {kWrongTotal, kRightTotal})
     EXPECT_GE(Contrast(ColorTable[total], ColorTable[kTotalText]), 4.5);
@@ -238,7 +238,7 @@ TEST_F(VisualTest, EverythingStandsOut) {
     for (int x = 10; x < 426; ++x) {
       for (int y = 10; y < 426; ++y) {
         const QColor pixel = image.pixelColor(x, y);
-        // The middle of a stroke, not its smoothed edge.
+        // The middle of a stroke, not its antialiased edge.
         if (pixel.hsvSaturation() < 60 || image.pixelColor(x + 1, y) != pixel ||
             image.pixelColor(x, y + 1) != pixel) {
           continue;

@@ -11,7 +11,7 @@ namespace {
 struct Tally {
   int Gaps = 0;
   int RightLines = 0;
-  int Repeated = 0;        ///< numbers that stand more than once
+  int Repeated = 0;        ///< numbers that occur more than once
   bool Untouched = false;  ///< every cell holds the base value
 };
 

@@ -6,9 +6,9 @@
 
 namespace numorra {
 
-/// What is true of the board on the screen, in one line for the player: its order, the target that
-/// it is judged by, and how far it is. Lines are right where their totals say so; before the totals
-/// are judged, where the cells do.
+/// The state of the board in one line for the player: its order, its target, and how far it is from
+/// being solved. Lines are right if their totals say so; before the totals are judged, if the cells
+/// do.
 ///
 ///     4 x 4, sum 34: 5 cells to fill
 ///     4 x 4, sum 34: 3 of 10 lines right
@@ -16,11 +16,11 @@ namespace numorra {
 ///     4 x 4, sum 34: 8 of 10 lines right, Enter checks    (a number is being typed)
 ///     4 x 4, sum 34: magic, F9 to play                    (no check has been made)
 ///
-/// Empty without a board. A board whose cells all hold the base value is not magic, though its
-/// lines are right.
+/// Empty without a board. A board whose cells all hold the base value is not called magic, although
+/// its lines are right.
 std::string StateOf(const Board& board);
 
-/// How such a line begins: "4 x 4, sum 34: ".
+/// The beginning of such a line: "4 x 4, sum 34: ".
 std::string StateHead(int order, double target);
 
 }  // namespace numorra

@@ -6,12 +6,12 @@
 
 namespace numorra {
 
-/// The board as other programs take it: a line a row, numbers separated by tabs. Empty without a
-/// board.
+/// The board as text for other programs: one line per row, numbers separated by tabs. Empty without
+/// a board.
 std::string BoardText(const Board& board);
 
-/// Shows a text as ReadSquareOrCode takes it as a board, to be checked and played, as LayOut does.
-/// False, with a message that says what is wrong and nothing changed, for any other text.
+/// Reads a text with ReadSquareOrCode and lays it out as a board to check and play. For any other
+/// text, says what is wrong, changes nothing and returns false.
 bool PasteBoard(const CommandContext& context, const std::string& text);
 
 }  // namespace numorra

@@ -8,24 +8,24 @@
 
 namespace numorra {
 
-/// What a command has left behind.
+/// What a command has changed.
 struct CommandResult {
-  std::string Name;  ///< what a player would call the command
+  std::string Name;  ///< the player's name for the command
   Position Before;
   Position After;
 
   bool ChangedTheBoard() const { return IsChange(Before, After); }
 };
 
-/// Compares the board before and after every command, whichever way it ended, and tells those who
-/// listen. No command knows of them.
+/// Compares the board before and after every command, however it ended, and notifies the listeners.
+/// No command knows them.
 class BoardWatch {
  public:
   using Listener = std::function<void(const CommandResult&)>;
 
   explicit BoardWatch(const Board& board) : board_(board) {}
 
-  /// Listeners are told in the order in which they came.
+  /// Listeners are notified in the order in which they were added.
   void Listen(Listener listener) { listeners_.push_back(std::move(listener)); }
 
   void ForgetListeners() { listeners_.clear(); }

@@ -75,7 +75,7 @@ void CellEntry::LeaveCell() {
   CheckAndReturn(board_, dialogs_);
 }
 
-/// Whoever leaves the value block at one edge enters it again at the opposite one.
+/// A current cell that leaves the value block at one edge enters it at the opposite one.
 void CellEntry::ChangeCell() {
   if (board_.BoardBusy || board_.CheckRunning || !board_.Shown()) return;
   const int n = board_.GridSize;

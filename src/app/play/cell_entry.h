@@ -5,26 +5,26 @@
 
 namespace numorra {
 
-/// The player's keys on the current cell, and what goes with a change of the current cell: it never
-/// leaves the value block, and a cell that was typed into is checked when it is left.
+/// The player's keys on the current cell, and the rules for moving it: it never leaves the value
+/// block, and a cell that was typed into is checked when it is left.
 ///
 /// Keys do nothing before the first totals check and while one runs.
 class CellEntry {
  public:
-  /// Takes over the grid's hooks.
+  /// Sets the grid's hooks.
   CellEntry(Board& board, Dialogs& dialogs);
 
-  /// Digits build a number of at most kMostCellDigits, Backspace (code 8) takes its last one away
-  /// and counts as typing; neither checks. All else is swallowed: signs, points and letters cannot
-  /// be typed.
+  /// Digits build a number of at most kMostCellDigits digits; Backspace (code 8) removes the last
+  /// one and counts as typing; neither checks. Other characters are ignored: signs, points and
+  /// letters cannot be typed.
   void TypeCharacter(char32_t character);
 
-  /// Checks, then goes to the next row; the check leaves the last column current.
+  /// Checks, then moves to the next row; the check leaves the last column current.
   void PressEnter();
 
-  /// The keypad's plus and minus: one more or less in the Variable mode, then a check. Minus makes
-  /// 1 of what would be exactly 0; a 0 becomes -1. A step to more digits than a cell takes is not
-  /// made.
+  /// The keypad's plus and minus: one more or less in the Variable mode, then a check. Minus gives
+  /// 1 where the result would be exactly 0; a 0 becomes -1. A step to more digits than a cell takes
+  /// is not made.
   void KeypadPlus();
   void KeypadMinus();
 

@@ -4,8 +4,8 @@
 
 namespace numorra {
 
-/// The board menu's memory of one command, the last: what its "Redo last command" item says and
-/// runs. It is no undo, and knows nothing of one.
+/// Remembers the last command for the board menu's "Redo last command" item. It is not an undo
+/// history.
 struct CommandHistory {
   std::string Tag;  ///< the command's code in decimal; empty before the first command
   std::string Caption = "Redo last command";

@@ -12,8 +12,8 @@ namespace {
 constexpr double kNoMaximum = -999;
 constexpr double kNoMinimum = 9999;
 
-/// The cell that is furthest in one direction, as a 16-bit whole number; the first of equals. Texts
-/// that are no numbers throw TypeMismatch.
+/// The most extreme value in one direction, as a 16-bit whole number; the first of equal ones.
+/// Texts that are not numbers throw TypeMismatch.
 template <class Further>
 double Extreme(const Board& board, double start, Further further) {
   double extreme = start;
@@ -24,7 +24,7 @@ double Extreme(const Board& board, double start, Further further) {
   return extreme;
 }
 
-/// Why the line cannot be made right; null when it can.
+/// Why the line cannot be made right; null if it can.
 const char* Refusal(AdjustOutcome outcome) {
   switch (outcome) {
     case AdjustOutcome::Possible:
@@ -109,13 +109,13 @@ void EditCommands::Turn(const Symmetry& symmetry) {
   TurnBoard(board_, symmetry);
 }
 
-/// A given cell is refused, which is then not recorded.
+/// Refuses a given cell; the command is then not recorded.
 void EditCommands::SetCell(double value) {
   refused_ = board_.grid.Given(board_.grid.CurrentRow(), board_.grid.CurrentColumn());
   SetCurrentCell(board_, dialogs_, Decimal(value));
 }
 
-/// A whole number from 1 to the base value, freshly seeded.
+/// A random whole number from 1 to the base value, freshly seeded.
 double EditCommands::RandomValue() {
   random_.Reseed();
   return std::min<double>(Int(board_.BaseValue * random_.Next()) + 1, board_.BaseValue);

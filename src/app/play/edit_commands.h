@@ -12,20 +12,19 @@ namespace numorra {
 
 /// The editing commands of the board's context menu. All of them act on the board on the screen.
 ///
-/// Values go into the current cell, followed by a totals check. A move that brings back the
-/// untouched base board is taken back, and recorded all the same. Given numbers stay: commands that
-/// write the whole board pass them by, every other one is refused on them.
+/// They write values into the current cell, followed by a totals check. A move that restores the
+/// untouched base board is undone, but recorded. Given numbers do not change: commands that write
+/// the whole board skip them, every other command is refused on them.
 class EditCommands {
  public:
   EditCommands(Board& board, Dialogs& dialogs, Random& random, CommandHistory& history)
       : board_(board), dialogs_(dialogs), random_(random), history_(history) {}
 
-  /// Runs a command of the table, which records itself when it is done and has a code. Does nothing
+  /// Runs a command of the table, which is recorded afterwards if it has a code. Does nothing
   /// without a board.
   void Run(const EditCommand& command);
 
-  /// Runs the recorded command again, on the cell that is then current; nothing before there is
-  /// one.
+  /// Runs the recorded command again, on the current cell; does nothing if there is none.
   void Redo();
 
   void SetBaseValue();
@@ -34,11 +33,11 @@ class EditCommands {
   void SetRandomValue();
   void FillAtRandom();
 
-  /// All cells to the base value but the current one, which gets a random value. Recorded as
-  /// "entire grid to random values", which is what a repeat does.
+  /// Sets all cells but the current one to the base value, and the current one to a random value.
+  /// Recorded as "entire grid to random values", which a repeat then does.
   void SetAllRem();
 
-  /// The value with which the line through the current cell is right, where there is one.
+  /// The value that makes the line through the current cell right, if there is one.
   void Adjust(AdjustLine line);
 
   /// Exchanges the current cell and the remembered one. Records nothing.
@@ -54,7 +53,7 @@ class EditCommands {
   Dialogs& dialogs_;
   Random& random_;
   CommandHistory& history_;
-  bool refused_ = false;  ///< the running command was, and is not recorded
+  bool refused_ = false;  ///< the running command was refused and is not recorded
 };
 
 }  // namespace numorra

@@ -8,27 +8,27 @@ namespace numorra {
 
 class EditCommands;
 
-/// Where an editing command stands in the board's menu.
+/// The place of an editing command in the board's menu.
 enum class EditGroup { SetValue, AdjustValue, Cells, Symmetries };
 
-/// An editing command: its place, its names, and what it does.
+/// An editing command: its place, its names, and its action.
 struct EditCommand {
-  const char* Name;     ///< of its menu item
-  const char* Caption;  ///< what its item says, and what undo calls it
-  int Code;             ///< under which it is recorded and repeated; 0 = never
+  const char* Name;     ///< of the menu item
+  const char* Caption;  ///< text of the menu item, and the name that undo shows
+  int Code;             ///< for recording and repeating; 0 = never recorded
   EditGroup Menu;
   std::function<void(EditCommands&)> Act;
-  bool SaysBase = false;  ///< its item and its record name the base value too
+  bool SaysBase = false;  ///< its texts include the base value
 };
 
-/// All editing commands in the order of the menu: the one place that ties codes, names, captions
-/// and deeds together. Symmetries are taken from their own table.
+/// All editing commands in menu order: the one place that connects codes, names, captions and
+/// actions. Symmetries come from their own table.
 const std::vector<EditCommand>& EditTable();
 
-/// What the command does, in words: its caption, with the base value where it writes that.
+/// The command in words: its caption, with the base value if the command writes that.
 std::string WordsFor(const EditCommand& command, double baseValue);
 
-/// The commands by name, and by the code under which one was recorded; null where there is none.
+/// Finds a command by name, or by its code; null if there is none.
 const EditCommand* FindEdit(const std::string& name);
 const EditCommand* FindEdit(double code);
 

@@ -22,12 +22,12 @@ void Show(Board& board, const Puzzle& solved) {
     }
   });
   board.ShowBoard();
-  board.NewEntry = true;  // what was typed before is not for the player to be congratulated on
+  board.NewEntry = true;  // no congratulation for what was typed before
   RefreshTotals(board);
 }
 
-/// ": column 9 adds up to 135, not 369" of the first line without a gap of which something like it
-/// is true.
+/// Names the first full line with a wrong total, as ": column 9 adds up to 135, not 369"; empty if
+/// there is none.
 std::string FullWrongLine(const Puzzle& puzzle) {
   for (const Line line : MagicLines(puzzle.Order())) {
     bool full = true;
@@ -55,7 +55,7 @@ std::string WhyNone(const Puzzle& puzzle, const Square<bool>& givens, Random& ra
   return why + " cannot stay";
 }
 
-/// The search for the board, gone on with when the player wants it.
+/// Searches, and searches longer if the player agrees.
 SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& stage,
                           Random& random) {
   const auto search = [&](double seconds) {
@@ -70,7 +70,7 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& sta
     dialogs.Tell(why);
     return result;
   }
-  if (!dialogs.Ask(why + "\ngo on for " + Decimal(kLongSearch) + " seconds more?")) return result;
+  if (!dialogs.Ask(why + "\nsearch for " + Decimal(kLongSearch) + " more seconds?")) return result;
   SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
   if (still && !still->Found) still->Found = open->Found;
@@ -121,7 +121,7 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage)
     Show(board, one->Solved);
   } else if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
     Show(board, several->First);
-    dialogs.Tell("this is one of several ways to fill the gaps");
+    dialogs.Tell("this is one of several solutions");
   } else if (const auto* open = std::get_if<NotSettled>(&result)) {
     if (open->Found) Show(board, *open->Found);
   } else {

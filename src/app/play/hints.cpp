@@ -13,14 +13,14 @@ namespace {
 
 const SearchLimit kLimit{.Seconds = kFirstSearch};
 
-/// Entries that cannot stay: all of them, or any one of them.
+/// Entries that cannot stay: all of them, or at least one of them.
 struct Wrong {
   std::vector<Place> Cells;
   bool All = true;
 };
 
-/// The entries that differ from the only solution of the board's givens; nothing where there are no
-/// givens, or not one solution.
+/// The entries that differ from the only solution of the board's givens; empty if there are no
+/// givens, or not exactly one solution.
 std::optional<Wrong> AgainstGivens(const Board& board, const Puzzle& puzzle, Random& random,
                                    WorkStage& stage) {
   const Square<bool> givens = StoredSquareOf(board).Givens;
@@ -42,7 +42,7 @@ std::optional<Wrong> AgainstGivens(const Board& board, const Puzzle& puzzle, Ran
   return wrong;
 }
 
-/// What stands in the way of a board that has no solution.
+/// Why a board has no solution.
 Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, WorkStage& stage) {
   if (auto wrong = AgainstGivens(board, puzzle, random, stage)) return *wrong;
   return {EntriesInTheWay(puzzle, StoredSquareOf(board).Givens, random, stage), false};
@@ -73,8 +73,8 @@ Remark Against(const AgainstRules& against) {
   return remark;
 }
 
-/// What `say` says of the puzzle on the board and of what a search finds out about it, while the
-/// pointer is busy; or what breaks the rules.
+/// Runs `say` on the puzzle on the board and the result of a search, with the busy pointer; or
+/// returns why the board is no puzzle.
 template <class Say>
 Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say) {
   const auto read = PuzzleOf(StoredSquareOf(board));
@@ -85,7 +85,7 @@ Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say
   return say(puzzle, Solve(puzzle, kLimit, random, stage));
 }
 
-/// The next number by rules, or else one of the solution that trying has to find.
+/// The next number by the rules, or else one from the solution, found by trying.
 std::optional<Deduction> FindStep(const Puzzle& puzzle, const Puzzle& solved, WorkStage& stage) {
   if (auto step = NextDeduction(puzzle, Grade::Expert, stage)) return step;
   const Candidates board(puzzle);
@@ -169,7 +169,7 @@ Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage) {
     if (several) count = CountSolutions(puzzle, kMostCounted, kLimit, stage);
     ForEachCell(board.GridSize,
                 [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
-    RefreshTotals(board);  // lines with gaps are unfinished from now on
+    RefreshTotals(board);  // lines with gaps are now unfinished
     if (std::holds_alternative<OneSolution>(result)) {
       return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
     }

@@ -12,15 +12,15 @@
 
 namespace numorra {
 
-/// What is said of a puzzle and the cells that it is about.
+/// A sentence about a puzzle and the cells that it is about.
 struct Remark {
   std::string Text;
   std::vector<Place> Where = {};
 };
 
 /// Gives hints for the board, each in three presses: where to look, why a number follows there,
-/// then the number itself, as a move. A change of the board begins anew. What stands in the way of
-/// any solution is pointed at first; where there are several, or none, that is said.
+/// then the number itself, as a move. Starts over when the board changes. First points at entries
+/// that prevent any solution; if there are several solutions, or none, says so.
 class Hints {
  public:
   Hints(Board& board, Random& random, WorkStage& stage)
@@ -39,11 +39,11 @@ class Hints {
   int presses_ = 0;
 };
 
-/// Which entries cannot stay, without giving the solution away: those that differ from the only
+/// Which entries cannot stay, without revealing the solution: those that differ from the only
 /// solution of the givens; without givens, those that alone leave no solution.
 Remark CheckEntries(const Board& board, Random& random, WorkStage& stage);
 
-/// Makes the numbers on the board the givens, and says how many solutions the puzzle has.
+/// Makes the numbers on the board givens, and says how many solutions the puzzle has.
 Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage);
 
 }  // namespace numorra

@@ -43,7 +43,7 @@ void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square) {
   if (!puzzle || !normal) board.SolveMode = ModeVariable;
   boxes.SetSize(Decimal(order));
   boxes.SetSum(Decimal(aim.Target));
-  Restore(board, Position());  // a new board: no shade, mark or drawing of the old one stays
+  Restore(board, Position());  // a new board: clear shades, marks and drawing
   Restore(board, position);
 }
 

@@ -6,14 +6,14 @@
 
 namespace numorra {
 
-/// The board as it is stored: its numbers, gaps and givens, target and rules.
+/// The board as a stored square: its numbers, gaps and givens, target and rules.
 StoredSquare StoredSquareOf(const Board& board);
 
-/// Shows a stored square as a board, recounted without a word and open to play; the boxes follow.
-/// The mode becomes Variable, but stays Normal for a puzzle by the normal rules: a board with gaps
-/// or givens. A base above what 16 bits take is held there.
+/// Shows a stored square as a board, recounted without a message and ready to play; the boxes
+/// follow. The mode becomes Variable, but stays Normal for a puzzle by the normal rules: a board
+/// with gaps or givens. A base that does not fit into 16 bits is limited to that range.
 ///
-/// Its target and rules are its aim (AimOf), or what the sum box says.
+/// Its target and rules come from AimOf, or else from the sum box.
 void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square);
 
 }  // namespace numorra

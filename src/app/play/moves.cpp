@@ -7,7 +7,7 @@
 namespace numorra {
 namespace {
 
-/// Exchanges the cells pairwise and checks; false, with nothing done, when one of them is given.
+/// Exchanges the cells pairwise and checks; does nothing and returns false if one of them is given.
 bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place, Place>>& pairs) {
   for (const auto& [a, b] : pairs) {
     if (!MayChange(board, dialogs, a.Row, a.Column)) return false;
@@ -23,7 +23,7 @@ bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place,
   return true;
 }
 
-/// The same for two lines, whose cells placeOf(line, i) gives; one line with itself stays as it is.
+/// The same for two lines with the cells placeOf(line, i); a line with itself does not change.
 template <class PlaceOf>
 bool ExchangeLines(Board& board, Dialogs& dialogs, int a, int b, PlaceOf placeOf) {
   if (a == b) return true;

@@ -154,7 +154,7 @@ std::optional<std::string> Session::PuzzleCode() const {
   const auto puzzle = PuzzleOnBoard();
   if (puzzle && puzzle->Order() <= kMostCodedOrder) return CodeOf(*puzzle);
   ports_->TheDialogs.Tell(
-      "there is a code for boards with gaps, of size 3 to 10, that keep their rules");
+      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule");
   return std::nullopt;
 }
 

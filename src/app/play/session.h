@@ -21,27 +21,28 @@ namespace numorra {
 struct FamousSquare;
 struct SpecialKind;
 
-/// What a session asks of whoever shows it: a window, or a test.
+/// What a session needs from whatever shows it: a window, or a test.
 struct SessionPorts {
   SquareBoxes& Boxes;
   BuildOptions& Options;
   Dialogs& TheDialogs;
-  BuildStage& Building;  ///< where builds are shown
-  WorkStage& Searching;  ///< where searches are
+  BuildStage& Building;  ///< shows builds
+  WorkStage& Searching;  ///< shows searches
 };
 
-/// A board in play and all that belongs to playing it: what has been done to it, the player's keys,
-/// the commands that build, edit, search and study, and random numbers. It knows no window; it is
-/// made before one and ends after it.
+/// A board in play with everything needed to play it: its history, the player's keys, the commands
+/// that build, edit, search and study, and random numbers. It knows no window; it is created before
+/// one and outlives it.
 ///
-/// Every command runs between BeginCommand and EndCommand, which tell the watch's listeners what it
-/// was called and what it has changed; undo is the first of them.
+/// Every command runs between BeginCommand and EndCommand, which tell the watch's listeners its
+/// name and its changes; undo is the first listener.
 class Session {
  public:
-  /// `clock`: what random numbers start afresh from.
+  /// `clock`: seeds the random numbers.
   explicit Session(Clock& clock);
 
-  /// Before any command, and after the last one: what was connected or listens then is forgotten.
+  /// Connect before the first command and disconnect after the last; disconnecting drops all
+  /// listeners.
   void Connect(const SessionPorts& ports);
   void Disconnect();
 
@@ -58,10 +59,10 @@ class Session {
   EditCommands& Edits() { return commands_->Edits; }
   SolveCommand& Solve() { return commands_->Solve; }
 
-  /// What the boxes say before the first proposal replaces it is what a session starts from.
+  /// Initializes the session from the boxes, before the first proposal replaces their values.
   void Start();
 
-  /// In the Normal mode the sum belongs to the size.
+  /// In the Normal mode the size determines the sum.
   void SetMode(Mode mode);
   void FollowSize();
 
@@ -69,13 +70,14 @@ class Session {
   void OfferCorners(ListBox& choice);
   void BuildManually();
 
-  /// A 4 x 4 square from its top row, in the Variable mode; false where none was built.
+  /// A 4 x 4 square from its top row, in the Variable mode; false if none was built.
   bool BuildFromTopRow();
 
-  /// Counts and colours whatever board is shown, without a word: from then on it can be played.
+  /// Counts and colours the totals of the board without a message; after that it can be played.
   void CheckTheTotals();
 
-  /// Shows a square as LayOut does; a text that is none is told, with nothing changed.
+  /// Shows a square with LayOut; tells the player why a text is not a square, and then changes
+  /// nothing.
   void LayOut(const StoredSquare& square);
   bool Paste(const std::string& text);
 
@@ -91,28 +93,28 @@ class Session {
   void FillGaps();
   void EmptyBoard();
 
-  /// The puzzle that stands on the board: its givens alone where it has any. Boards of one or two
-  /// rows, which Auto builds of their numbers, are none.
+  /// The puzzle on the board: only its givens, if it has any. Boards of one or two rows, which Auto
+  /// builds from their numbers, are not puzzles.
   std::optional<Puzzle> PuzzleOnBoard() const;
 
-  /// The same with its solution, where it has a single one that is found at once.
+  /// The same with its solution, if it has exactly one that is found quickly.
   std::optional<MadePuzzle> SolvedPuzzleOnBoard();
 
-  /// Its code; the player is told where it has none.
+  /// The puzzle's code; tells the player if it has none.
   std::optional<std::string> PuzzleCode() const;
 
-  /// What fresh squares are to be like, by the boxes; nothing, with a message, where no square has
-  /// such a size.
+  /// What fresh squares should be like, from the boxes; nothing, with a message, if no square has
+  /// that size.
   std::optional<SquareWish> WishForFreshSquares() const;
 
-  /// The board as a square that numbers can be hidden of.
+  /// The board as a square whose numbers can be hidden.
   PuzzleSource SquareToHide() const;
 
   /// Lays a puzzle out to be solved.
   void Take(const MadePuzzle& made);
 
  private:
-  /// What works on the ports.
+  /// The commands that use the ports.
   struct Commands {
     Commands(Session& session, const SessionPorts& ports);
 

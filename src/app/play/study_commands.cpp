@@ -20,7 +20,7 @@ Square<double> NumbersOn(const Board& board) {
   });
 }
 
-/// The numbers of the full board; of another one the player is told what is missing.
+/// The numbers of a full board; otherwise tells the player what is missing.
 std::optional<Square<double>> FullBoard(const CommandContext& context) {
   const Board& board = context.TheBoard;
   std::optional<Place> gap;
@@ -28,11 +28,11 @@ std::optional<Square<double>> FullBoard(const CommandContext& context) {
     if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
   });
   if (!gap) return NumbersOn(board);
-  context.TheDialogs.Tell(NameOf(*gap) + " is empty: this works on full boards");
+  context.TheDialogs.Tell(NameOf(*gap) + " is empty: this needs a full board");
   return std::nullopt;
 }
 
-/// Puts other numbers in the place of the board's.
+/// Replaces the board's numbers.
 void Replace(Board& board, const Square<double>& numbers) {
   const RedrawLock lock(board.grid);
   ForEachCell(board.GridSize, [&](int r, int c) {
@@ -58,7 +58,7 @@ void VaryBoard(const CommandContext& context) {
   if (const auto varied = Varied(*numbers, context.TheRandom)) {
     Replace(context.TheBoard, *varied);
   } else {
-    context.TheDialogs.Tell("all relatives of this square look like it");
+    context.TheDialogs.Tell("all squares of this family look like this one");
   }
 }
 

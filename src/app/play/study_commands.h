@@ -7,25 +7,25 @@
 #include "study/number_square.h"
 #include "study/special.h"
 
-/// What the Study menu does to the board. The first three need a full board, refuse any other in a
-/// sentence, and give no numbers: no cell is a given afterwards. Totals are judged as before.
+/// What the Study menu does to the board. The first three commands need a full board and refuse any
+/// other in one sentence. They leave no givens. Totals are judged as before.
 namespace numorra {
 
-/// The board's numbers; nothing where there is no board or a gap in it.
+/// The board's numbers; nothing without a board or with a gap.
 std::optional<NumberSquare> SquareOn(const Board& board);
 
-/// Another square of its family in the board's place.
+/// Replaces the board by another square of its family.
 void VaryBoard(const CommandContext& context);
 
-/// largest + smallest - number in each cell. The target goes along, so that lines that were right
-/// stay right; in the Variable mode the sum box does, too.
+/// Replaces each number by largest + smallest - number. The target changes in the same way, so that
+/// lines that were right stay right; so does the sum box in the Variable mode.
 void ComplementBoard(const CommandContext& context);
 
-/// That of its eight images which is smallest in reading order.
+/// Shows the image, of all eight, that is smallest in reading order.
 void BringToStandardForm(const CommandContext& context);
 
-/// A square of that kind, by lot, of the order in the size box, as a new board of the normal rules.
-/// False, with the reason, where there is none.
+/// A random square of that kind, of the order in the size box, as a new board by the normal rules.
+/// Returns false, with the reason, if there is none.
 bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context);
 
 void LayOutFamous(const FamousSquare& famous, const CommandContext& context);

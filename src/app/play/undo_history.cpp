@@ -27,7 +27,7 @@ void UndoHistory::Note(const CommandResult& result) {
   now_ = names_.size();
 }
 
-/// What was typed has come back to what was there.
+/// Typing has restored the old text.
 void UndoHistory::ForgetLastStep() {
   names_.pop_back();
   positions_.pop_back();
@@ -45,7 +45,7 @@ void UndoHistory::Redo(Board& board) {
 
 void UndoHistory::Walk(Board& board, std::size_t to) {
   walking_ = true;
-  positions_[now_] = PositionOf(board);  // checks and moves since are no steps, but come back too
+  positions_[now_] = PositionOf(board);  // checks and moves are not steps, but come back too
   Restore(board, positions_[to]);
   now_ = to;
 }

@@ -8,32 +8,30 @@
 
 namespace numorra {
 
-/// What the player did to the board, step by step, to be taken back and done again.
+/// The player's changes of the board, step by step, for undo and redo.
 ///
 /// A step is a command that changed the board; digits typed into one cell are one step. Positions
-/// are kept whole, the one before each step and the one that stands now: undo and redo only walk
-/// among them. A new step drops what could be done again, and beyond kMostSteps the oldest is
-/// forgotten.
+/// are stored in full, one before each step and the current one; undo and redo move among them. A
+/// new step drops the steps that could be redone; beyond kMostSteps the oldest is dropped.
 class UndoHistory {
  public:
   static constexpr std::size_t kMostSteps = 500;
 
-  /// The name under which digits are typed: such commands are taken together while nothing else
-  /// comes between them.
+  /// The name of commands that type digits: they are one step as long as nothing else comes between
+  /// them.
   static constexpr const char* kTyping = "typing";
 
-  /// Listens to every command. The history's own are no steps.
+  /// Listens to every command. The history's own commands are not steps.
   void Note(const CommandResult& result);
 
   bool CanUndo() const { return now_ > 0; }
   bool CanRedo() const { return now_ < names_.size(); }
 
-  /// The names of the step that would be taken back, and done again; only where there is one.
+  /// The names of the steps to undo and to redo; call them only if there is one.
   const std::string& UndoName() const { return names_[now_ - 1]; }
   const std::string& RedoName() const { return names_[now_]; }
 
-  /// Shows the board as it was before the last step, or after the next; nothing where there is
-  /// none.
+  /// Shows the board before the last step, or after the next; does nothing if there is none.
   void Undo(Board& board);
   void Redo(Board& board);
 
@@ -44,7 +42,7 @@ class UndoHistory {
   std::deque<std::string> names_;   ///< of the steps, the oldest first
   std::deque<Position> positions_;  ///< names_[i] led from positions_[i] to positions_[i + 1]
   std::size_t now_ = 0;             ///< how many of the steps are done
-  bool typing_ = false;             ///< the last step is typing, and nothing came after it
+  bool typing_ = false;             ///< the last step is typing and may still grow
   bool walking_ = false;            ///< the running command is the history's own
 };
 

@@ -25,7 +25,7 @@ std::vector<Place> TotalsOf(Line line, int order) {
   return {{0, order + 1}, {order + 1, 0}};
 }
 
-/// A board of the order with nothing on it.
+/// An empty board of the order.
 void Empty(Grid& grid, int order) {
   grid.Reshape(order + 2, order + 2);
   ForEachCell(order, [&](int row, int column) {
@@ -66,7 +66,7 @@ void Walk::GoTo(int step) {
   ShowTotals();
 }
 
-/// Full lines of numbers have their totals, those that are right in their colour.
+/// Shows the totals of full lines, the right ones in their colour.
 void Walk::ShowTotals() {
   const int n = order_;
   const auto target = static_cast<double>(NormalTotal(n));

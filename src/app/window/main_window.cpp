@@ -29,7 +29,7 @@ constexpr int kGap = 30;           // left of the column of frames, and right of
 constexpr int kInside = 90;        // around and between a frame's controls
 constexpr int kOuterMargin = 120;  // right of the board's frame and below it
 
-/// Room for the largest proposal, a board of order 14, where the screen has it.
+/// Room for the largest proposal, a board of order 14, if the screen has it.
 constexpr double kShareOfScreen = 0.95;
 constexpr QSize kOpeningSize(740, 700);
 
@@ -108,7 +108,7 @@ void MainWindow::ShowState() {
   ShowStateLine();
 }
 
-/// What is told is what is in sight.
+/// Screen readers are told what is visible.
 void MainWindow::ShowStateLine() {
   if (place_->Walking()) {
     state_->Show(place_->Walk->TheWalk());
@@ -117,7 +117,7 @@ void MainWindow::ShowStateLine() {
   }
 }
 
-/// A single file that is dropped onto the window opens.
+/// Opens a single file that is dropped onto the window.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
   if (urls.size() != 1 || !urls.front().isLocalFile()) return;

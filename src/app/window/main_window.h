@@ -12,13 +12,13 @@
 
 namespace numorra {
 
-/// The main window: the controls on the left, the board on the right, the menus above. It puts its
-/// parts together around a session, whose board it shows.
+/// The main window: controls on the left, the board on the right, menus above. It assembles its
+/// parts around a session and shows the session's board.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `session`: outlives the window.
+  /// `session`: must outlive the window.
   explicit MainWindow(Session& session, const World& world = {});
   ~MainWindow() override;
 

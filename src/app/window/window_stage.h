@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// The window as the stage of a build. The count goes into its label whenever the label can be
-/// seen: before events run and when the build is over; an empty one at once.
+/// The window as the stage of a build. Updates the count label when it can be seen: before events
+/// are processed and when the build ends; clears it at once.
 class WindowStage : public BuildStage {
  public:
   WindowStage(SolveFrame& frame, CommandRunner& runner) : frame_(frame), runner_(runner) {}

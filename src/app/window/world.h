@@ -8,7 +8,7 @@
 
 namespace numorra {
 
-/// What the window needs of the world; where something is missing it brings its own.
+/// What the window needs from outside; it provides anything that is missing itself.
 struct World {
   Dialogs* TheDialogs = nullptr;
   SheetPrinter* Printer = nullptr;
@@ -17,7 +17,7 @@ struct World {
   int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
 };
 
-/// A world in which nothing is missing.
+/// A world with nothing missing.
 class WholeWorld {
  public:
   WholeWorld(const World& world, QWidget* window)

@@ -71,7 +71,7 @@ TEST(Numbers, DigitsAreThoseThatCount) {
     EXPECT_EQ(DigitsOf(number), digits) << number;
 }
 
-/// Numbers of up to 14 digits, of every size and sign, added as on paper.
+/// Numbers of up to 14 digits, of every size and sign, added in decimal.
 TEST(DecimalSums, AreThoseOfPaper) {
   SeededRandom random(6);
   for (int time = 0; time < 3000; ++time) {

@@ -24,7 +24,7 @@ TEST(Recount, TellsBoardsApart) {
       {"6 6 6 / 6 6 6 / 6 6 6", 18, 5, Finding::Right},
       {"5 5 5 / 5 6 5 / 5 5 5", 15, 5, Finding::Wrong},
       {"2.5 2.5 2.5 / 2.5 2.5 2.5 / 2.5 2.5 2.5", 7.5, 2, Finding::Right},
-      // Only the columns wrong, only the one diagonal, only the other.
+      // Only the columns are wrong, only one diagonal, only the other.
       {"1 5 9 / 1 5 9 / 1 5 9", 15, 5, Finding::Wrong},
       {"3 2 1 / 1 3 2 / 2 1 3", 6, 2, Finding::Wrong},
       {"1 2 3 / 2 3 1 / 3 1 2", 6, 2, Finding::Wrong},
@@ -41,7 +41,7 @@ TEST(Recount, TellsBoardsApart) {
   }
 }
 
-/// With givens a gap leaves its lines open; without them it counts as 0.
+/// With givens, a gap leaves its lines unjudged; without them, it counts as 0.
 TEST(Recount, LeavesUnfinishedLinesUnjudged) {
   for (const bool puzzle : {false, true}) {
     Board board;
@@ -58,7 +58,7 @@ TEST(Recount, LeavesUnfinishedLinesUnjudged) {
     EXPECT_EQ(board.grid.Text(1, 0), "14");
     board.ReturnTo(1, 1);
     EXPECT_EQ(WhyInvalid(board), "");
-    // Right but for a gap that counts as 0.
+    // All right, but with a gap that counts as 0.
     ShowRows(board, "0 9 6 / 11 5 -1 / 4 1 10", 15);
     board.grid.SetText(1, 1, "");
     board.grid.SetGiven(2, 2, puzzle);

@@ -77,7 +77,7 @@ TEST_F(BoardMouseTest, KeysMarkAndSwapToo) {
   EXPECT_EQ(Where(), (std::pair{1, 3}));
 }
 
-TEST_F(BoardMouseTest, APressOnACellTakesTheMarksAway) {
+TEST_F(BoardMouseTest, APressOnACellRemovesTheMarks) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   Left(2, 4);
   Left(4, 3);

@@ -38,16 +38,16 @@ TEST_F(BoardTextTest, ShowsATextAsABoardToBePlayed) {
   EXPECT_EQ(At(1, 1), "99999999999999") << "a step to 15 digits is not made";
 }
 
-TEST_F(BoardTextTest, RefusesWhatIsNoSquareAndChangesNothing) {
+TEST_F(BoardTextTest, RefusesOtherTextsAndChangesNothing) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   EXPECT_FALSE(Paste("1 2 3\n4 5 x\n7 8 9"));
-  EXPECT_EQ(dialogs_.Take(), Messages{"line 2: \"x\" is no number"});
+  EXPECT_EQ(dialogs_.Take(), Messages{"line 2: \"x\" is not a number"});
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("1 2 3 / 4 5 6 / 7 8 9"));
   EXPECT_EQ(boxes_.SumText, "9");
 }
 
-/// Magic squares in tenths, hundredths and thousandths, and less their middle, so that numbers and
-/// sums are negative or nothing: each is won.
+/// Magic squares in tenths, hundredths and thousandths, also shifted by their middle number, so
+/// that numbers and sums are negative or 0: each counts as solved.
 TEST_F(BoardTextTest, DecimalsAreJudgedAsTheyAreWritten) {
   SeededRandom random(3);
   SilentStage stage;

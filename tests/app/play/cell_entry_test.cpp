@@ -56,8 +56,8 @@ TEST_F(CellEntryTest, LeavingATypedCellChecksAndAnUntypedDoesNot) {
   EXPECT_EQ(At(1, 0), "7") << "an empty cell counts as 0";
 }
 
-/// What recounts without a word leaves a typed digit to be told of when its cell is left, and no
-/// board is told of twice.
+/// After a recount without a message, a typed digit is still checked when its cell is left, and no
+/// board is announced twice.
 TEST_F(CellEntryTest, AWinIsAnnouncedOnceWhateverComesBetween) {
   const auto take = [this] { return dialogs_.Take() == Messages{kWin}; };
   Position typed;

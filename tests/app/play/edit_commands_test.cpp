@@ -38,7 +38,7 @@ TEST_F(EditCommandsTest, ValuesComeFromTheWholeBoard) {
   EXPECT_EQ(At(1, 1), "-999");
 }
 
-TEST_F(EditCommandsTest, TextsThatAreNoNumbersStopTheExtremesAlone) {
+TEST_F(EditCommandsTest, TextsThatAreNotNumbersStopOnlyTheExtremes) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   board_.grid.SetText(3, 3, "");
   EXPECT_THROW(Do("Set2Max"), RuntimeError);

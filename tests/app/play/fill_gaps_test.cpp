@@ -8,7 +8,7 @@ namespace {
 
 class FillGapsTest : public PlayTest {
  protected:
-  /// 0 is a gap; what is in `givens` is given.
+  /// 0 is a gap; the places in `givens` are given.
   void LayOutGaps(const std::string& rows, double target, Rules rules = Rules::Normal,
                   const std::vector<int>& givens = {}) {
     const slow::Rows parsed = ParseRows(rows);
@@ -27,7 +27,7 @@ class FillGapsTest : public PlayTest {
   NotingStage stage_;
 };
 
-/// A digit typed before is nothing that the player could be congratulated on afterwards.
+/// A digit typed before the filling causes no congratulation afterwards.
 TEST_F(FillGapsTest, TheProgramsOwnWorkIsNotAnnounced) {
   for (const bool fill : {true, false}) {
     LayOutGaps("8 1 6 / 3 5 0 / 4 9 2", 15);
@@ -40,7 +40,7 @@ TEST_F(FillGapsTest, TheProgramsOwnWorkIsNotAnnounced) {
   }
 }
 
-TEST_F(FillGapsTest, FillsAndSaysWhatItIs) {
+TEST_F(FillGapsTest, FillsAndSaysHowManySolutionsThereAre) {
   LayOutGaps("8 1 0 / 0 5 0 / 0 0 0", 15, Rules::Normal, {0});
   Fill();
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
@@ -56,12 +56,11 @@ TEST_F(FillGapsTest, FillsAndSaysWhatItIs) {
   EXPECT_TRUE(board_.HasGaps());
   Fill();
   EXPECT_EQ(slow::WhyNotMagic(ShownRows(board_.grid), 30), "");
-  EXPECT_EQ(
-      dialogs_.Take(),
-      (Messages{"the board has no gaps to fill", "this is one of several ways to fill the gaps",
-                "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
-                "to 9",
-                "this is one of several ways to fill the gaps"}));
+  EXPECT_EQ(dialogs_.Take(),
+            (Messages{"the board has no gaps to fill", "this is one of several solutions",
+                      "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
+                      "to 9",
+                      "this is one of several solutions"}));
 }
 
 TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
@@ -86,7 +85,7 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
   EXPECT_EQ(At(2, 1), "");
 }
 
-TEST_F(FillGapsTest, EmptiesAllThatIsNotGiven) {
+TEST_F(FillGapsTest, EmptiesEveryCellThatIsNotGiven) {
   LayOutGaps("8 1 6 / 3 0 0 / 4 0 2", 15, Rules::Normal, {0, 8});
   EmptyBoard(board_);
   EXPECT_EQ(At(1, 1) + At(1, 2) + At(2, 1) + At(3, 3), "82");
@@ -94,7 +93,7 @@ TEST_F(FillGapsTest, EmptiesAllThatIsNotGiven) {
   EXPECT_EQ(board_.grid.Text(0, 0), "10");
 }
 
-/// What was not searched is not offered to be searched for longer.
+/// The player is not asked to search longer if nothing was searched.
 TEST_F(FillGapsTest, SaysWhichBoardsAreNotSearched) {
   std::string rows = "2000";
   for (int row = 0; row < 33; ++row) {
@@ -110,7 +109,7 @@ TEST_F(FillGapsTest, SaysWhichBoardsAreNotSearched) {
   EXPECT_TRUE(board_.HasGaps());
 }
 
-/// A stopped search leaves the board as it was, and nothing behind.
+/// A stopped search leaves the board as it was, and no bar.
 TEST_F(FillGapsTest, IsSuperseded) {
   LayOutGaps("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 1", 34);
   stage_.YieldsLeft = 20;

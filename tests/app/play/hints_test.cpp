@@ -61,7 +61,7 @@ TEST_F(HintsTest, PointAtWhatCannotStay) {
   EXPECT_EQ(hints_.Next().Text, "not all lines of the board are right");
 }
 
-/// The same cells with another total are another board.
+/// The same cells with another total are another puzzle.
 TEST_F(HintsTest, BelongToOneTotal) {
   const auto layOut = [this](double total) {
     LayOut(
@@ -76,7 +76,7 @@ TEST_F(HintsTest, BelongToOneTotal) {
   EXPECT_EQ(At(1, 3), "") << "the third press is the first one again";
 }
 
-TEST_F(HintsTest, SayWhatIsNoPuzzle) {
+TEST_F(HintsTest, SayWhyABoardIsNoPuzzle) {
   Read(". . .\n. 5 .\n. . .");
   EXPECT_EQ(hints_.Next().Text, "this board has several solutions, so no number follows");
   Read("4 . . 16\n. . . .\n. . . .\n1 . . 13");

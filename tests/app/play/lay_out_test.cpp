@@ -43,7 +43,7 @@ TEST_F(LayOutTest, FindsTheTargetThatWasMeant) {
   EXPECT_EQ(dialogs_.Take(), Messages{}) << "without a word";
 }
 
-/// Puzzles by the normal rules can be played in either mode, so the player's stays.
+/// Puzzles by the normal rules can be played in either mode, so the mode does not change.
 TEST_F(LayOutTest, TheModeStaysNormalForNormalPuzzles) {
   const std::pair<const char*, Mode> cases[] = {{"8 . 6\n3 5 7\n4 9 2", ModeNormal},
                                                 {"8 1 6\n3 5 7\n4 9 2", ModeVariable},
@@ -58,7 +58,7 @@ TEST_F(LayOutTest, TheModeStaysNormalForNormalPuzzles) {
   }
 }
 
-/// A gap is no number, whatever is done to the board.
+/// A gap is never a number, whatever is done to the board.
 TEST_F(LayOutTest, GapsStayGaps) {
   Lay("1 . 3\n4 5 6\n. 8 9");
   for (const Symmetry& symmetry : kSymmetries) {
@@ -74,7 +74,7 @@ TEST_F(LayOutTest, GapsStayGaps) {
   EXPECT_EQ(std::count(stored.Cells.begin(), stored.Cells.end(), std::nullopt), 2);
 }
 
-/// Every command on a given: turned with it, passed by, or refused in one sentence.
+/// Every command on a given: it is turned with the board, skipped, or refused in one sentence.
 TEST_F(LayOutTest, GivensStay) {
   StoredSquare square = std::get<StoredSquare>(ReadSquareText("8 1 6\n3 5 7\n4 9 1"));
   square.Givens = Square<bool>(3);

@@ -15,7 +15,7 @@ class SessionTest : public testing::Test {
     session_.Start();
   }
 
-  /// Runs a command as whoever shows the session does.
+  /// Runs a command in the same way as a window.
   template <class Command>
   auto Do(const std::string& name, Command command) {
     session_.BeginCommand();
@@ -49,7 +49,7 @@ class SessionTest : public testing::Test {
   Session session_{clock_};
 };
 
-/// From the empty window to the last number, a wrong one taken back on the way, without a window.
+/// From the empty window to the last number, with one wrong number undone, without a window.
 TEST_F(SessionTest, APuzzleIsMadeAndSolvedWithHints) {
   boxes_.SizeText = "4";
   EXPECT_EQ(session_.SquareToHide().WhyNot, "there is no full board");
@@ -90,7 +90,7 @@ TEST_F(SessionTest, APuzzleIsMadeAndSolvedWithHints) {
   EXPECT_EQ(dialogs_.Take(), Messages{});
 }
 
-TEST_F(SessionTest, SaysWhatFreshSquaresAreToBeLike) {
+TEST_F(SessionTest, ChoosesTheRulesOfFreshSquares) {
   struct Case {
     Mode mode;
     const char *size, *sum;
@@ -112,10 +112,10 @@ TEST_F(SessionTest, SaysWhatFreshSquaresAreToBeLike) {
   boxes_.SizeText = "51";
   EXPECT_FALSE(session_.WishForFreshSquares());
   EXPECT_FALSE(session_.PuzzleCode());
-  EXPECT_EQ(dialogs_.Take(),
-            (Messages{"grid size should be 50x50 or smaller",
-                      "there is a code for boards with gaps, of size 3 to 10, that keep their "
-                      "rules"}));
+  EXPECT_EQ(
+      dialogs_.Take(),
+      (Messages{"grid size should be 50x50 or smaller",
+                "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"}));
 }
 
 TEST_F(SessionTest, ForgetsWhoeverShowedIt) {

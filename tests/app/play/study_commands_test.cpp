@@ -49,7 +49,7 @@ TEST_F(StudyCommands, RefuseInOneSentence) {
   VaryBoard(context_);
   ComplementBoard(context_);
   BringToStandardForm(context_);
-  const std::string gap = "row 2, column 3 is empty: this works on full boards";
+  const std::string gap = "row 2, column 3 is empty: this needs a full board";
   EXPECT_EQ(dialogs_.Take(), (Messages{gap, gap, gap}));
   EXPECT_EQ(At(2, 3), "");
 
@@ -59,7 +59,7 @@ TEST_F(StudyCommands, RefuseInOneSentence) {
   Show("99999999999999 1 1 / 1 0.25 1 / 1 1 1");
   ComplementBoard(context_);
   EXPECT_EQ(dialogs_.Take(),
-            (Messages{"all relatives of this square look like it", "this is the standard form",
+            (Messages{"all squares of this family look like this one", "this is the standard form",
                       "the complement of 1 in row 1, column 2 has "
                       "more than 14 digits"}));
   EXPECT_EQ(At(1, 2), "1");

@@ -39,7 +39,7 @@ class UndoHistoryTest : public PlayTest {
   UndoHistory undo_;
 };
 
-TEST_F(UndoHistoryTest, TakesDigitsOfOneCellTogetherAndNothingElse) {
+TEST_F(UndoHistoryTest, GroupsOnlyTheDigitsOfOneCell) {
   Show("1 2 3 / 4 5 6 / 7 8 9");
   Run("Rotate 90d", [this] { Do("rot90x"); });
   Type("x");

@@ -87,7 +87,7 @@ TEST_F(AccessibilityTest, EveryCellIsFoundByIndexPlaceAndPoint) {
   EXPECT_FALSE(last->isValid());
 }
 
-TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
+TEST_F(AccessibilityTest, TheCurrentCellIsReadAloudWhereverTheKeysGo) {
   Make("SolveManual", "5", "25");
   QCoreApplication::processEvents();
   QSignalSpy told(&window_.View(), &GridView::CurrentCellShown);
@@ -101,7 +101,8 @@ TEST_F(AccessibilityTest, TheCurrentCellIsToldWhereverTheKeysGo) {
   }
 }
 
-/// Whatever takes the keyboard has a name; no two mnemonics are the same, the menus' among them.
+/// Everything that can have the keyboard has a name; no two mnemonics are the same, including those
+/// of menus.
 TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
   std::set<QString> mnemonics;
   const auto note = [&](const QString& key, const QString& text) {
@@ -112,7 +113,7 @@ TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
     note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
   for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
     if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      const bool bars = button->toolTip() == "Esc";  // whose bars have that key
+      const bool bars = button->toolTip() == "Esc";  // the bars use that key
       if (!bars) note(button->shortcut().toString(), button->text());
     } else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) {
       note(QKeySequence::mnemonic(label->text()).toString(), label->text());

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// No paper, and files in a folder that is not there.
+/// No printer, and files in a folder that does not exist.
 struct NoPages : PagePrinter {
   void Preview(QWidget*, const PaintedPages&) override {}
 };
@@ -33,7 +33,7 @@ class EveryActionTest : public WindowTest {
     return {found.begin(), found.end()};
   }
 
-  /// Presses whatever an assistive tool could press, hidden and disabled objects too.
+  /// Presses everything that an assistive tool could press, including hidden and disabled objects.
   void PressEverything() {
     for (const auto& object : All<QObject>()) {
       QAccessibleInterface* seen = object ? QAccessible::queryAccessibleInterface(object) : nullptr;
@@ -61,8 +61,7 @@ class EveryActionTest : public WindowTest {
   NoFiles files_;
 };
 
-/// Nothing that is pressed when nobody thought it could be ends the program, in any state of the
-/// window.
+/// No unexpected press ends the program, in any state of the window.
 TEST_F(EveryActionTest, EndsInTheWindow) {
   const std::pair<const char*, std::function<void()>> states[] = {
       {"no board", [] {}},
@@ -86,7 +85,7 @@ TEST_F(EveryActionTest, EndsInTheWindow) {
   ExpectSettled();
 }
 
-/// While a search lets events run.
+/// During a search, while it processes events.
 TEST_F(EveryActionTest, EndsASearchAtMost) {
   QString text;
   for (int row = 0; row < 10; ++row) {

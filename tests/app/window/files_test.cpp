@@ -19,7 +19,7 @@
 namespace numorra {
 namespace {
 
-/// Chooses the names that it is told.
+/// Returns the given file names.
 struct ScriptedFiles : FileChooser {
   QString ToOpen(QWidget*, const QString&, const QString&) override { return Name; }
   QString ToSave(QWidget*, const QString&, const QString&) override { return Name; }
@@ -127,21 +127,21 @@ TEST_F(FilesTest, WhatTheCompanionWritesOpensAndIsPasted) {
   }
 }
 
-TEST_F(FilesTest, WhatCannotBeReadIsToldAndChangesNothing) {
+TEST_F(FilesTest, UnreadableFilesAreReportedAndChangeNothing) {
   Make("SolveManual", "3", "15");
   const Position before = Now();
   const QString fifo = In("fifo");
   mkfifo(fifo.toUtf8().constData(), 0600);
   const std::pair<QString, QString> cases[] = {
       {In("none"), "File error: there is no file " + In("none")},
-      {fifo, "File error: " + fifo + " is no regular file"},
-      {"/dev/zero", "File error: /dev/zero is no regular file"},
-      {folder_.path(), "File error: " + folder_.path() + " is no regular file"},
+      {fifo, "File error: " + fifo + " is not a regular file"},
+      {"/dev/zero", "File error: /dev/zero is not a regular file"},
+      {folder_.path(), "File error: " + folder_.path() + " is not a regular file"},
       {Written("large", QByteArray((1 << 20) + 1, '1')),
        "File error: " + In("large") + " is too large to be a square"},
-      {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is no number"},
-      {Written("json", "{\n\n\"a\": [}"), "line 3, column 7: this is no valid JSON"},
-      {Written("mark", "\xEF\xBB\xBF{}"), "this JSON holds no square of Numorra"},
+      {Written("csv", "1,2,3\n4,5,x\n7,8,9"), "line 2: \"x\" is not a number"},
+      {Written("json", "{\n\n\"a\": [}"), "line 3, column 7: this is not valid JSON"},
+      {Written("mark", "\xEF\xBB\xBF{}"), "this JSON is not a Numorra square"},
       {Written("utf16", QByteArray("\xFF\xFE"
                                    "1\0\t\0"
                                    "2\0",
@@ -178,7 +178,7 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
 }
 
-/// What is no file, or another kind of file by its name, is not replaced.
+/// Something that is not a file, or has the name of another kind of file, is not replaced.
 TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   Make("SolveAuto", "3");
   const QString pipe = In("pipe.json"), circle = In("circle.json"), link = In("link.json");
@@ -186,9 +186,9 @@ TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   QFile::link(circle, circle);
   QFile::link(Written("linked.json", "old"), link);
   const std::pair<QString, std::string> cases[] = {
-      {pipe, " is no regular file"},
-      {circle, " is a link that leads to no file"},
-      {In("q.png"), " is a picture's name: Export Picture writes pictures"}};
+      {pipe, " is not a regular file"},
+      {circle, " is a link that does not lead to a file"},
+      {In("q.png"), " has a picture's suffix: use Export Picture to save pictures"}};
   for (const auto& [name, why] : cases) {
     Trigger("SaveAsx", name);
     EXPECT_EQ(dialogs_.Take(), Messages{"File error: " + name.toStdString() + why});
@@ -201,7 +201,7 @@ TEST_F(FilesTest, OnlyFilesOfTheKindAreWritten) {
   EXPECT_TRUE(Read("linked.json").startsWith("{")) << "through a link to a file";
 }
 
-/// Somebody else cuts the file short, takes it away and writes it again all the while.
+/// Another process truncates, removes and rewrites the file at the same time.
 TEST_F(FilesTest, AFileThatChangesWhileItIsReadIsReadWholeOrRefused) {
   const QString name = In("restless");
   std::atomic<bool> goesOn = true;

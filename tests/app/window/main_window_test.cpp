@@ -66,7 +66,7 @@ TEST_F(WindowTest, AutoRefusesSizesItCannotBuildAndKeepsTheBoard) {
   }
 }
 
-TEST_F(WindowTest, TheSumFollowsTheSizeInTheNormalModeAlone) {
+TEST_F(WindowTest, TheSumFollowsTheSizeOnlyInTheNormalMode) {
   Type("Text1", "4");
   EXPECT_EQ(SumBox(), "34");
   Click("Option4");
@@ -78,7 +78,8 @@ TEST_F(WindowTest, TheSumFollowsTheSizeInTheNormalModeAlone) {
   EXPECT_EQ(SumBox(), "65");
 }
 
-/// What the menu's items say is what they do and what is recorded; its symmetries are repeated.
+/// The texts of the menu's items match what they do and what is recorded; its symmetries are
+/// repeated.
 TEST_F(WindowTest, CommandsOfTheMenuAreRecordedAndRepeated) {
   const char* const items[] = {"Set2Max",     "set2Min",     "set2Ran",      "Set2allran",
                                "correctrowx", "correctcolx", "correctdiagx", "Set2Cellvaluex",
@@ -129,7 +130,7 @@ TEST_F(WindowTest, TheClipboardTakesAndGivesTheBoard) {
   EXPECT_EQ(Rows(), square);
 }
 
-/// A box left by Esc or by its frame is as good as "No", or as "OK" where there is no choice.
+/// Closing a box with Esc or its frame means "No", or "OK" if there is no choice.
 TEST(RealBoxes, SpeakUnderTheApplicationTitleAndMayBeLeft) {
   SystemClock clock;
   Session session(clock);
@@ -159,7 +160,7 @@ TEST(RealBoxes, SpeakUnderTheApplicationTitleAndMayBeLeft) {
 
 TEST_F(WindowTest, ControlsLieSideBySideInTheirFrames) {
   for (const auto* frame : window_.centralWidget()->findChildren<QGroupBox*>()) {
-    if (frame->objectName() == "Frame1") continue;  // whose board has bars over it
+    if (frame->objectName() == "Frame1") continue;  // its board has bars over it
     std::vector<QRect> taken;
     for (const auto* control : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       if (!control->isVisible()) continue;

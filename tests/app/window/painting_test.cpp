@@ -11,16 +11,16 @@
 namespace numorra {
 namespace {
 
-/// Looks at what is painted, at a few pixels of every cell in sight, whatever the font.
+/// Checks what is painted, at a few pixels of every visible cell, with any font.
 class PaintingTest : public WindowTest {
  protected:
-  /// The cell's own ground: beside its lower left corner, where neither text nor notch reaches.
+  /// The cell's ground: beside its lower left corner, where neither text nor notch reaches.
   QColor Ground(int row, int column) {
     const QRect cell = window_.View().CellRect(row, column);
     return image_.pixelColor(cell.left() + 3, cell.bottom() - 4);
   }
 
-  /// Whether something is written in the middle of the cell, in roughly its text's colour.
+  /// Whether something is written in the middle of the cell, in roughly its text colour.
   bool HasInk(int row, int column, const QColor& ink) {
     const QRect cell = window_.View().CellRect(row, column).adjusted(4, 6, -4, -6);
     const QColor ground = Ground(row, column);
@@ -42,7 +42,7 @@ class PaintingTest : public WindowTest {
            (column == 0 || cell.left() >= fixed);
   }
 
-  /// Judges every cell in sight; the number of cells that were.
+  /// Checks every visible cell and returns their number.
   int LookOver() {
     QCoreApplication::processEvents();
     image_ = window_.View().viewport()->grab().toImage();
@@ -127,7 +127,7 @@ TEST_F(PaintingTest, AScrolledBoardShowsItsOtherCells) {
   EXPECT_FALSE(InSight(1, 1));
 }
 
-/// Whatever little was painted anew: nothing of before is left standing.
+/// However little was repainted, nothing old remains.
 TEST_F(PaintingTest, EveryKeyLeavesAWholePicture) {
   for (const auto& [order, sum] : {std::pair{"3", "18"}, {"11", "671"}, {"50", "5000"}}) {
     Make("SolveManual", order, sum);
@@ -148,7 +148,7 @@ TEST_F(PaintingTest, EveryKeyLeavesAWholePicture) {
   }
 }
 
-/// A value cell that is shaded in the colour of wrong totals is none.
+/// A value cell shaded in the colour of wrong totals is not a wrong total.
 TEST_F(PaintingTest, ShadesAreNoVerdicts) {
   Make("SolveManual", "3", "15");
   Find<QScrollBar>("hsrRed").setValue(128);
@@ -177,8 +177,8 @@ TEST_F(PaintingTest, TheCurrentLinesTotalsAreFramed) {
   }
 }
 
-/// The value block has lines all around and between its cells, and nothing else has any before it
-/// is judged; wrong totals have a notch of a quarter of their side.
+/// The value block has lines all around and between its cells, and no other line until the board is
+/// checked; wrong totals have a notch of a quarter of their side.
 TEST_F(PaintingTest, LinesAndNotchesAreWhereTheyBelong) {
   Make("SolveAuto", "3");
   window_.View().SetZoom(2, {});
@@ -239,7 +239,7 @@ TEST_F(PaintingTest, NumbersStandInTheMiddleOfTheirCells) {
 }
 
 /// From outside to the middle, the same on all four sides and at every zoom: a ring of the
-/// highlight, a white line, the ground; at totals a frame within the ground.
+/// highlight, a white line, the ground; in totals a frame inside the ground.
 TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
   Make("SolveManual", "3", "15");
   for (const auto& [at, zoom] : {std::pair(2, 1.0), {2, 2.0}, {1, 3.0}, {1, 4.0}}) {

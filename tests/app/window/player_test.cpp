@@ -62,7 +62,7 @@ TEST_F(PlayerTest, TheMouseMarksSwapsAndOpensTheMenu) {
   EXPECT_EQ(Where(), (std::pair{3, 3}));
 }
 
-/// A square by Auto is made another one by keys alone, once F9 has made it alive.
+/// A square by Auto is changed by keys alone, once F9 has checked it.
 TEST_F(PlayerTest, AGeneratedSquareIsPlayedOn) {
   Make("SolveAuto", "3");
   auto& state = Find<QWidget>("BoardState");

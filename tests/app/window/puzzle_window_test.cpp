@@ -33,7 +33,7 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   const Messages noCode = {
-      "there is a code for boards with gaps, of size 3 to 10, that keep their rules"};
+      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"};
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
@@ -47,9 +47,8 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   ExpectSettled();
 }
 
-/// Auto builds one or two rows of their numbers: everything that can be done to them leaves a
-/// board.
-TEST_F(PuzzleWindowTest, BoardsThatAreTooSmallForAnythingComeToNoHarm) {
+/// Auto also builds one or two rows: nothing that can be done to them destroys the board.
+TEST_F(PuzzleWindowTest, TinyBoardsAreHandledSafely) {
   Trigger("Propertiesx");
   for (const char* size : {"1", "2"}) {
     for (const bool gap : {false, true}) {
@@ -72,7 +71,7 @@ TEST_F(PuzzleWindowTest, BoardsThatAreTooSmallForAnythingComeToNoHarm) {
   }
 }
 
-/// Order 10, a dozen numbers: the search takes its seconds, and Stop ends it at once.
+/// Order 10 with a dozen numbers: the search takes seconds, and Stop ends it at once.
 TEST_F(PuzzleWindowTest, StopEndsASearchAtOnce) {
   QString text;
   for (int row = 0; row < 10; ++row) {
@@ -91,7 +90,7 @@ TEST_F(PuzzleWindowTest, StopEndsASearchAtOnce) {
   ExpectSettled();
 }
 
-/// Keeps the pages that are shown, as pictures.
+/// Keeps the shown pages as pictures.
 struct KeepingPages : PagePrinter {
   void Preview(QWidget*, const PaintedPages& pages) override {
     for (int page = 0; page < pages.Count; ++page) {

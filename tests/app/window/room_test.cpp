@@ -5,7 +5,7 @@
 namespace numorra {
 namespace {
 
-/// Where the window lies and how large it is, whatever comes and goes in it.
+/// The window's place and size while panels and states come and go.
 class RoomTest : public WindowTest {
  protected:
   void Trigger(const char* action) {
@@ -23,7 +23,7 @@ class RoomTest : public WindowTest {
   }
 };
 
-TEST_F(RoomTest, PanelsGiveBackTheRoomTheyTookWhateverTheWindowWasMeanwhile) {
+TEST_F(RoomTest, PanelsReturnTheirRoomWhateverTheWindowStateMeanwhile) {
   window_.resize(500, 500);
   const QSize own = window_.size();
   Trigger("Propertiesx");
@@ -43,7 +43,7 @@ TEST_F(RoomTest, PanelsGiveBackTheRoomTheyTookWhateverTheWindowWasMeanwhile) {
   }
 }
 
-/// The desktop may still report older states while the player asks for new ones.
+/// The desktop may still report older states when the player asks for new ones.
 TEST_F(RoomTest, FullScreenEndsAsItBeganHoweverOftenItIsAskedFor) {
   auto& column = Find<QPushButton>("SolveAuto");
   auto& mark = Find<QAction>("FullScreenx");

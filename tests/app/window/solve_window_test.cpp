@@ -90,7 +90,7 @@ TEST_F(WindowTest, ABirthdayMakesASquareInTheVariableMode) {
   EXPECT_FALSE(window_.TheBoard().TotalsChecked) << "it waits for F9";
 }
 
-/// A window whose builds let events through at every yield.
+/// A window whose builds process events at every yield.
 class BusyWindowTest : public WindowTest {
  protected:
   BusyWindowTest() : WindowTest({.FrameMilliseconds = 0}) {
@@ -130,7 +130,7 @@ TEST_F(BusyWindowTest, ATransformOfTheOldBoardWinsToo) {
   EXPECT_EQ(Rows().size(), 30U);
 }
 
-TEST_F(BusyWindowTest, RefusedMemoryEndsTheBuildAlone) {
+TEST_F(BusyWindowTest, RefusedMemoryEndsOnlyTheBuild) {
   clock_.LooksUntilMemoryIsRefused = 0;
   Click("SolveAuto");
   EXPECT_EQ(dialogs_.Take().back(), "Out of memory");

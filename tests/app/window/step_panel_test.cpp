@@ -53,7 +53,7 @@ TEST_F(StepPanelTest, WalksTheSquareOnTheBoardByKeys) {
   ExpectSettled();
 }
 
-/// A step repaints what it changes and no more; what is seen is what a whole repaint would show.
+/// A step repaints only what it changes; the screen equals a full repaint.
 TEST_F(StepPanelTest, ShowsEveryStepWhole) {
   Toggle();
   for (const int example : {0, 1, 2}) {
@@ -103,9 +103,9 @@ TEST_F(StepPanelTest, PlaysExamplesAndEndsWithAChangeOfTheBoard) {
   EXPECT_TRUE(window_.View().isVisible());
 }
 
-/// Whatever shows the board, or a drawing of it, ends a walk that covers it; what only zooms acts
-/// on the walk.
-TEST_F(StepPanelTest, SomethingIsAlwaysInSight) {
+/// Everything that shows the board, or a drawing of it, ends a walk that covers it; zooming alone
+/// acts on the walk.
+TEST_F(StepPanelTest, SomethingIsAlwaysVisible) {
   const auto click = [this](const char* button) { return [this, button] { Click(button); }; };
   const auto trigger = [this](const char* item) {
     return [this, item] { Find<QAction>(item).trigger(); };

@@ -23,7 +23,7 @@ class StudyWindowTest : public WindowTest {
   }
 };
 
-/// Between an outlined cell and any other there is a line, and nowhere else.
+/// There is a line between an outlined cell and any other, and nowhere else.
 TEST_F(StudyWindowTest, EvidenceIsOutlinedOnBoardAndDrawing) {
   Open();
   const auto lines = [](const QImage& picture, QRect around) {
@@ -110,7 +110,7 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_EQ(window_.size(), before);
 }
 
-/// Values are read whole: a long one takes as many lines as it needs.
+/// Values are shown in full: a long one takes as many lines as it needs.
 TEST_F(StudyWindowTest, LongValuesAreWrapped) {
   Open();
   Trigger("Melencoliax");

@@ -13,7 +13,7 @@ class UndoTest : public WindowTest {
   Position Now() { return PositionOf(window_.TheBoard()); }
   QString Text(const char* action) { return Find<QAction>(action).text().remove('&'); }
 
-  /// Does it, takes it back, does it again; the board is each time as it was.
+  /// Runs an action, undoes it and redoes it; the board is right each time.
   void ExpectStep(const std::string& name, const std::function<void()>& result) {
     SCOPED_TRACE(name);
     const Position before = Now();
@@ -33,7 +33,7 @@ class UndoTest : public WindowTest {
   }
 };
 
-TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgain) {
+TEST_F(UndoTest, EveryCommandIsUndoneAndRedone) {
   EXPECT_FALSE(Find<QAction>("UndoMovex").isEnabled() || Find<QAction>("RedoMovex").isEnabled());
   ExpectStep("Auto", [this] { Make("SolveAuto", "4"); });
   ExpectStep("Manual", [this] { Make("SolveManual", "5", "80"); });

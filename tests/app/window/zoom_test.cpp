@@ -72,7 +72,7 @@ TEST_F(ZoomTest, FittingShowsTheWholeBoardAtEverySize) {
   EXPECT_FALSE(Find<QAction>("FitBoardx").isChecked()) << "a manual zoom leaves it";
 }
 
-/// The current cell stays where it is seen, and what fits is not scrolled.
+/// The current cell stays in its place on the screen, and a board that fits is not scrolled.
 TEST_F(ZoomTest, ZoomsAboutTheCurrentCell) {
   const auto inSight = [this] {
     const QRect cell = window_.View().CellRect(TheGrid().CurrentRow(), TheGrid().CurrentColumn());
@@ -95,7 +95,7 @@ TEST_F(ZoomTest, ZoomsAboutTheCurrentCell) {
   EXPECT_EQ(window_.View().Scrolled(), QPoint());
 }
 
-/// Exactly so large that it fits without bars, and not with them.
+/// Exactly large enough to fit without bars, and not with them.
 TEST_F(ZoomTest, WhatFitsHasNoBars) {
   Make("SolveManual", "11", "671");
   auto& view = window_.View();
@@ -112,7 +112,7 @@ TEST_F(ZoomTest, WhatFitsHasNoBars) {
   EXPECT_FALSE(Scrolls()) << "coming from a smaller one";
 }
 
-/// What speaks takes room of its own, and a fitted board follows.
+/// Bars take their own space, and a fitted board follows.
 TEST_F(ZoomTest, ARemarkCoversNothing) {
   window_.resize(900, 500);
   Make("SolveAuto", "5");
@@ -128,7 +128,7 @@ TEST_F(ZoomTest, ARemarkCoversNothing) {
   EXPECT_EQ(Side(), side);
 }
 
-TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
+TEST_F(ZoomTest, FullScreenShowsTheBoardAndRestoresEverything) {
   Make("SolveManual", "5", "70");
   Trigger("ZoomInx");
   const int side = Side();
@@ -143,7 +143,7 @@ TEST_F(ZoomTest, FullScreenShowsTheBoardAndGivesEverythingBack) {
   EXPECT_FALSE(window_.View().Fitting() || Find<QAction>("FullScreenx").isChecked());
 }
 
-TEST_F(ZoomTest, EscapeTakesWhatCameLastAway) {
+TEST_F(ZoomTest, EscapeEndsTheMostRecent) {
   Make("SolveAuto", "4");
   Trigger("FullScreenx");
   Trigger("Hintx");
@@ -156,8 +156,8 @@ TEST_F(ZoomTest, EscapeTakesWhatCameLastAway) {
   EXPECT_FALSE(Find<QAction>("FullScreenx").isChecked());
 }
 
-/// The desktop, or another command, may end the full screen too.
-TEST_F(ZoomTest, FullScreenThatEndsByItselfGivesEverythingBack) {
+/// The desktop, or another command, may also end full screen.
+TEST_F(ZoomTest, FullScreenThatEndsByItselfRestoresEverything) {
   Make("SolveAuto", "50");
   window_.View().ScrollTo({120, 90});
   Trigger("FullScreenx");

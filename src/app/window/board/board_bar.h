@@ -6,8 +6,8 @@
 
 namespace numorra {
 
-/// A line of text with a button, in a place of its own below the board. Esc presses its button, and
-/// screen readers read it.
+/// A line of text with a button, below the board. Esc presses the button, and screen readers read
+/// the text.
 class BoardBar : public QFrame {
   Q_OBJECT
 

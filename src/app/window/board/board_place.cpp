@@ -25,7 +25,7 @@ BoardPlace::BoardPlace(Board& board)
   setObjectName("Frame1");
   View->setAccessibleName("Board");
   auto* column = new QVBoxLayout(this);
-  // The board's distance is to the frame's own edge, which the style has moved inwards.
+  // The board's margin is measured from the frame's own edge, which the style has moved inwards.
   const int margin = PixelsOf(kMargin);
   const QMargins edge = contentsMargins();
   column->setContentsMargins(margin - edge.left(), margin, margin - edge.right(),
@@ -61,7 +61,7 @@ void BoardPlace::ShowRemark(const Remark& remark) {
   if (!text.isEmpty()) text[0] = text[0].toUpper();
   RemarkBar->ShowText(text + ".");
   if (remark.Where.size() != 1) return;
-  layout()->activate();  // the bar takes its room first
+  layout()->activate();  // lay out the bar first
   View->BringIntoView(remark.Where.front().Row, remark.Where.front().Column);
 }
 

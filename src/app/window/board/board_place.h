@@ -12,8 +12,8 @@
 
 namespace numorra {
 
-/// The frame "Solution" (`Frame1`): the board, or what stands in its place, a drawing of it or a
-/// walk through a construction; below it what is said of the board.
+/// The frame "Solution" (`Frame1`): the board, or in its place a drawing of it or a walk through a
+/// construction; below it remarks about the board.
 class BoardPlace : public QGroupBox {
   Q_OBJECT
 
@@ -29,48 +29,48 @@ class BoardPlace : public QGroupBox {
   BoardBar* const SearchBar;
   BoardBar* const RemarkBar;
 
-  /// Puts the board in sight, or the drawing that covers it.
+  /// Shows the board, or the drawing that covers it.
   void ShowBoard();
 
-  /// Puts a walk in sight; the board behind it stays.
+  /// Shows a walk; the board behind it stays.
   void ShowWalk();
   bool Walking() const { return stack_->currentWidget() == Walk; }
   void EndWalk() {
     if (Walking()) ShowBoard();
   }
 
-  /// The cells that can be zoomed: those of the walk, or of the board.
+  /// The cells that zoom applies to: those of the walk, or of the board.
   GridView& Cells() const { return Walking() ? *Walk : *View; }
 
-  /// What is said of the board stays until the board changes; its cells are pointed at.
+  /// Shows a remark until the board changes, and outlines its cells.
   void ShowRemark(const Remark& remark);
   void ForgetRemark();
 
-  /// Points at cells of the board that nothing is said of; a remark that the running command has
-  /// made goes first.
+  /// Outlines cells without a remark and removes an older remark; a remark of the running command
+  /// takes precedence.
   void PointAt(const std::vector<Place>& cells);
 
-  /// Points at nothing any more that nothing is said of.
+  /// Removes outlines that belong to no remark.
   void PointAtNothing();
 
-  /// Shows how far a search is, in the place of an older remark.
+  /// Shows the progress of a search, replacing an older remark.
   void ShowSearch(const QString& text);
 
-  /// After a command: a remark that is older goes where the board has changed.
+  /// After a command: removes an older remark if the board has changed.
   void EndCommand(bool changedTheBoard);
 
-  /// Takes away the bar in sight, as Esc does; false where there is none.
+  /// Removes the visible bar, as Esc does; false if there is none.
   bool DismissBar();
 
  Q_SIGNALS:
-  /// Something else is in sight.
+  /// Emitted when the place shows something else.
   void SightChanged();
 
  private:
   void ShowWidget(QWidget* widget);
 
   QStackedLayout* stack_;
-  bool remarkIsNew_ = false;  ///< the running command has made it
+  bool remarkIsNew_ = false;  ///< the running command made it
 };
 
 }  // namespace numorra

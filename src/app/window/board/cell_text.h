@@ -12,11 +12,12 @@
 
 namespace numorra {
 
-/// Draws the texts of cells so that they fit. A text that is too wide is first drawn in a narrowed
-/// font, then in ever smaller ones down to `kSmallestPixels`; what still does not fit is cut. What
-/// is cut or smaller than `kSmallestReadable` is not Readable(), so that it can be shown elsewhere.
+/// Draws the texts of cells so that they fit. A text that is too wide is first drawn in a condensed
+/// font, then in smaller sizes down to `kSmallestPixels`; if it still does not fit, it is cut.
+/// Texts that are cut or smaller than `kSmallestReadable` are not Readable(), so that they can be
+/// shown elsewhere.
 ///
-/// Laid-out texts are kept, as a board of 2,500 numbers is painted again and again.
+/// Laid-out texts are cached, because a board of 2,500 numbers is painted again and again.
 class CellText {
  public:
   static constexpr int kSmallestPixels = 6;
@@ -25,7 +26,7 @@ class CellText {
   /// `side`: the side of a cell in pixels.
   CellText(const QFont& font, int side);
 
-  /// Draws `text` centred in `cell` with the painter's pen; the painter's font becomes the text's.
+  /// Draws `text` centred in `cell` with the painter's pen; sets the painter's font to the text's.
   void Draw(QPainter& painter, const QRect& cell, const std::string& text);
 
   bool Readable(const std::string& text);
@@ -38,8 +39,8 @@ class CellText {
     bool Fits;
   };
 
-  /// A font with the widths of the characters that have been asked for: numbers are measured by the
-  /// thousand, and their digits stand side by side as they are.
+  /// A font with the cached widths of its characters: numbers are measured by the thousand, and
+  /// their digits have no kerning.
   class Measured {
    public:
     explicit Measured(const QFont& font);
@@ -55,8 +56,8 @@ class CellText {
 
   const Prepared& Prepare(const std::string& text);
 
-  std::vector<Measured> fonts_;  ///< from the one wished for to the smallest
-  qreal room_;                   ///< the widest a text may be, in pixels
+  std::vector<Measured> fonts_;  ///< from the preferred one to the smallest
+  qreal room_;                   ///< largest width of a text, in pixels
   std::unordered_map<std::string, Prepared> prepared_;
 };
 

@@ -9,7 +9,8 @@
 namespace numorra {
 namespace {
 
-/// What the frame cell (row, column) of an n x n board is the total of; empty for the others.
+/// The line whose total is in the frame cell (row, column) of an n x n board; empty for other
+/// cells.
 QString LineName(int row, int column, int last) {
   if (row == 0 && column == 0) return "main diagonal";
   if ((row == 0 && column == last) || (row == last && column == 0)) return "other diagonal";
@@ -18,7 +19,7 @@ QString LineName(int row, int column, int last) {
   return {};
 }
 
-/// One cell. It belongs to its table, which makes it when it is first asked for.
+/// One cell. Its table owns it and creates it on request.
 class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellInterface {
  public:
   CellAccessible(GridView& view, int row, int column) : view_(view), row_(row), column_(column) {}
@@ -90,7 +91,7 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
  private:
   const Grid& Cells() const { return view_.Cells(); }
 
-  /// A total, and whether it is right where that was judged.
+  /// A total, and whether it is right if it was judged.
   QString Total(int row, int column) const {
     const Verdict verdict = Cells().VerdictOf(row, column);
     const QString judgement = verdict == Verdict::Right   ? ", right"
@@ -150,7 +151,7 @@ class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterfac
         static_cast<std::size_t>(row) * kMostLines + static_cast<std::size_t>(column);
     if (cells_.size() <= index) cells_.resize(index + 1);
     if (cells_[index] == 0) {
-      // The toolkit owns what is registered with it, until it is deleted by its number.
+      // The toolkit owns what is registered with it until it is deleted by its id.
       auto* cell = new CellAccessible(view_, row, column);
       // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
       cells_[index] = QAccessible::registerAccessibleInterface(cell);

@@ -4,13 +4,13 @@
 
 namespace numorra {
 
-/// Lets screen readers read every GridView as a table: each cell's name says where it is and what
-/// it holds, "row 2, column 3, value 17" or "empty", and whether it is given, a total's also
-/// whether it is right; a cell's description tells the totals of its row and column. Call it before
-/// the first window is made.
+/// Lets screen readers read every GridView as a table. A cell's name says where it is and what it
+/// holds, "row 2, column 3, value 17" or "empty", and whether it is given; a total's name also says
+/// whether it is right. A cell's description gives the totals of its row and column. Call this
+/// before the first window is created.
 void InstallGridAccessibility();
 
-/// Has the current cell read aloud: as the one the keyboard has come to, or for its new text.
+/// Makes screen readers read the current cell, because it has the focus or a new text.
 void ReadCurrentCell(GridView& view, bool another);
 
 }  // namespace numorra

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kLowestDpi = 24;  // below it a cell would be no more than a dot
+constexpr int kLowestDpi = 24;  // below it a cell would be a mere dot
 
 QFont Heavier(QFont font) {
   font.setWeight(QFont::Black);
@@ -39,7 +39,7 @@ void GridPainter::SetZoom(double zoom) {
 }
 
 double GridPainter::ZoomThatFits(int lines, int pixels) const {
-  constexpr double kRoundedDown = 0.49;  // what rounding takes from the last edge
+  constexpr double kRoundedDown = 0.49;  // how much rounding may take from the last edge
   constexpr double kTwipsPerInch = 1440;
   return (pixels + kRoundedDown) * kTwipsPerInch / (lines * Grid::kCellTwips * dpi_);
 }
@@ -73,7 +73,7 @@ bool GridPainter::Readable(const Grid::Cell& cell) {
   return TextsFor(cell).Readable(cell.Text);
 }
 
-/// The four blocks that scroll differently.
+/// The four blocks of cells that scroll differently.
 void GridPainter::PaintCells(QPainter& painter, const Look& look, QSize size, const QRect& dirty) {
   constexpr int kFixed = Grid::kFixedLines;
   const int fixed = Edge(kFixed);
@@ -91,7 +91,7 @@ void GridPainter::PaintCells(QPainter& painter, const Look& look, QSize size, co
   paint({0, 0, fixed, fixed}, {0, kFixed, 0, kFixed});
 }
 
-/// The cells of one of them, as far as they lie in `area`.
+/// Paints the cells of one block that lie in `area`.
 void GridPainter::PaintBlock(QPainter& painter, const Look& look, const QRect& area,
                              const Block& block) {
   painter.setClipRect(area);
@@ -133,8 +133,7 @@ QColor GridPainter::TextColour(const Look& look, const Grid::Cell& cell) {
                                       : ToQColor(cell.Foreground());
 }
 
-/// A notch in the corner of a wrong total, for eyes that do not tell its colour from the right
-/// ones'.
+/// A notch in the corner of a wrong total, for players who cannot distinguish the two colours.
 void GridPainter::PaintWrongMark(QPainter& painter, const QRect& cell) {
   const int side = cell.width() / 4;
   const QPoint corner = cell.topRight();
@@ -143,7 +142,7 @@ void GridPainter::PaintWrongMark(QPainter& painter, const QRect& cell) {
   painter.drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner + QPoint(0, side)}));
 }
 
-/// The block's upper and left edge run along the cells of the fixed lines.
+/// The block's upper and left edges follow the cells of the fixed lines.
 void GridPainter::PaintBlockEdge(QPainter& painter, const Look& look, const QRect& cell, int row,
                                  int column) {
   painter.setPen(look.Palette.color(QPalette::Mid));

@@ -10,9 +10,9 @@
 
 namespace numorra {
 
-/// Knows where the cells of a Grid lie and paints them. Edges lie on whole pixels, at
-/// round(line x 400 twips x zoom), so cells may differ by one; the fixed row and column stay in
-/// place when the rest is scrolled. Texts grow with their cells.
+/// Computes where the cells of a Grid are and paints them. Edges lie on whole pixels, at round(line
+/// x 400 twips x zoom), so cell sizes may differ by one; the fixed row and column do not scroll.
+/// Texts grow with their cells.
 class GridPainter {
  public:
   /// `dpi`: the logical resolution.
@@ -20,38 +20,38 @@ class GridPainter {
 
   void SetFont(const QFont& font);
 
-  /// How much larger than 400 twips cells are; at least so large that each is a pixel.
+  /// The factor by which cells are larger than 400 twips; cells are always at least one pixel.
   void SetZoom(double zoom);
   double Zoom() const { return zoom_; }
 
-  /// The largest zoom at which so many lines end within `pixels`.
+  /// The largest zoom at which that many lines fit in `pixels`.
   double ZoomThatFits(int lines, int pixels) const;
 
-  /// The pixel at which a line begins, unscrolled.
+  /// The pixel at which a line begins, without scrolling.
   int Edge(int line) const;
 
-  /// The line of `lines` that is drawn at a pixel when the table is scrolled; -1 beyond the last.
+  /// The line, of `lines`, that is drawn at a pixel of the scrolled table; -1 beyond the last.
   int LineAt(int position, int scrolled, int lines) const;
 
-  /// Where the cell (row, column) is drawn in the scrolled table.
+  /// The rectangle of the cell (row, column) in the scrolled table.
   QRect CellRect(int row, int column, QPoint scrolled) const;
 
-  /// Whether the cell's text is drawn whole and large enough to be read.
+  /// Whether the cell's text is drawn uncut and large enough to read.
   bool Readable(const Grid::Cell& cell);
 
-  /// How a table is painted: how far it is scrolled, and in which colours where cells have none.
+  /// How a table is painted: its scroll position, and the palette for cells without colours.
   struct Look {
     QPoint Scrolled;
     QPalette Palette;
   };
 
-  /// Paints the cells in a viewport of `size`, as far as they lie in `dirty`.
+  /// Paints the cells within `dirty` in a viewport of `size`.
   void PaintCells(QPainter& painter, const Look& look, QSize size, const QRect& dirty);
 
-  /// Paints a cell's text over what is there.
+  /// Paints a cell's text over what is already there.
   void PaintText(QPainter& painter, const Look& look, const QRect& place, const Grid::Cell& cell);
 
-  /// The colour of a cell's text: on the window's background, that of the window's.
+  /// The colour of a cell's text; on the window's background, the window's text colour.
   static QColor TextColour(const Look& look, const Grid::Cell& cell);
 
  private:
@@ -67,9 +67,9 @@ class GridPainter {
   QFont font_;
   int dpi_;
   double zoom_ = 1;
-  mutable std::vector<int> edges_;  ///< by line, as far as they have been asked for
+  mutable std::vector<int> edges_;  ///< by line, computed on demand
   CellText texts_;
-  CellText givens_;  ///< heavier, for given numbers
+  CellText givens_;  ///< in bold, for given numbers
 };
 
 }  // namespace numorra

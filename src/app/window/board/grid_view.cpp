@@ -7,22 +7,13 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
-
-#include "toolkit/colours.h"
-#include "visual/outline.h"
 
 namespace numorra {
 namespace {
 
-constexpr int kGuideAlpha = 36;  // of 255
 constexpr double kLargestZoom = 8;
-
-QRect Inside(const QRect& frame, int width) {
-  return frame.adjusted(width, width, -width, -width);
-}
 
 MarkedLine LineMarkedWith(Qt::KeyboardModifiers modifiers) {
   if (modifiers.testFlag(Qt::ShiftModifier)) return MarkedLine::Row;
@@ -102,7 +93,7 @@ void GridView::SetFitting(bool fitting) {
   viewport()->update();
 }
 
-/// The largest zoom at which the last line still ends inside the view.
+/// Sets the largest zoom at which the last line still fits in the view.
 void GridView::Fit() {
   const int lines = std::max(grid_.Rows(), grid_.Columns());
   if (lines == 0) return;
@@ -116,7 +107,7 @@ void GridView::BringIntoView(int row, int column) {
   const auto bring = [this](QScrollBar* bar, int line, int length) {
     const int fixed = painter_.Edge(Grid::kFixedLines);
     if (line < Grid::kFixedLines) return;
-    const int last = painter_.Edge(line + 1) - length;  // above `first` where no cell fits in
+    const int last = painter_.Edge(line + 1) - length;  // above `first` if no cell fits
     const int first = painter_.Edge(line) - fixed;
     bar->setValue(std::min(std::max(bar->value(), last), first));
   };
@@ -143,65 +134,6 @@ bool GridView::viewportEvent(QEvent* event) {
   return QAbstractScrollArea::viewportEvent(event);
 }
 
-void GridView::paintEvent(QPaintEvent* event) {
-  grid_.TakeRepaint();
-  UpdateScrollBars();
-  QPainter painter(viewport());
-  if (!grid_.Visible()) return PaintInvitation(painter);
-  constexpr int kMostParts = 40;  // of which the painting costs less than that of all together
-  const QRegion& dirty = event->region();
-  if (dirty.rectCount() > kMostParts) {
-    painter_.PaintCells(painter, Look(), viewport()->size(), event->rect());
-  } else {
-    for (const QRect& part : dirty)
-      painter_.PaintCells(painter, Look(), viewport()->size(), part);
-  }
-  if (CurrentInBlock()) {
-    PaintGuides(painter);
-    PaintCurrentCell(painter);
-    TellCurrentCell();
-  }
-  PaintOutlined(painter);
-}
-
-/// An empty view says what fills it.
-void GridView::PaintInvitation(QPainter& painter) {
-  painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                   "Auto builds a magic square.\nManual lays out a board for you to solve.\n"
-                   "F1 explains everything.");
-}
-
-/// What is told is what is painted, so once a repaint at most.
-void GridView::TellCurrentCell() {
-  if (!hasFocus()) return;
-  const ShownCell now{grid_.CurrentRow(), grid_.CurrentColumn(),
-                      grid_.Text(grid_.CurrentRow(), grid_.CurrentColumn())};
-  const bool another = !told_ || told_->Row != now.Row || told_->Column != now.Column;
-  if (!another && told_->Text == now.Text) return;
-  told_ = now;
-  Q_EMIT CurrentCellShown(another);
-}
-
-QImage GridView::Picture() const {
-  QImage picture(PictureSize(), QImage::Format_RGB32);
-  picture.fill(palette().color(QPalette::Window));
-  QPainter painter(&picture);
-  PaintPicture(painter, palette());
-  return picture;
-}
-
-QSize GridView::PictureSize() const {
-  const GridPainter plain(grid_, font(), logicalDpiX());
-  return {plain.Edge(grid_.Columns()), plain.Edge(grid_.Rows())};
-}
-
-void GridView::PaintPicture(QPainter& painter, const QPalette& palette) const {
-  GridPainter plain(grid_, font(), logicalDpiX());
-  const QSize size = PictureSize();
-  plain.PaintCells(painter, {QPoint(), palette}, size, QRect(QPoint(), size));
-}
-
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (const auto cell = CellAt(event->position().toPoint())) {
     Q_EMIT CellPressed(cell->y(), cell->x(), event->button(), event->globalPosition().toPoint());
@@ -212,7 +144,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers();
   const bool command =
       modifiers.testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  // Keyboards without a keypad step with Alt, and those without a menu key have Shift+F10.
+  // Alt steps on keyboards without a keypad; Shift+F10 serves those without a menu key.
   const bool steps = modifiers.testFlag(Qt::KeypadModifier);
   const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
   const bool menu = event->key() == Qt::Key_F10 && modifiers.testFlag(Qt::ShiftModifier);
@@ -240,7 +172,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// Whether the key is one that moves the current cell.
+/// Whether the key moves the current cell.
 bool GridView::Navigate(int key, bool toTheVeryEnd) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
@@ -322,7 +254,7 @@ void GridView::UpdateScrollBars() {
   if (fitting_) Fit();
   const QSize table(painter_.Edge(shape.width()), painter_.Edge(shape.height()));
   const QSize whole = maximumViewportSize();
-  // What fits needs no bars, even where each of them is only in the other's way.
+  // A table that fits needs no scroll bars, even if each bar alone makes the other one necessary.
   const bool fits = table.boundedTo(whole) == table;
   const QSize room = fits ? whole : viewport()->size();
   const auto set = [this](QScrollBar* bar, int length, int seen) {
@@ -332,76 +264,6 @@ void GridView::UpdateScrollBars() {
   };
   set(horizontalScrollBar(), table.width(), room.width());
   set(verticalScrollBar(), table.height(), room.height());
-}
-
-bool GridView::CurrentInBlock() const {
-  const auto inside = [](int line, int lines) {
-    return line >= Grid::kFixedLines && line < lines - 1;
-  };
-  return inside(grid_.CurrentRow(), grid_.Rows()) && inside(grid_.CurrentColumn(), grid_.Columns());
-}
-
-/// Leads the eye along the current row and column to their totals: plain cells are tinted, totals
-/// that are there get a frame in the colour of their text. Shaded cells show their shade and
-/// nothing else.
-void GridView::PaintGuides(QPainter& painter) {
-  const int row = grid_.CurrentRow();
-  const int column = grid_.CurrentColumn();
-  QColor tint = palette().color(QPalette::Highlight);
-  tint.setAlpha(kGuideAlpha);
-  const QRect scrolling = viewport()->rect().adjusted(painter_.Edge(Grid::kFixedLines),
-                                                      painter_.Edge(Grid::kFixedLines), 0, 0);
-  painter.setClipRect(scrolling);
-  const auto tintCell = [&](int r, int c) {
-    const QRect cell = CellRect(r, c);
-    if (!grid_.Shaded(r, c) && cell.intersects(scrolling)) {
-      painter.fillRect(cell.adjusted(0, 0, -1, -1), tint);
-    }
-  };
-  for (int line = 1; line < grid_.Rows() - 1; ++line) {
-    if (line != column) tintCell(row, line);
-    if (line != row) tintCell(line, column);
-  }
-  const auto frameTotal = [&](int r, int c) {
-    if (grid_.Text(r, c).empty()) return;
-    const int width = std::max(1, painter_.Edge(1) / 24);
-    const QRect frame = CellRect(r, c).adjusted(1, 1, -2, -2);
-    const QColor colour = GridPainter::TextColour(Look(), grid_.At(r, c));
-    for (const QRect& side : QRegion(frame) - Inside(frame, width))
-      painter.fillRect(side, colour);
-  };
-  painter.setClipRect(QRect(0, scrolling.top(), scrolling.left(), scrolling.height()));
-  frameTotal(row, 0);
-  painter.setClipRect(QRect(scrolling.left(), 0, scrolling.width(), scrolling.top()));
-  frameTotal(0, column);
-}
-
-/// What scrolls, and the line before it, on which frames may lie.
-void GridView::ClipToScrollingCells(QPainter& painter) const {
-  const int fixed = painter_.Edge(Grid::kFixedLines) - 1;
-  painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
-}
-
-void GridView::PaintOutlined(QPainter& painter) {
-  ClipToScrollingCells(painter);
-  PaintOutline(painter, grid_.Outlined(), [this](Place place) {
-    return QRectF(CellRect(place.Row, place.Column).adjusted(0, 0, -1, -1));
-  });
-}
-
-/// The current cell anew, in a ring of the theme's highlight with a light one inside, to be seen on
-/// every colour. The number lies over the rings, so that long ones stay readable.
-void GridView::PaintCurrentCell(QPainter& painter) {
-  const int row = grid_.CurrentRow();
-  const int column = grid_.CurrentColumn();
-  ClipToScrollingCells(painter);
-  const QRect cell = CellRect(row, column);
-  const QRect withItsLines = cell.adjusted(-1, -1, 0, 0);
-  const int ring = std::max(2, painter_.Edge(1) / 16);
-  painter.fillRect(withItsLines, palette().color(QPalette::Highlight));
-  painter.fillRect(Inside(withItsLines, ring), Qt::white);
-  painter.fillRect(Inside(withItsLines, ring + 1), ToQColor(grid_.Background(row, column)));
-  painter_.PaintText(painter, Look(), cell, grid_.At(row, column));
 }
 
 }  // namespace numorra

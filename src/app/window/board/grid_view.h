@@ -11,7 +11,7 @@
 
 namespace numorra {
 
-/// Shows a Grid, scrolled where it is too large, and reports mouse and keys; it decides nothing.
+/// Shows a Grid, scrolled if it is too large, and reports mouse and keys; it makes no decisions.
 class GridView : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -20,39 +20,39 @@ class GridView : public QAbstractScrollArea {
 
   const Grid& Cells() const { return grid_; }
 
-  /// The cell that is drawn at a point of the viewport, scrolled or not; none beside the table.
+  /// The cell at a point of the viewport, scrolled or not; none beside the table.
   std::optional<QPoint> CellAt(QPoint point) const;
 
-  /// Where the cell (row, column) is drawn in the viewport, whether in sight or not.
+  /// The rectangle of the cell (row, column) in the viewport, visible or not.
   QRect CellRect(int row, int column) const;
 
-  /// The middle of the current cell on the screen: where the keyboard opens a menu.
+  /// The middle of the current cell on the screen, where the keyboard opens a menu.
   QPoint CurrentCellPosition() const;
 
-  /// How much larger than at 100 % cells are drawn; what is drawn at `fixed` stays there. Leaves
-  /// the fitting.
+  /// Sets the zoom, relative to 100 %; the point `fixed` keeps its place on the board. Ends
+  /// fitting.
   void SetZoom(double zoom, QPoint fixed);
 
-  /// The same about the current cell where that is in sight, which then stays so, or else about the
-  /// middle of the view.
+  /// The same, keeping the current cell in place if it is visible, otherwise the middle of the
+  /// view.
   void SetZoom(double zoom);
   double Zoom() const { return painter_.Zoom(); }
 
-  /// Draws the whole board as large as the view lets it be, whatever size the view takes on.
+  /// Makes the whole board as large as fits the view, and follows the view's size.
   void SetFitting(bool fitting);
   bool Fitting() const { return fitting_; }
 
-  /// How far the table is scrolled, in pixels.
+  /// The scroll position, in pixels.
   QPoint Scrolled() const;
   void ScrollTo(QPoint scrolled);
 
-  /// Scrolls until the cell is in sight.
+  /// Scrolls until the cell is visible.
   void BringIntoView(int row, int column);
 
-  /// The whole table at 100 %, in sight or not, without the current cell's marks.
+  /// Paints the whole table at 100 %, visible or not, without the marks of the current cell.
   QImage Picture() const;
 
-  /// The same on any painter, in other colours of the window's, and how large it is.
+  /// Paints the same with any painter and palette; and the size of the result.
   void PaintPicture(QPainter& painter, const QPalette& palette) const;
   QSize PictureSize() const;
 
@@ -61,27 +61,27 @@ class GridView : public QAbstractScrollArea {
  Q_SIGNALS:
   void CellPressed(int row, int column, Qt::MouseButton button, QPoint globalPosition);
 
-  /// A key asks for another current cell: the neighbour, which may lie in the frame, the end of the
-  /// line, or a page on.
+  /// A key moves the current cell: to a neighbour, which may lie in the frame, to the end of the
+  /// line, or by a page.
   void CellWanted(int row, int column);
 
-  /// A character was typed, Backspace (8) and Enter (13) among them.
+  /// A character was typed, also Backspace (8) or Enter (13).
   void CharacterTyped(char32_t character);
 
   /// The keypad's plus (1) or minus (-1), or Alt with an arrow up or down.
   void KeypadPressed(int sign);
 
-  /// The wheel was turned with Ctrl at a point of the view: larger (1) or smaller (-1).
+  /// The wheel was turned with Ctrl at a point of the view: zoom in (1) or out (-1).
   void ZoomWanted(int steps, QPoint at);
 
   /// Space marks the current cell, with Shift its row, with Ctrl its column.
   void MarkWanted(MarkedLine line);
 
-  /// The keyboard asks for the context menu.
+  /// The keyboard requests the context menu.
   void MenuWanted();
 
-  /// The cell that has the keyboard has come into sight: another one than before, or with another
-  /// text.
+  /// The current cell has been painted while the view has the keyboard, at another place or with
+  /// another text.
   void CurrentCellShown(bool another);
 
  protected:
@@ -117,9 +117,9 @@ class GridView : public QAbstractScrollArea {
   Grid& grid_;
   GridPainter painter_;
   bool fitting_ = false;
-  int turned_ = 0;  ///< of the wheel with Ctrl, since the last step, in eighths of a degree
+  int turned_ = 0;  ///< turn of the wheel with Ctrl since the last step, in eighths of a degree
   std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
-  std::optional<ShownCell> told_;  ///< the current cell as it was last told of
+  std::optional<ShownCell> told_;  ///< the current cell as last reported
 };
 
 }  // namespace numorra

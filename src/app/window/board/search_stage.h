@@ -6,9 +6,9 @@
 
 namespace numorra {
 
-/// The window as the stage of a search: a bar below the board says how long it has been at it. It
-/// comes with the first yield that lets events run and goes with the search. Stopping is a command
-/// that takes the search's place.
+/// The window as the stage of a search: a bar below the board shows how long it has been running.
+/// The bar appears at the first yield that processes events and disappears with the search.
+/// Stopping is a command that supersedes the search.
 class SearchStage : public WorkStage {
  public:
   SearchStage(BoardPlace& place, CommandRunner& runner) : place_(place), runner_(runner) {}

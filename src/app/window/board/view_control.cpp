@@ -37,7 +37,7 @@ void ViewControl::ToggleFitting() {
   ShowMarks();
 }
 
-/// No other state is touched, so that the desktop remembers what the window was before.
+/// Changes no other state, so that the desktop remembers the window's previous one.
 void ViewControl::ToggleFullScreen() {
   window_->setWindowState(window_->windowState() ^ Qt::WindowFullScreen);
 }

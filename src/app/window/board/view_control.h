@@ -10,28 +10,29 @@
 
 namespace numorra {
 
-/// How large the board is shown: zoom, fitting, full screen. It keeps the check marks of the menu.
+/// Controls how the board is shown: zoom, fitting, full screen. Updates the check marks of the
+/// menu.
 class ViewControl : public QObject {
   Q_OBJECT
 
  public:
-  /// `beside`: what full screen takes away. `fit` and `full`: the menu's items.
+  /// `beside`: the widgets that full screen hides. `fit` and `full`: the menu's items.
   ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside, QAction* fit,
               QAction* full);
 
-  /// A step larger (1) or smaller (-1), or back to 100 % (0), for the board or the walk that is in
-  /// sight; what is drawn at `fixed` stays there, or else the current cell where it is in sight.
+  /// Zooms in (1), out (-1) or back to 100 % (0), on the visible board or walk; the point `fixed`,
+  /// or else a visible current cell, keeps its place.
   void Zoom(int direction, std::optional<QPoint> fixed = {});
 
-  /// Draws the board, or the walk, as large as its place, or as it is.
+  /// Switches between fitting the board, or the walk, and a fixed zoom.
   void ToggleFitting();
 
-  /// The board and the menu bar alone, fitted; leaving brings back what there was.
+  /// Shows only the fitted board and the menu bar, or restores everything.
   void ToggleFullScreen();
   bool FullScreen() const { return before_.has_value(); }
 
-  /// Follows the window's state, whoever changes it: the desktop may begin or end the full screen
-  /// too, and may still be at it when the player wants another state.
+  /// Follows the window's state, whoever changes it: the desktop may start or end full screen too,
+  /// and may still be doing so when the player asks for another state.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -39,15 +40,15 @@ class ViewControl : public QObject {
   void GiveBack();
   void ShowMarks();
 
-  /// When the window has its size again.
+  /// Called when the window has its size again.
   Q_SLOT void ScrollBack();
 
-  /// What full screen took away.
+  /// What full screen hid or changed.
   struct Before {
     double Zoom;
     bool Fitting;
     QPoint Scrolled;
-    std::vector<QWidget*> Hidden;  ///< of what stands beside the board
+    std::vector<QWidget*> Hidden;  ///< of the widgets beside the board
   };
 
   QMainWindow* window_;
@@ -56,7 +57,7 @@ class ViewControl : public QObject {
   QAction* fit_;
   QAction* full_;
   std::optional<Before> before_;
-  QPoint scrolled_;  ///< where the view is to be again
+  QPoint scrolled_;  ///< the scroll position to restore
 };
 
 }  // namespace numorra

@@ -11,7 +11,7 @@ WalkView::WalkView(Grid& grid, QWidget* parent) : GridView(grid, parent), grid_(
   setObjectName("WalkBoard");
   setAccessibleName("Board of the walk");
   SetFitting(true);
-  grid_.OnRepaint = nullptr;  // which would repaint all of it
+  grid_.OnRepaint = nullptr;  // it would repaint the whole grid
 }
 
 void WalkView::Begin(int order, std::vector<WalkStep> steps) {
@@ -57,7 +57,7 @@ std::vector<Grid::Cell> WalkView::Snapshot() const {
   return cells;
 }
 
-/// Where the step's outline and arrow are.
+/// The area of the step's outline and arrow.
 QRegion WalkView::Pointed() const {
   constexpr int kAround = 4;
   QRegion pointed;
@@ -83,7 +83,7 @@ void WalkView::paintEvent(QPaintEvent* event) {
   QLineF shaft(start, end);
   const double side = CellRect(1, 1).width();
   if (shaft.length() < 1) return;
-  constexpr double kShort = 0.32;  // of a cell, off either end, so that numbers stay readable
+  constexpr double kShort = 0.32;  // of a cell, cut from either end, so that numbers stay readable
   shaft = {shaft.pointAt(kShort * side / shaft.length()),
            shaft.pointAt(1 - kShort * side / shaft.length())};
   QPainter painter(viewport());

@@ -7,25 +7,25 @@
 
 namespace numorra {
 
-/// Shows a walk in the board's place, as large as it can be, with an arrow from where a step came.
-/// A step repaints what it changes.
+/// Shows a walk in the board's place, as large as possible, with an arrow that shows where a step
+/// came from. A step repaints only what it changes.
 class WalkView : public GridView {
   Q_OBJECT
 
  public:
-  /// `grid`: the walk's own.
+  /// `grid`: the walk's own grid.
   explicit WalkView(Grid& grid, QWidget* parent = nullptr);
 
   void Begin(int order, std::vector<WalkStep> steps);
   void GoTo(int step);
   const Walk& TheWalk() const { return walk_; }
 
-  /// Makes another cell current, within the board.
+  /// Moves the current cell, within the board.
   void MoveTo(int row, int column);
   Place Current() const { return {grid_.CurrentRow(), grid_.CurrentColumn()}; }
 
  Q_SIGNALS:
-  /// Another step, or another walk, is shown.
+  /// Shows another step, or another walk.
   void StepShown();
 
  protected:

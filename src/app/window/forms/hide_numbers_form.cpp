@@ -79,7 +79,7 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
   QMetaObject::invokeMethod(this, &HideNumbersForm::Make, Qt::QueuedConnection);
 }
 
-/// Makes a puzzle as it is wished for now; a newer wish takes its place.
+/// Makes a puzzle to the current settings; a newer request supersedes an older one.
 void HideNumbersForm::Make() {
   runner_.Run("Make", [this] {
     made_.reset();

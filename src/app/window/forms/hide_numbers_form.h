@@ -9,13 +9,13 @@
 
 namespace numorra {
 
-/// The dialog (`HideNumbers`) that makes a puzzle and says what came out before it is taken: clues,
-/// grade, rules, code.
+/// The dialog (`HideNumbers`) that makes a puzzle and shows its clues, grade, rules and code before
+/// the player accepts it.
 class HideNumbersForm : public CommandForm {
   Q_OBJECT
 
  public:
-  /// `board`: what puzzles can be made from beside fresh squares.
+  /// `board`: the square on the board that puzzles can be made from, besides fresh ones.
   HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Random& random, Dialogs& dialogs,
                   QWidget* parent);
 
@@ -36,7 +36,7 @@ class HideNumbersForm : public CommandForm {
   std::optional<MadePuzzle> made_;
 };
 
-/// What is said of a puzzle: its clues, its grade and the rules that this takes.
+/// Describes a puzzle: its clues, its grade and the rules that the grade needs.
 QString DescriptionOf(const MadePuzzle& made);
 
 }  // namespace numorra

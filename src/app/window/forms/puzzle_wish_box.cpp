@@ -10,7 +10,7 @@ namespace numorra {
 PuzzleWishBox::PuzzleWishBox(QWidget* parent)
     : QWidget(parent),
       grade_(Named("GradeBox", new QComboBox)),
-      fewest_(Named("FewestCluesx", new QCheckBox("&as few as can be"))),
+      fewest_(Named("FewestCluesx", new QCheckBox("&as few as possible"))),
       clues_(Named("CluesBox", new QSpinBox)),
       symmetric_(Named("SymmetricGapsx", new QCheckBox("gaps &opposite each other"))) {
   for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert})

@@ -9,7 +9,7 @@
 
 namespace numorra {
 
-/// The controls that say what a puzzle is to be like: grade, clues, symmetry.
+/// The controls for a puzzle's grade, clues and symmetry.
 class PuzzleWishBox : public QWidget {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class PuzzleWishBox : public QWidget {
 
   PuzzleWish Wish() const;
 
-  /// For puzzles of this order.
+  /// Adapts the controls to puzzles of this order.
   void SetOrder(int order);
 
  Q_SIGNALS:

@@ -10,7 +10,7 @@
 namespace numorra {
 namespace {
 
-/// Thrown where a set of puzzles cannot be made, and why.
+/// Thrown if a set of puzzles cannot be made; holds the reason.
 struct NoSet {
   std::string Why;
 };

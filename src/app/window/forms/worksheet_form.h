@@ -13,13 +13,13 @@
 
 namespace numorra {
 
-/// The dialog (`PrintWorksheet`) that puts puzzles on paper: the one on the board, or a set of
-/// fresh ones, which can be stopped while they are made.
+/// The dialog (`PrintWorksheet`) that prints puzzles: the one on the board, or a set of fresh ones;
+/// the player can stop the making of a set.
 class WorksheetForm : public CommandForm {
   Q_OBJECT
 
  public:
-  /// `board`: the puzzle on the board, where there is one with a single solution.
+  /// `board`: the puzzle on the board, if it has exactly one solution.
   WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh, PagePrinter& printer,
                 Random& random, Dialogs& dialogs, QWidget* parent);
 

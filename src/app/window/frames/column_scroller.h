@@ -4,8 +4,8 @@
 
 namespace numorra {
 
-/// Holds a column of controls at its natural width and scrolls it where the window is too low; the
-/// scroll bar gets room of its own, so that it covers nothing.
+/// Holds a column of controls at its natural width and scrolls it if the window is too low; the
+/// scroll bar has its own space, so that it covers nothing.
 class ColumnScroller : public QScrollArea {
   Q_OBJECT
 

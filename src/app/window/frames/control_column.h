@@ -11,8 +11,7 @@
 
 namespace numorra {
 
-/// The column of controls on the left: which squares are wanted, and what makes, shades and draws
-/// them.
+/// The column of controls on the left: they choose squares, make them, shade them and draw them.
 class ControlColumn : public ColumnScroller, public BuildOptions {
   Q_OBJECT
 
@@ -27,7 +26,7 @@ class ControlColumn : public ColumnScroller, public BuildOptions {
   ColourPicker* const Colours;
   DrawFrame* const Draw;
 
-  /// Opens what goes with squares of any numbers, or shuts it.
+  /// Enables or disables the controls for squares of any numbers.
   void ShowMode(bool variable);
 
   bool LimitToNine() const override;

@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// The drop-down of corner values. It asks for fresh entries when the player comes to it by mouse
-/// or keyboard, not when the focus returns from its own list or with the window.
+/// The drop-down of corner values. It requests new entries when the player enters it by mouse or
+/// keyboard, not when the focus returns from its own list or with the window.
 class CornerBox : public QComboBox {
   Q_OBJECT
 
@@ -23,7 +23,7 @@ class CornerBox : public QComboBox {
   void focusInEvent(QFocusEvent* event) override;
 };
 
-/// The "Corners" frame: the value wanted at the top left, and the two corner passes by themselves.
+/// The "Corners" frame: the value for the top left corner, and the two corner passes.
 class CornersFrame : public QGroupBox, public ListBox {
   Q_OBJECT
 

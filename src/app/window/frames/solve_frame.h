@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// The "Solve" frame: which squares are wanted, and the commands that make a board. While a build
-/// counts, the count label takes the place of the "Auto" button and nothing else moves.
+/// The "Solve" frame: the kind of squares, and the commands that make a board. During a build the
+/// count label replaces the "Auto" button, and nothing else moves.
 class SolveFrame : public QGroupBox {
   Q_OBJECT
 

@@ -14,8 +14,8 @@ SquareFrame::SquareFrame(QWidget* parent)
       Set4x4(Named("Set4x4", new QPushButton("&4x4Set"))),
       SolveRandum(Named("SolveRandum", new QPushButton("&Random"))) {
   setObjectName("Frame4");
-  Text1->setToolTip("How many cells a side has, 3 to 50");
-  Text4->setToolTip("What every row, column and diagonal adds up to");
+  Text1->setToolTip("The number of cells on a side, 3 to 50");
+  Text4->setToolTip("The total of every row, column and diagonal");
   SolveRandum->setToolTip("Propose a size and a sum");
   Set4x4->setToolTip("Build a 4x4 square from its top row, such as a date");
   for (QLineEdit* box : {Text1, Text4}) {

@@ -8,7 +8,7 @@
 
 namespace numorra {
 
-/// The "Square" frame: the size and the sum of the square that is wanted.
+/// The "Square" frame: the size and the sum of the square to build.
 class SquareFrame : public QGroupBox, public SquareBoxes {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class SquareFrame : public QGroupBox, public SquareBoxes {
   void SetSize(const std::string& text) override;
   void SetSum(const std::string& text) override;
 
-  /// Leaves the keys of undo and redo to the board, wherever the keyboard is.
+  /// Passes the undo and redo keys to the board, even if this frame has the keyboard.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   QLineEdit* const Text1;  ///< size

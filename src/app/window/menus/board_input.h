@@ -11,7 +11,7 @@
 
 namespace numorra {
 
-/// What the mouse, the keys and the context menu do on the board.
+/// Handles the mouse, the keys and the context menu on the board.
 class BoardInput : public QObject {
   Q_OBJECT
 
@@ -23,8 +23,8 @@ class BoardInput : public QObject {
   void ConnectKeys();
   void ConnectMenu();
 
-  /// Runs a press on the board and opens the menu where it asks for one: where the mouse is, or on
-  /// the current cell.
+  /// Passes a press to the board and, if it asks for the menu, opens it at the mouse or on the
+  /// current cell.
   void Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition = {});
 
   Desk& desk_;

@@ -19,7 +19,7 @@ BoardMenu::BoardMenu(QWidget* parent)
     QAction* action = Named(command.Name, menu->addAction(command.Caption));
     connect(action, &QAction::triggered, this, [this, &command] { Q_EMIT Chosen(&command); });
   }
-  Named("transx", addAction("Transpose"));  // by design without a command
+  Named("transx", addAction("Transpose"));  // does nothing, by design
   addSeparator();
   addAction(redox);
   connect(redox, &QAction::triggered, this, &BoardMenu::RedoChosen);

@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// The context menu of the board, made of the table of editing commands; `redox` shows the last
+/// The context menu of the board, made from the table of editing commands; `redox` shows the last
 /// recorded one.
 class BoardMenu : public QMenu {
   Q_OBJECT
@@ -15,13 +15,13 @@ class BoardMenu : public QMenu {
  public:
   explicit BoardMenu(QWidget* parent = nullptr);
 
-  /// Shows what a click on "Redo last command" repeats.
+  /// Shows what "Redo last command" would repeat.
   void ShowHistory(const CommandHistory& history);
 
-  /// Shows the base value, " 12" for 12, in the items that write it.
+  /// Shows the base value, " 12" for 12, in the items that use it.
   void ShowBaseValue(const std::string& value);
 
-  /// Whether the commands that need a checked board can be chosen.
+  /// Enables or disables the commands that need a checked board.
   void EnableEditing(bool enabled);
 
   QAction* const redox;

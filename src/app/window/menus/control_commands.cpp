@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// What a button says, without its mnemonic.
+/// A button's text without its mnemonic.
 std::string CaptionOf(const QAbstractButton* button) {
   return button->text().remove('&').toStdString();
 }
@@ -28,7 +28,7 @@ void ControlCommands::Command(QPushButton* button, CommandRunner::Command body) 
           [this, button, body = std::move(body)] { desk_.Runner.Run(CaptionOf(button), body); });
 }
 
-/// A command whose board is seen from its current cell.
+/// Runs a command that makes a board, then shows the board from its current cell.
 void ControlCommands::Build(QPushButton* button, CommandRunner::Command body) {
   Command(button, [this, body = std::move(body)] {
     body();

@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// What the controls on the left do, and which of them have something to work on.
+/// Connects the controls on the left to their commands, and enables those that can be used.
 class ControlCommands : public QObject {
   Q_OBJECT
 

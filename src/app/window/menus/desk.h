@@ -10,28 +10,28 @@
 
 namespace numorra {
 
-/// What the parts of the window work with: the session in play, the way in which commands run, and
-/// where they are shown.
+/// What the parts of the window share: the session, the command runner and the places that show
+/// results.
 class Desk {
  public:
   Session& TheSession;
   CommandRunner& Runner;
   Dialogs& TheDialogs;
-  BuildStage& Building;  ///< shows that something takes its time
+  BuildStage& Building;  ///< shows that something takes time
   ControlColumn& Controls;
   BoardPlace& Place;
   BoardMenu& Menu;
 
   const Board& TheBoard() const { return TheSession.TheBoard; }
 
-  /// Runs a command that acts on the board, which then has the keyboard and is not hidden by a
-  /// walk; nothing without a board.
+  /// Runs a command that acts on the board; the board gets the keyboard, and a walk no longer hides
+  /// it. Does nothing without a board.
   void RunOnBoard(const std::string& name, CommandRunner::Command command);
 
-  /// The same for what acts on the current cell, which then is in sight.
+  /// The same for a command on the current cell, which becomes visible.
   void RunOnCurrentCell(const std::string& name, CommandRunner::Command command);
 
-  /// What only shows, writes or opens something, as an action's deed: beside a running command.
+  /// An action that only shows, writes or opens something; it runs beside a running command.
   std::function<void()> Beside(CommandRunner::Command body);
 
   void BringCurrentCellIntoView();
@@ -39,7 +39,7 @@ class Desk {
   /// Shows the session's mode.
   void ShowMode();
 
-  /// A board that came from elsewhere is in its mode, and has the keyboard.
+  /// Switches to the mode of a board that was opened or pasted, and gives it the keyboard.
   void ShowLaidOut();
 };
 

@@ -58,7 +58,7 @@ void EditMenu::Walk(const char* name, void (UndoHistory::*step)(Board&)) {
   });
 }
 
-/// The board as text for tables and texts, and as a picture for drawings.
+/// Copies the board as text for spreadsheets and texts, and as a picture for drawings.
 void EditMenu::Copy(bool withPicture) {
   const Board& board = desk_.TheBoard();
   if (!board.Shown()) return;
@@ -71,7 +71,7 @@ void EditMenu::Copy(bool withPicture) {
   QGuiApplication::clipboard()->setMimeData(copied);
 }
 
-/// Formats are asked for first: a program that does not answer is then waited for only once.
+/// Asks for the formats first, so that it waits only once for a program that does not answer.
 void EditMenu::Paste() {
   const QMimeData* const copied = QGuiApplication::clipboard()->mimeData();
   const QString text = copied && copied->hasText() ? copied->text() : QString();

@@ -29,7 +29,7 @@ FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
              desk_.Runner.Run("Print Worksheet", [this] { OpenWorksheet(); });
            }});
   menu->addSeparator();
-  // Not every desktop names a standard key for it.
+  // Not every desktop has a standard key for this.
   AddItem(menu,
           {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }});
   desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
@@ -73,7 +73,7 @@ void FileMenu::Export() {
   }
 }
 
-/// Where there is a board in sight that fits on a page.
+/// Opens the print form if there is a visible board that fits on a page.
 void FileMenu::OpenPrintForm() {
   const Board& board = desk_.TheBoard();
   if (!board.Shown() || !board.grid.Visible()) {

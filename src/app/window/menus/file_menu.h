@@ -9,12 +9,12 @@
 
 namespace numorra {
 
-/// The File menu: opens and writes boards, prints them, ends the program.
+/// The File menu: opens, saves and prints boards, and ends the program.
 class FileMenu : public QObject {
   Q_OBJECT
 
  public:
-  /// Where the player's files and paper are.
+  /// The player's files and printers.
   struct Ports {
     FileChooser& Files;
     SheetPrinter& Sheets;

@@ -9,19 +9,19 @@
 
 namespace numorra {
 
-/// The Puzzle menu: boards with gaps are made, solved with help, filled.
+/// The Puzzle menu: makes boards with gaps, helps to solve them, and fills them.
 class PuzzleMenu : public QObject {
   Q_OBJECT
 
  public:
-  /// `state`: the line that tells of the board, which offers the puzzle's code.
+  /// `state`: the state line, which offers the puzzle's code.
   PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* state);
 
  private:
   void OpenHideNumbers();
   void CopyCode();
 
-  /// Runs a command whose remark is shown; a search takes the place of an older one.
+  /// Runs a command and shows its remark; its search replaces an older remark.
   void ShowRemark(const char* name, const char* doing, std::function<Remark()> find);
   void FillGaps();
   void ShowState();

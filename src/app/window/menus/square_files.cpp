@@ -29,7 +29,7 @@ bool EndsIn(const QString& name, const char* ending) {
   return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
 }
 
-/// The formats that the window writes, the one that keeps most first.
+/// The formats that the window writes, the most complete one first.
 std::vector<Format> WritableFormats() {
   std::vector<Format> formats;
   std::copy_if(std::rbegin(kFormats), std::rend(kFormats), std::back_inserter(formats),
@@ -37,7 +37,7 @@ std::vector<Format> WritableFormats() {
   return formats;
 }
 
-/// Writes what `paint` paints in an area of `size` pixels, `dpi` to the inch.
+/// Writes what `paint` paints in an area of `size` pixels at `dpi` pixels per inch.
 void Export(const QString& name, QSize size, int dpi, const std::function<void(QPainter&)>& paint) {
   if (!EndsIn(name, ".pdf") && !EndsIn(name, ".png")) {
     const std::string why = name.toStdString() + " is neither a .png nor a .pdf file";
@@ -91,8 +91,9 @@ std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
 void SaveSquare(const QString& name, const StoredSquare& square) {
   const QString suffix = QFileInfo(name).suffix().toLower();
   if (QString(kPictureSuffixes).split(' ').contains(suffix)) {
-    throw RuntimeError(Fault::FileError,
-                       name.toStdString() + " is a picture's name: Export Picture writes pictures");
+    throw RuntimeError(
+        Fault::FileError,
+        name.toStdString() + " has a picture's suffix: use Export Picture to save pictures");
   }
   const auto formats = WritableFormats();
   const auto named = std::find_if(formats.begin(), formats.end(),

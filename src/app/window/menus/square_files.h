@@ -10,22 +10,21 @@
 
 namespace numorra {
 
-/// What files the window writes and reads, as the dialogs for their names have it: "Squares
+/// The file filters for writing and reading squares, in the form of file dialogs: "Squares
 /// (*.json);;Numbers alone (*.csv)".
 QString SquareKinds();
 QString ReadableKinds();
 inline constexpr const char* kPictureKinds = "Pictures (*.png);;Documents (*.pdf)";
 
-/// Reads a square from a regular file of at most kMostTextBytes, in the format that its content
-/// says.
-/// Throws FileError where the file cannot be read.
+/// Reads a square from a regular file of at most kMostTextBytes; the content determines the format.
+/// Throws FileError if the file cannot be read.
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name);
 
-/// Writes it in the format of the name's suffix, JSON where that is none of theirs. Throws
-/// FileError, also for the name of a picture.
+/// Writes a square in the format of the name's suffix, JSON if it has no known one. Throws
+/// FileError, also for a picture's suffix.
 void SaveSquare(const QString& name, const StoredSquare& square);
 
-/// Writes what the board's place shows, on white: as a PDF page of its size where the name ends in
+/// Writes what the board's place shows, on white: as a PDF page of its size if the name ends in
 /// .pdf, otherwise as a PNG of twice the size. Throws FileError.
 void ExportBoard(const QString& name, GridView& view);
 void ExportDrawing(const QString& name, Drawing& drawing);

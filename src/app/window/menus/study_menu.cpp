@@ -72,8 +72,8 @@ void StudyMenu::AddSquares(QMenu* menu) {
   }
 }
 
-/// The walk stands in the board's place while its panel is open; the board behind it stays.
-/// Whatever shows the board, or acts on it, ends it.
+/// Shows a walk in the board's place while its panel is open; the board does not change. Any
+/// command that shows the board, or acts on it, ends the walk.
 void StudyMenu::AddWalk(QMenu* menu, QMainWindow* window) {
   shown_ = AddItem(menu, {"StepByStepx",
                           "Step &by Step",
@@ -88,7 +88,7 @@ void StudyMenu::AddWalk(QMenu* menu, QMainWindow* window) {
   });
 }
 
-/// When the panel has come or gone.
+/// Called when the panel was opened or closed.
 void StudyMenu::FollowSteps() {
   const bool shown = !steps_->isHidden();
   room_.Follow(steps_);

@@ -8,8 +8,7 @@
 
 namespace numorra {
 
-/// The Study menu: relatives of the square on the board, special and famous ones, and walks through
-/// constructions.
+/// The Study menu: related squares, special and famous ones, and walks through constructions.
 class StudyMenu : public QObject {
   Q_OBJECT
 

@@ -45,7 +45,7 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
   window->addDockWidget(Qt::RightDockWidgetArea, properties_);
   properties_->hide();
   size_ = new ViewControl(window, &desk_.Place, {&desk_.Controls, properties_}, fit, full);
-  room_ = new PanelRoom(window);  // behind it, so as to know of a new state before it does
+  room_ = new PanelRoom(window);  // created later, so that it sees a new state first
   OnSignal(desk_.Runner, properties_, &PropertiesPanel::EvidenceChosen, this,
            [this](const std::vector<Place>& cells) { desk_.Place.PointAt(cells); });
   OnSignal(desk_.Runner, properties_, &QDockWidget::visibilityChanged, this,
@@ -62,12 +62,12 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
   OnSignal(desk_.Runner, escape, &QShortcut::activated, this, [this] { Escape(); });
 }
 
-/// Esc takes away what has come last: a search, a remark, the full screen.
+/// Esc ends the most recent of a search, a remark and the full screen.
 void ViewMenu::Escape() {
   if (!desk_.Place.DismissBar() && size_->FullScreen()) size_->ToggleFullScreen();
 }
 
-/// When the panel has come or gone.
+/// Called when the panel was opened or closed.
 void ViewMenu::FollowProperties() {
   const bool shown = !properties_->isHidden();
   shown_->setChecked(shown);
@@ -80,7 +80,7 @@ void ViewMenu::FollowProperties() {
   }
 }
 
-/// What the panel shows is what stands on the board.
+/// The panel shows the properties of the square on the board.
 void ViewMenu::StudyBoard() {
   if (studied_ || properties_->isHidden()) return;
   studied_ = true;
@@ -88,7 +88,7 @@ void ViewMenu::StudyBoard() {
     properties_->Show(Study(std::move(*square)));
   } else {
     properties_->ShowNone(desk_.TheBoard().Shown()
-                              ? "The board has empty cells: what it is can be told when it is full."
+                              ? "The board has empty cells: fill them to see its properties."
                               : "There is no board to study.");
   }
 }

@@ -9,14 +9,14 @@
 
 namespace numorra {
 
-/// The View menu: how large the board is shown, and what stands beside it.
+/// The View menu: the zoom of the board, and the panels beside it.
 class ViewMenu : public QObject {
   Q_OBJECT
 
  public:
   ViewMenu(QMainWindow* window, Desk& desk);
 
-  /// Gives room to the panels that come and go.
+  /// Makes room for panels that open and close.
   PanelRoom& Room() { return *room_; }
 
  private:
@@ -29,7 +29,7 @@ class ViewMenu : public QObject {
   QAction* shown_;
   ViewControl* size_;
   PanelRoom* room_;
-  bool studied_ = false;  ///< the panel shows what the board is now
+  bool studied_ = false;  ///< the panel is up to date
 };
 
 }  // namespace numorra

@@ -30,7 +30,7 @@ void PanelRoom::Follow(const QDockWidget* panel) {
   if (!settling_.isActive()) Pay();
 }
 
-/// What the panel needs, as far as the screen has it beside the window's own size.
+/// The room that the panel needs, as far as the screen has it beside the window's own size.
 QSize PanelRoom::RoomFor(const QDockWidget* panel) const {
   const QSize hint = panel->sizeHint();
   const bool below =

@@ -7,18 +7,18 @@
 
 namespace numorra {
 
-/// Gives the window room for its panels: it grows with one that comes, as far as the screen goes,
-/// and shrinks as it goes. The whole window stays on the screen, with its frame.
+/// Makes room for the window's panels: the window grows when one opens, as far as the screen
+/// allows, and shrinks when it closes. The whole window, with its frame, stays on the screen.
 ///
-/// A window that is maximized or fills the screen has no size of its own; what it is to grow or
-/// shrink by is owed to it, and paid once the window manager has given it its size back.
+/// While the window is maximized or in full screen, the change of size is kept in `owed_` and
+/// applied once the window manager has restored the window's normal size.
 class PanelRoom : public QObject {
   Q_OBJECT
 
  public:
   explicit PanelRoom(QMainWindow* window);
 
-  /// When a panel has come or gone.
+  /// Call this when a panel was opened or closed.
   void Follow(const QDockWidget* panel);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -30,9 +30,9 @@ class PanelRoom : public QObject {
   void MoveOntoScreen();
 
   QMainWindow* window_;
-  QHash<const QDockWidget*, QSize> given_;  ///< for each panel in sight
+  QHash<const QDockWidget*, QSize> given_;  ///< for each visible panel
   QSize owed_{0, 0};
-  QTimer settling_;  ///< runs while the window manager may still be at it
+  QTimer settling_;  ///< runs while the window manager may still be resizing
 };
 
 }  // namespace numorra

@@ -33,7 +33,7 @@ char16_t MarkFor(Answer answer) {
   return u'?';
 }
 
-/// Breaks values into lines, which the toolkit's trees leave to their delegates.
+/// Wraps values over several lines, which the toolkit's trees leave to their delegates.
 class WrappingDelegate : public QStyledItemDelegate {
  public:
   explicit WrappingDelegate(QTreeView* tree) : QStyledItemDelegate(tree), tree_(tree) {}
@@ -71,7 +71,7 @@ QTreeWidgetItem* GroupNamed(QList<QTreeWidgetItem*>& groups, const QString& name
   return groups.back();
 }
 
-/// Writes what has changed, so that nothing else is painted anew.
+/// Writes only what has changed, so that nothing else is repainted.
 void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
   const QString spoken = entry->text(0) + ": " + why;
   if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
@@ -89,7 +89,7 @@ PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
 }
 
-/// No start waits for what it may never need.
+/// Creates the controls when they are first needed, to keep the program's start fast.
 void PropertiesPanel::setVisible(bool visible) {
   if (visible && !tree_) Furnish();
   QDockWidget::setVisible(visible);
@@ -125,7 +125,7 @@ void PropertiesPanel::Furnish() {
   OnClick(runner_, copy, this, [this] { Copy(); });
 }
 
-/// All at once: a tree lays itself out anew at each that is added to it.
+/// Adds all entries at once, because a tree is laid out again at each addition.
 void PropertiesPanel::AddEntries() {
   QList<QTreeWidgetItem*> groups;
   for (const char* name : kDetails)
@@ -175,7 +175,7 @@ void PropertiesPanel::ShowNone(const QString& why) {
   explained_->setText(why);
 }
 
-/// The chosen entry in words, and its cells to whoever points at them.
+/// Explains the chosen entry, and emits its cells.
 void PropertiesPanel::ShowChosen() {
   std::vector<Place> cells;
   QString text = "Choose an entry to see why.";

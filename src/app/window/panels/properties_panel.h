@@ -13,16 +13,16 @@
 
 namespace numorra {
 
-/// The panel (`PropertiesPanel`) that says what the square on the board is: facts and terms in
-/// groups, each with a mark and a word. The entry that is chosen is explained below, and its cells
-/// are pointed at.
+/// The panel (`PropertiesPanel`) that shows the properties of the square on the board: facts and
+/// terms in groups, each with a mark and a word. The chosen entry is explained below, and its cells
+/// are outlined.
 class PropertiesPanel : public QDockWidget {
   Q_OBJECT
 
  public:
   PropertiesPanel(CommandRunner& runner, QWidget* parent);
 
-  /// Shows what a square is, once the panel is open; without a report, `why` there is none.
+  /// Shows the properties of a square if the panel is open; or `why` there are none.
   void Show(const Report& report);
   void ShowNone(const QString& why);
 
@@ -39,7 +39,7 @@ class PropertiesPanel : public QDockWidget {
   void Copy();
 
   CommandRunner& runner_;
-  QTreeWidget* tree_ = nullptr;  ///< none before the panel is first opened
+  QTreeWidget* tree_ = nullptr;  ///< null until the panel is first opened
   QLabel* explained_ = nullptr;
   std::vector<QTreeWidgetItem*> details_;
   std::vector<QTreeWidgetItem*> terms_;  ///< by Terms()

@@ -12,7 +12,7 @@ namespace numorra {
 namespace {
 
 // Twips.
-constexpr int kWidth = 6600;       // what six menus leave free at the opening size
+constexpr int kWidth = 6600;       // free beside six menus at the opening size
 constexpr int kAroundMenu = 330;   // a menu's own edges
 constexpr int kAroundMenus = 240;  // those of all menus
 
@@ -42,7 +42,7 @@ void StateLine::Show(const Walk& walk) {
   ShowText(StateOf(walk), {});
 }
 
-/// The state, with more of it in the tool-tip.
+/// Sets the text of the line, and a longer one for its tool-tip.
 void StateLine::ShowText(const std::string& told, const QString& more) {
   const QString state = QString::fromStdString(told);
   setToolTip(state + more);

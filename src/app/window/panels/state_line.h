@@ -7,16 +7,16 @@
 
 namespace numorra {
 
-/// The line in the menu bar's corner (`BoardState`) that says what is true of the board: of a width
-/// that never changes with it, smaller only where the menus need the room, cut with dots when it
-/// must be, whole in its tool-tip and for screen readers.
+/// The line in the menu bar's corner (`BoardState`) that shows the state of the board. Its width
+/// does not depend on its text and shrinks only if the menus need the room; a text that is too long
+/// is elided, and complete in the tool-tip and for screen readers.
 class StateLine : public QLabel {
   Q_OBJECT
 
  public:
   explicit StateLine(QWidget* parent = nullptr);
 
-  /// Shows the state of the board, or of a walk in its place, and has a new one read aloud.
+  /// Shows the state of the board, or of a walk in its place; screen readers read a changed one.
   void Show(const Board& board);
   void Show(const Walk& walk);
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kExamples[] = {5, 8, 6};
 constexpr int kSpeeds = 10;
-constexpr int kSlowest = 2000;  // milliseconds a step
+constexpr int kSlowest = 2000;  // milliseconds per step
 
 QString Sentence(const std::string& text) {
   QString sentence = QString::fromStdString(text);
@@ -131,7 +131,7 @@ void StepPanel::GoTo(int step) {
   ShowStep();
 }
 
-/// Where the first number goes follows from nothing; it is shown.
+/// The first number's place follows from nothing, so it is shown.
 bool StepPanel::Asking() const {
   const WalkStep* const next = view_->TheWalk().Next();
   return ask_->isChecked() && next != nullptr && next->Number > 1;
@@ -140,10 +140,10 @@ bool StepPanel::Asking() const {
 /// The sentence of the step, or the question about the next one.
 void StepPanel::ShowStep() {
   const Walk& walk = view_->TheWalk();
-  QString text =
-      walk.Done() ? Sentence(walk.Done()->Sentence) : "An empty board. Next goes on, step by step.";
+  QString text = walk.Done() ? Sentence(walk.Done()->Sentence)
+                             : "An empty board. Press Next for the first step.";
   if (Asking()) {
-    text += QString("\nClick where %1 goes, or go there with the arrow keys and press Enter.")
+    text += QString("\nClick where %1 goes, or move there with the arrow keys and press Enter.")
                 .arg(walk.Next()->Number);
   }
   sentence_->setText(text);
@@ -169,7 +169,7 @@ void StepPanel::Play(bool on) {
   }
 }
 
-/// A right answer goes on; a wrong one is told the rule.
+/// Goes to the next step after a right answer; shows the rule after a wrong one.
 void StepPanel::Answer(Place place) {
   if (!Asking()) return;
   const WalkStep& next = *view_->TheWalk().Next();

@@ -13,16 +13,16 @@
 
 namespace numorra {
 
-/// The panel (`StepPanel`) below the board that leads through a construction: on, back, play with a
-/// speed, a slider over all steps, a sentence for each; or asks where numbers go.
+/// The panel (`StepPanel`) below the board that leads through a construction: next, back, play with
+/// a speed, a slider over all steps, a sentence for each; or it asks where numbers go.
 class StepPanel : public QDockWidget {
   Q_OBJECT
 
  public:
   StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent);
 
-  /// Offers the square on the board, where it is one that can be explained, and the examples, and
-  /// begins with the first of them. `square`: the board, empty without a full one.
+  /// Offers the square on the board, if its construction is known, and the examples, and starts
+  /// with the first of them. `numbers`: those of the board, empty if it is not full.
   void Begin(const Square<double>& square);
 
  private:
