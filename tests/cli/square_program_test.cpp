@@ -333,13 +333,12 @@ TEST(SquareProgram, ReadsWhateverItWrites) {
 
 TEST(SquareProgram, MakesPuzzles) {
   const Outcome json = RunWith("puzzle --size 3 --format json --seed 1");
-  EXPECT_EQ(
-      json.Out,
-      "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, \"rules\": "
-      "\"normal\", \"rows\": [[null, null, null], [null, 5, null], [2, 9, null]], \"givens\": "
-      "[[false, false, false], [false, true, false], [true, true, false]], \"solution\": "
-      "[[6, 1, 8], [7, 5, 3], [2, 9, 4]], \"grade\": \"easy\", \"clues\": 3, \"code\": "
-      "\"NP12S3W04\"}\n");
+  EXPECT_EQ(json.Out,
+            "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, "
+            "\"rules\": \"normal\", \"rows\": [[4, null, null], [null, null, 7], [null, null, 6]], "
+            "\"givens\": [[true, false, false], [false, false, true], [false, false, true]], "
+            "\"solution\": [[4, 9, 2], [3, 5, 7], [8, 1, 6]], \"grade\": \"easy\", \"clues\": 3, "
+            "\"code\": \"NP13VTD8C\"}\n");
   const std::string three = RunWith("puzzle --size 5 --grade hard --count 3 --seed 9").Out;
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");

@@ -32,6 +32,14 @@ inline slow::Rows RowsOf(const CellTable& cells, int order) {
   return rows;
 }
 
+/// Of numbers in reading order.
+inline slow::Rows RowsOf(const std::vector<double>& numbers, int order) {
+  slow::Rows rows;
+  for (auto row = numbers.begin(); row != numbers.end(); row += order)
+    rows.emplace_back(row, row + order);
+  return rows;
+}
+
 inline CellTable TableOf(const slow::Rows& rows) {
   CellTable cells;
   for (std::size_t r = 0; r < rows.size(); ++r) {
