@@ -143,6 +143,7 @@ class Reader {
       Fail("the size is missing");
     }
     if (request_.Kind && variable) Fail("a kind goes with a size alone");
+    CheckFresh();
     if (request_.Corner && request_.LimitToNine) Fail("the limit does not go with a corner");
     CheckVary();
   }
@@ -155,13 +156,19 @@ class Reader {
     Fail("the sum for size " + std::to_string(request_.Size) + " is below " + Decimal(bound));
   }
 
-  /// A relative of a square has lost what the order of its lines gave it.
+  /// A relative of a square has another order of its lines.
   void CheckVary() {
     if (!request_.Vary) return;
     if (request_.Top) Fail("a square that is varied does not keep its top row");
     if (request_.Corner) Fail("a square that is varied does not keep its corner");
-    if (request_.Kind && !request_.Kind->KeptByFamily) {
-      Fail("a square that is varied does not stay " + std::string(request_.Kind->Term));
+  }
+
+  void CheckFresh() {
+    if (!request_.Fresh) return;
+    if (request_.Top) Fail("a square with a top row is not drawn from all squares");
+    if (request_.Corner) Fail("a square with a corner is not drawn from all squares");
+    if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
+      Fail("the sum of a fresh square is a whole number");
     }
   }
 
@@ -192,6 +199,7 @@ class Reader {
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
         {"--vary", &Reader::Vary, {kBuild}},
+        {"--fresh", &Reader::Fresh, {kBuild}},
         {"--count", &Reader::Count, {kBuild, kPuzzle}},
         {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
         {"--grade", &Reader::GradeOption, {kPuzzle}},
@@ -284,6 +292,7 @@ class Reader {
   }
 
   void Vary() { request_.Vary = true; }
+  void Fresh() { request_.Fresh = true; }
 
   void Count() {
     constexpr int kMost = 1'000'000;
@@ -344,10 +353,11 @@ any total, 4 x 4 with a top row of your choice, or of a special kind.
   --corner V               the number wanted at the top left, from size 4 on
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
   --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
-                           bordered
-  --vary                   another square of the family of the one that is built;
-                           of the kinds only associative squares stay what they
-                           are, and no corner or top row stays where it is
+                           bordered, drawn at random
+  --fresh                  any square, drawn at random, instead of one that a
+                           construction makes
+  --vary                   another square of the family of the one that is built, or
+                           of its kind; no corner or top row stays where it is
   --count M                so many squares, 1 to 1000000
 )" + OptionText("--format " + all, "how squares are written:") +
          FormatLines() +

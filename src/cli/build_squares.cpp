@@ -11,6 +11,8 @@
 #include "generate/proposal.h"
 #include "generate/top_row_square.h"
 #include "generate/variable_square.h"
+#include "puzzle/fresh_square.h"
+#include "study/kept_relatives.h"
 #include "study/relatives.h"
 
 namespace numorra {
@@ -42,6 +44,7 @@ class SquareBuilder {
   Result Next() {
     if (request_.Top) return WithTopRow(*request_.Top);
     if (request_.Kind) return Special(*request_.Kind);
+    if (request_.Fresh) return Fresh();
     const bool normal = !request_.Sum && !request_.LimitToNine && !request_.Corner;
     return normal ? Normal() : Variable();
   }
@@ -59,6 +62,17 @@ class SquareBuilder {
     if (!none.empty()) throw Impossible{none};
     return {TableOf(order, kind.Build(order, random_)), order, MagicConstant(order), "",
             Rules::Normal};
+  }
+
+  Result Fresh() {
+    SquareWish wish{request_.Size, {}, request_.LimitToNine};
+    if (request_.Sum) wish.Total = static_cast<std::int64_t>(*request_.Sum);
+    const auto square = FreshSquare(wish, random_, stage_);
+    if (!square) throw Impossible{"no square with this total was found"};
+    const auto total = static_cast<double>(square->Target);
+    const std::vector<double> numbers(square->Cells.begin(), square->Cells.end());
+    return {TableOf(square->Order, numbers), square->Order, total, RemarkOnTotal(total),
+            square->Asked};
   }
 
   Result Normal() {
@@ -86,10 +100,13 @@ class SquareBuilder {
     if (request_.Corner && build.Square(1, 1) != *request_.Corner) {
       remark = WhyNotTheCorner(*request_.Corner, plan);
     }
-    if (request_.Sum && build.Total != *request_.Sum) {
-      remark += (remark.empty() ? "" : "; ") + ("the total is " + Decimal(build.Total));
-    }
-    return remark;
+    const std::string onTotal = RemarkOnTotal(build.Total);
+    return remark + (remark.empty() || onTotal.empty() ? "" : "; ") + onTotal;
+  }
+
+  /// That the total is another than was asked for.
+  std::string RemarkOnTotal(double total) const {
+    return request_.Sum && total != *request_.Sum ? "the total is " + Decimal(total) : "";
   }
 
   const SquareRequest& request_;
@@ -108,7 +125,9 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     Result result = builder.Next();
     if (request.Vary) {
-      const auto varied = Varied(result.Order, NumbersOf(result.Square, result.Order), random);
+      const std::vector<double> numbers = NumbersOf(result.Square, result.Order);
+      const auto varied = request.Kind ? VariedWithinKind(result.Order, numbers, random)
+                                       : Varied(result.Order, numbers, random);
       if (!varied) throw Impossible{"all relatives of this square look like it"};
       result.Square = TableOf(result.Order, *varied);
     }

@@ -1,6 +1,5 @@
 #include <utility>
 
-#include "study/special.h"
 #include "study/two_digits.h"
 
 namespace numorra {
@@ -42,22 +41,6 @@ Auxiliary Alternating(int n, Random& random) {
   return square;
 }
 
-/// The second half of a list as the first one mirrored, times `sign`.
-void Mirror(std::vector<int>& half, int sign) {
-  for (std::size_t i = half.size(); i > 0; --i)
-    half.push_back(sign * half[i - 1]);
-}
-
-Auxiliary Opposite(int n, Random& random) {
-  Auxiliary square{{}, OneOfEachPair(n, random)};
-  for (int i = 0; i < n / 2; ++i)
-    square.Signs.push_back(i % 2 == 0 ? 1 : -1);
-  Shuffle(std::span(square.Signs), random);
-  Mirror(square.Signs, 1);
-  Mirror(square.Digits, -1);
-  return square;
-}
-
 Auxiliary OppositeInFours(int n, Random& random) {
   constexpr int kSigns[] = {1, -1, -1, 1};
   const auto half = static_cast<std::size_t>(n / 2);
@@ -84,12 +67,8 @@ std::vector<double> SquareOf(int n, Random& random) {
 
 }  // namespace
 
-std::vector<double> MostPerfectSquare(int order, Random& random) {
+std::vector<double> EvenMostPerfect(int order, Random& random) {
   return SquareOf<Alternating>(order, random);
-}
-
-std::vector<double> EvenAssociative(int order, Random& random) {
-  return SquareOf<Opposite>(order, random);
 }
 
 std::vector<double> EvenUltramagic(int order, Random& random) {

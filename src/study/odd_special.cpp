@@ -88,34 +88,25 @@ Digits NasikDigits(int n, Random& random) {
   return digits;
 }
 
-std::vector<double> OddSquare(int n, int step, const Digits& a, const Digits& b, Random& random) {
+std::vector<double> OddSquare(int n, const Digits& a, const Digits& b, Random& random) {
   const int middle = (n - 1) / 2;
   return NumbersOf(n, random, [&](int i, int j) {
-    return std::pair(a[IndexOf(step * i + j, n)] + middle, b[IndexOf(step * i - j, n)] + middle);
+    return std::pair(a[IndexOf(2 * i + j, n)] + middle, b[IndexOf(2 * i - j, n)] + middle);
   });
-}
-
-/// With the digits mirrored where opposite cells have them: (n - 1 - i, n - 1 - j) takes the index
-/// t of A to -(step + 1) - t and that of B to -(step - 1) - t.
-std::vector<double> MirroredSquare(int n, int step, bool thirds, Random& random) {
-  const Digits a = MirroredDigits(n, -(step + 1), thirds, random);
-  const Digits b = MirroredDigits(n, -(step - 1), thirds, random);
-  return OddSquare(n, step, a, b, random);
 }
 
 }  // namespace
 
-std::vector<double> OddAssociative(int order, Random& random) {
-  return MirroredSquare(order, 1, false, random);
-}
-
 std::vector<double> OddPandiagonal(int order, Random& random) {
   const Digits a = NasikDigits(order, random);
-  return OddSquare(order, 2, a, NasikDigits(order, random), random);
+  return OddSquare(order, a, NasikDigits(order, random), random);
 }
 
+/// (n - 1 - i, n - 1 - j) takes the index t of A to -3 - t, and that of B to -1 - t.
 std::vector<double> OddUltramagic(int order, Random& random) {
-  return MirroredSquare(order, 2, order % 3 == 0, random);
+  const bool thirds = order % 3 == 0;
+  const Digits a = MirroredDigits(order, -3, thirds, random);
+  return OddSquare(order, a, MirroredDigits(order, -1, thirds, random), random);
 }
 
 }  // namespace numorra

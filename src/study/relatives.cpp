@@ -1,50 +1,20 @@
 #include "study/relatives.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "app/board/decimal_sum.h"
 #include "study/images.h"
+#include "study/moved_places.h"
 
 namespace numorra {
-namespace {
-
-/// Where each line goes: pairs of opposite lines exchange places, and the lines of a pair.
-std::vector<int> DrawPermutation(int order, Random& random) {
-  const int half = order / 2;
-  std::vector<int> pairs(static_cast<std::size_t>(half));
-  std::iota(pairs.begin(), pairs.end(), 0);
-  Shuffle(std::span(pairs), random);
-  std::vector<int> lines(static_cast<std::size_t>(order), half);
-  for (int i = 0; i < half; ++i) {
-    const int pair = pairs[static_cast<std::size_t>(i)];
-    const bool turned = random.Between(0, 1) == 1;
-    lines[static_cast<std::size_t>(i)] = turned ? order - 1 - pair : pair;
-    lines[static_cast<std::size_t>(order - 1 - i)] = turned ? pair : order - 1 - pair;
-  }
-  return lines;
-}
-
-std::vector<double> Permuted(const std::vector<double>& numbers, const std::vector<int>& lines) {
-  std::vector<double> permuted;
-  permuted.reserve(numbers.size());
-  for (const int i : lines) {
-    for (const int j : lines)
-      permuted.push_back(
-          numbers[static_cast<std::size_t>(i) * lines.size() + static_cast<std::size_t>(j)]);
-  }
-  return permuted;
-}
-
-}  // namespace
-
 std::optional<std::vector<double>> Varied(int order, const std::vector<double>& numbers,
                                           Random& random) {
   constexpr int kDraws = 1000;
   constexpr int kSmallestWithOthers = 4;
   const std::vector<double> standard = StandardForm(order, numbers);
   for (int draw = 0; order >= kSmallestWithOthers && draw < kDraws; ++draw) {
-    const auto permuted = Permuted(numbers, DrawPermutation(order, random));
+    const std::vector<int> lines = DrawOrderOfOpposites(order, random);
+    const auto permuted = WithLinesFrom(numbers, lines, lines);
     if (StandardForm(order, permuted) == standard) continue;
     return ImageOf(random.Between(0, kImages - 1), order, permuted);
   }

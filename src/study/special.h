@@ -19,9 +19,6 @@ struct SpecialKind {
 
   /// The numbers, in reading order, of such a square; another at every call.
   std::vector<double> (*Build)(int order, Random& random);
-
-  /// Whether all members of the family of such a square (study/relatives.h) are of this kind, too.
-  bool KeptByFamily;
 };
 
 /// In the order of the menu.

@@ -1,12 +1,9 @@
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <numeric>
 #include <set>
 
-#include "study/census.h"
 #include "study/famous.h"
 #include "study/images.h"
-#include "study/relatives.h"
 #include "study/report.h"
 #include "study/special.h"
 #include "support/boards.h"
@@ -22,13 +19,6 @@ std::vector<double> Flat(const slow::Rows& rows) {
   for (const auto& row : rows)
     numbers.insert(numbers.end(), row.begin(), row.end());
   return numbers;
-}
-
-slow::Rows Square(int order, const std::vector<double>& numbers) {
-  slow::Rows rows;
-  for (int i = 0; i < order; ++i)
-    rows.emplace_back(numbers.begin() + i * order, numbers.begin() + (i + 1) * order);
-  return rows;
 }
 
 Report StudyOf(const slow::Rows& rows) {
@@ -143,7 +133,7 @@ TEST(Study, AgreesWithTheSlowClassifier) {
   for (int order = 3; order <= 50; ++order) {
     for (const SpecialKind& kind : kSpecialKinds) {
       if (!kind.WhyNone(order).empty()) continue;
-      slow::Rows rows = Square(order, kind.Build(order, random));
+      slow::Rows rows = RowsOf(kind.Build(order, random), order);
       EXPECT_EQ(slow::WhyNotNormal(rows), "") << kind.Term << " of order " << order;
       EXPECT_EQ(slow::Classify(rows)[kind.Term], true) << kind.Term << " of order " << order;
       ExpectAgreement(rows);
@@ -226,7 +216,7 @@ TEST(Study, TellsWhatIsShortEnoughToBeRead) {
     for (int number = 0; number < order * order; ++number)
       numbers.push_back(number < 24 ? number / 2 : number);
     std::map<std::string, std::string> details;
-    for (const auto& [name, text] : StudyOf(Square(order, numbers)).Details)
+    for (const auto& [name, text] : StudyOf(RowsOf(numbers, order)).Details)
       details[name] = text;
     EXPECT_EQ(details["repeated"], "0, 1, 2, 3, 4, 5, 6, 7, 8, 9 and 2 more");
     EXPECT_EQ(details.contains("standard form"), order == 10);
@@ -245,7 +235,7 @@ TEST(Famous, AreWhatTheirStoriesSay) {
   EXPECT_EQ(FamousSquares().size(), 12U);
   const char* const terms[] = {"associative", "most-perfect", "concentric", "bordered", "bimagic"};
   for (const FamousSquare& famous : FamousSquares()) {
-    const slow::Rows rows = Square(famous.Order, famous.Numbers);
+    const slow::Rows rows = RowsOf(famous.Numbers, famous.Order);
     ExpectAgreement(rows);
     const slow::Answers is = slow::Classify(rows);
     EXPECT_EQ(slow::LineTotals(rows).front(), famous.Total);
@@ -264,64 +254,6 @@ TEST(Famous, AreWhatTheirStoriesSay) {
     const auto to = std::find(tour.Numbers.begin(), tour.Numbers.end(), move + 1);
     const auto a = from - tour.Numbers.begin(), b = to - tour.Numbers.begin();
     EXPECT_EQ(std::abs(a / 8 - b / 8) * std::abs(a % 8 - b % 8), 2) << "a knight's move " << move;
-  }
-}
-
-TEST(Relatives, AreOtherSquaresOfTheFamily) {
-  SeededRandom random(5);
-  for (const int order : {3, 4, 5, 10}) {
-    std::vector<double> square(static_cast<std::size_t>(order * order));
-    std::iota(square.begin(), square.end(), 1.0);  // which is associative
-    if (order != 10) square = AssociativeSquare(order, random);
-    std::set<std::vector<double>> forms;
-    for (int draw = 0; draw < 100; ++draw) {
-      const auto varied = Varied(order, square, random);
-      ASSERT_TRUE(varied);
-      EXPECT_NE(*varied, square);
-      EXPECT_EQ(slow::Classify(Square(order, *varied))["associative"], true);
-      if (order == 4 || order == 5) {
-        EXPECT_EQ(slow::WhyNotNormal(Square(order, *varied)), "");
-      }
-      forms.insert(StandardForm(order, *varied));
-    }
-    // Order 3 only turns; orders 4 and 5 have four classes, of which one is shown.
-    EXPECT_TRUE(order == 3   ? forms.size() == 1
-                : order < 10 ? forms.size() == 3
-                             : forms.size() > 90)
-        << forms.size() << " at order " << order;
-    EXPECT_EQ(forms.count(StandardForm(order, square)), order == 3 ? 1U : 0U);
-  }
-  EXPECT_EQ(Varied(3, std::vector<double>(9, 7.0), random), std::nullopt);
-  EXPECT_EQ(ComplementOf({0.1, 0.25, 3}), (std::vector<double>{3, 2.85, 0.1}));
-}
-
-TEST(Special, SaysWhyThereIsNone) {
-  for (const SpecialKind& kind : kSpecialKinds) {
-    for (int order = 3; order <= 50; ++order) {
-      const std::string term = kind.Term;
-      const bool exists = term == "bordered"       ? order >= 5
-                          : term == "most-perfect" ? order % 4 == 0
-                          : term == "associative"  ? order % 4 != 2
-                          : term == "ultramagic"   ? order >= 5 && order % 4 != 2
-                                                   : order >= 4 && order % 4 != 2;
-      EXPECT_EQ(kind.WhyNone(order).empty(), exists) << term << " of order " << order;
-    }
-  }
-  EXPECT_EQ(FindSpecialKind("pandiagonal")->WhyNone(6),
-            "no pandiagonal normal square has order 6: its sums would make a quarter of the "
-            "numbers add up to 166.5, which is no whole number");
-}
-
-TEST(Special, IsVariedByLot) {
-  SeededRandom random(11);
-  for (const SpecialKind& kind : kSpecialKinds) {
-    for (const int order : {4, 5, 8, 9}) {
-      if (!kind.WhyNone(order).empty()) continue;
-      std::set<std::vector<double>> forms;
-      for (int draw = 0; draw < 50; ++draw)
-        forms.insert(StandardForm(order, kind.Build(order, random)));
-      EXPECT_GE(forms.size(), order < 6 ? 4U : 45U) << kind.Term << " of order " << order;
-    }
   }
 }
 
