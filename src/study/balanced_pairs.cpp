@@ -26,7 +26,7 @@ class Walk {
     for (std::size_t rise = 0; rise < chances_.size(); ++rise) {
       chances_[rise] = QuickRandom::ChanceOf(std::exp(-static_cast<double>(rise) / temperature));
     }
-    // A way is left mostly by exchanging sizes in one line, or in lines with the same weight.
+    // What changes the cost changes two lines by the difference of two sizes at the least.
     constexpr double kShare = 0.02;
     const double least = 2.0 * (sizes[1] - sizes[0]);
     halting_ = QuickRandom::ChanceOf(kShare * std::exp(-least / temperature));
