@@ -32,11 +32,13 @@ std::vector<int> DrawRing(int order, Random& random) {
 /// The square with a ring around it, its numbers raised so that they follow the ring's small ones.
 std::vector<double> WithRing(const std::vector<double>& inner, int order, Random& random) {
   const std::vector<int> ring = DrawRing(order, random);
-  const double mean = (order * order + 1) / 2.0;
-  std::vector<double> square(static_cast<std::size_t>(order * order));
+  const int numbers = order * order;
+  const double mean = (numbers + 1) / 2.0;
+  std::vector<double> square(static_cast<std::size_t>(numbers));
   const int last = order - 1;
   const auto at = [&](int i, int j) -> double& {
-    return square[static_cast<std::size_t>(i * order + j)];
+    const int cell = i * order + j;
+    return square[static_cast<std::size_t>(cell)];
   };
   const auto put = [&](int i, int j, int oppositeI, int oppositeJ, int place) {
     const double off = ring[static_cast<std::size_t>(place)] / 2.0;

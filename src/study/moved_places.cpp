@@ -1,5 +1,6 @@
 #include "study/moved_places.h"
 
+#include <cstddef>
 #include <numeric>
 #include <span>
 
@@ -14,8 +15,10 @@ std::vector<double> Moved(int order, const std::vector<double>& numbers, SourceO
   std::vector<double> moved;
   moved.reserve(numbers.size());
   for (int i = 0; i < order; ++i) {
-    for (int j = 0; j < order; ++j)
-      moved.push_back(numbers[static_cast<std::size_t>(sourceOf(i, j))]);
+    for (int j = 0; j < order; ++j) {
+      const int source = sourceOf(i, j);
+      moved.push_back(numbers[static_cast<std::size_t>(source)]);
+    }
   }
   return moved;
 }
@@ -35,8 +38,9 @@ std::vector<int> DrawOrderOfHalves(int order, Random& random) {
     int line = parity;
     for (const int pair : Shuffled(parity, half - 1, 2, random)) {
       const int first = random.Between(0, 1) == 1 ? pair + half : pair;
+      const int partner = line + half;
       lines[static_cast<std::size_t>(line)] = first;
-      lines[static_cast<std::size_t>(line + half)] = (first + half) % order;
+      lines[static_cast<std::size_t>(partner)] = (first + half) % order;
       line += 2;
     }
   }
@@ -120,7 +124,7 @@ std::optional<std::vector<double>> WithRingsExchanged(int order, const std::vect
   if (order < kSmallestRing) return std::nullopt;
   std::vector<double> inner;
   for (int i = 1; i < order - 1; ++i) {
-    const auto row = numbers.begin() + i * order;
+    const auto row = numbers.begin() + std::ptrdiff_t{i} * order;
     inner.insert(inner.end(), row + 1, row + order - 1);
   }
   inner = ImageOf(random.Between(0, kImages - 1), order - 2, inner);
@@ -128,7 +132,10 @@ std::optional<std::vector<double>> WithRingsExchanged(int order, const std::vect
   const std::vector<int> above = Shuffled(1, order - 2, 1, random);
   const std::vector<int> beside = Shuffled(1, order - 2, 1, random);
   std::vector<double> square = numbers;
-  const auto at = [order](int i, int j) { return static_cast<std::size_t>(i * order + j); };
+  const auto at = [order](int i, int j) {
+    const int cell = i * order + j;
+    return static_cast<std::size_t>(cell);
+  };
   for (int i = 1; i < order - 1; ++i) {
     const int column = above[static_cast<std::size_t>(i - 1)];
     const int row = beside[static_cast<std::size_t>(i - 1)];
