@@ -31,6 +31,7 @@ struct SquareRequest {
   std::optional<TopRow> Top;
   const SpecialKind* Kind = nullptr;
   bool Vary = false;
+  bool Fresh = false;  ///< drawn from all squares, not made by a construction
   int Count = 1;
   std::optional<std::uint64_t> Seed;
 
