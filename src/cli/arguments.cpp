@@ -191,6 +191,7 @@ class Reader {
         {"--corner", &Reader::Corner, {kBuild}},
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
+        {"--kind", &Reader::LineKindOption, {kComplete}},
         {"--vary", &Reader::Vary, {kBuild}},
         {"--count", &Reader::Count, {kBuild, kPuzzle}},
         {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
@@ -252,6 +253,14 @@ class Reader {
     for (const SpecialKind& kind : kSpecialKinds)
       kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
     Fail("the kind is one of " + kinds);
+  }
+
+  void LineKindOption() {
+    if (const LineKind* const kind = FindLineKind(Value())) {
+      request_.LinesWanted = *kind;
+    } else {
+      Fail("the kind is one of " + LineKindTerms());
+    }
   }
 
   void GradeOption() {
@@ -370,6 +379,8 @@ Its exit status is 3 for none and 4 for what was not settled in time.
                            more; without it what the square suggests
   --sum T                  the total, instead of the one that the square tells
   --limit-to-9             no number above 9, by the positive rules
+  --kind TERM              associative, pandiagonal, most-perfect or ultramagic: the
+                           filled square is to be that, too
   --seconds S              how long to search for each square: 3
 )" +
          OptionText("--format " + ofAnswers,

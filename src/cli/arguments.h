@@ -45,6 +45,7 @@ struct SquareRequest {
   /// long is searched for each.
   std::optional<Rules> RulesWanted;
   double Seconds = 3;
+  LineKind LinesWanted = LineKind::Magic;  ///< what the filled square is to be
 };
 
 struct HelpRequest {};

@@ -10,11 +10,12 @@
 #include "app/board/orders.h"
 #include "app/board/place.h"
 #include "files/stored_square.h"
+#include "puzzle/kind_lines.h"
 
 namespace numorra {
 
 /// A board with gaps that are to be filled so that every row, column and main diagonal adds up to
-/// the target.
+/// the target, and every further line of its kind to its share of it.
 struct Puzzle {
   /// The largest target: all sums of a board then fit into 64 bits with room to spare.
   static constexpr std::int64_t kMostTarget = 1'000'000'000'000'000;
@@ -24,6 +25,7 @@ struct Puzzle {
   Rules Asked = Rules::Normal;
   bool LimitToNine = false;         ///< no number above 9; for the positive rules
   std::vector<std::int64_t> Cells;  ///< in reading order; 0 is a gap
+  LineKind Kind = LineKind::Magic;
 
   /// The largest number that may stand in it.
   std::int64_t Most() const;

@@ -68,10 +68,6 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, BuildStage& st
   const auto* open = std::get_if<NotSettled>(&result);
   if (!open) return result;
   const std::string why = WhyOpen(*open, kFirstSearch);
-  if (!open->Searched) {
-    dialogs.Tell(why);
-    return result;
-  }
   if (!dialogs.Ask(why + "\ngo on for " + Decimal(kLongSearch) + " seconds more?")) return result;
   SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
