@@ -27,7 +27,7 @@ LocalSearch::LocalSearch(const Candidates& board, std::uint64_t seed)
     : numbering_(board), random_(seed) {
   constexpr std::int64_t kLeast = 20'000;
   constexpr std::int64_t kMost = 500'000;
-  constexpr std::int64_t kOfGap = 1000;
+  constexpr std::int64_t kOfGap = 2000;
   runSteps_ = std::clamp(kOfGap * numbering_.Gaps(), kLeast, kMost);
   if (CanRun()) StartRun();
 }

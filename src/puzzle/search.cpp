@@ -19,7 +19,7 @@ std::int64_t Luby(std::int64_t i) {
 /// How many steps of the local search are worth a node of the complete one. The rules take the
 /// longer the more gaps there are, and the less they find.
 std::int64_t StepsOfNode(std::int64_t gaps) {
-  constexpr std::int64_t kGapPairsOfStep = 20;
+  constexpr std::int64_t kGapPairsOfStep = 10;
   return 1 + gaps * gaps / kGapPairsOfStep;
 }
 

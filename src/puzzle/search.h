@@ -33,7 +33,7 @@ std::string WhyOpen(const NotSettled& open, double seconds);
 
 /// When a search gives up. Its seconds are those in which it worked, without the yields. Counted in
 /// nodes, it does the same again from the same random numbers; with g gaps left by the rules,
-/// g * g / 20 + 1 steps of the local search count as a node.
+/// g * g / 10 + 1 steps of the local search count as a node.
 struct SearchLimit {
   std::optional<double> Seconds = {};
   std::optional<std::int64_t> Nodes = {};
