@@ -199,6 +199,7 @@ class Reader {
         {"--corner", &Reader::Corner, {kBuild}},
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
+        {"--kind", &Reader::LineKindOption, {kComplete}},
         {"--vary", &Reader::Vary, {kBuild}},
         {"--fresh", &Reader::Fresh, {kBuild}},
         {"--count", &Reader::Count, {kBuild, kPuzzle}},
@@ -263,6 +264,14 @@ class Reader {
     for (const SpecialKind& kind : kSpecialKinds)
       kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
     Fail("the kind must be one of " + kinds);
+  }
+
+  void LineKindOption() {
+    if (const LineKind* const kind = FindLineKind(Value())) {
+      request_.LinesWanted = *kind;
+    } else {
+      Fail("the kind is one of " + LineKindTerms());
+    }
   }
 
   void GradeOption() {
@@ -384,6 +393,8 @@ status is 3 for none and 4 if the search did not finish in time.
                            1 or more; by default the square decides
   --sum T                  the total, instead of the square's own
   --limit-to-9             no number above 9, by the positive rules
+  --kind TERM              associative, pandiagonal, most-perfect or ultramagic: the
+                           filled square must be of that kind
   --seconds S              how long to search for each square; 3 by default
 )" + OptionText("--format " + ofAnswers, "JSON is one object per line, with a reason, if any,") +
          R"(                           as "why"

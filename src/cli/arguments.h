@@ -46,6 +46,7 @@ struct SquareRequest {
   /// of each search.
   std::optional<Rules> RulesWanted;
   double Seconds = 3;
+  LineKind LinesWanted = LineKind::Magic;  ///< what the filled square is to be
 };
 
 struct HelpRequest {};

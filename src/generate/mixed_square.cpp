@@ -37,9 +37,10 @@ bool IsFlat(const TurningSquare& square) {
 
 CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Random& random,
                       Yielding& yielding) {
+  SilentStage stage(&yielding);
   constexpr int kMoves = 10;
   constexpr int kMostRounds = 100;  // a flat square is a magic one, but a dull one
-  PatternedSquare mixed(TurningSquare(square, order), limitToNine, 0, random, yielding);
+  PatternedSquare mixed(TurningSquare(square, order), limitToNine, 0, random, stage);
   for (int round = 0; round == 0 || (round < kMostRounds && IsFlat(mixed.Square())); ++round) {
     for (int move = 0; move < kMoves; ++move)
       ForEachCell(order, [&](int r, int c) { MoveCell(mixed, r, c); });

@@ -60,7 +60,7 @@ struct Judged {
 
   bool IsKeptBy(const Square<double>& other) const {
     if (StandardForm(other) == Standard) return false;
-    const Facts facts(NumberSquare(other));
+    const Facts facts{NumberSquare(other)};
     return std::all_of(Kind.begin(), Kind.end(),
                        [&](const Term* term) { return bool(term->Judge(facts)); });
   }

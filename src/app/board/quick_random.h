@@ -33,6 +33,9 @@ class QuickRandom {
     return static_cast<int>((std::uint64_t{Next()} * static_cast<std::uint64_t>(count)) >> 32);
   }
 
+  /// Uniform in [0, 1).
+  double Share() { return Next() * 0x1p-32; }
+
   /// True with a chance as ChanceOf gives it.
   bool Happens(std::uint32_t chance) { return Next() < chance; }
 
