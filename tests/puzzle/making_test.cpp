@@ -6,7 +6,7 @@
 #include "files/square_json.h"
 #include "puzzle/code.h"
 #include "puzzle/deduction.h"
-#include "puzzle/fresh_square.h"
+#include "puzzle/fresh_puzzle.h"
 #include "puzzle/search.h"
 #include "support/puzzle_judge.h"
 #include "support/soak.h"
@@ -45,6 +45,16 @@ TEST_F(MakingTest, MakesFairPuzzlesOfEveryGrade) {
       }
     }
   }
+}
+
+/// A third of the squares of order 4 have no expert puzzle; another one is drawn then.
+TEST_F(MakingTest, FreshPuzzlesHaveTheGrade) {
+  for (int draw = 0; draw < 12; ++draw) {
+    const auto made = MakeFreshPuzzle({4}, {Grade::Expert}, random_, stage_);
+    EXPECT_EQ(std::get<MadePuzzle>(made).Needed, Grade::Expert);
+  }
+  const auto none = MakeFreshPuzzle({3, 16}, {Grade::Easy, 9}, random_, stage_);
+  EXPECT_EQ(std::get<CannotMake>(none).Why, "a puzzle of this size has fewer than 9 clues");
 }
 
 /// Random puzzles for as long as a soak runs; every other one has any total.

@@ -2,6 +2,7 @@
 
 #include "app/play/lay_out.h"
 #include "support/play_harness.h"
+#include "support/slow_classifier.h"
 
 namespace numorra {
 namespace {
@@ -83,6 +84,23 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
                       "nothing can fill these gaps: 8 in row 1, column 1, or 2 in row 1, column 3 "
                       "cannot stay"}));
   EXPECT_EQ(At(2, 1), "");
+}
+
+TEST_F(FillGapsTest, FillsAsAKind) {
+  const auto fillAs = [this](const char* term) {
+    FillGaps({board_, boxes_, dialogs_, random_}, false, stage_, *FindLineKind(term));
+  };
+  LayOutGaps("1 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0", 34);
+  fillAs("pandiagonal");
+  EXPECT_EQ(slow::Classify(ShownRows(board_.grid))["pandiagonal"], true);
+  LayOutGaps("1 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 16", 34);
+  fillAs("pandiagonal");
+  EXPECT_TRUE(board_.HasGaps()) << "16 would be opposite";
+  fillAs("ultramagic");
+  const Messages said = dialogs_.Take();
+  EXPECT_EQ(said[0], "this is one of several solutions");
+  EXPECT_TRUE(said[1].starts_with("nothing can fill these gaps: 1 in row 1, column 1"));
+  EXPECT_TRUE(said[2].starts_with("nothing can fill these gaps: no ultramagic normal square"));
 }
 
 TEST_F(FillGapsTest, EmptiesEveryCellThatIsNotGiven) {

@@ -1,6 +1,7 @@
 #include "app/play/study_commands.h"
 
 #include "support/play_harness.h"
+#include "support/slow_classifier.h"
 
 namespace numorra {
 namespace {
@@ -41,6 +42,28 @@ TEST_F(StudyCommands, TakeTheTargetAlong) {
   ComplementBoard(context_);
   EXPECT_NE(board_.TargetTotal, 19.5);
   EXPECT_EQ(boxes_.SumText, "19.5") << "in the Normal mode the box belongs to the size";
+}
+
+TEST_F(StudyCommands, ShowRelativesOfTheKind) {
+  const auto relative = [](const std::string& name) -> const Relative& {
+    return *std::find_if(kRelatives.begin(), kRelatives.end(),
+                         [&](const Relative& one) { return one.Name == name; });
+  };
+  Show("1 8 13 12 / 14 11 2 7 / 4 5 16 9 / 15 10 3 6", 34);
+  const slow::Rows before = ShownRows(board_.grid);
+  ShowRelative(relative("MoveRoundx"), context_);
+  EXPECT_NE(ShownRows(board_.grid), before);
+  EXPECT_EQ(slow::Classify(ShownRows(board_.grid))["pandiagonal"], true);
+  ShowRelative(relative("ExchangeOppositesx"), context_);
+  EXPECT_EQ(dialogs_.Take(), Messages{"this square has no such relative of its kind"});
+  Show("8 1 6 / 3 5 7 / 4 9 2", 15);
+  ShowRelative(relative("AddToAllx"), context_);
+  EXPECT_GT(board_.TargetTotal, 15);
+  EXPECT_EQ(board_.grid.VerdictOf(0, 0), Verdict::Right);
+  EXPECT_EQ(board_.Asked, Rules::Positive);
+  Show("8 1 6 / 3 5 7 / 4 9 2", 16);
+  ShowRelative(relative("AddToAllx"), context_);
+  EXPECT_EQ(board_.TargetTotal, 16) << "a target that was wrong stays";
 }
 
 TEST_F(StudyCommands, RefuseInOneSentence) {
