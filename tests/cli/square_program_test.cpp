@@ -340,7 +340,7 @@ TEST(SquareProgram, MakesPuzzles) {
       "\"normal\", \"rows\": [[null, null, null], [null, 5, null], [2, 9, null]], \"givens\": "
       "[[false, false, false], [false, true, false], [true, true, false]], \"solution\": "
       "[[6, 1, 8], [7, 5, 3], [2, 9, 4]], \"grade\": \"easy\", \"clues\": 3, \"code\": "
-      "\"NP12S3W04\"}\n");
+      "\"NP2C1J45R0PT\"}\n");
   const std::string three = RunWith("puzzle --size 5 --grade hard --count 3 --seed 9").Out;
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");

@@ -152,9 +152,10 @@ std::optional<MadePuzzle> Session::SolvedPuzzleOnBoard() {
 
 std::optional<std::string> Session::PuzzleCode() const {
   const auto puzzle = PuzzleOnBoard();
-  if (puzzle && puzzle->Order() <= kMostCodedOrder) return CodeOf(*puzzle);
+  const std::string code = puzzle ? CodeOf(*puzzle) : "";
+  if (!code.empty()) return code;
   ports_->TheDialogs.Tell(
-      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule");
+      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no rule");
   return std::nullopt;
 }
 

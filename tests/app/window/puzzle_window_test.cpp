@@ -33,14 +33,14 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   const Messages noCode = {
-      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"};
+      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no rule"};
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
   Trigger("UndoMovex");
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_FALSE(Find<QWidget>("SearchBar").isVisible());
-  Make("SolveAuto", "11");
+  Make("SolveAuto", "21");
   QTest::keyClick(&window_.View(), Qt::Key_Backspace);
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
@@ -131,7 +131,7 @@ TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
               told.contains(RulesOf(Grade::Hard)))
       << told.toStdString();
   form->findChild<QPushButton*>("CopyCodex")->click();
-  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP1"));
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP2"));
   take->click();
   EXPECT_TRUE(window_.TheBoard().HasGivens());
   EXPECT_TRUE(window_.TheBoard().HasGaps());
