@@ -13,6 +13,7 @@
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
 #include "puzzle/code.h"
+#include "puzzle/only_solution.h"
 
 namespace numorra {
 
@@ -145,9 +146,9 @@ std::optional<MadePuzzle> Session::SolvedPuzzleOnBoard() {
   const auto clues = PuzzleOnBoard();
   if (!clues) return std::nullopt;
   SilentStage stage;
-  const SearchResult result = numorra::Solve(*clues, {.Seconds = kAtOnce}, TheRandom, stage);
-  const auto* one = std::get_if<OneSolution>(&result);
-  return one ? std::optional(MadePuzzle{*clues, one->Solved, GradeOf(*clues)}) : std::nullopt;
+  const auto solved = WithOnlySolution(*clues, {.Seconds = kAtOnce}, TheRandom, stage);
+  const auto* one = std::get_if<MadePuzzle>(&solved);
+  return one ? std::optional(*one) : std::nullopt;
 }
 
 std::optional<std::string> Session::PuzzleCode() const {
