@@ -32,6 +32,10 @@ void RegisterGeneratorBenches();
 /// Prints how varied the squares of the variable generator are, by order and base.
 void PrintVariety();
 
+/// Prints how many different squares are among fresh ones and those of a kind, and how long one
+/// takes.
+void PrintFreshVariety();
+
 /// Prints the share of boards with gaps that are settled in time, by order and share of clues.
 void PrintFilling();
 

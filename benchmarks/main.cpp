@@ -73,6 +73,7 @@ int main(int argc, char** argv) {
   if (argc == 3 && std::strcmp(argv[1], "--probe") == 0) return RunProbeChild(argv[2]);
   if (argc == 2 && std::strcmp(argv[1], "--variety") == 0) {
     PrintVariety();
+    PrintFreshVariety();
     return 0;
   }
   if (argc == 2 && std::strcmp(argv[1], "--filling") == 0) {

@@ -149,6 +149,7 @@ class Reader {
       Fail("the size is missing");
     }
     if (request_.Kind && variable) Fail("a kind cannot be combined with a sum, limit or corner");
+    CheckFresh();
     if (request_.Corner && request_.LimitToNine) Fail("the limit cannot be combined with a corner");
     CheckVary();
   }
@@ -161,13 +162,19 @@ class Reader {
     Fail("the sum for size " + std::to_string(request_.Size) + " must be below " + Decimal(bound));
   }
 
-  /// Varying a square changes the order of its lines, and so what depends on that order.
+  /// A relative of a square has its lines in another order.
   void CheckVary() {
     if (!request_.Vary) return;
     if (request_.Top) Fail("a varied square does not keep its top row");
     if (request_.Corner) Fail("a varied square does not keep its corner");
-    if (request_.Kind && !request_.Kind->KeptByFamily) {
-      Fail("a varied square does not stay " + std::string(request_.Kind->Term));
+  }
+
+  void CheckFresh() {
+    if (!request_.Fresh) return;
+    if (request_.Top) Fail("a fresh square cannot be combined with a top row");
+    if (request_.Corner) Fail("a fresh square cannot be combined with a corner");
+    if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
+      Fail("the sum of a fresh square must be a whole number");
     }
   }
 
@@ -197,7 +204,9 @@ class Reader {
         {"--corner", &Reader::Corner, {kBuild}},
         {"--top-row", &Reader::TopRowOption, {kBuild}},
         {"--kind", &Reader::Kind, {kBuild}},
+        {"--kind", &Reader::LineKindOption, {kComplete}},
         {"--vary", &Reader::Vary, {kBuild}},
+        {"--fresh", &Reader::Fresh, {kBuild}},
         {"--count", &Reader::Count, {kBuild, kPuzzle}},
         {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
         {"--grade", &Reader::GradeOption, {kPuzzle}},
@@ -263,6 +272,14 @@ class Reader {
     Fail("the kind must be one of " + kinds);
   }
 
+  void LineKindOption() {
+    if (const LineKind* const kind = FindLineKind(Value())) {
+      request_.LinesWanted = *kind;
+    } else {
+      Fail("the kind is one of " + LineKindTerms());
+    }
+  }
+
   void GradeOption() {
     const auto grade = GradeNamed(Value());
     if (!grade) Fail("the grade must be easy, medium, hard or expert");
@@ -296,6 +313,7 @@ class Reader {
   }
 
   void Vary() { request_.Vary = true; }
+  void Fresh() { request_.Fresh = true; }
 
   void Count() {
     constexpr int kMost = 1'000'000;
@@ -359,10 +377,12 @@ N x N, of any total, 4 x 4 with a top row of your choice, or of a special kind.
   --corner V               the number in the top left corner, for sizes from 4
   --top-row A,B,C,D        the top row of a 4 x 4 square, such as a date
   --kind TERM              associative, pandiagonal, most-perfect, ultramagic or
-                           bordered
-  --vary                   another square of the same family instead; not with a
-                           corner, a top row, or a kind other than associative,
-                           which it would not keep
+                           bordered; drawn at random
+  --fresh                  a square drawn at random from all squares, not one
+                           that a construction makes; not with a corner or top
+                           row
+  --vary                   another square of the same family or kind instead; not
+                           with a corner or top row, which it would not keep
   --count M                the number of squares, 1 to 1000000
 )" + OptionText("--format " + all, "how squares are written:") +
          FormatLines() +
@@ -384,6 +404,8 @@ status is 3 for none and 4 if the search did not finish in time.
                            1 or more; by default the square decides
   --sum T                  the total, instead of the square's own
   --limit-to-9             no number above 9, by the positive rules
+  --kind TERM              associative, pandiagonal, most-perfect or ultramagic: the
+                           filled square must be of that kind
   --seconds S              how long to search for each square; 3 by default
 )" + OptionText("--format " + ofAnswers, "JSON is one object per line, with a reason, if any,") +
          R"(                           as "why"

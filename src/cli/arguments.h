@@ -31,6 +31,7 @@ struct SquareRequest {
   std::optional<TopRow> Top;
   const SpecialKind* Kind = nullptr;
   bool Vary = false;
+  bool Fresh = false;  ///< drawn from all squares, not made by a construction
   int Count = 1;
   std::optional<std::uint64_t> Seed;
 
@@ -48,6 +49,7 @@ struct SquareRequest {
   /// of each search.
   std::optional<Rules> RulesWanted;
   double Seconds = 3;
+  LineKind LinesWanted = LineKind::Magic;  ///< what the filled square is to be
 };
 
 struct HelpRequest {};

@@ -11,6 +11,8 @@
 #include "generate/proposal.h"
 #include "generate/top_row_square.h"
 #include "generate/variable_square.h"
+#include "puzzle/fresh_square.h"
+#include "study/kept_relatives.h"
 #include "study/relatives.h"
 
 namespace numorra {
@@ -33,6 +35,7 @@ class SquareBuilder {
   Result Next() {
     if (request_.Top) return WithTopRow(*request_.Top);
     if (request_.Kind) return Special(*request_.Kind);
+    if (request_.Fresh) return Fresh();
     const bool normal = !request_.Sum && !request_.LimitToNine && !request_.Corner;
     return normal ? Normal() : Variable();
   }
@@ -49,6 +52,15 @@ class SquareBuilder {
     const std::string none = kind.WhyNone(order);
     if (!none.empty()) throw Impossible{none};
     return OfNormalNumbers(kind.Build(order, random_));
+  }
+
+  Result Fresh() {
+    SquareWish wish{request_.Size, {}, request_.LimitToNine};
+    if (request_.Sum) wish.Total = static_cast<std::int64_t>(*request_.Sum);
+    const auto square = FreshSquare(wish, random_, stage_);
+    if (!square) throw Impossible{"no square with this total was found"};
+    const auto total = static_cast<double>(square->Target);
+    return {Square<double>(square->Cells), total, RemarkOnTotal(total), square->Asked};
   }
 
   Result Normal() {
@@ -83,10 +95,13 @@ class SquareBuilder {
     if (request_.Corner && build.Square(1, 1) != *request_.Corner) {
       remark = WhyNotTheCorner(*request_.Corner, plan);
     }
-    if (request_.Sum && build.Total != *request_.Sum) {
-      remark += (remark.empty() ? "" : "; ") + ("the total is " + Decimal(build.Total));
-    }
-    return remark;
+    const std::string onTotal = RemarkOnTotal(build.Total);
+    return remark + (remark.empty() || onTotal.empty() ? "" : "; ") + onTotal;
+  }
+
+  /// That the total is another than was asked for.
+  std::string RemarkOnTotal(double total) const {
+    return request_.Sum && total != *request_.Sum ? "the total is " + Decimal(total) : "";
   }
 
   const SquareRequest& request_;
@@ -105,7 +120,8 @@ void BuildSquares(const SquareRequest& request, const Streams& streams) {
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     Result result = builder.Next();
     if (request.Vary) {
-      const auto varied = Varied(result.Numbers, random);
+      const auto varied =
+          request.Kind ? VariedWithinKind(result.Numbers, random) : Varied(result.Numbers, random);
       if (!varied) throw Impossible{"all squares of this family look like this one"};
       result.Numbers = *varied;
     }

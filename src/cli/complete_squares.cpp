@@ -32,7 +32,7 @@ Completed AnswerOf(const SearchResult& result, double seconds) {
   if (const auto* open = std::get_if<NotSettled>(&result)) {
     return {"unsettled", Completion::Unsettled, open->Found, {}, WhyOpen(*open, seconds)};
   }
-  return {"none", Completion::Impossible};
+  return {"none", Completion::Impossible, {}, {}, std::get<NoSolution>(result).Why};
 }
 
 Completed Complete(StoredSquare square, const SquareRequest& request, Random& random) {
@@ -45,10 +45,11 @@ Completed Complete(StoredSquare square, const SquareRequest& request, Random& ra
     square.Asked = Rules::Positive;
   }
   square.Asked = request.RulesWanted.value_or(square.Asked);
-  const auto puzzle = PuzzleOf(square, request.LimitToNine);
+  auto puzzle = PuzzleOf(square, request.LimitToNine);
   if (const auto* against = std::get_if<AgainstRules>(&puzzle)) {
     return {"none", Completion::Impossible, {}, {}, against->Why};
   }
+  std::get<Puzzle>(puzzle).Kind = request.LinesWanted;
   SilentStage stage;
   const double seconds = request.Seconds;
   return AnswerOf(Solve(std::get<Puzzle>(puzzle), {.Seconds = seconds}, random, stage), seconds);

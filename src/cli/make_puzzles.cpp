@@ -7,7 +7,7 @@
 #include "app/ports/build_stage.h"
 #include "cli/write_puzzle.h"
 #include "puzzle/deduction.h"
-#include "puzzle/fresh_square.h"
+#include "puzzle/fresh_puzzle.h"
 #include "puzzle/making.h"
 
 namespace numorra {
@@ -17,9 +17,7 @@ MadePuzzle Make(const SquareRequest& request, Random& random) {
   SilentStage stage;
   SquareWish square{request.Size, {}, request.LimitToNine};
   if (request.Sum) square.Total = static_cast<std::int64_t>(*request.Sum);
-  const auto full = FreshSquare(square, random, stage);
-  if (!full) throw Impossible{"no square of this size and sum was found"};
-  const auto made = MakePuzzle(*full, {request.Wanted, request.ClueCount}, random, stage);
+  const auto made = MakeFreshPuzzle(square, {request.Wanted, request.ClueCount}, random, stage);
   if (const auto* cannot = std::get_if<CannotMake>(&made)) throw Impossible{cannot->Why};
   return std::get<MadePuzzle>(made);
 }

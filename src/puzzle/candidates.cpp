@@ -29,15 +29,20 @@ std::int64_t LeastWithout(const std::vector<std::int64_t>& low, std::size_t with
 Candidates::Candidates(const Puzzle& puzzle)
     : order_(puzzle.Order()),
       most_(puzzle.Most()),
-      map_(LineMap::Of(puzzle.Order())),
+      map_(LineMap::Of(puzzle.Order(), puzzle.Kind)),
       gaps_(puzzle.Cells.Size()),
       values_(At(gaps_)),
       low_(At(gaps_), 1),
       high_(At(gaps_), most_),
       count_(At(gaps_), most_),
-      rest_(At(map_.Lines()), puzzle.Target),
-      open_(At(map_.Lines()), puzzle.Order()),
+      rest_(At(map_.Lines())),
+      open_(At(map_.Lines())),
       touched_(At(map_.Lines())) {
+  for (int line = 0; line < map_.Lines(); ++line) {
+    rest_[At(line)] = map_.SumOf(line, puzzle.Target);
+    open_[At(line)] = static_cast<int>(map_.CellsOf(line).size());
+    if (!map_.IsWhole(line, puzzle.Target)) impossible_ = true;
+  }
   for (int cell = 0; cell < Cells(); ++cell) {
     const std::int64_t number = puzzle.Cells[cell];
     if (number != 0) Take(cell, number);

@@ -114,7 +114,7 @@ class Candidates {
   std::vector<char> touched_;                              ///< by line
   std::vector<int> waiting_;                               ///< lines that were touched
   std::vector<Change> trail_;
-  bool impossible_ = false;  ///< the puzzle's own numbers contradict each other
+  bool impossible_ = false;  ///< the puzzle contradicts itself as it stands
   int failedLine_ = -1;
 
   // Room for what the rules work with, kept from one to the next.

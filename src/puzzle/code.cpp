@@ -149,7 +149,9 @@ std::optional<std::string> WhyNotCoded(const Puzzle& puzzle) {
 }  // namespace
 
 std::string CodeOf(const Puzzle& puzzle) {
-  if (puzzle.Order() > kMostCodedOrder || WhyNotCoded(puzzle)) return {};
+  if (puzzle.Order() > kMostCodedOrder || puzzle.Kind != LineKind::Magic || WhyNotCoded(puzzle)) {
+    return {};
+  }
   return CodeOfDigits(DigitsOfPuzzle(puzzle, CodeText().Version));
 }
 

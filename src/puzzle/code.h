@@ -18,8 +18,8 @@ inline constexpr int kMostCodedOrder = 20;
 /// one code of each version, so a number that is not written back the same is refused. Codes of
 /// version 1, for orders up to 10, are read for ever.
 ///
-/// Empty for a puzzle that has no code: it is larger than kMostCodedOrder, has no clue, or has a
-/// line whose clues cannot add up to the target.
+/// Empty for a puzzle that has no code: it is larger than kMostCodedOrder, of a kind other than
+/// magic, has no clue, or has a line whose clues cannot add up to the target.
 std::string CodeOf(const Puzzle& puzzle);
 
 /// Whether a text is meant to be a code: its first letters are NP, capitals or not.

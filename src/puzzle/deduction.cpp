@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <array>
 
-#include "app/board/line.h"
-
 namespace numorra {
 namespace {
 
 constexpr std::array kGrades = {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert};
 
 std::string LineName(const Candidates& board, int line) {
-  return NameOf(MagicLines(board.Order())[static_cast<std::size_t>(line)], board.Order());
+  return board.Map().NameOf(line);
 }
 
 std::string PlaceName(const Candidates& board, int cell) {
@@ -34,15 +32,16 @@ std::optional<Deduction> SingleGap(const Puzzle& puzzle, const Candidates& board
   for (int line = 0; line < board.Map().Lines(); ++line) {
     const std::vector<int> gaps = board.GapsOf(line);
     if (gaps.size() != 1 || !board.Allows(gaps[0], board.Rest(line))) continue;
-    const std::string number = std::to_string(board.Rest(line));
+    const std::size_t others = board.Map().CellsOf(line).size() - 1;
+    const std::string stand = others == 1 ? " number stands in " : " numbers stand in ";
     return Deduction{gaps[0],
                      board.Rest(line),
                      Grade::Easy,
                      PlacesOf(board, board.Map().CellsOf(line)),
                      LineName(board, line),
-                     std::to_string(puzzle.Order() - 1) + " numbers stand in " +
-                         LineName(board, line) + ", the total is " + std::to_string(puzzle.Target) +
-                         ": the last is " + number};
+                     std::to_string(others) + stand + LineName(board, line) + ", the total is " +
+                         std::to_string(board.Map().SumOf(line, puzzle.Target)) + ": the last is " +
+                         std::to_string(board.Rest(line))};
   }
   return std::nullopt;
 }

@@ -1,31 +1,27 @@
 #include "puzzle/line_map.h"
 
-#include <array>
+#include <map>
 #include <memory>
 #include <mutex>
 
-#include "app/board/line.h"
-#include "app/board/orders.h"
-
 namespace numorra {
 
-LineMap::LineMap(int order) : lines_(static_cast<std::size_t>(order * order)) {
-  for (const Line line : MagicLines(order)) {
-    std::vector<int> cells;
-    for (int i = 0; i < order; ++i) {
-      cells.push_back(line.Cell(i, order));
-      lines_[static_cast<std::size_t>(cells.back())].push_back(static_cast<int>(cells_.size()));
-    }
-    cells_.push_back(std::move(cells));
+LineMap::LineMap(int order, LineKind kind)
+    : order_(order),
+      lines_(numorra::LinesOf(kind, order)),
+      linesOf_(static_cast<std::size_t>(order) * static_cast<std::size_t>(order)) {
+  for (int line = 0; line < Lines(); ++line) {
+    for (const int cell : CellsOf(line))
+      linesOf_[static_cast<std::size_t>(cell)].push_back(line);
   }
 }
 
-const LineMap& LineMap::Of(int order) {
+const LineMap& LineMap::Of(int order, LineKind kind) {
   static std::mutex oneAtATime;
-  static std::array<std::unique_ptr<LineMap>, kMaxOrder + 1> maps;
+  static std::map<std::pair<int, LineKind>, std::unique_ptr<LineMap>> maps;
   const std::lock_guard lock(oneAtATime);
-  auto& map = maps[static_cast<std::size_t>(order)];
-  if (!map) map.reset(new LineMap(order));
+  auto& map = maps[{order, kind}];
+  if (!map) map.reset(new LineMap(order, kind));
   return *map;
 }
 

@@ -1,25 +1,43 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <vector>
+
+#include "puzzle/kind_lines.h"
 
 namespace numorra {
 
-/// Which cells the 2n + 2 lines of a board have, and which lines a cell has: indices in reading
-/// order, lines as MagicLines has them.
+/// Which cells the lines of a board have, and which lines a cell has: indices in reading order,
+/// lines as LinesOf has them, rows and columns first.
 class LineMap {
  public:
-  /// The one of an order, made when it is first asked for, in whichever thread.
-  static const LineMap& Of(int order);
+  /// The one of an order and kind, made when it is first asked for, in whichever thread.
+  static const LineMap& Of(int order, LineKind kind = LineKind::Magic);
 
-  int Lines() const { return static_cast<int>(cells_.size()); }
-  const std::vector<int>& CellsOf(int line) const { return cells_[static_cast<std::size_t>(line)]; }
-  const std::vector<int>& LinesOf(int cell) const { return lines_[static_cast<std::size_t>(cell)]; }
+  int Order() const { return order_; }
+  int Lines() const { return static_cast<int>(lines_.size()); }
+  const std::string& NameOf(int line) const { return At(line).Name; }
+  const std::vector<int>& CellsOf(int line) const { return At(line).Cells; }
+  const std::vector<int>& LinesOf(int cell) const {
+    return linesOf_[static_cast<std::size_t>(cell)];
+  }
+
+  /// The share of the total that a line adds up to; `IsWhole` tells whether it is a whole number.
+  std::int64_t SumOf(int line, std::int64_t total) const { return Share(line, total) / order_; }
+  bool IsWhole(int line, std::int64_t total) const { return Share(line, total) % order_ == 0; }
 
  private:
-  explicit LineMap(int order);
+  LineMap(int order, LineKind kind);
 
-  std::vector<std::vector<int>> cells_;
-  std::vector<std::vector<int>> lines_;
+  const CellLine& At(int line) const { return lines_[static_cast<std::size_t>(line)]; }
+  std::int64_t Share(int line, std::int64_t total) const {
+    return total * static_cast<std::int64_t>(CellsOf(line).size());
+  }
+
+  int order_;
+  std::vector<CellLine> lines_;
+  std::vector<std::vector<int>> linesOf_;
 };
 
 }  // namespace numorra

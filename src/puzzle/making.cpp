@@ -11,7 +11,44 @@ namespace {
 
 constexpr int kDiggings = 20;  // tried for a grade or a number of clues
 
+/// Whether filling the last gap of a line, again and again, fills the board. For puzzles with a
+/// solution, where each of these numbers fits.
+bool EasyRulesSolve(const Puzzle& puzzle) {
+  const LineMap& map = LineMap::Of(puzzle.Order(), puzzle.Kind);
+  const auto at = [](int index) { return static_cast<std::size_t>(index); };
+  std::vector<int> open(at(map.Lines()));
+  std::vector<char> isGap(at(puzzle.Cells.Size()));
+  int gaps = 0;
+  for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
+    if (puzzle.Cells[cell] != 0) continue;
+    isGap[at(cell)] = 1;
+    ++gaps;
+    for (const int line : map.LinesOf(cell))
+      ++open[at(line)];
+  }
+  std::vector<int> waiting;
+  for (int line = 0; line < map.Lines(); ++line) {
+    if (open[at(line)] == 1) waiting.push_back(line);
+  }
+  while (!waiting.empty()) {
+    const int last = waiting.back();
+    waiting.pop_back();
+    if (open[at(last)] != 1) continue;
+    for (const int cell : map.CellsOf(last)) {
+      if (isGap[at(cell)] == 0) continue;
+      isGap[at(cell)] = 0;
+      --gaps;
+      for (const int line : map.LinesOf(cell)) {
+        if (--open[at(line)] == 1) waiting.push_back(line);
+      }
+      break;
+    }
+  }
+  return gaps == 0;
+}
+
 bool RulesSolve(const Puzzle& puzzle, Grade grade) {
+  if (grade == Grade::Easy) return EasyRulesSolve(puzzle);
   Candidates board(puzzle);
   return board.Propagate(grade) && board.Solved();
 }
@@ -38,7 +75,7 @@ class Digger {
   /// Gives numbers back until there are so many; false when symmetry passes that number by.
   bool AddClues(MadePuzzle& made, int clues) {
     for (const bool keepGrade : {true, false}) {
-      for (const std::vector<int>& cells : CellsByLot()) {
+      for (const std::vector<int>& cells : ShuffledCells()) {
         const int have = square_.Cells.Size() - made.Clues.Gaps();
         if (have == clues) return true;
         if (have + static_cast<int>(cells.size()) > clues) continue;
@@ -57,8 +94,8 @@ class Digger {
   }
 
  private:
-  /// The cells that come and go together, in an order by lot.
-  std::vector<std::vector<int>> CellsByLot() {
+  /// The cells that are removed and returned together, in random order.
+  std::vector<std::vector<int>> ShuffledCells() {
     const int cells = square_.Cells.Size();
     std::vector<std::vector<int>> together;
     for (int cell = 0; cell < cells; ++cell) {
@@ -76,7 +113,7 @@ class Digger {
   /// Takes away what leaves the puzzle solvable.
   template <class IsSolvable>
   void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
-    for (const std::vector<int>& cells : CellsByLot()) {
+    for (const std::vector<int>& cells : ShuffledCells()) {
       if (puzzle.Cells[cells[0]] == 0) continue;
       yielding_.Yield();
       for (const int cell : cells)

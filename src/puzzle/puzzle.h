@@ -8,11 +8,12 @@
 #include "app/board/orders.h"
 #include "app/board/place.h"
 #include "files/stored_square.h"
+#include "puzzle/kind_lines.h"
 
 namespace numorra {
 
 /// A board with gaps that are to be filled so that every row, column and main diagonal adds up to
-/// the target.
+/// the target, and every further line of its kind to its share of it.
 struct Puzzle {
   /// The largest target: all sums of a board then fit into 64 bits with room to spare.
   static constexpr std::int64_t kMostTarget = 1'000'000'000'000'000;
@@ -21,6 +22,7 @@ struct Puzzle {
   std::int64_t Target = 0;
   Rules Asked = Rules::Normal;
   bool LimitToNine = false;  ///< no number above 9; for the positive rules
+  LineKind Kind = LineKind::Magic;
 
   int Order() const { return Cells.Order(); }
 

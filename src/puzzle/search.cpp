@@ -1,14 +1,11 @@
 #include "puzzle/search.h"
 
 #include <algorithm>
-#include <limits>
-#include <numeric>
-#include <vector>
 
 #include "app/board/numbers.h"
 #include "app/ports/timed_yielding.h"
-#include "puzzle/candidates.h"
-#include "study/special.h"
+#include "puzzle/complete_search.h"
+#include "puzzle/local_search.h"
 
 namespace numorra {
 namespace {
@@ -21,7 +18,14 @@ std::int64_t Luby(std::int64_t i) {
   return power - 1 == i ? power / 2 : Luby(i - power / 2 + 1);
 }
 
-class Search {
+/// How many steps of the local search are worth a node of the complete one. The rules take the
+/// longer the more gaps there are, and the less they find.
+std::int64_t StepsOfNode(std::int64_t gaps) {
+  constexpr std::int64_t kGapPairsOfStep = 10;
+  return 1 + gaps * gaps / kGapPairsOfStep;
+}
+
+class Search : private SearchWatcher {
  public:
   /// Without random numbers there is the complete search alone.
   Search(const Puzzle& puzzle, const SearchLimit& limit, Random* random, Yielding& yielding)
@@ -30,157 +34,116 @@ class Search {
         random_(random),
         yielding_(yielding),
         board_(puzzle),
-        weights_(static_cast<std::size_t>(board_.Map().Lines()), 1) {}
+        complete_(board_, *this) {}
 
   std::optional<std::int64_t> Count(std::int64_t most) {
     most_ = most;
     if (!board_.Propagate(Grade::Hard)) return 0;
-    if (board_.Gaps() > kMostSearchedGaps || !RunOnce(kNoEnd, 1)) return std::nullopt;
+    if (!complete_.Run() && solutions_ < most_) return std::nullopt;
     return solutions_;
   }
 
   SearchResult Run() {
-    constexpr double kShareOfFirst = 0.1;
+    constexpr double kShareOfFirst = 0.2;
     constexpr std::int64_t kRestart = 150;
+    if (puzzle_.Asked == Rules::Normal) {
+      const std::string why = WhyNoneOfKind(puzzle_.Kind, puzzle_.Order());
+      if (!why.empty()) return NoSolution{why};
+    }
     if (!board_.Propagate(Grade::Hard)) return NoSolution{};
     if (IsEmptyNormal()) return Constructed();
-    if (board_.Gaps() > kMostSearchedGaps) return NotSettled{.Searched = false};
-    if (RunOnce(kNoEnd, kShareOfFirst)) return Result();
-    randomly_ = true;
-    for (std::int64_t run = 1; !IsOver(1); ++run) {
-      if (RunOnce(nodes_ + kRestart * Luby(run), 1)) return Result();
-    }
-    return NotSettled{first_};
-  }
-
- private:
-  enum class End { AllSeen, Enough, OutOfTime };
-  static constexpr std::int64_t kNoEnd = std::numeric_limits<std::int64_t>::max();
-
-  /// Whether a search that stops after so many nodes in all, or that share of the limit, has come
-  /// to its end.
-  bool RunOnce(std::int64_t nodes, double share) {
-    lastNode_ = nodes;
-    share_ = share;
-    const std::size_t mark = board_.Mark();
-    const End end = Descend();
-    board_.UndoTo(mark);
-    return end != End::OutOfTime;
-  }
-
-  /// A board without a number needs no search: a construction gives a square, which turned
-  /// half round is another.
-  bool IsEmptyNormal() const {
-    constexpr int kSmallestBordered = 5;
-    return board_.IsNormal() && puzzle_.Order() >= kSmallestBordered &&
-           puzzle_.Gaps() == board_.Cells();
-  }
-  SearchResult Constructed() {
-    SeveralSolutions both{puzzle_, puzzle_};
-    both.First.Cells = Square<std::int64_t>(BorderedSquare(puzzle_.Order(), *random_));
-    std::copy(both.First.Cells.begin(), both.First.Cells.end(),
-              std::make_reverse_iterator(both.Second.Cells.end()));
-    return both;
-  }
-
-  SearchResult Result() const {
+    stepsOfNode_ = StepsOfNode(board_.Gaps());
+    share_ = kShareOfFirst;
+    bool allSeen = complete_.Run();
+    share_ = 1;
+    for (std::int64_t run = 1; !allSeen && !second_ && !IsOver(1); ++run)
+      allSeen = complete_.Restart(*random_, kRestart * Luby(run));
     if (second_) return SeveralSolutions{*first_, *second_};
+    if (!allSeen) return NotSettled{first_};
     if (first_) return OneSolution{*first_};
     return NoSolution{};
   }
 
+ private:
+  /// A board without a number needs no search: a construction gives a square, which turned
+  /// half round is another.
+  bool IsEmptyNormal() const {
+    constexpr int kSmallestBordered = 5;
+    return board_.IsNormal() && puzzle_.Gaps() == board_.Cells() &&
+           (puzzle_.Order() >= kSmallestBordered || puzzle_.Kind != LineKind::Magic);
+  }
+  SearchResult Constructed() {
+    SeveralSolutions both{puzzle_, puzzle_};
+    both.First.Cells = Square<std::int64_t>(BuiltOfKind(puzzle_.Kind, puzzle_.Order(), *random_));
+    std::reverse_copy(both.First.Cells.begin(), both.First.Cells.end(), both.Second.Cells.begin());
+    return both;
+  }
+
   bool IsOver(double share) const {
-    if (limit_.Nodes && static_cast<double>(nodes_) >= share * static_cast<double>(*limit_.Nodes)) {
-      return true;
-    }
+    const std::int64_t worth = nodes_ + steps_ / stepsOfNode_;
+    const auto nodes = static_cast<double>(worth);
+    if (limit_.Nodes && nodes >= share * static_cast<double>(*limit_.Nodes)) return true;
     return limit_.Seconds && yielding_.SecondsWorked() >= share * *limit_.Seconds;
   }
 
+  void NoteNode() override {
+    ++nodes_;
+    yielding_.Yield();
+  }
+
+  bool Stops() override {
+    SearchLocally();
+    return IsEnough() || IsOver(share_);
+  }
+
+  bool NoteSolution(const Candidates& solved) override {
+    ++solutions_;
+    return Note([&](int cell) { return solved.Value(cell); });
+  }
+
   /// Notes a solution; true when enough are known.
-  bool NoteSolution() {
+  template <class NumberIn>
+  bool Note(NumberIn numberIn) {
     Puzzle solved = puzzle_;
     for (int cell = 0; cell < board_.Cells(); ++cell)
-      solved.Cells[cell] = board_.Value(cell);
-    ++solutions_;
+      solved.Cells[cell] = numberIn(cell);
     if (!first_) {
       first_ = std::move(solved);
     } else if (first_->Cells != solved.Cells) {
       second_ = std::move(solved);
     }
-    return random_ ? second_.has_value() : solutions_ >= most_;
+    return IsEnough();
   }
 
-  End Descend() {
-    ++nodes_;
-    yielding_.Yield();
-    if (!board_.Propagate(Grade::Hard)) {
-      if (board_.FailedLine() >= 0) ++weights_[static_cast<std::size_t>(board_.FailedLine())];
-      return End::AllSeen;
-    }
-    if (board_.Solved()) return NoteSolution() ? End::Enough : End::AllSeen;
-    if (nodes_ >= lastNode_ || IsOver(share_)) return End::OutOfTime;
-    const int cell = Choose();
-    return board_.IsNormal() ? TryNumbers(cell) : TryHalves(cell);
-  }
+  bool IsEnough() const { return random_ ? second_.has_value() : solutions_ >= most_; }
 
-  /// The gap with the fewest possibilities; in restarts by how often its lines have failed, too.
-  int Choose() const {
-    int best = -1;
-    double least = std::numeric_limits<double>::max();
-    for (int cell = 0; cell < board_.Cells(); ++cell) {
-      if (board_.Value(cell) != 0) continue;
-      auto cost = static_cast<double>(board_.Count(cell));
-      if (randomly_) {
-        std::int64_t weight = 0;
-        for (const int line : board_.Map().LinesOf(cell))
-          weight += weights_[static_cast<std::size_t>(line)];
-        cost /= static_cast<double>(weight);
+  /// Lets the local search do as much work as the complete one has done since its head start, in
+  /// slices with yields between them.
+  void SearchLocally() {
+    constexpr std::int64_t kHeadStart = 160'000;
+    constexpr std::int64_t kSlice = 4096;
+    if (!random_ || !board_.IsNormal()) return;
+    const std::int64_t due = nodes_ * stepsOfNode_ - kHeadStart;
+    if (steps_ >= due) return;
+    if (!local_) StartLocalSearch();
+    while (local_->CanRun() && steps_ < due && !second_ && !IsOver(1)) {
+      steps_ += kSlice;
+      if (local_->Run(kSlice)) {
+        Note([&](int cell) { return NumberOfRoot(cell); });
+        local_->GoOn();
       }
-      if (cost >= least) continue;
-      least = cost;
-      best = cell;
+      yielding_.Yield();
     }
-    return best;
   }
 
-  /// Each try is a level of the stack.
-  template <class Act>
-  End Try(Act act) {
-    constexpr int kMostLevels = 5000;
-    if (depth_ >= kMostLevels) return End::OutOfTime;
-    ++depth_;
-    const std::size_t mark = board_.Mark();
-    const End end = act() ? Descend() : End::AllSeen;
-    board_.UndoTo(mark);
-    --depth_;
-    return end;
+  void StartLocalSearch() {
+    root_.emplace(puzzle_);
+    root_->Propagate(Grade::Hard);
+    local_.emplace(*root_, *random_);
   }
 
-  End TryNumbers(int cell) {
-    std::vector<std::int64_t> numbers;
-    for (std::int64_t number = board_.Low(cell); number <= board_.High(cell); ++number) {
-      if (board_.Allows(cell, number)) numbers.push_back(number);
-    }
-    if (randomly_) Shuffle(std::span(numbers), *random_);
-    for (const std::int64_t number : numbers) {
-      const End end = Try([&] { return board_.Put(cell, number); });
-      if (end != End::AllSeen) return end;
-    }
-    return End::AllSeen;
-  }
-
-  End TryHalves(int cell) {
-    const std::int64_t low = board_.Low(cell);
-    const std::int64_t high = board_.High(cell);
-    const std::int64_t middle = std::midpoint(low, high);
-    const bool upperFirst = randomly_ && random_->Between(0, 1) == 1;
-    for (const bool upper : {upperFirst, !upperFirst}) {
-      const End end = Try([&] {
-        return upper ? board_.Restrict(cell, middle + 1, high) : board_.Restrict(cell, low, middle);
-      });
-      if (end != End::AllSeen) return end;
-    }
-    return End::AllSeen;
+  std::int64_t NumberOfRoot(int cell) const {
+    return root_->Value(cell) != 0 ? root_->Value(cell) : local_->NumberIn(cell);
   }
 
   const Puzzle& puzzle_;
@@ -188,13 +151,14 @@ class Search {
   Random* random_;
   TimedYielding yielding_;
   Candidates board_;
-  std::vector<std::int64_t> weights_;  ///< by line: 1 and how often it was found impossible
-  bool randomly_ = false;
+  CompleteSearch complete_;
+  std::optional<Candidates> root_;  ///< as the rules alone leave it
+  std::optional<LocalSearch> local_;
+  std::int64_t stepsOfNode_ = 1;
   std::int64_t nodes_ = 0;
-  int depth_ = 0;
-  std::int64_t solutions_ = 0;  ///< as they were found, in restarts the same ones again
+  std::int64_t steps_ = 0;
+  std::int64_t solutions_ = 0;  ///< of the complete search, in restarts the same ones again
   std::int64_t most_ = 2;
-  std::int64_t lastNode_ = 0;
   double share_ = 1;
   std::optional<Puzzle> first_;
   std::optional<Puzzle> second_;
@@ -203,10 +167,6 @@ class Search {
 }  // namespace
 
 std::string WhyOpen(const NotSettled& open, double seconds) {
-  if (!open.Searched) {
-    return "whether there is a solution is open: more than " + std::to_string(kMostSearchedGaps) +
-           " gaps are too many to search";
-  }
   const char* const what = open.Found ? "there is a solution; whether it is the only one was"
                                       : "whether there is a solution was";
   return what + (" not settled in " + Decimal(seconds)) + " seconds";

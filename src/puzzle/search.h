@@ -20,10 +20,11 @@ struct SeveralSolutions {
   Puzzle First;
   Puzzle Second;  ///< another one
 };
-struct NoSolution {};
+struct NoSolution {
+  std::string Why = {};  ///< where the order alone rules it out
+};
 struct NotSettled {
   std::optional<Puzzle> Found = {};  ///< a solution, of which it is open whether it is the only one
-  bool Searched = true;              ///< false where there were too many gaps for it
 };
 using SearchResult = std::variant<OneSolution, SeveralSolutions, NoSolution, NotSettled>;
 
@@ -31,25 +32,24 @@ using SearchResult = std::variant<OneSolution, SeveralSolutions, NoSolution, Not
 std::string WhyOpen(const NotSettled& open, double seconds);
 
 /// When a search gives up. Its seconds are those in which it worked, without the yields. Counted in
-/// nodes, it does the same again from the same random numbers.
+/// nodes, it does the same again from the same random numbers; with g gaps left by the rules,
+/// g * g / 10 + 1 steps of the local search count as a node.
 struct SearchLimit {
   std::optional<double> Seconds = {};
   std::optional<std::int64_t> Nodes = {};
 };
 
-/// Puzzles of which more gaps are open when the rules have had their say are not searched.
-inline constexpr int kMostSearchedGaps = 1000;
-
 /// Fills the gaps of a puzzle in all ways, up to two.
 ///
-/// The rules come first (Candidates). Then a complete depth-first search, smallest choice first,
-/// the rules at every node, for a tenth of the limit. Then restarts with random values, after
-/// numbers of nodes that follow Luby's sequence (Luby, Sinclair and Zuckerman 1993), which first
-/// try the gaps in lines that were found impossible most often (weighted degrees: Boussemart,
-/// Hemery, Lecoutre and Sais 2004). A search that comes to its end by itself has seen all
-/// solutions.
+/// The rules come first (Candidates). Then a complete search, for a fifth of the limit in one
+/// piece, then in restarts after numbers of nodes that follow Luby's sequence (Luby, Sinclair and
+/// Zuckerman 1993). Where it comes to its end by itself, it has seen all solutions. By the normal
+/// rules a local search takes turns with it: after a head start of the complete one, which settles
+/// most small boards, the same number of nodes is due to both. Two different solutions prove that
+/// there are several, whichever search has found them.
 ///
-/// The yielding is yielded to at every node; what it throws ends the search.
+/// It yields at every node, and as often during the local search; what a yield throws ends the
+/// search.
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,
                    Yielding& yielding);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "study/images.h"
+
 namespace numorra {
 namespace {
 
@@ -82,6 +84,24 @@ std::optional<int> CensusNumber(const Square<double>& standardForm) {
   const auto found = std::lower_bound(squares.begin(), squares.end(), standardForm, isBefore);
   if (found == squares.end() || isBefore(standardForm, *found)) return std::nullopt;
   return static_cast<int>(found - squares.begin()) + 1;
+}
+
+Square<double> AnyImageOf(const std::vector<Square4>& squares, Random& random) {
+  const int last = static_cast<int>(squares.size()) - 1;
+  const Square4& square = squares[static_cast<std::size_t>(random.Between(0, last))];
+  return ImageOf(random.Between(0, kImages - 1), {4, {square.begin(), square.end()}});
+}
+
+Square<double> AnySquareOfOrder4(Random& random) {
+  return AnyImageOf(SquaresOfOrder4(), random);
+}
+
+std::vector<Square4> SquaresOfOrder4That(Judgement (*judge)(const Facts&)) {
+  std::vector<Square4> squares;
+  for (const Square4& square : SquaresOfOrder4()) {
+    if (judge(Facts(NumberSquare({4, {square.begin(), square.end()}})))) squares.push_back(square);
+  }
+  return squares;
 }
 
 }  // namespace numorra

@@ -1,6 +1,5 @@
 #include <utility>
 
-#include "study/special.h"
 #include "study/two_digits.h"
 
 namespace numorra {
@@ -24,7 +23,7 @@ Square<double> EvenSquare(int n, const Auxiliary& a, const Auxiliary& b, Random&
                         [&](int i, int j) { return std::pair(a.Digit(i, j), b.Digit(j, i)); });
 }
 
-/// 1, 3, 5, ..., n - 1, one of each pair, with signs and in an order by lot.
+/// 1, 3, 5, ..., n - 1, one of each pair, with random signs and in random order.
 std::vector<int> OneOfEachPair(int n, Random& random) {
   std::vector<int> halves;
   for (int digit = 1; digit < n; digit += 2)
@@ -39,22 +38,6 @@ Auxiliary Alternating(int n, Random& random) {
     square.Signs.push_back(i % 2 == 0 ? 1 : -1);
   for (int j = 0; j < n / 2; ++j)
     square.Digits.push_back(-square.Digits[static_cast<std::size_t>(j)]);
-  return square;
-}
-
-/// The second half of a list as the first one mirrored, times `sign`.
-void Mirror(std::vector<int>& half, int sign) {
-  for (std::size_t i = half.size(); i > 0; --i)
-    half.push_back(sign * half[i - 1]);
-}
-
-Auxiliary Opposite(int n, Random& random) {
-  Auxiliary square{{}, OneOfEachPair(n, random)};
-  for (int i = 0; i < n / 2; ++i)
-    square.Signs.push_back(i % 2 == 0 ? 1 : -1);
-  Shuffle(std::span(square.Signs), random);
-  Mirror(square.Signs, 1);
-  Mirror(square.Digits, -1);
   return square;
 }
 
@@ -84,12 +67,8 @@ Square<double> Made(int n, Random& random) {
 
 }  // namespace
 
-Square<double> MostPerfectSquare(int order, Random& random) {
+Square<double> EvenMostPerfect(int order, Random& random) {
   return Made<Alternating>(order, random);
-}
-
-Square<double> EvenAssociative(int order, Random& random) {
-  return Made<Opposite>(order, random);
 }
 
 Square<double> EvenUltramagic(int order, Random& random) {

@@ -25,8 +25,8 @@ std::vector<int> ThirdAddingUpToZero(int n, Random& random) {
                         : AddingUpToZero({1, 3, -5, -6, 7}, 8, 1, third, random);
 }
 
-/// The numbers 1 to `most` that are not among `taken`, whatever their signs, with signs and in an
-/// order by lot.
+/// The numbers 1 to `most` that are not among `taken`, whatever their signs, with random signs and
+/// in random order.
 std::vector<int> Rest(int most, const std::vector<int>& taken, Random& random) {
   std::vector<int> rest;
   for (int number = 1; number <= most; ++number) {
@@ -88,34 +88,25 @@ Digits NasikDigits(int n, Random& random) {
   return digits;
 }
 
-Square<double> OddSquare(int n, int step, const Digits& a, const Digits& b, Random& random) {
+Square<double> OddSquare(int n, const Digits& a, const Digits& b, Random& random) {
   const int middle = (n - 1) / 2;
   return SquareOfDigits(n, random, [&](int i, int j) {
-    return std::pair(a[IndexOf(step * i + j, n)] + middle, b[IndexOf(step * i - j, n)] + middle);
+    return std::pair(a[IndexOf(2 * i + j, n)] + middle, b[IndexOf(2 * i - j, n)] + middle);
   });
-}
-
-/// With the digits mirrored where opposite cells have them: (n - 1 - i, n - 1 - j) takes the index
-/// t of A to -(step + 1) - t and that of B to -(step - 1) - t.
-Square<double> MirroredSquare(int n, int step, bool thirds, Random& random) {
-  const Digits a = MirroredDigits(n, -(step + 1), thirds, random);
-  const Digits b = MirroredDigits(n, -(step - 1), thirds, random);
-  return OddSquare(n, step, a, b, random);
 }
 
 }  // namespace
 
-Square<double> OddAssociative(int order, Random& random) {
-  return MirroredSquare(order, 1, false, random);
-}
-
 Square<double> OddPandiagonal(int order, Random& random) {
   const Digits a = NasikDigits(order, random);
-  return OddSquare(order, 2, a, NasikDigits(order, random), random);
+  return OddSquare(order, a, NasikDigits(order, random), random);
 }
 
+/// (n - 1 - i, n - 1 - j) takes the index t of A to -3 - t, and that of B to -1 - t.
 Square<double> OddUltramagic(int order, Random& random) {
-  return MirroredSquare(order, 2, order % 3 == 0, random);
+  const bool thirds = order % 3 == 0;
+  const Digits a = MirroredDigits(order, -3, thirds, random);
+  return OddSquare(order, a, MirroredDigits(order, -1, thirds, random), random);
 }
 
 }  // namespace numorra

@@ -1,8 +1,12 @@
 #include "study/special.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/board/numbers.h"
+#include "study/census.h"
+#include "study/kept_relatives.h"
+#include "study/terms.h"
 #include "study/two_digits.h"
 
 namespace numorra {
@@ -60,14 +64,23 @@ std::string WhyNotBordered(int order) {
       "there is no magic square of order " + std::to_string(order - 2) + " to put a border around");
 }
 
+/// A relative that keeps the kind, found by as many of them, one after the other.
+Square<double> Related(Square<double> square, Random& random) {
+  constexpr int kTimes = 4;
+  for (int time = 0; time < kTimes; ++time) {
+    if (auto varied = VariedWithinKind(square, random)) square = *std::move(varied);
+  }
+  return square;
+}
+
 }  // namespace
 
 const std::array<SpecialKind, 5> kSpecialKinds = {{
-    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare, true},
-    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare, false},
-    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare, false},
-    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare, false},
-    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare, false},
+    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare},
+    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare},
+    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare},
+    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare},
+    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare},
 }};
 
 const SpecialKind* FindSpecialKind(const std::string& term) {
@@ -77,16 +90,19 @@ const SpecialKind* FindSpecialKind(const std::string& term) {
   return found == kSpecialKinds.end() ? nullptr : found;
 }
 
-Square<double> AssociativeSquare(int order, Random& random) {
-  return order % 2 == 0 ? EvenAssociative(order, random) : OddAssociative(order, random);
+Square<double> PandiagonalSquare(int order, Random& random) {
+  if (order % 2 == 0) return MostPerfectSquare(order, random);
+  return Related(OddPandiagonal(order, random), random);
 }
 
-Square<double> PandiagonalSquare(int order, Random& random) {
-  return order % 2 == 0 ? MostPerfectSquare(order, random) : OddPandiagonal(order, random);
+Square<double> MostPerfectSquare(int order, Random& random) {
+  if (order == 4) return AnySquareOfOrder4<JudgeMostPerfect>(random);
+  return Related(EvenMostPerfect(order, random), random);
 }
 
 Square<double> UltramagicSquare(int order, Random& random) {
-  return order % 2 == 0 ? EvenUltramagic(order, random) : OddUltramagic(order, random);
+  return Related(order % 2 == 0 ? EvenUltramagic(order, random) : OddUltramagic(order, random),
+                 random);
 }
 
 }  // namespace numorra

@@ -17,11 +17,8 @@ struct SpecialKind {
   /// Why no normal square of this kind has the order, one of 3..50; empty where one has.
   std::string (*WhyNone)(int order);
 
-  /// Such a square, another at every call.
+  /// Such a square at random.
   Square<double> (*Build)(int order, Random& random);
-
-  /// Whether all members of the family of such a square (study/relatives.h) are of this kind, too.
-  bool KeptByFamily;
 };
 
 /// In the order of the menu.

@@ -13,7 +13,7 @@ CommandForm::CommandForm(const char* name, const QString& title, Dialogs& dialog
 }
 
 void CommandForm::done(int result) {
-  runner_.Close();
+  runner_.Abandon();
   if (runner_.Running()) {
     closing_ = result;
   } else {

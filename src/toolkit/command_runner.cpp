@@ -13,7 +13,6 @@
 namespace numorra {
 
 void CommandRunner::Run(std::string name, Command command) {
-  if (closed_) return;
   newestName_ = std::move(name);
   newest_ = std::move(command);
   superseded_ = true;
@@ -51,9 +50,9 @@ void CommandRunner::Yield() {
   if (superseded_) throw Superseded();
 }
 
-void CommandRunner::Close() {
+void CommandRunner::Abandon() {
   newest_ = nullptr;
-  superseded_ = closed_ = true;
+  superseded_ = true;
 }
 
 }  // namespace numorra

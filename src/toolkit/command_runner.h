@@ -46,8 +46,8 @@ class CommandRunner {
   /// Superseded when another command waits.
   void Yield();
 
-  /// For a window that closes: supersedes the running command, and runs none from now on.
-  void Close();
+  /// Supersedes the running command with nothing: it unwinds, and what waits is forgotten.
+  void Abandon();
 
  private:
   Dialogs& dialogs_;
@@ -56,7 +56,6 @@ class CommandRunner {
   Command newest_;
   bool running_ = false;
   bool superseded_ = false;
-  bool closed_ = false;
   QElapsedTimer sinceYield_;
 };
 

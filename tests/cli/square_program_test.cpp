@@ -148,10 +148,10 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
                            "puzzle --codes - --grade easy",
                            "--size 5 --vary --corner 7",
                            "--top-row 1,2,3,4 --vary",
-                           "--size 9 --kind pandiagonal --vary",
-                           "--size 8 --kind most-perfect --vary",
-                           "--size 8 --kind ultramagic --vary",
-                           "--size 8 --kind bordered --vary",
+                           "--size 5 --fresh --corner 7",
+                           "--top-row 1,2,3,4 --fresh",
+                           "--size 5 --fresh --sum 90.5",
+                           "puzzle --size 5 --fresh",
                            "--size 5 --count x",
                            "--size 5 --seed x",
                            "--top-row 1,2,3,4 --sum 10",
@@ -168,7 +168,8 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
 }
 
 TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
-  for (const char* kind : {"pandiagonal --size 9", "associative --size 7 --vary"}) {
+  for (const char* kind : {"pandiagonal --size 9", "associative --size 7 --vary",
+                           "pandiagonal --size 8 --vary", "associative --size 4 --vary --fresh"}) {
     const std::string line = std::string("--seed 4 --count 3 --format csv --kind ") + kind;
     const Outcome run = RunWith(line);
     EXPECT_EQ(run.Err, "");
@@ -187,6 +188,30 @@ TEST(SquareProgram, BuildsSpecialSquaresAgainAndAgain) {
   EXPECT_EQ(none.Err,
             "numorra-square: no most-perfect normal square has order 6: such squares have an order "
             "that is a multiple of 4\n");
+}
+
+TEST(SquareProgram, DrawsFreshSquares) {
+  struct Case {
+    const char* Line;
+    double Total;
+    bool Normal;
+  };
+  for (const Case& c : {Case{"--size 4", 34, true},
+                        {"--size 6", 111, true},
+                        {"--size 5 --sum 91", 91, false},
+                        {"--size 5 --limit-to-9", 25, false}}) {
+    const std::string line = std::string(c.Line) + " --fresh --count 8 --seed 2 --format csv";
+    std::set<std::string> different;
+    for (const std::string& rows : Blocks(RunWith(line).Out)) {
+      const auto square = ParseRows(rows, '\n');
+      EXPECT_EQ(slow::WhyNotMagic(square, c.Total), "") << c.Line;
+      EXPECT_EQ(slow::WhyNotNormal(square).empty(), c.Normal) << c.Line;
+      different.insert(rows);
+    }
+    EXPECT_EQ(different.size(), 8U) << c.Line;
+  }
+  EXPECT_EQ(RunWith("--size 5 --fresh --sum 30 --limit-to-9 --seed 1").Err,
+            "numorra-square: the total is 25\n");
 }
 
 /// As in the window: quarter turns by 1, 2, 3, 0, and never the start of the last odd square.
@@ -306,12 +331,17 @@ TEST(SquareProgram, CompletesWhatItReads) {
   EXPECT_EQ(
       open.Out.find("unsettled: whether there is a solution was not settled in 0.01 seconds\n"),
       0U);
-  std::string wide = "2000";
-  for (int row = 0; row < 33; ++row)
-    wide += std::string(32, ',') + "\n";
-  EXPECT_EQ(RunWith("complete --sum 90000", wide).Out,
-            "unsettled: whether there is a solution is open: more than 1000 gaps are too many to "
-            "search\n");
+  EXPECT_EQ(RunWith("complete --kind associative", "8 . .\n. . .\n. . 1\n").Out, "none\n");
+  EXPECT_EQ(RunWith("complete --kind associative", "8 . .\n. . .\n4 . .\n").Out,
+            "one\n\n8 1 6\n3 5 7\n4 9 2\n\ntotal 15\n");
+  const Outcome none = RunWith("complete --kind pandiagonal", ". . 6\n. 5 .\n. . .\n");
+  EXPECT_EQ(none.Status, 3);
+  EXPECT_EQ(none.Out,
+            "none: no pandiagonal normal square has order 3: the lines through any cell would "
+            "make it a third of the total, 5\n");
+  EXPECT_EQ(RunWith("complete --kind bordered").Err,
+            "numorra-square: the kind is one of associative, pandiagonal, most-perfect, "
+            "ultramagic; try --help\n");
   EXPECT_EQ(RunWith("complete --seconds 0").Status, 2);
   EXPECT_EQ(RunWith("complete --rules odd").Status, 2);
   EXPECT_EQ(RunWith("complete --corner 3").Status, 2);
@@ -336,13 +366,12 @@ TEST(SquareProgram, ReadsWhateverItWrites) {
 
 TEST(SquareProgram, MakesPuzzles) {
   const Outcome json = RunWith("puzzle --size 3 --format json --seed 1");
-  EXPECT_EQ(
-      json.Out,
-      "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, \"rules\": "
-      "\"normal\", \"rows\": [[null, null, null], [null, 5, null], [2, 9, null]], \"givens\": "
-      "[[false, false, false], [false, true, false], [true, true, false]], \"solution\": "
-      "[[6, 1, 8], [7, 5, 3], [2, 9, 4]], \"grade\": \"easy\", \"clues\": 3, \"code\": "
-      "\"NP2C1J45R0PT\"}\n");
+  EXPECT_EQ(json.Out,
+            "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, "
+            "\"rules\": \"normal\", \"rows\": [[4, null, null], [null, null, 7], [null, null, 6]], "
+            "\"givens\": [[true, false, false], [false, false, true], [false, false, true]], "
+            "\"solution\": [[4, 9, 2], [3, 5, 7], [8, 1, 6]], \"grade\": \"easy\", \"clues\": 3, "
+            "\"code\": \"NP2C25MVEGZA\"}\n");
   const std::string three = RunWith("puzzle --size 5 --grade hard --count 3 --seed 9").Out;
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");

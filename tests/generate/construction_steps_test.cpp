@@ -62,11 +62,10 @@ void ExpectWalk(const Square<double>& square) {
       EXPECT_TRUE(Says(step.Sentence, std::to_string(step.Number)));
     }
   }
-  ASSERT_EQ(board.size(), square.size());
+  ASSERT_EQ(static_cast<int>(board.size()), square.Size());
   for (int r = 1; r <= order; ++r) {
     for (int c = 1; c <= order; ++c) {
-      const auto at = static_cast<std::size_t>((r - 1) * order + c - 1);
-      ASSERT_EQ((board[{r, c}]), std::to_string(static_cast<int>(square[at])))
+      ASSERT_EQ((board[{r, c}]), std::to_string(static_cast<int>(square[Place{r, c}])))
           << r << ", " << c << " of order " << order;
     }
   }
@@ -83,7 +82,7 @@ TEST(Walk, EndsAtEverySquareThatIsBuilt) {
         ExpectWalk(SquareOf(squares.Build(order), order));
       continue;
     }
-    const auto starts = FindMagicStarts(order, NormalTotal(order));
+    const auto starts = FindMagicStarts(order, NormalTotal(1.0 * order));
     for (std::size_t i = 0; i < starts.size(); i += order < 12 ? 1 : starts.size() / 4) {
       CellTable cells;
       FillByStepping(cells, order, starts[i].StartRow, starts[i].StartColumn,
@@ -124,7 +123,7 @@ TEST(Walk, KnowsWhatItCannotExplain) {
   EXPECT_TRUE(WalkOf({5, {1, 23, 16, 4, 21, 15, 14, 7, 18, 11, 24, 17, 13,
                           9, 2,  20, 8, 19, 12, 6,  5, 3,  10, 22, 25}})
                   .empty());
-  EXPECT_TRUE(WalkOf({1, {1}}).empty() && WalkOf({2, {1, 4, 3, 2}}).empty());
+  EXPECT_TRUE(WalkOf(Square<double>(1, 1)).empty() && WalkOf({2, {1, 4, 3, 2}}).empty());
   EXPECT_TRUE(WalkOf({3, {0.5, 9, 2, 3, 5, 7, 8, 1, 6}}).empty());
   EXPECT_TRUE(WalkOf({3, {8, 1.5, 6, 3, 5, 7, 4, 9, 2}}).empty());
 }

@@ -19,7 +19,7 @@ std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
       for (std::int16_t column = 1; column <= order; ++column) {
         CellTable cells;
         FillByStepping(cells, order, row, column, kSteppings[pattern]);
-        if (slow::WhyNotMagic(RowsOf(cells, order), NormalTotal(order)).empty()) {
+        if (slow::WhyNotMagic(RowsOf(cells, order), NormalTotal(1.0 * order)).empty()) {
           kept.push_back({row, column, pattern});
         }
       }
@@ -30,10 +30,10 @@ std::vector<SteppingAttempt> PlainSearch(std::int16_t order) {
 
 TEST(FindMagicStarts, FindsWhatThePlainSearchFindsInItsOrder) {
   for (std::int16_t order = 1; order <= 17; order += 2) {
-    EXPECT_EQ(FindMagicStarts(order, NormalTotal(order)), PlainSearch(order)) << order;
+    EXPECT_EQ(FindMagicStarts(order, NormalTotal(1.0 * order)), PlainSearch(order)) << order;
   }
-  EXPECT_EQ(FindMagicStarts(49, NormalTotal(49)).size(), 98U);
-  EXPECT_EQ(FindMagicStarts(45, NormalTotal(45)).size(), 30U);
+  EXPECT_EQ(FindMagicStarts(49, NormalTotal(1.0 * 49)).size(), 98U);
+  EXPECT_EQ(FindMagicStarts(45, NormalTotal(1.0 * 45)).size(), 30U);
 }
 
 TEST(NormalSquare, IsNormalAndMagicAtEveryOrder) {

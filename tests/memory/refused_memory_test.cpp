@@ -73,7 +73,7 @@ TEST_F(RefusedMemory, EndsASearchAndLeavesTheBoard) {
 TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {
   const auto vary = [&] { VaryBoard(context_); };
   EXPECT_GT(Refuse(kFull, false, vary), 5);
-  EXPECT_GT(Refuse(kFull, false, [&] { ComplementBoard(context_); }), 3);
+  EXPECT_GT(Refuse(kFull, false, [&] { ComplementBoard(context_); }), 1);
   EXPECT_GT(Refuse(kFull, false, [&] { BringToStandardForm(context_); }), 3);
   EXPECT_GT(Refuse(kFull, false, [&] { LayOutFamous(FamousSquares().back(), context_); }), 3);
   const auto special = [&] { LayOutSpecial(kSpecialKinds[1], context_); };

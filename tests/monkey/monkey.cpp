@@ -117,7 +117,7 @@ Monkey::Monkey(unsigned seed)
 std::string Monkey::Step() {
   static constexpr struct {
     const char* Name;
-    CommandResult Act;
+    Action Act;
     int Weight;
   } kHabits[] = {{"build", &Monkey::Build, 4},         {"size", &Monkey::TypeSensibleSize, 4},
                  {"button ", &Monkey::PressButton, 5}, {"action ", &Monkey::ChooseAction, 8},
@@ -186,10 +186,9 @@ void Monkey::TypeSensibleSize() {
 void Monkey::Build() {
   ++Builds;
   if (Below(2) == 0) {
-    const CommandResult results[] = {&Monkey::PressButton,      &Monkey::ChooseAction,
-                                     &Monkey::PressKey,         &Monkey::Close,
-                                     &Monkey::TypeSensibleSize, &Monkey::PressBoard};
-    QTimer::singleShot(0, &window_, [this, deed = Any(deeds)] { (this->*result)(); });
+    const Action actions[] = {&Monkey::PressButton, &Monkey::ChooseAction,     &Monkey::PressKey,
+                              &Monkey::Close,       &Monkey::TypeSensibleSize, &Monkey::PressBoard};
+    QTimer::singleShot(0, &window_, [this, action = Any(actions)] { (this->*action)(); });
   }
   Press(window_.findChild<QPushButton*>(Below(4) == 0 ? "SolveAgain" : "SolveAuto"));
 }

@@ -31,7 +31,7 @@ class Monkey {
   std::string LastDone;
 
  private:
-  using CommandResult = void (Monkey::*)();
+  using Action = void (Monkey::*)();
 
   int Below(int bound) { return static_cast<int>(dice_() % static_cast<unsigned>(bound)); }
   template <class List>

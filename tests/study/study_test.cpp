@@ -1,12 +1,9 @@
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <numeric>
 #include <set>
 
-#include "study/census.h"
 #include "study/famous.h"
 #include "study/images.h"
-#include "study/relatives.h"
 #include "study/report.h"
 #include "study/special.h"
 #include "support/boards.h"
@@ -74,8 +71,8 @@ TEST(Study, KnowsAllSquaresOfOrder4) {
     EXPECT_EQ(count[term], number) << term;
 }
 
-/// Opposite cells add up to 26, so a b c d e / f g h i j / k l determine the square; the lines
-/// determine all but six of these.
+/// Opposite cells add up to 26, so a b c d e / f g h i j / k l settle the square; of these the
+/// lines settle all but six.
 TEST(Study, FindsTheSixteenUltramagicSquaresOfOrder5) {
   int found = 0;
   const auto free = [](std::initializer_list<int> numbers) {
@@ -208,11 +205,10 @@ TEST(Study, ShowsEvidence) {
 
 TEST(Study, TellsWhatIsShortEnoughToBeRead) {
   for (const int order : {10, 11}) {
-    std::vector<double> numbers;
-    for (int number = 0; number < order * order; ++number)
-      numbers.push_back(number < 24 ? number / 2 : number);
+    const auto numbers =
+        SquareOf(order, [](int number) { return number < 24 ? number / 2 : number; });
     std::map<std::string, std::string> details;
-    for (const auto& [name, text] : Study(NumberSquare({order, numbers})).Details)
+    for (const auto& [name, text] : StudyOf(RowsOf(numbers)).Details)
       details[name] = text;
     EXPECT_EQ(details["repeated"], "0, 1, 2, 3, 4, 5, 6, 7, 8, 9 and 2 more");
     EXPECT_EQ(details.contains("standard form"), order == 10);
@@ -227,7 +223,7 @@ TEST(Study, TellsPrimesFromOthers) {
     EXPECT_FALSE(Find(StudyOf({{other, 2, 2}, {2, 2, 2}, {2, 2, 2}}), "prime")) << other;
 }
 
-TEST(Famous, MatchTheirDescriptions) {
+TEST(Famous, AreWhatTheirStoriesSay) {
   EXPECT_EQ(FamousSquares().size(), 12U);
   const char* const terms[] = {"associative", "most-perfect", "concentric", "bordered", "bimagic"};
   for (const FamousSquare& famous : FamousSquares()) {
@@ -250,64 +246,6 @@ TEST(Famous, MatchTheirDescriptions) {
     const auto to = std::find(tour.Numbers.begin(), tour.Numbers.end(), move + 1);
     const auto a = from - tour.Numbers.begin(), b = to - tour.Numbers.begin();
     EXPECT_EQ(std::abs(a / 8 - b / 8) * std::abs(a % 8 - b % 8), 2) << "a knight's move " << move;
-  }
-}
-
-TEST(Relatives, AreOtherSquaresOfTheFamily) {
-  SeededRandom random(5);
-  for (const int order : {3, 4, 5, 10}) {
-    Square<double> square(order);
-    std::iota(square.begin(), square.end(), 1.0);  // it is associative
-    if (order != 10) square = AssociativeSquare(order, random);
-    std::set<Square<double>> forms;
-    for (int draw = 0; draw < 100; ++draw) {
-      const auto varied = Varied(square, random);
-      ASSERT_TRUE(varied);
-      EXPECT_NE(*varied, square);
-      EXPECT_EQ(slow::Classify(RowsOf(*varied))["associative"], true);
-      if (order == 4 || order == 5) {
-        EXPECT_EQ(slow::WhyNotNormal(RowsOf(*varied)), "");
-      }
-      forms.insert(StandardForm(*varied));
-    }
-    // Order 3 is only turned; orders 4 and 5 have four classes, of which one is shown.
-    EXPECT_TRUE(order == 3   ? forms.size() == 1
-                : order < 10 ? forms.size() == 3
-                             : forms.size() > 90)
-        << forms.size() << " at order " << order;
-    EXPECT_EQ(forms.count(StandardForm(square)), order == 3 ? 1U : 0U);
-  }
-  EXPECT_EQ(Varied(Square<double>(3, 7.0), random), std::nullopt);
-  EXPECT_EQ(ComplementOf({2, {0.1, 0.25, 3, 3}}), Square<double>(2, {3, 2.85, 0.1, 0.1}));
-}
-
-TEST(Special, SaysWhyThereIsNone) {
-  for (const SpecialKind& kind : kSpecialKinds) {
-    for (int order = 3; order <= 50; ++order) {
-      const std::string term = kind.Term;
-      const bool exists = term == "bordered"       ? order >= 5
-                          : term == "most-perfect" ? order % 4 == 0
-                          : term == "associative"  ? order % 4 != 2
-                          : term == "ultramagic"   ? order >= 5 && order % 4 != 2
-                                                   : order >= 4 && order % 4 != 2;
-      EXPECT_EQ(kind.WhyNone(order).empty(), exists) << term << " of order " << order;
-    }
-  }
-  EXPECT_EQ(FindSpecialKind("pandiagonal")->WhyNone(6),
-            "no pandiagonal normal square has order 6: its sums would make a quarter of the "
-            "numbers add up to 166.5, which is no whole number");
-}
-
-TEST(Special, IsVariedAtRandom) {
-  SeededRandom random(11);
-  for (const SpecialKind& kind : kSpecialKinds) {
-    for (const int order : {4, 5, 8, 9}) {
-      if (!kind.WhyNone(order).empty()) continue;
-      std::set<Square<double>> forms;
-      for (int draw = 0; draw < 50; ++draw)
-        forms.insert(StandardForm(kind.Build(order, random)));
-      EXPECT_GE(forms.size(), order < 6 ? 4U : 45U) << kind.Term << " of order " << order;
-    }
   }
 }
 

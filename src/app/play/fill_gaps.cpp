@@ -66,10 +66,6 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& sta
   const auto* open = std::get_if<NotSettled>(&result);
   if (!open) return result;
   const std::string why = WhyOpen(*open, kFirstSearch);
-  if (!open->Searched) {
-    dialogs.Tell(why);
-    return result;
-  }
   if (!dialogs.Ask(why + "\nsearch for " + Decimal(kLongSearch) + " more seconds?")) return result;
   SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
@@ -100,7 +96,7 @@ std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const Square<bool>& giv
   return entries;
 }
 
-void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage) {
+void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage, LineKind kind) {
   Board& board = context.TheBoard;
   Dialogs& dialogs = context.TheDialogs;
   Random& random = context.TheRandom;
@@ -109,12 +105,13 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage)
     return;
   }
   const StoredSquare stored = StoredSquareOf(board);
-  const auto read = PuzzleOf(stored, limitToNine && board.Asked == Rules::Positive);
+  auto read = PuzzleOf(stored, limitToNine && board.Asked == Rules::Positive);
   if (const auto* against = std::get_if<AgainstRules>(&read)) {
     dialogs.Tell("nothing can fill these gaps: " + against->Why);
     return;
   }
-  const auto& puzzle = std::get<Puzzle>(read);
+  auto& puzzle = std::get<Puzzle>(read);
+  puzzle.Kind = kind;
   random.Reseed();
   const SearchResult result = SearchLonger(puzzle, dialogs, stage, random);
   if (const auto* one = std::get_if<OneSolution>(&result)) {
@@ -124,6 +121,8 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage)
     dialogs.Tell("this is one of several solutions");
   } else if (const auto* open = std::get_if<NotSettled>(&result)) {
     if (open->Found) Show(board, *open->Found);
+  } else if (const std::string& why = std::get<NoSolution>(result).Why; !why.empty()) {
+    dialogs.Tell("nothing can fill these gaps: " + why);
   } else {
     dialogs.Tell(WhyNone(puzzle, stored.Givens, random, stage));
   }

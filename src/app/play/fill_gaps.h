@@ -14,8 +14,9 @@ inline constexpr double kLongSearch = 30;
 /// stay. Says so if there are several solutions. If there is none, says so and names a single entry
 /// or a full line that prevents one. Asks whether to continue if the search did not finish in time.
 /// The board changes at the end or not at all. `limitToNine`: no number above 9, by the positive
-/// rules.
-void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage);
+/// rules. `kind`: what the full board must be besides magic.
+void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage,
+              LineKind kind = LineKind::Magic);
 
 /// Empties every cell that is not given, to start a puzzle over or to enter one. Keys reach the
 /// board afterwards.

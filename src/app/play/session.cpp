@@ -100,6 +100,15 @@ void Session::BringToStandardForm() {
   numorra::BringToStandardForm(Context());
 }
 
+void Session::ShowRelative(const Relative& relative) {
+  numorra::ShowRelative(relative, Context());
+}
+
+std::vector<const Relative*> Session::RelativesOfBoard() const {
+  const auto square = SquareOn(TheBoard);
+  return square ? RelativesOf(square->Numbers()) : std::vector<const Relative*>();
+}
+
 bool Session::LayOutSpecial(const SpecialKind& kind) {
   return numorra::LayOutSpecial(kind, Context());
 }
@@ -120,8 +129,8 @@ Remark Session::EnterPuzzle() {
   return numorra::EnterPuzzle(TheBoard, TheRandom, ports_->Searching);
 }
 
-void Session::FillGaps() {
-  numorra::FillGaps(Context(), ports_->Options.LimitToNine(), ports_->Searching);
+void Session::FillGaps(LineKind kind) {
+  numorra::FillGaps(Context(), ports_->Options.LimitToNine(), ports_->Searching, kind);
 }
 
 void Session::EmptyBoard() {

@@ -19,6 +19,7 @@
 namespace numorra {
 
 struct FamousSquare;
+struct Relative;
 struct SpecialKind;
 
 /// What a session needs from whatever shows it: a window, or a test.
@@ -84,13 +85,16 @@ class Session {
   void Vary();
   void Complement();
   void BringToStandardForm();
+  /// Shows a relative that keeps the board's kind; which ones there are.
+  void ShowRelative(const Relative& relative);
+  std::vector<const Relative*> RelativesOfBoard() const;
   bool LayOutSpecial(const SpecialKind& kind);
   void LayOutFamous(const FamousSquare& famous);
 
   Remark Hint();
   Remark CheckEntries();
   Remark EnterPuzzle();
-  void FillGaps();
+  void FillGaps(LineKind kind = LineKind::Magic);
   void EmptyBoard();
 
   /// The puzzle on the board: only its givens, if it has any. Boards of one or two rows, which Auto

@@ -44,6 +44,20 @@ void Replace(Board& board, const Square<double>& numbers) {
   RefreshTotals(board);
 }
 
+void SetTarget(const CommandContext& context, double target) {
+  Board& board = context.TheBoard;
+  if (target == board.TargetTotal) return;
+  board.TargetTotal = target;
+  if (board.SolveMode == ModeVariable) context.Boxes.SetSum(Decimal(target));
+}
+
+double FirstRowTotal(const Square<double>& square) {
+  DecimalSum sum;
+  for (int cell = 0; cell < square.Order(); ++cell)
+    sum.Add(square[cell]);
+  return sum.Total();
+}
+
 }  // namespace
 
 std::optional<NumberSquare> SquareOn(const Board& board) {
@@ -81,10 +95,7 @@ void ComplementBoard(const CommandContext& context) {
     target.Add(*most);
   }
   target.Subtract(board.TargetTotal);
-  if (target.Total() != board.TargetTotal) {
-    board.TargetTotal = target.Total();
-    if (board.SolveMode == ModeVariable) context.Boxes.SetSum(Decimal(board.TargetTotal));
-  }
+  SetTarget(context, target.Total());
   Replace(board, complement);
 }
 
@@ -97,6 +108,25 @@ void BringToStandardForm(const CommandContext& context) {
   } else {
     Replace(context.TheBoard, form);
   }
+}
+
+void ShowRelative(const Relative& relative, const CommandContext& context) {
+  const auto numbers = FullBoard(context);
+  if (!numbers) return;
+  context.TheRandom.Reseed();
+  const auto drawn = DrawRelative(relative, *numbers, context.TheRandom);
+  if (!drawn) {
+    context.TheDialogs.Tell("this square has no such relative of its kind");
+    return;
+  }
+  Board& board = context.TheBoard;
+  if (!relative.SameNumbers) {
+    if (FirstRowTotal(*numbers) == board.TargetTotal) {
+      SetTarget(context, FirstRowTotal(*drawn));
+    }
+    board.Asked = Rules::Positive;
+  }
+  Replace(board, *drawn);
 }
 
 bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context) {

@@ -4,11 +4,12 @@
 
 #include "app/board/command_context.h"
 #include "study/famous.h"
+#include "study/kept_relatives.h"
 #include "study/number_square.h"
 #include "study/special.h"
 
-/// What the Study menu does to the board. The first three commands need a full board and refuse any
-/// other in one sentence. They leave no givens. Totals are judged as before.
+/// What the Study menu does to the board. The commands for related squares need a full board and
+/// refuse any other in one sentence. They leave no givens. Totals are judged as before.
 namespace numorra {
 
 /// The board's numbers; nothing without a board or with a gap.
@@ -23,6 +24,11 @@ void ComplementBoard(const CommandContext& context);
 
 /// Shows the image, of all eight, that is smallest in reading order.
 void BringToStandardForm(const CommandContext& context);
+
+/// Replaces the board by a random relative that keeps its kind, or says that there is none. Where
+/// all numbers change, a target that was right changes with them, and the rules become those of any
+/// whole numbers.
+void ShowRelative(const Relative& relative, const CommandContext& context);
 
 /// A random square of that kind, of the order in the size box, as a new board by the normal rules.
 /// Returns false, with the reason, if there is none.

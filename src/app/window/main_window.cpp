@@ -132,7 +132,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  runner_.Close();
+  runner_.Abandon();
   event->accept();
 }
 

@@ -14,10 +14,10 @@ class UndoTest : public WindowTest {
   QString Text(const char* action) { return Find<QAction>(action).text().remove('&'); }
 
   /// Runs an action, undoes it and redoes it; the board is right each time.
-  void ExpectStep(const std::string& name, const std::function<void()>& result) {
+  void ExpectStep(const std::string& name, const std::function<void()>& act) {
     SCOPED_TRACE(name);
     const Position before = Now();
-    deed();
+    act();
     dialogs_.Take();
     const Position after = Now();
     ASSERT_TRUE(IsChange(before, after));

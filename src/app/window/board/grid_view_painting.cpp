@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <QPaintEvent>
 #include <QPainter>
 
 #include "app/window/board/grid_view.h"

@@ -87,13 +87,8 @@ void HideNumbersForm::Make() {
     copy_->setEnabled(false);
     FormYielding stage(runner_, [this] { told_->setText("Making a puzzle..."); });
     random_.Reseed();
-    const bool board = fromBoard_->isChecked();
-    const std::optional<Puzzle> square = board ? square_ : FreshSquare(fresh_, random_, stage);
-    if (!square) {
-      told_->setText("No square of this size and sum was found.");
-      return;
-    }
-    auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
+    auto made = fromBoard_->isChecked() ? MakePuzzle(*square_, wish_->Wish(), random_, stage)
+                                        : MakeFreshPuzzle(fresh_, wish_->Wish(), random_, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&made)) {
       told_->setText(QString::fromStdString(cannot->Why));
       return;

@@ -4,7 +4,7 @@
 #include <QRadioButton>
 
 #include "app/window/forms/puzzle_wish_box.h"
-#include "puzzle/fresh_square.h"
+#include "puzzle/fresh_puzzle.h"
 #include "toolkit/command_form.h"
 
 namespace numorra {

@@ -102,9 +102,7 @@ std::vector<MadePuzzle> WorksheetForm::Puzzles() {
   random_.Reseed();
   while (static_cast<int>(puzzles.size()) < count_->value()) {
     stage.Yield();
-    const auto square = FreshSquare(fresh_, random_, stage);
-    if (!square) throw NoSet{"no square of this size and sum was found"};
-    auto made = MakePuzzle(*square, wish_->Wish(), random_, stage);
+    auto made = MakeFreshPuzzle(fresh_, wish_->Wish(), random_, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&made)) throw NoSet{cannot->Why};
     puzzles.push_back(std::get<MadePuzzle>(std::move(made)));
   }

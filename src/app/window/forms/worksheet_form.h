@@ -8,7 +8,7 @@
 #include "app/window/forms/puzzle_wish_box.h"
 #include "print/page_printer.h"
 #include "print/worksheet.h"
-#include "puzzle/fresh_square.h"
+#include "puzzle/fresh_puzzle.h"
 #include "toolkit/command_form.h"
 
 namespace numorra {

@@ -8,7 +8,9 @@
 #include "app/window/forms/enter_code_form.h"
 #include "app/window/forms/hide_numbers_form.h"
 #include "app/window/forms/worksheet_form.h"
+#include "study/special.h"
 #include "toolkit/menus.h"
+#include "toolkit/named.h"
 #include "toolkit/on_signal.h"
 
 namespace numorra {
@@ -52,7 +54,9 @@ PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinte
                                {},
                                remark("Check Entries", "Checking the entries",
                                       [&session] { return session.CheckEntries(); })});
-  needBoard_ += AddItem(menu, {"FillGapsx", "&Fill Gaps", {}, [this] { FillGaps(); }});
+  needBoard_ += AddItem(
+      menu, {"FillGapsx", "&Fill Gaps", {}, [this] { FillGaps("Fill Gaps", LineKind::Magic); }});
+  AddFillAs(menu);
   state->setContextMenuPolicy(Qt::ActionsContextMenu);
   state->addAction(code);
 
@@ -78,11 +82,25 @@ void PuzzleMenu::ShowRemark(const char* name, const char* doing, std::function<R
   });
 }
 
-void PuzzleMenu::FillGaps() {
-  desk_.RunOnCurrentCell("Fill Gaps", [this] {
+void PuzzleMenu::AddFillAs(QMenu* menu) {
+  QMenu* as = Named("FillGapsAsx", menu->addMenu("Fill Gaps &As"));
+  for (const SpecialKind& kind : kSpecialKinds) {
+    const LineKind* const lines = FindLineKind(kind.Term);
+    if (!lines) continue;
+    const std::string name = std::string("FillAs") + kind.Name;
+    const std::string command = "Fill Gaps As " + QString(kind.Caption).remove('&').toStdString();
+    AddItem(as, {name.c_str(), kind.Caption, {}, [this, command, lines] {
+                   FillGaps(command, *lines);
+                 }});
+  }
+  needBoard_ += as->menuAction();
+}
+
+void PuzzleMenu::FillGaps(const std::string& name, LineKind kind) {
+  desk_.RunOnCurrentCell(name, [this, kind] {
     desk_.Place.ForgetRemark();
     stage_.Call("Filling the gaps");
-    desk_.TheSession.FillGaps();
+    desk_.TheSession.FillGaps(kind);
   });
 }
 

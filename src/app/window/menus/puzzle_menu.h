@@ -26,7 +26,8 @@ class PuzzleMenu : public QObject {
 
   /// Runs a command and shows its remark; its search replaces an older remark.
   void ShowRemark(const char* name, const char* doing, std::function<Remark()> find);
-  void FillGaps();
+  void AddFillAs(QMenu* menu);
+  void FillGaps(const std::string& name, LineKind kind);
   void ShowState();
 
   QWidget* window_;

@@ -1,5 +1,6 @@
 #include "app/window/menus/study_menu.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QMenuBar>
@@ -46,6 +47,32 @@ void StudyMenu::AddRelatives(QMenu* menu) {
   add("Complementx", "&Complement", {}, "Complement", [&session] { session.Complement(); });
   add("StandardFormx", "&Standard Form", {}, "Standard Form",
       [&session] { session.BringToStandardForm(); });
+  relatives_ = Named("Relativesx", menu->addMenu("&Relatives"));
+  relatives_->setToolTipsVisible(true);
+  for (const Relative& relative : kRelatives) {
+    const std::string command = QString(relative.Caption).remove('&').toStdString();
+    AddItem(relatives_, {relative.Name,
+                         relative.Caption,
+                         {},
+                         [this, command, &relative] {
+                           desk_.RunOnCurrentCell(command, [this, &relative] {
+                             desk_.TheSession.ShowRelative(relative);
+                           });
+                         }})
+        ->setToolTip(relative.Keeps);
+  }
+  needBoard_ += relatives_->menuAction();
+  OnSignal(desk_.Runner, relatives_, &QMenu::aboutToShow, this, [this] { OfferRelatives(); });
+}
+
+/// Enables the relatives that keep what the board's square is.
+void StudyMenu::OfferRelatives() {
+  const auto offered = desk_.TheSession.RelativesOfBoard();
+  for (QAction* item : relatives_->actions()) {
+    item->setEnabled(std::any_of(offered.begin(), offered.end(), [&](const Relative* relative) {
+      return item->objectName() == relative->Name;
+    }));
+  }
 }
 
 void StudyMenu::AddSquares(QMenu* menu) {

@@ -17,6 +17,7 @@ class StudyMenu : public QObject {
 
  private:
   void AddRelatives(QMenu* menu);
+  void OfferRelatives();
   void AddSquares(QMenu* menu);
   void AddWalk(QMenu* menu, QMainWindow* window);
   void FollowSteps();
@@ -25,6 +26,7 @@ class StudyMenu : public QObject {
   Desk& desk_;
   PanelRoom& room_;
   QList<QAction*> needBoard_;
+  QMenu* relatives_ = nullptr;
   StepPanel* steps_;
   QAction* shown_;
 };

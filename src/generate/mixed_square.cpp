@@ -1,0 +1,51 @@
+#include "generate/mixed_square.h"
+
+#include "app/board/board.h"
+#include "generate/exchange.h"
+
+namespace numorra {
+namespace {
+
+/// Order 3 has two patterns, this one and its image, and no exchange of rectangles.
+Pattern PatternOfOrder3(bool mirrored) {
+  constexpr int kWeights[3][3] = {{1, -1, 0}, {-1, 0, 1}, {0, 1, -1}};
+  Pattern pattern;
+  for (int row = 1; row <= 3; ++row) {
+    for (int column = 1; column <= 3; ++column) {
+      const int weight = kWeights[row - 1][mirrored ? 3 - column : column - 1];
+      if (weight != 0) pattern.Add(row, column, weight);
+    }
+  }
+  return pattern;
+}
+
+void MoveCell(PatternedSquare& square, int row, int column) {
+  Random& random = square.TheRandom();
+  const Pattern pattern = square.Order() == 3 ? PatternOfOrder3(random.Between(0, 1) == 1)
+                                              : ExchangeAt(square, row, column);
+  const FactorRange range = ExchangeRange(square, pattern);
+  square.Apply(pattern, random.Between(range.Low, range.High));
+}
+
+bool IsFlat(const TurningSquare& square) {
+  bool flat = true;
+  ForEachCell(square.Order(), [&](int r, int c) { flat = flat && square(r, c) == square(1, 1); });
+  return flat;
+}
+
+}  // namespace
+
+CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Random& random,
+                      Yielding& yielding) {
+  SilentStage stage(&yielding);
+  constexpr int kMoves = 10;
+  constexpr int kMostRounds = 100;  // a flat square is a magic one, but a dull one
+  PatternedSquare mixed(TurningSquare(square, order), limitToNine, 0, random, stage);
+  for (int round = 0; round == 0 || (round < kMostRounds && IsFlat(mixed.Square())); ++round) {
+    for (int move = 0; move < kMoves; ++move)
+      ForEachCell(order, [&](int r, int c) { MoveCell(mixed, r, c); });
+  }
+  return mixed.Square().Settled();
+}
+
+}  // namespace numorra
