@@ -85,6 +85,7 @@ class Reader {
       }
       if (attached_) Fail("'" + option_ + "' takes no value");
       if (error_.empty() && special_) return *special_;
+      wishes_ |= option_ != "--codes" && option_ != "--format";
     }
     CheckTogether();
     if (!error_.empty()) return BadArguments{error_ + "; try --help"};
@@ -118,6 +119,10 @@ class Reader {
 
   void CheckTogether() {
     if (request_.Command == Command::Puzzle) {
+      if (request_.Codes) {
+        if (wishes_) Fail("a list of codes can be combined with a format only");
+        return;
+      }
       if (request_.Size == 0) Fail("the size is missing");
       if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
         Fail("the sum of a puzzle must be a whole number");
@@ -206,6 +211,7 @@ class Reader {
         {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
         {"--grade", &Reader::GradeOption, {kPuzzle}},
         {"--clues", &Reader::Clues, {kPuzzle}},
+        {"--codes", &Reader::Codes, {kPuzzle}},
         {"--rules", &Reader::RulesOption, {kComplete}},
         {"--seconds", &Reader::Seconds, {kComplete}},
         {"--format", &Reader::Format, {kBuild, kStudy, kComplete, kPuzzle}},
@@ -286,6 +292,8 @@ class Reader {
       Fail("the number of clues must be a whole number of 0 or more");
   }
 
+  void Codes() { request_.Codes = Value(); }
+
   void RulesOption() {
     const std::string name = Value();
     for (const Rules rules : {Rules::Normal, Rules::Positive}) {
@@ -336,6 +344,7 @@ class Reader {
   const std::vector<std::string>& words_;
   std::size_t next_ = 0;
   bool fileNamed_ = false;
+  bool wishes_ = false;  ///< there are options that say what is to be made
   std::string option_;
   std::optional<std::string> attached_;
   SquareRequest request_;
@@ -355,6 +364,8 @@ std::string Usage() {
          ofAnswers + R"(]
        numorra-square complete [FILE|-] [options]
        numorra-square puzzle --size N [options]
+       numorra-square puzzle --codes FILE|- [--format )" +
+         all + R"(]
 
 Prints magic squares and the total of their lines: squares of the numbers 1 to
 N x N, of any total, 4 x 4 with a top row of your choice, or of a special kind.
@@ -400,7 +411,7 @@ status is 3 for none and 4 if the search did not finish in time.
          R"(                           as "why"
 
 puzzle makes squares with gaps that have one solution. Their codes, up to size
-10, are read by study, complete and the window.
+20, are read by study, complete and the window.
 
   --size N                 the number of cells on a side
   --grade easy|medium|hard|expert
@@ -408,6 +419,8 @@ puzzle makes squares with gaps that have one solution. Their codes, up to size
   --clues K                how many numbers are given; by default as few as possible
   --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
   --count M, --seed N      the number of puzzles, and the seed that repeats them
+  --codes FILE|-           the puzzles of these codes instead: a line has one or more,
+                           with words around them
 )" + OptionText("--format " + all, "JSON is one object per line, with its solution") +
          R"(
 The exit status is 0 on success, 1 if there is no such square or something could not

@@ -39,6 +39,9 @@ struct SquareRequest {
   Grade Wanted = Grade::Easy;
   std::optional<int> ClueCount;
 
+  /// The file with the codes of puzzles to write instead of new ones; "-" is the standard input.
+  std::optional<std::string> Codes;
+
   /// The file with the squares; "-" is the standard input.
   std::string File = "-";
 

@@ -5,7 +5,7 @@
 #include "app/board/numbers.h"
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
-#include "puzzle/code.h"
+#include "cli/write_puzzle.h"
 #include "puzzle/deduction.h"
 #include "puzzle/fresh_puzzle.h"
 #include "puzzle/making.h"
@@ -34,32 +34,6 @@ void TellDifference(const SquareRequest& request, const MadePuzzle& made, std::o
   }
 }
 
-void Write(const MadePuzzle& made, SquareFormat format, std::ostream& out) {
-  const StoredSquare stored = StoredSquareOf(made.Clues, true);
-  const std::string code = made.Clues.Order() <= kMostCodedOrder ? CodeOf(made.Clues) : "";
-  const std::string clues = std::to_string(made.Clues.Cells.Size() - made.Clues.Gaps());
-  switch (format) {
-    case SquareFormat::Csv:
-      out << CsvOf(stored);
-      break;
-    case SquareFormat::Json: {
-      JsonLine line = JsonLineOf(stored);
-      line.Add("solution", JsonRowsOf(StoredSquareOf(made.Solution, false).Cells));
-      line.Add("grade", JsonString(NameOf(made.Needed))).Add("clues", clues);
-      if (!code.empty()) line.Add("code", JsonString(code));
-      out << line.Text() << "\n";
-      break;
-    }
-    case SquareFormat::Text: {
-      std::string text = TextOf(stored);
-      text.pop_back();  // continue the total's line
-      out << text << ", " << NameOf(made.Needed) << ", " << clues << " clues"
-          << (code.empty() ? "" : ", " + code) << "\n";
-      break;
-    }
-  }
-}
-
 }  // namespace
 
 void MakePuzzles(const SquareRequest& request, const Streams& streams) {
@@ -69,7 +43,7 @@ void MakePuzzles(const SquareRequest& request, const Streams& streams) {
     const MadePuzzle made = Make(request, random);
     TellDifference(request, made, streams.Err);
     if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
-    Write(made, request.Format, streams.Out);
+    WritePuzzle(made.Clues, &made, request.Format, streams.Out);
   }
 }
 

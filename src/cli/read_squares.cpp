@@ -1,9 +1,8 @@
 #include "cli/read_squares.h"
 
-#include <fstream>
-#include <istream>
 #include <ostream>
 
+#include "cli/input_file.h"
 #include "files/block_reader.h"
 #include "files/square_text.h"
 #include "puzzle/code.h"
@@ -21,10 +20,8 @@ std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
 
 bool ReadSquares(const std::string& file, const Streams& streams,
                  const std::function<void(const StoredSquare&)>& visit) {
-  std::ifstream opened;
-  if (file != "-") opened.open(file, std::ios::binary);
-  std::istream& in = file == "-" ? streams.In : opened;
-  BlockReader blocks(in);
+  InputFile input(file, streams.In);
+  BlockReader blocks(input.In());
   bool any = false;
   bool allRead = true;
   const auto tell = [&](const std::string& what) {
@@ -44,11 +41,10 @@ bool ReadSquares(const std::string& file, const Streams& streams,
   }
   if (const auto line = blocks.TooLongFrom()) {
     tell("line " + std::to_string(*line) + ": " + kTooLongForASquare + "; reading stops here");
-  } else if (streams.Out && (!in.eof() || in.bad())) {
-    throw Impossible{"'" + file + "' cannot be read"};
-  } else if (!any) {
-    throw Impossible{"there is no square to read"};
+    return false;
   }
+  if (streams.Out) input.CheckReadToEnd();
+  if (!any) throw Impossible{"there is no square to read"};
   return allRead;
 }
 

@@ -6,6 +6,7 @@
 #include "app/board/runtime_error.h"
 #include "cli/arguments.h"
 #include "cli/build_squares.h"
+#include "cli/coded_puzzles.h"
 #include "cli/complete_squares.h"
 #include "cli/make_puzzles.h"
 #include "cli/study_squares.h"
@@ -41,6 +42,7 @@ int Run(const SquareRequest& request, const Streams& streams) {
     case SquareCommand::Complete:
       return StatusOf(CompleteSquares(request, streams));
     case SquareCommand::Puzzle:
+      if (request.Codes) return WriteCodedPuzzles(request, streams) ? kDone : kFailed;
       MakePuzzles(request, streams);
       return kDone;
     case SquareCommand::Build:

@@ -82,10 +82,6 @@ QString Missing(const Puzzle& puzzle) {
   return "Missing: " + missing.join("  ");
 }
 
-QString CodeText(const Puzzle& puzzle) {
-  return puzzle.Order() > kMostCodedOrder ? QString() : QString::fromStdString(CodeOf(puzzle));
-}
-
 QString RulesText(const std::vector<MadePuzzle>& puzzles) {
   const bool normal = std::all_of(puzzles.begin(), puzzles.end(), [](const MadePuzzle& made) {
     return made.Clues.Asked == Rules::Normal;
@@ -206,7 +202,7 @@ void Worksheet::PaintCaptioned(QPainter& painter, const Slot& slot, double side,
     Write(painter, {left, under, width, kTextHeight * 1.4}, Qt::AlignCenter, below, kTextHeight);
   }
   Write(painter, {left, under + (below.isEmpty() ? 0 : kLine), width, kSmallText * 1.4},
-        Qt::AlignCenter, CodeText(clues), kSmallText);
+        Qt::AlignCenter, QString::fromStdString(CodeOf(clues)), kSmallText);
 }
 
 }  // namespace numorra

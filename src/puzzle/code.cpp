@@ -2,50 +2,20 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
+#include <utility>
 #include <vector>
 
+#include "app/board/line.h"
 #include "app/board/orders.h"
 #include "files/formats.h"
+#include "puzzle/code_text.h"
+#include "puzzle/large_number.h"
 
 namespace numorra {
 namespace {
 
-constexpr std::string_view kPrefix = "NP1";
-constexpr std::string_view kAlphabet = "0123456789ABCDEFGHJKMNPQRSTVWXYZ";
-constexpr unsigned kLetterBits = 5;
-constexpr const char* kBroken = "this puzzle code has a mistake in it";
-
-/// A natural number of any size, to which digits of any radix are added and taken away again, the
-/// last one first.
-class LargeNumber {
- public:
-  void Push(std::uint64_t digit, std::uint64_t radix) {
-    std::uint64_t carry = digit;
-    for (std::uint32_t& limb : limbs_) {
-      const std::uint64_t product = limb * radix + carry;
-      limb = static_cast<std::uint32_t>(product);
-      carry = product >> 32U;
-    }
-    if (carry > 0) limbs_.push_back(static_cast<std::uint32_t>(carry));
-  }
-
-  std::uint64_t Pop(std::uint64_t radix) {
-    std::uint64_t rest = 0;
-    for (auto limb = limbs_.rbegin(); limb != limbs_.rend(); ++limb) {
-      const std::uint64_t part = rest << 32U | *limb;
-      *limb = static_cast<std::uint32_t>(part / radix);
-      rest = part % radix;
-    }
-    while (!limbs_.empty() && limbs_.back() == 0)
-      limbs_.pop_back();
-    return rest;
-  }
-
-  bool IsZero() const { return limbs_.empty(); }
-
- private:
-  std::vector<std::uint32_t> limbs_;  ///< the lowest first; the last one is not 0
-};
+constexpr std::uint64_t kTextBase = 32;
 
 /// Either writes the digits of a puzzle or reads them: the two cannot differ.
 class Coder {
@@ -60,8 +30,8 @@ class Coder {
     return digit;
   }
 
-  /// A number of any size below 10^16.
-  std::uint64_t Number(std::uint64_t value) {
+  /// A number of any size below 10^16: how many decimal digits it has, then these.
+  std::uint64_t Decimal(std::uint64_t value) {
     constexpr std::uint64_t kTen = 10;
     constexpr std::uint64_t kMostDigits = 17;
     std::uint64_t digits = 0;
@@ -75,23 +45,34 @@ class Coder {
     return number;
   }
 
-  /// What was written, the first digit on top, so that it is read first.
-  LargeNumber Written() const {
-    LargeNumber number;
-    for (auto digit = digits_.rbegin(); digit != digits_.rend(); ++digit)
-      number.Push(digit->first, digit->second);
+  /// A number below `bound`, which may be above 2^32, in parts of 16 bits.
+  std::uint64_t Below(std::uint64_t value, std::uint64_t bound) {
+    constexpr std::uint64_t kPart = 1U << 16U;
+    std::uint64_t number = 0;
+    std::uint64_t place = 1;
+    for (; bound > 1; bound = (bound + kPart - 1) / kPart, place *= kPart, value /= kPart)
+      number += place * Digit(value % kPart, std::min(bound, kPart));
     return number;
   }
 
-  bool AllRead() const { return number_.IsZero(); }
+  /// What was written, in the base of the text. The first digit is on top, so that it is read
+  /// first.
+  std::vector<unsigned> Written() const {
+    LargeNumber number;
+    for (auto digit = digits_.rbegin(); digit != digits_.rend(); ++digit)
+      number.Push(digit->first, digit->second);
+    std::vector<unsigned> written;
+    while (!number.IsZero())
+      written.push_back(static_cast<unsigned>(number.Pop(kTextBase)));
+    std::reverse(written.begin(), written.end());
+    return written;
+  }
 
  private:
   LargeNumber number_;
   std::vector<std::pair<std::uint64_t, std::uint64_t>> digits_;
   bool reads_ = false;
 };
-
-constexpr std::uint64_t kCodedOrders = kMostCodedOrder - kMinOrder + 1;
 
 /// A number of a puzzle by the normal rules is its place among those that are still missing.
 void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& missing) {
@@ -102,90 +83,76 @@ void PassNormal(Coder& coder, std::int64_t& cell, std::vector<std::int64_t>& mis
   missing.erase(missing.begin() + place);
 }
 
-/// Takes the puzzle's digits through the coder, one by one.
-void Pass(Coder& coder, Puzzle& puzzle) {
+/// A number of a puzzle by the positive rules.
+void PassPositive(Coder& coder, std::int64_t& cell, int version, const Puzzle& puzzle) {
+  const auto number = static_cast<std::uint64_t>(cell);
+  const std::uint64_t passed =
+      version == 1 ? coder.Decimal(number)
+                   : coder.Below(number - 1, static_cast<std::uint64_t>(puzzle.Most())) + 1;
+  cell = static_cast<std::int64_t>(passed);
+}
+
+/// Takes the puzzle's digits through the coder, one by one. Returns whether the kind is known: that
+/// of magic squares, the only one of version 1.
+bool Pass(Coder& coder, Puzzle& puzzle, int version) {
+  constexpr std::uint64_t kKinds = 8;
   constexpr std::uint64_t kRules = 3;  // of which one is free
-  const int order =
-      kMinOrder + static_cast<int>(coder.Digit(
-                      static_cast<std::uint64_t>(puzzle.Order() - kMinOrder), kCodedOrders));
+  constexpr int kMostOrderOfVersion1 = 10;
+  if (version > 1 && coder.Digit(0, kKinds) != 0) return false;
+  const int most = version == 1 ? kMostOrderOfVersion1 : kMostCodedOrder;
+  const int order = kMinOrder + static_cast<int>(coder.Digit(
+                                    static_cast<std::uint64_t>(puzzle.Order() - kMinOrder),
+                                    static_cast<std::uint64_t>(most - kMinOrder + 1)));
   if (puzzle.Order() != order) puzzle.Cells = Square<std::int64_t>(order);
-  const std::uint64_t rules = coder.Digit(puzzle.Asked == Rules::Normal ? 0 : 1, kRules);
-  puzzle.Asked = rules == 0 ? Rules::Normal : Rules::Positive;
+  const bool normal = coder.Digit(puzzle.Asked == Rules::Normal ? 0 : 1, kRules) == 0;
+  puzzle.Asked = normal ? Rules::Normal : Rules::Positive;
   puzzle.Target =
-      rules == 0
-          ? NormalTotal(order)
-          : static_cast<std::int64_t>(coder.Number(static_cast<std::uint64_t>(puzzle.Target)));
+      normal ? NormalTotal(order)
+             : static_cast<std::int64_t>(coder.Decimal(static_cast<std::uint64_t>(puzzle.Target)));
   std::vector<std::int64_t> missing;
-  for (std::int64_t number = 1; rules == 0 && number <= puzzle.Most(); ++number)
+  for (std::int64_t number = 1; normal && number <= puzzle.Most(); ++number)
     missing.push_back(number);
   for (std::int64_t& cell : puzzle.Cells) {
     if (coder.Digit(cell == 0 ? 0 : 1, 2) == 0) {
       cell = 0;
-    } else if (rules == 0) {
+    } else if (normal) {
       PassNormal(coder, cell, missing);
     } else {
-      cell = static_cast<std::int64_t>(coder.Number(static_cast<std::uint64_t>(cell)));
+      PassPositive(coder, cell, version, puzzle);
     }
   }
+  return true;
 }
 
-/// Twice an element of the field of 32 elements, whose numbers are added bit by bit and reduced by
-/// x^5 + x^2 + 1.
-unsigned Doubled(unsigned element) {
-  constexpr unsigned kField = 32;
-  constexpr unsigned kReduced = 0b100101;
-  element *= 2;
-  return element >= kField ? element ^ kReduced : element;
+std::vector<unsigned> DigitsOfPuzzle(Puzzle puzzle, int version) {
+  Coder coder;
+  Pass(coder, puzzle, version);
+  return coder.Written();
 }
 
-/// The polynomial of the characters' values, the first of the highest power, at 2.
-unsigned CheckOf(const std::vector<unsigned>& values) {
-  unsigned sum = 0;
-  for (const unsigned value : values)
-    sum = Doubled(sum) ^ value;
-  return sum;
-}
-
-/// The characters' values behind the prefix; nothing where one is no character of a code.
-std::optional<std::vector<unsigned>> ValuesIn(const std::string& code) {
-  std::vector<unsigned> values;
-  for (const char written : code) {
-    if (written == ' ' || written == '-' || written == '\n' || written == '\r' || written == '\t') {
-      continue;
-    }
-    char character =
-        written >= 'a' && written <= 'z' ? static_cast<char>(written - 'a' + 'A') : written;
-    if (character == 'O') character = '0';
-    if (character == 'I' || character == 'L') character = '1';
-    const std::size_t value = kAlphabet.find(character);
-    if (value == std::string_view::npos) return std::nullopt;
-    values.push_back(static_cast<unsigned>(value));
+/// What keeps a puzzle of an order that codes hold from having one: a sentence about its code.
+std::optional<std::string> WhyNotCoded(const Puzzle& puzzle) {
+  if (puzzle.Gaps() == puzzle.Cells.Size()) return "the board of this puzzle code has no clue";
+  for (const Line line : MagicLines(puzzle.Order())) {
+    const auto sum = SumOf(line, puzzle.Order(), [&](int cell) { return puzzle.Cells[cell]; });
+    const auto least = SumOf(line, puzzle.Order(), [&](int cell) {
+      return std::max<std::int64_t>(puzzle.Cells[cell], 1);
+    });
+    const bool isFull = sum == least;
+    if (isFull ? sum == puzzle.Target : least <= puzzle.Target) continue;
+    return "the clues in " + NameOf(line, puzzle.Order()) +
+           " of this puzzle code cannot add up to its total, " + std::to_string(puzzle.Target);
   }
-  if (values.size() <= kPrefix.size()) return std::nullopt;
-  for (std::size_t i = 0; i < kPrefix.size(); ++i) {
-    if (kAlphabet[values[i]] != kPrefix[i]) return std::nullopt;
-  }
-  values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(kPrefix.size()));
-  return values;
+  return std::nullopt;
 }
 
 }  // namespace
 
 std::string CodeOf(const Puzzle& puzzle) {
-  Coder coder;
-  Puzzle copy = puzzle;
-  Pass(coder, copy);
-  LargeNumber number = coder.Written();
-  std::vector<unsigned> values;
-  while (!number.IsZero())
-    values.push_back(static_cast<unsigned>(number.Pop(std::uint64_t{1} << kLetterBits)));
-  std::reverse(values.begin(), values.end());
-  values.push_back(0);
-  values.back() = CheckOf(values);
-  std::string code(kPrefix);
-  for (const unsigned value : values)
-    code += kAlphabet[value];
-  return code;
+  if (puzzle.Order() > kMostCodedOrder || puzzle.Kind != LineKind::Magic || WhyNotCoded(puzzle)) {
+    return {};
+  }
+  return CodeOfDigits(DigitsOfPuzzle(puzzle, CodeText().Version));
 }
 
 bool LooksLikeCode(const std::string& text) {
@@ -196,18 +163,23 @@ bool LooksLikeCode(const std::string& text) {
 }
 
 std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
-  constexpr std::size_t kLongest = 2000;
-  auto values = code.size() <= kLongest ? ValuesIn(code) : std::nullopt;
-  if (!values || CheckOf(*values) != 0) return Unreadable{kBroken};
-  values->pop_back();
+  const auto read = ReadCodeText(code);
+  if (const auto* unreadable = std::get_if<Unreadable>(&read)) return *unreadable;
+  const auto& text = std::get<CodeText>(read);
   LargeNumber number;
-  for (const unsigned value : *values)
-    number.Push(value, std::uint64_t{1} << kLetterBits);
+  for (const unsigned digit : text.Digits)
+    number.Push(digit, kTextBase);
   Coder coder(std::move(number));
   Puzzle puzzle{.Cells = Square<std::int64_t>(kMinOrder)};
-  Pass(coder, puzzle);
+  if (!Pass(coder, puzzle, text.Version)) {
+    return Unreadable{"this puzzle code is of a kind that only a later version knows"};
+  }
   const auto checked = PuzzleOf(StoredSquareOf(puzzle, true));
-  if (!coder.AllRead() || std::holds_alternative<AgainstRules>(checked)) return Unreadable{kBroken};
+  if (std::holds_alternative<AgainstRules>(checked) ||
+      DigitsOfPuzzle(puzzle, text.Version) != text.Digits) {
+    return Unreadable{kBrokenCode};
+  }
+  if (const auto why = WhyNotCoded(puzzle)) return Unreadable{*why};
   return puzzle;
 }
 

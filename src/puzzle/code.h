@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <variant>
 
@@ -10,24 +9,23 @@
 namespace numorra {
 
 /// The largest order that a code holds.
-inline constexpr int kMostCodedOrder = 10;
+inline constexpr int kMostCodedOrder = 20;
 
-/// A puzzle as one line of letters and digits: "NP", the version 1, the puzzle, a check character.
+/// A puzzle as one line of letters and digits (src/puzzle/code_text.h).
 ///
-/// The puzzle is one large number in mixed radix: its order, rules and target, and for each cell
-/// whether it is a gap, and a number as its place among those still possible. It is written in the
-/// 32 digits and letters without I, L, O and U (Crockford's alphabet). The check character makes a
-/// polynomial over the field of 32 elements vanish: any one wrong character shows, and any two that
-/// have changed places within 31. Codes of version 1 are read for ever.
+/// The puzzle is one large number in mixed radix: its kind, order, rules and target, and for each
+/// cell whether it is a gap, and a number as its place among those still possible. Every puzzle has
+/// one code of each version, so a number that is not written back the same is refused. Codes of
+/// version 1, for orders up to 10, are read for ever.
 ///
-/// Throws nothing; the order is at most kMostCodedOrder.
+/// Empty for a puzzle that has no code: it is larger than kMostCodedOrder, of a kind other than
+/// magic, has no clue, or has a line whose clues cannot add up to the target.
 std::string CodeOf(const Puzzle& puzzle);
 
 /// Whether a text is meant to be a code: its first letters are NP, capitals or not.
 bool LooksLikeCode(const std::string& text);
 
-/// The puzzle that a code holds, capitals or not; I and L are read as 1 and O as 0. Or what is
-/// wrong with the code.
+/// The puzzle that a code holds, or what is wrong with the code. Reads what ReadCodeText takes.
 std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code);
 
 /// A square in any of the formats or as the code of a puzzle, whose numbers are then givens.

@@ -144,6 +144,8 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
                            "--size 5 --sum 163840",
                            "puzzle --size 5 --sum 163840",
                            "puzzle --size 5 --sum 90.5",
+                           "puzzle --codes",
+                           "puzzle --codes - --grade easy",
                            "--size 5 --vary --corner 7",
                            "--top-row 1,2,3,4 --vary",
                            "--size 5 --fresh --corner 7",
@@ -369,7 +371,7 @@ TEST(SquareProgram, MakesPuzzles) {
             "\"rules\": \"normal\", \"rows\": [[4, null, null], [null, null, 7], [null, null, 6]], "
             "\"givens\": [[true, false, false], [false, false, true], [false, false, true]], "
             "\"solution\": [[4, 9, 2], [3, 5, 7], [8, 1, 6]], \"grade\": \"easy\", \"clues\": 3, "
-            "\"code\": \"NP13VTD8C\"}\n");
+            "\"code\": \"NP2C25MVEGZA\"}\n");
   const std::string three = RunWith("puzzle --size 5 --grade hard --count 3 --seed 9").Out;
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");
@@ -380,6 +382,31 @@ TEST(SquareProgram, MakesPuzzles) {
             "numorra-square: the total is 20\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --grade odd").Status, 2);
   EXPECT_EQ(RunWith("puzzle --size 4 --sum 90 --format csv --seed 2").Status, 0);
+}
+
+TEST(SquareProgram, WritesThePuzzlesOfCodes) {
+  const std::string made = RunWith("puzzle --size 5 --sum 90 --count 3 --seed 4 --format json").Out;
+  const Outcome again = RunWith("puzzle --codes - --format json", made);
+  EXPECT_EQ(again.Out, made);
+  EXPECT_EQ(again.Err, "");
+  EXPECT_EQ(again.Status, 0);
+  const Outcome some = RunWith("puzzle --codes=-", "Puzzle 7: np12s3w04\n\nNP12S3W05\nNP12ZS9\n");
+  EXPECT_EQ(some.Out.find(". . .\n. 5 .\n2 9 .\n\ntotal 15, easy, 3 clues, NP2C1J45R0PT\n"), 0U);
+  EXPECT_EQ(some.Err,
+            "numorra-square: line 3: this puzzle code has a mistake in it\n"
+            "numorra-square: line 4: this puzzle code has a mistake in it\n");
+  EXPECT_EQ(some.Status, 1);
+  const Outcome several = RunWith("puzzle --codes -", "NP2A1WR0TB NP2A1F80DW\n");
+  EXPECT_EQ(several.Out,
+            ". . .\n. 5 .\n. . .\n\ntotal 15, 1 clue, NP2A1WR0TB\n\n"
+            ". . .\n. 4 .\n. . .\n\ntotal 15, 1 clue, NP2A1F80DW\n");
+  EXPECT_EQ(several.Err,
+            "numorra-square: line 1: this puzzle has several solutions\n"
+            "numorra-square: line 1: this puzzle has no solution\n");
+  EXPECT_EQ(RunWith("puzzle --codes -", "\n").Err,
+            "numorra-square: there is no puzzle code to read\n");
+  EXPECT_EQ(RunWith("puzzle --codes /no/such/file").Err,
+            "numorra-square: '/no/such/file' cannot be read\n");
 }
 
 }  // namespace

@@ -181,8 +181,8 @@ TEST_F(WorksheetTest, HasRoomForEverything) {
         ExpectLines(2, boards.back());
         const QString number = QString::number(place + 1) + ".";
         EXPECT_LT(Find(2, number).Box.bottom(), boards.back().top() + 0.5);
-        EXPECT_GT(Find(2, "NP1", place).Box.top(), boards.back().bottom());
-        EXPECT_GT(Find(0, "NP1", place).Box.top(), Find(0, "Missing:", place).Box.bottom() - 1);
+        EXPECT_GT(Find(2, "NP2", place).Box.top(), boards.back().bottom());
+        EXPECT_GT(Find(0, "NP2", place).Box.top(), Find(0, "Missing:", place).Box.bottom() - 1);
         EXPECT_GT(Find(0, "Missing:", place).Box.top(), boards.back().bottom());
         EXPECT_NEAR(boards.back().width(), boards.front().width(), 0.5);
       }

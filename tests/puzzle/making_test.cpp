@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 
-#include "files/square_json.h"
 #include "puzzle/code.h"
 #include "puzzle/deduction.h"
 #include "puzzle/fresh_puzzle.h"
@@ -128,58 +127,6 @@ TEST_F(MakingTest, TheSameSeedGivesTheSamePuzzles) {
   };
   EXPECT_EQ(make(3), make(3));
   EXPECT_NE(make(3), make(4));
-}
-
-TEST(Code, HoldsEveryPuzzleAndShowsEveryMistake) {
-  SeededRandom random(2);
-  SilentStage stage;
-  for (int order = 3; order <= 10; ++order) {
-    for (const bool normal : {true, false}) {
-      SquareWish wish{order};
-      if (!normal) wish.Total = 20 * order + 1;
-      const Puzzle puzzle = std::get<MadePuzzle>(MakePuzzle(*FreshSquare(wish, random, stage),
-                                                            {Grade::Medium}, random, stage))
-                                .Clues;
-      const std::string code = CodeOf(puzzle);
-      const auto back = PuzzleOfCode(code);
-      ASSERT_TRUE(std::holds_alternative<Puzzle>(back)) << code;
-      EXPECT_EQ(std::get<Puzzle>(back).Cells, puzzle.Cells);
-      EXPECT_EQ(std::get<Puzzle>(back).Target, puzzle.Target);
-      EXPECT_EQ(std::get<Puzzle>(back).Asked, puzzle.Asked);
-      const auto isRead = [](const std::string& text) {
-        return std::holds_alternative<Puzzle>(PuzzleOfCode(text));
-      };
-      for (std::size_t at = 3; at < code.size(); ++at) {
-        std::string wrong = code;
-        wrong[at] = wrong[at] == '7' ? 'K' : '7';
-        EXPECT_FALSE(isRead(wrong));
-        if (at + 1 == code.size() || code[at] == code[at + 1]) continue;
-        wrong = code;
-        std::swap(wrong[at], wrong[at + 1]);
-        EXPECT_FALSE(isRead(wrong));
-      }
-    }
-  }
-}
-
-/// Codes printed by earlier versions.
-TEST(Code, OfVersion1IsReadForEver) {
-  for (const auto& [code, rows] :
-       {std::pair{"NP12S3W04", "[[null, null, null], [null, 5, null], [2, 9, null]]"},
-        std::pair{
-            "np1h 7fkr-sz\n",
-            "[[1, 14, null, 4], [null, null, null, null], [null, null, 6, null], [null, null, "
-            "null, null]]"}}) {
-    const auto square = ReadSquareOrCode(code);
-    ASSERT_TRUE(std::holds_alternative<StoredSquare>(square));
-    EXPECT_EQ(JsonRowsOf(std::get<StoredSquare>(square).Cells), rows);
-    EXPECT_FALSE(std::get<StoredSquare>(square).Givens.IsEmpty());
-  }
-  for (const char* broken : {"NP", "NP1", "NP2H7FKRSZ", "NP1H7FKRS!", "NP1H7FKRS"}) {
-    const auto read = ReadSquareOrCode(broken);
-    ASSERT_TRUE(std::holds_alternative<Unreadable>(read)) << broken;
-    EXPECT_EQ(std::get<Unreadable>(read).Why, "this puzzle code has a mistake in it");
-  }
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
 #include "puzzle/code.h"
+#include "puzzle/only_solution.h"
 
 namespace numorra {
 
@@ -154,16 +155,17 @@ std::optional<MadePuzzle> Session::SolvedPuzzleOnBoard() {
   const auto clues = PuzzleOnBoard();
   if (!clues) return std::nullopt;
   SilentStage stage;
-  const SearchResult result = numorra::Solve(*clues, {.Seconds = kAtOnce}, TheRandom, stage);
-  const auto* one = std::get_if<OneSolution>(&result);
-  return one ? std::optional(MadePuzzle{*clues, one->Solved, GradeOf(*clues)}) : std::nullopt;
+  const auto solved = WithOnlySolution(*clues, {.Seconds = kAtOnce}, TheRandom, stage);
+  const auto* one = std::get_if<MadePuzzle>(&solved);
+  return one ? std::optional(*one) : std::nullopt;
 }
 
 std::optional<std::string> Session::PuzzleCode() const {
   const auto puzzle = PuzzleOnBoard();
-  if (puzzle && puzzle->Order() <= kMostCodedOrder) return CodeOf(*puzzle);
+  const std::string code = puzzle ? CodeOf(*puzzle) : "";
+  if (!code.empty()) return code;
   ports_->TheDialogs.Tell(
-      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule");
+      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no rule");
   return std::nullopt;
 }
 

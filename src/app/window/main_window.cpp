@@ -93,7 +93,7 @@ void MainWindow::AddMenus() {
   new EditMenu(menuBar(), desk_);
   view_ = new ViewMenu(this, desk_);
   new StudyMenu(this, desk_, view_->Room());
-  new PuzzleMenu(menuBar(), desk_, searchStage_, state_);
+  new PuzzleMenu(menuBar(), desk_, searchStage_, world_.Pages, state_);
   QMenu* help = menuBar()->addMenu("&Help");
   AddItem(help, {"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents),
                  desk_.Beside([this] {

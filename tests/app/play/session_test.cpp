@@ -112,10 +112,10 @@ TEST_F(SessionTest, ChoosesTheRulesOfFreshSquares) {
   boxes_.SizeText = "51";
   EXPECT_FALSE(session_.WishForFreshSquares());
   EXPECT_FALSE(session_.PuzzleCode());
-  EXPECT_EQ(
-      dialogs_.Take(),
-      (Messages{"grid size should be 50x50 or smaller",
-                "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"}));
+  EXPECT_EQ(dialogs_.Take(),
+            (Messages{"grid size should be 50x50 or smaller",
+                      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that "
+                      "break no rule"}));
 }
 
 TEST_F(SessionTest, ForgetsWhoeverShowedIt) {

@@ -1,6 +1,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QPlainTextEdit>
+#include <QPointer>
 #include <QRadioButton>
 #include <QSpinBox>
 
@@ -33,14 +35,14 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   EXPECT_TRUE(TheGrid().Outlined().empty());
   EXPECT_EQ(Rows(), ParseRows("8 1 6 / 3 5 7 / 4 9 2"));
   const Messages noCode = {
-      "only puzzles of size 3 to 10 have a code: boards with gaps that break no rule"};
+      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no rule"};
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
   EXPECT_EQ(Find<QAction>("UndoMovex").text(), "&Undo Fill Gaps");
   Trigger("UndoMovex");
   EXPECT_EQ(TheGrid().Text(1, 3), "");
   EXPECT_FALSE(Find<QWidget>("SearchBar").isVisible());
-  Make("SolveAuto", "11");
+  Make("SolveAuto", "21");
   QTest::keyClick(&window_.View(), Qt::Key_Backspace);
   Trigger("CopyPuzzleCodex");
   EXPECT_EQ(dialogs_.Take(), noCode);
@@ -58,8 +60,9 @@ TEST_F(PuzzleWindowTest, TinyBoardsAreHandledSafely) {
       Type("Text1", "4");
       for (const char* item :
            {"Copyx", "Varyx", "Complementx", "StandardFormx", "EnterPuzzlex", "Hintx",
-            "CheckEntriesx", "HideNumbersx", "PrintWorksheetx", "CopyPuzzleCodex", "StepByStepx",
-            "FillGapsx", "UndoMovex", "RedoMovex", "DrawingNumbersx", "FitBoardx", "FitBoardx"}) {
+            "CheckEntriesx", "HideNumbersx", "PrintWorksheetx", "CopyPuzzleCodex", "EnterCodex",
+            "StepByStepx", "FillGapsx", "UndoMovex", "RedoMovex", "DrawingNumbersx", "FitBoardx",
+            "FitBoardx"}) {
         Trigger(item);
         for (auto* form : window_.findChildren<QDialog*>())
           form->close();
@@ -131,7 +134,7 @@ TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
               told.contains(RulesOf(Grade::Hard)))
       << told.toStdString();
   form->findChild<QPushButton*>("CopyCodex")->click();
-  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP1"));
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("NP2"));
   take->click();
   EXPECT_TRUE(window_.TheBoard().HasGivens());
   EXPECT_TRUE(window_.TheBoard().HasGaps());
@@ -154,6 +157,46 @@ TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
   Await([&] { return !bar.isVisible(); });
   EXPECT_TRUE(TheGrid().Outlined().empty());
   ExpectSettled();
+}
+
+TEST_F(MakingWindowTest, CodesAreLaidOutOrPrinted) {
+  const auto open = [&] {
+    Find<QAction>("EnterCodex").trigger();
+    return window_.findChild<QDialog*>("EnterCodeForm");
+  };
+  QPointer<QDialog> form = open();
+  ASSERT_NE(form, nullptr);
+  const auto* told = form->findChild<QLabel*>("CodesTold");
+  auto* codes = form->findChild<QPlainTextEdit*>("Codes");
+  auto* take = form->findChild<QPushButton*>("TakeCodesx");
+  EXPECT_FALSE(take->isEnabled());
+  QTest::keyClicks(codes, "Puzzle 1: np12 s3w0-5");
+  EXPECT_EQ(told->text(), "line 1: this puzzle code has a mistake in it");
+  EXPECT_FALSE(take->isEnabled());
+  codes->setPlainText("Puzzle 1: np12 s3w0-4\n\nPuzzle 2");
+  EXPECT_EQ(told->text(),
+            "One puzzle of size 3 with the total 15.\nline 3: there is no puzzle code here");
+  take->click();
+  EXPECT_TRUE(TheGrid().Given(3, 1));
+  EXPECT_EQ(TheGrid().Text(3, 2), "9");
+  Await([&] { return !form; });
+
+  form = open();
+  codes = form->findChild<QPlainTextEdit*>("Codes");
+  auto* print = form->findChild<QPushButton*>("PrintCodesx");
+  codes->setPlainText("NP12S3W04\nNP2A1WR0TB");
+  print->click();
+  EXPECT_EQ(form->findChild<QLabel*>("CodesTold")->text(),
+            "line 2: this puzzle has several solutions; the answers of a worksheet need one "
+            "solution");
+  codes->setPlainText("NP12S3W04\nnp1h7fkrsz");
+  print->click();
+  Await([&] { return !form; });
+  auto* sheet = window_.findChild<QDialog*>("PrintWorksheet");
+  ASSERT_NE(sheet, nullptr);
+  EXPECT_TRUE(sheet->findChild<QRadioButton*>("SheetFromBoardx")->text().endsWith(": 2"));
+  sheet->findChild<QPushButton*>("PreviewSheetx")->click();
+  EXPECT_EQ(pages_.Pictures.size(), 2U);
 }
 
 TEST_F(MakingWindowTest, ABoardOfALargeTotalGivesPuzzles) {

@@ -94,11 +94,10 @@ void HideNumbersForm::Make() {
       return;
     }
     made_ = std::get<MadePuzzle>(std::move(made));
-    const bool coded = made_->Clues.Order() <= kMostCodedOrder;
-    told_->setText(DescriptionOf(*made_) +
-                   (coded ? "\n" + QString::fromStdString(CodeOf(made_->Clues)) : QString()));
+    const std::string code = CodeOf(made_->Clues);
+    told_->setText(DescriptionOf(*made_) + "\n" + QString::fromStdString(code));
     take_->setEnabled(true);
-    copy_->setEnabled(coded);
+    copy_->setEnabled(!code.empty());
   });
 }
 

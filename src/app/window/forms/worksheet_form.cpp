@@ -17,15 +17,14 @@ struct NoSet {
 
 }  // namespace
 
-WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
-                             PagePrinter& printer, Random& random, Dialogs& dialogs,
-                             QWidget* parent)
+WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SquareWish fresh, PagePrinter& printer,
+                             Random& random, Dialogs& dialogs, QWidget* parent)
     : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
-      board_(std::move(board)),
+      atHand_(std::move(atHand.Puzzles)),
       fresh_(fresh),
       printer_(printer),
       random_(random),
-      fromBoard_(Named("SheetFromBoardx", new QRadioButton("The puzzle on the &board"))),
+      printsAtHand_(Named("SheetFromBoardx", new QRadioButton(atHand.Caption))),
       count_(Named("SheetCount", new QSpinBox)),
       wish_(new PuzzleWishBox),
       perPage_(Named("PerPage", new QComboBox)),
@@ -45,8 +44,8 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   total_->setChecked(true);
   auto* fromFresh = Named("SheetFreshx",
                           new QRadioButton(QString("&Fresh puzzles of size %1").arg(fresh_.Order)));
-  fromBoard_->setEnabled(board_.has_value());
-  (board_ ? fromBoard_ : fromFresh)->setChecked(true);
+  printsAtHand_->setEnabled(!atHand_.empty());
+  (atHand_.empty() ? fromFresh : printsAtHand_)->setChecked(true);
   wish_->SetOrder(fresh_.Order);
   told_->setWordWrap(true);
   told_->setMinimumHeight(2 * told_->fontMetrics().lineSpacing());
@@ -56,7 +55,7 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   form->addRow("How &many", count_);
   form->addRow(wish_);
   auto* column = new QVBoxLayout(this);
-  column->addWidget(fromBoard_);
+  column->addWidget(printsAtHand_);
   column->addWidget(fromFresh);
   column->addLayout(form);
   auto* layout = new QFormLayout;
@@ -73,13 +72,13 @@ WorksheetForm::WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh,
   buttons->addWidget(close);
   column->addLayout(buttons);
   const auto follow = [this] {
-    const bool makes = !fromBoard_->isChecked();
+    const bool makes = !printsAtHand_->isChecked();
     count_->setEnabled(makes);
     wish_->setEnabled(makes);
   };
   follow();
   ShowMaking(false);
-  OnSignal(runner_, fromBoard_, &QRadioButton::toggled, this, follow);
+  OnSignal(runner_, printsAtHand_, &QRadioButton::toggled, this, follow);
   OnClick(runner_, print_, this, [this] { Print(); });
   OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
   OnClick(runner_, close, this, [this] { this->close(); });
@@ -92,7 +91,7 @@ void WorksheetForm::ShowMaking(bool making) {
 }
 
 std::vector<MadePuzzle> WorksheetForm::Puzzles() {
-  if (fromBoard_->isChecked()) return {*board_};
+  if (printsAtHand_->isChecked()) return atHand_;
   ShowMaking(true);
   const auto done = qScopeGuard([this] { ShowMaking(false); });
   std::vector<MadePuzzle> puzzles;

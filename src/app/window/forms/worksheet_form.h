@@ -13,26 +13,31 @@
 
 namespace numorra {
 
-/// The dialog (`PrintWorksheet`) that prints puzzles: the one on the board, or a set of fresh ones;
-/// the player can stop the making of a set.
+/// Puzzles that can be printed as they are, or none, and what they are called.
+struct PuzzlesAtHand {
+  QString Caption;
+  std::vector<MadePuzzle> Puzzles;
+};
+
+/// The dialog (`PrintWorksheet`) that prints puzzles: those at hand, or a set of fresh ones; the
+/// player can stop the making of a set.
 class WorksheetForm : public CommandForm {
   Q_OBJECT
 
  public:
-  /// `board`: the puzzle on the board, if it has exactly one solution.
-  WorksheetForm(std::optional<MadePuzzle> board, SquareWish fresh, PagePrinter& printer,
-                Random& random, Dialogs& dialogs, QWidget* parent);
+  WorksheetForm(PuzzlesAtHand atHand, SquareWish fresh, PagePrinter& printer, Random& random,
+                Dialogs& dialogs, QWidget* parent);
 
  private:
   void Print();
   std::vector<MadePuzzle> Puzzles();
   void ShowMaking(bool making);
 
-  std::optional<MadePuzzle> board_;
+  std::vector<MadePuzzle> atHand_;
   SquareWish fresh_;
   PagePrinter& printer_;
   Random& random_;
-  QRadioButton* fromBoard_;
+  QRadioButton* printsAtHand_;
   QSpinBox* count_;
   PuzzleWishBox* wish_;
   QComboBox* perPage_;

@@ -89,8 +89,12 @@ void FileMenu::OpenPrintForm() {
 void FileMenu::OpenWorksheet() {
   const auto fresh = desk_.TheSession.WishForFreshSquares();
   if (!fresh) return;
-  (new WorksheetForm(desk_.TheSession.SolvedPuzzleOnBoard(), *fresh, ports_.Pages,
-                     desk_.TheSession.TheRandom, desk_.TheDialogs, window_))
+  PuzzlesAtHand onBoard{"The puzzle on the &board", {}};
+  if (auto solved = desk_.TheSession.SolvedPuzzleOnBoard()) {
+    onBoard.Puzzles.push_back(*std::move(solved));
+  }
+  (new WorksheetForm(std::move(onBoard), *fresh, ports_.Pages, desk_.TheSession.TheRandom,
+                     desk_.TheDialogs, window_))
       ->open();
 }
 

@@ -5,7 +5,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "app/window/forms/enter_code_form.h"
 #include "app/window/forms/hide_numbers_form.h"
+#include "app/window/forms/worksheet_form.h"
 #include "study/special.h"
 #include "toolkit/menus.h"
 #include "toolkit/named.h"
@@ -13,8 +15,9 @@
 
 namespace numorra {
 
-PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* state)
-    : QObject(bar), window_(bar->window()), desk_(desk), stage_(stage) {
+PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinter& printer,
+                       QWidget* state)
+    : QObject(bar), window_(bar->window()), desk_(desk), stage_(stage), printer_(printer) {
   QMenu* menu = bar->addMenu("&Puzzle");
   Session& session = desk_.TheSession;
   const auto remark = [this](const char* name, const char* doing, std::function<Remark()> find) {
@@ -37,6 +40,9 @@ PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* s
   QAction* code =
       AddItem(menu, {"CopyPuzzleCodex", "C&opy Code", {}, desk_.Beside([this] { CopyCode(); })});
   needBoard_ += code;
+  AddItem(menu, {"EnterCodex", "Enter Co&de...", {}, [this] {
+                   desk_.Runner.Run("Enter Code", [this] { OpenEnterCode(); });
+                 }});
   menu->addSeparator();
   needBoard_ += AddItem(
       menu,
@@ -116,6 +122,29 @@ void PuzzleMenu::OpenHideNumbers() {
     });
   });
   form->open();
+}
+
+void PuzzleMenu::OpenEnterCode() {
+  auto* form = new EnterCodeForm(desk_.TheSession.TheRandom, desk_.TheDialogs, window_);
+  OnSignal(desk_.Runner, form, &EnterCodeForm::Taken, this, [this](const Puzzle& puzzle) {
+    desk_.Runner.Run("Enter Code", [this, puzzle] {
+      desk_.TheSession.LayOut(StoredSquareOf(puzzle, true));
+      desk_.ShowLaidOut();
+    });
+  });
+  OnSignal(desk_.Runner, form, &EnterCodeForm::SetTaken, this,
+           [this](const std::vector<MadePuzzle>& puzzles) {
+             desk_.Runner.Run("Print Worksheet", [this, puzzles] { OpenWorksheet(puzzles); });
+           });
+  form->open();
+}
+
+void PuzzleMenu::OpenWorksheet(const std::vector<MadePuzzle>& puzzles) {
+  const auto fresh = desk_.TheSession.WishForFreshSquares();
+  if (!fresh) return;
+  (new WorksheetForm({QString("Puzzles &by their codes: %1").arg(puzzles.size()), puzzles}, *fresh,
+                     printer_, desk_.TheSession.TheRandom, desk_.TheDialogs, window_))
+      ->open();
 }
 
 }  // namespace numorra

@@ -6,6 +6,7 @@
 
 #include "app/window/board/search_stage.h"
 #include "app/window/menus/desk.h"
+#include "print/page_printer.h"
 
 namespace numorra {
 
@@ -15,10 +16,12 @@ class PuzzleMenu : public QObject {
 
  public:
   /// `state`: the state line, which offers the puzzle's code.
-  PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, QWidget* state);
+  PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinter& printer, QWidget* state);
 
  private:
   void OpenHideNumbers();
+  void OpenEnterCode();
+  void OpenWorksheet(const std::vector<MadePuzzle>& puzzles);
   void CopyCode();
 
   /// Runs a command and shows its remark; its search replaces an older remark.
@@ -30,6 +33,7 @@ class PuzzleMenu : public QObject {
   QWidget* window_;
   Desk& desk_;
   SearchStage& stage_;
+  PagePrinter& printer_;
   QList<QAction*> needBoard_;
 };
 

@@ -1,0 +1,110 @@
+#include "app/window/forms/enter_code_form.h"
+
+#include <algorithm>
+
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
+
+#include "puzzle/only_solution.h"
+#include "toolkit/named.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+namespace {
+
+/// What the list holds: its puzzles, and the first wrong lines.
+QString DescriptionOf(const CodeList& list) {
+  constexpr std::size_t kMostTold = 3;
+  QStringList told;
+  if (list.Puzzles.size() == 1) {
+    const Puzzle& puzzle = list.Puzzles[0].Clues;
+    told << QString("One puzzle of size %1 with the total %2.")
+                .arg(puzzle.Order())
+                .arg(puzzle.Target);
+  } else if (!list.Puzzles.empty()) {
+    told << QString("%1 puzzles: OK lays out the first one.").arg(list.Puzzles.size());
+  } else if (list.Wrong.empty()) {
+    told << "Type or paste codes, such as those below the puzzles of a worksheet.";
+  }
+  for (std::size_t i = 0; i < std::min(kMostTold, list.Wrong.size()); ++i)
+    told << QString::fromStdString(list.Wrong[i].Why);
+  if (list.Wrong.size() > kMostTold) {
+    told << QString("%1 more lines are wrong").arg(list.Wrong.size() - kMostTold);
+  }
+  return told.join('\n');
+}
+
+}  // namespace
+
+EnterCodeForm::EnterCodeForm(Random& random, Dialogs& dialogs, QWidget* parent)
+    : CommandForm("EnterCodeForm", "Enter Code", dialogs, parent),
+      random_(random),
+      codes_(Named("Codes", new QPlainTextEdit)),
+      told_(Named("CodesTold", new QLabel)),
+      print_(Named("PrintCodesx", new QPushButton("Print &Worksheet..."))) {
+  constexpr int kLinesTold = 5;
+  auto* label = new QLabel("&Codes, one or more on a line");
+  label->setBuddy(codes_);
+  codes_->setTabChangesFocus(true);
+  told_->setWordWrap(true);
+  told_->setTextFormat(Qt::PlainText);
+  told_->setMinimumHeight(kLinesTold * told_->fontMetrics().lineSpacing());
+  told_->setAlignment(Qt::AlignTop);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  take_ = Named("TakeCodesx", buttons->button(QDialogButtonBox::Ok));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(label);
+  column->addWidget(codes_, 1);
+  column->addWidget(told_);
+  auto* row = new QHBoxLayout;
+  row->addWidget(print_);
+  row->addStretch();
+  row->addWidget(buttons);
+  column->addLayout(row);
+  codes_->setFocus();
+
+  OnSignal(runner_, codes_, &QPlainTextEdit::textChanged, this, [this] { Read(); });
+  OnClick(runner_, print_, this, [this] { Print(); });
+  OnClick(runner_, buttons->button(QDialogButtonBox::Cancel), this, [this] { reject(); });
+  OnClick(runner_, take_, this, [this] {
+    Q_EMIT Taken(list_.Puzzles[0].Clues);
+    accept();
+  });
+  Read();
+}
+
+/// Another text also ends the search for the solutions of the last one.
+void EnterCodeForm::Read() {
+  runner_.Run("Read", [this] {
+    list_ = PuzzlesOfCodes(codes_->toPlainText().toStdString());
+    told_->setText(DescriptionOf(list_));
+    print_->setEnabled(!list_.Puzzles.empty());
+    take_->setEnabled(!list_.Puzzles.empty());
+  });
+}
+
+/// A worksheet has answers, so every puzzle is solved first.
+void EnterCodeForm::Print() {
+  runner_.Run("Solve", [this] {
+    constexpr double kSeconds = 3;
+    std::vector<MadePuzzle> solved;
+    FormYielding stage(runner_, [&] {
+      told_->setText(
+          QString("Solving puzzle %1 of %2...").arg(solved.size() + 1).arg(list_.Puzzles.size()));
+    });
+    for (const ListedPuzzle& listed : list_.Puzzles) {
+      const auto found = WithOnlySolution(listed.Clues, {.Seconds = kSeconds}, random_, stage);
+      if (const auto* cannot = std::get_if<CannotMake>(&found)) {
+        told_->setText(QString("line %1: %2; the answers of a worksheet need one solution")
+                           .arg(listed.Line)
+                           .arg(QString::fromStdString(cannot->Why)));
+        return;
+      }
+      solved.push_back(std::get<MadePuzzle>(found));
+    }
+    Q_EMIT SetTaken(solved);
+    accept();
+  });
+}
+
+}  // namespace numorra
