@@ -9,8 +9,8 @@
 
 namespace numorra {
 
-/// What a build asks its caller for, and tells of its progress. On its own, it takes the first of
-/// everything and tells no one.
+/// The choices that a build leaves to its caller, and its reports of progress. By default, every
+/// choice is the first one and nothing is reported.
 class BuildChoices {
  public:
   virtual ~BuildChoices() = default;
@@ -18,28 +18,28 @@ class BuildChoices {
   /// Which of `kept` > 0 squares to build, from 0.
   virtual int PickOf(int /*kept*/) { return 0; }
 
-  /// How far to turn the square, 0 to 3 quarter turns clockwise.
+  /// Quarter turns clockwise for the square, 0 to 3.
   virtual int QuarterTurns() { return 0; }
 
-  /// A count of steps begins: from 0, or where the last one stood.
+  /// Starts counting steps, from 0 or from the last count.
   virtual void StartCount() {}
   virtual void ResumeCount() {}
 
   virtual void Count(int /*steps*/) {}
 };
 
-/// A way to make normal magic squares: how it builds them, and how it explains those it can build.
-/// Each stands in a file of its own.
+/// A way to make normal magic squares: how it builds them, and how it explains those that it can
+/// build. Each has a file of its own.
 struct Construction {
   const char* Name;
 
   bool (*Makes)(int order);
 
-  /// A square of an order that it makes, in the value block.
+  /// Builds a square of an order that it makes, in the value block.
   CellTable (*Build)(int order, BuildChoices& choices);
 
-  /// The steps that lead to a normal square of such an order; empty where this construction does
-  /// not make it.
+  /// The steps that lead to a normal square of such an order; empty if this construction cannot
+  /// make it.
   std::vector<WalkStep> (*StepsOf)(const PlacedNumbers& square);
 };
 
@@ -47,7 +47,7 @@ extern const Construction kSteppingConstruction;  ///< odd orders
 extern const Construction kLuxConstruction;       ///< orders 4k + 2
 extern const Construction kDiagonalConstruction;  ///< orders 4m
 
-/// All of them. Where several make an order, the first is the one that is built.
+/// All constructions. If several make an order, the first one builds it.
 inline constexpr std::array kConstructions = {&kSteppingConstruction, &kLuxConstruction,
                                               &kDiagonalConstruction};
 

@@ -10,8 +10,8 @@ constexpr int kMostCandidates = 100;
 constexpr int kSmallestWithCorner = 4;
 constexpr int kSmallestWithChoice = 5;
 
-/// The smallest of 1, 2, 5, 10, 20, 50, ... that takes no more than kMostCandidates steps to
-/// `highest`.
+/// The smallest of 1, 2, 5, 10, 20, 50, ... that reaches `highest` in at most kMostCandidates
+/// steps.
 int RoundStep(int highest) {
   int step = 1;
   for (int times = 0; highest / step > kMostCandidates; ++times)
@@ -35,7 +35,7 @@ std::string WhyNotTheCorner(double corner, const VariablePlan& plan) {
 }
 
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice) {
-  choice.AddItem(kAnyCorner);  // first, so that it is there whatever the boxes say
+  choice.AddItem(kAnyCorner);  // first, so that it is offered whatever the boxes contain
   candidates.Clear();
   const double size = Val(boxes.Size());
   if (size >= 1) {

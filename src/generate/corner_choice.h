@@ -9,17 +9,17 @@
 
 namespace numorra {
 
-/// The entry that wants no particular corner value.
+/// The entry for no particular corner value.
 inline constexpr const char* kAnyCorner = "any";
 
-/// What a player is told whose corner value the square of this plan does not have.
+/// The message for a corner value that no square of this plan has.
 std::string WhyNotTheCorner(double corner, const VariablePlan& plan);
 
 /// Fills `choice` with "any" and, for sizes above 4, the corner values that fit the size and sum in
-/// the boxes: from 1 to 2 x base - 1, in round steps (1, 2, 5, 10, 20, ...) where there are more
-/// than about a hundred, the base itself among them. The board's BaseValue becomes that base; a sum
-/// too small for a base of 2 is rewritten. `candidates` is the work list. A size below 1 offers
-/// "any" alone.
+/// the boxes: from 1 to 2 x base - 1, in round steps (1, 2, 5, 10, 20, ...) if there are more than
+/// about a hundred, and the base itself. Sets the board's BaseValue to that base; rewrites a sum
+/// that is too small for a base of 2. `candidates` is the work list. For a size below 1, offers
+/// "any" only.
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice);
 
 }  // namespace numorra

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// By row, from 0, the column of a unit's cell.
+/// The column of a unit's cell, by row, both from 0.
 using Unit = std::vector<int>;
 
 bool MeetsEachDiagonalOnce(const Unit& unit) {
@@ -23,11 +23,11 @@ bool MeetsEachDiagonalOnce(const Unit& unit) {
   return falling == 1 && rising == 1;
 }
 
-/// The unit of this order that needs no search.
+/// A unit of this order that needs no search.
 Unit KnownUnit(int order, bool throughCorner) {
   const int last = order - 1;
   const int shift = order % 2 == 0 ? 1 : 2;
-  const auto inwards = [&](int line) {  // the outer lines change places with their neighbours
+  const auto inwards = [&](int line) {  // the outer lines are swapped with their neighbours
     if (line < 2) return 1 - line;
     return line > last - 2 ? 2 * last - 1 - line : line;
   };
@@ -40,8 +40,8 @@ Unit KnownUnit(int order, bool throughCorner) {
   return unit;
 }
 
-/// Of random permutations one in fifteen or more is a unit that suits. The known one stands in
-/// where none was drawn, which random sources that always say the same would never end.
+/// At least one in fifteen random permutations is a suitable unit. If none is drawn, the known one
+/// is used, so that a random source that always returns the same number does not loop forever.
 Unit DrawUnit(int order, bool throughCorner, Random& random) {
   constexpr int kMostDraws = 100;
   const int last = order - 1;
@@ -55,7 +55,7 @@ Unit DrawUnit(int order, bool throughCorner, Random& random) {
   return KnownUnit(order, throughCorner);
 }
 
-/// Adds so many units, in equal shares for a few of each line.
+/// Adds `count` units: equal shares of a few different ones per line.
 void AddUnits(TurningSquare& square, int count, bool throughCorner, Random& random) {
   constexpr int kUnitsOfALine = 4;
   const int different = std::min(count, kUnitsOfALine * square.Order());

@@ -6,7 +6,7 @@
 #include "transform/turning_square.h"
 
 /// The construction for orders n = 4m: the numbers in reading order, those on the two diagonals of
-/// every 4 x 4 block counted from the other end, n x n + 1 less the number; then any quarter turns.
+/// every 4 x 4 block counted from the other end: n x n + 1 minus the number; then quarter turns.
 ///
 ///      1  2  3  4        16  2  3 13
 ///      5  6  7  8         5 11 10  8
@@ -19,7 +19,7 @@ bool OnBlockDiagonal(int row, int column) {
   return row % 4 == column % 4 || (row + column) % 4 == 1;
 }
 
-/// The number of a cell before the square is turned.
+/// The number of a cell before turning.
 int NumberIn(int row, int column, int order) {
   const int value = (row - 1) * order + column;
   return OnBlockDiagonal(row, column) ? order * order + 1 - value : value;
@@ -41,7 +41,7 @@ CellTable BuildByDiagonals(int order, BuildChoices& choices) {
   return SquareTurned(order, choices.QuarterTurns());
 }
 
-/// Two opposite numbers on marked cells change places.
+/// Exchanges two opposite numbers on marked cells.
 WalkStep ExchangeOf(int small, Place atSmall, int large, Place atLarge) {
   return {{{atSmall, std::to_string(large)}, {atLarge, std::to_string(small)}},
           {atSmall, atLarge},
@@ -51,14 +51,15 @@ WalkStep ExchangeOf(int small, Place atSmall, int large, Place atLarge) {
           0};
 }
 
-/// A line of numbers in counting order a step, the marked cells, then an exchange a step.
+/// Steps that each write a line of numbers in order, a step that marks the cells, then one exchange
+/// per step.
 std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
   const int n = square.Order();
   int turns = 0;
   while (SquareOf(SquareTurned(n, turns), n) != square.Numbers()) {
     if (++turns == 4) return {};
   }
-  // Where the turns have brought a cell.
+  // The place of a cell after the turns.
   const auto turned = [&](int row, int column) { return square.PlaceOf(NumberIn(row, column, n)); };
   constexpr const char* kFrom[] = {"from the left", "from the top down", "from the right",
                                    "from the bottom up"};

@@ -13,8 +13,8 @@ namespace {
 
 constexpr double kLowest = 1;
 
-/// The first i = start, start + 1, ... with wrap-around in 1..n that suits, from a random start; 0
-/// when none does.
+/// The first suitable i = start, start + 1, ... with wrap-around in 1..n, from a random start; 0 if
+/// none is.
 template <class Suits>
 int RandomLine(Random& random, int n, Suits suits) {
   const int start = random.Between(0, n - 1);
@@ -25,7 +25,7 @@ int RandomLine(Random& random, int n, Suits suits) {
   return 0;
 }
 
-/// Adds a rectangle through the cell to the pattern; false where there is none.
+/// Adds a rectangle through the cell to the pattern; false if there is none.
 bool AddRectangle(PatternedSquare& square, Pattern& pattern, int row, int column, int weight) {
   const int n = square.Order();
   const auto offDiagonals = [n](int r, int c) { return r != c && r + c != n + 1; };
@@ -45,8 +45,8 @@ bool AddRectangle(PatternedSquare& square, Pattern& pattern, int row, int column
   return true;
 }
 
-/// Puts the diagonal through (row, column) right: a rectangle with -1 at another of its cells,
-/// given by columnOf(row), but neither the centre nor (1, 1).
+/// Corrects the diagonal through (row, column) with a rectangle that has -1 at another of its
+/// cells, given by columnOf(row), but not at the centre or (1, 1).
 template <class ColumnOf>
 bool Compensate(PatternedSquare& square, Pattern& pattern, int row, ColumnOf columnOf) {
   const int n = square.Order();
@@ -83,7 +83,7 @@ std::vector<Pattern> FindPatternsOfOrder4() {
       a[0][column] = next();
     a[0][3] = -a[0][0] - a[0][1] - a[0][2];
     a[3][0] = next();
-    a[3][3] = -a[3][0] + a[0][1] + a[0][2];  // the corners add up to minus the edge between
+    a[3][3] = -a[3][0] + a[0][1] + a[0][2];  // the corners add up to minus the edge cells between
     a[3][1] = next();
     a[3][2] = -a[3][0] - a[3][1] - a[3][3];
     a[1][1] = next();
@@ -126,7 +126,7 @@ Pattern PatternOfOrder4At(Random& random, int row, int column) {
   return found == 0 ? Pattern() : patterns[static_cast<std::size_t>(found - 1)];
 }
 
-/// A random factor of the range other than 0, where there is one.
+/// A random factor of the range, not 0 if there is another.
 int AnyButZero(const FactorRange& range, Random& random) {
   if (range.Low == range.High) return 0;
   const int factor = random.Between(range.Low, range.High - 1);

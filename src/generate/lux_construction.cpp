@@ -7,16 +7,16 @@
 #include "generate/stepping_moves.h"
 
 /// Conway's LUX method for orders 4k + 2. An odd square of order m = 2k + 1 is laid over m x m
-/// blocks of four cells. Its number a brings the numbers 4a - 3 to 4a into its block, in the order
-/// of the block's letter:
+/// blocks of four cells. Its number a gives its block the numbers 4a - 3 to 4a, in the order of the
+/// block's letter:
 ///
 ///     4 1     1 4     1 4
 ///     2 3     2 3     3 2       k + 1 rows of L, one of U, the rest X; in the middle column the
-///      L       U       X        last L and the U below it change places
+///      L       U       X        last L and the U below it are exchanged
 namespace numorra {
 namespace {
 
-/// Where the four numbers of a block stand, in their order: 0 upper left, 1 upper right, 2 lower
+/// The positions of a block's four numbers in ascending order: 0 upper left, 1 upper right, 2 lower
 /// left, 3 lower right.
 struct Letter {
   char Name;
@@ -29,7 +29,7 @@ constexpr Letter kX{'X', {0, 3, 2, 1}};
 
 using FourCells = std::array<Place, 4>;
 
-// Blocks are places, too: row and column from 1 to m.
+// Blocks are named by places, too: row and column from 1 to m.
 
 /// The letter of a row of blocks, before the exchange in the middle.
 const Letter& LetterOfRow(int row, int m) {
@@ -73,7 +73,7 @@ CellTable BuildLux(int order, BuildChoices& choices) {
   return cells;
 }
 
-/// The odd square under a square, by the first number of each block.
+/// The odd square on which a square is based, from the first number of each block.
 PlacedNumbers OddSquareUnder(const PlacedNumbers& square) {
   const int m = square.Order() / 2;
   return PlacedNumbers(SquareOf(
@@ -109,7 +109,7 @@ WalkStep ExchangeInTheMiddle(int m) {
   return step;
 }
 
-/// The letters, the exchange of two of them, then a block of four numbers a step.
+/// The letters, the exchange of two of them, then one block of four numbers per step.
 std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
   const PlacedNumbers blocks = OddSquareUnder(square);
   if (!blocks.IsNormal()) return {};

@@ -6,7 +6,7 @@
 namespace numorra {
 namespace {
 
-/// Order 3 has two patterns, this one and its image, and no exchange of rectangles.
+/// Order 3 has only two patterns, this one and its mirror image, and no rectangular exchanges.
 Pattern PatternOfOrder3(bool mirrored) {
   constexpr int kWeights[3][3] = {{1, -1, 0}, {-1, 0, 1}, {0, 1, -1}};
   Pattern pattern;
@@ -39,7 +39,7 @@ CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Rand
                       Yielding& yielding) {
   SilentStage stage(&yielding);
   constexpr int kMoves = 10;
-  constexpr int kMostRounds = 100;  // a flat square is a magic one, but a dull one
+  constexpr int kMostRounds = 100;  // a flat square is magic, but dull
   PatternedSquare mixed(TurningSquare(square, order), limitToNine, 0, random, stage);
   for (int round = 0; round == 0 || (round < kMostRounds && IsFlat(mixed.Square())); ++round) {
     for (int move = 0; move < kMoves; ++move)

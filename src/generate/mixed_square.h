@@ -6,14 +6,14 @@
 
 namespace numorra {
 
-/// A square with the total of the one given, at random: of whole numbers of 1 or more, and of at
-/// most 9 where `limitToNine`, as the given one is. Takes an order x order square, 3 to 50, in the
-/// value block.
+/// A random square with the same total as the given one: of whole numbers of 1 or more, and at most
+/// 9 if `limitToNine`, like the given one. Takes an order x order square, 3 to 50, in the value
+/// block.
 ///
-/// A walk from square to square adds a zero-sum pattern at random with a factor that is uniform
-/// over all that its cells allow (hit and run: Smith 1984). No step prefers a square to another, so
-/// in the long run all squares that the walk reaches are equally likely. Every cell is moved a
-/// fixed number of times.
+/// A random walk adds zero-sum patterns, drawn at random, with a factor that is uniform over all
+/// that the cells allow (hit and run: Smith 1984). No step prefers one square to another, so in the
+/// long run all squares that the walk can reach are equally likely. Every cell is changed a fixed
+/// number of times.
 CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Random& random,
                       Yielding& yielding);
 

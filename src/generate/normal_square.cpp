@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// How often another pick than the last is drawn for; more than any working random source needs.
+/// Most draws for a pick that differs from the last; more than any working random source needs.
 constexpr int kMaxPicks = 1000;
 
 }  // namespace

@@ -9,11 +9,11 @@
 namespace numorra {
 
 /// Magic squares of the numbers 1 to n x n for every order n, by the first construction that makes
-/// the order (generate/construction.h): of several starts one at random, and squares that turn one
-/// quarter turn further at every run.
+/// the order (generate/construction.h). It picks one of several starts at random, or turns the
+/// square one quarter turn further at every run.
 ///
-/// Builds leave their square in a table of their own; `stage` is told the attempts and cells
-/// counted. Orders above 51 throw SubscriptOutOfRange, orders below 1 InvalidPropertyValue.
+/// Builds leave their square in a table of their own and report the counted attempts and cells to
+/// `stage`. Orders above 51 throw SubscriptOutOfRange, orders below 1 InvalidPropertyValue.
 class NormalSquare : private BuildChoices {
  public:
   NormalSquare(Random& random, BuildStage& stage) : random_(random), stage_(stage) {}
@@ -21,7 +21,7 @@ class NormalSquare : private BuildChoices {
   /// A square of the given order in the value block.
   CellTable Build(int order) { return ConstructionFor(order).Build(order, *this); }
 
-  /// Counts steps from 0 again, for those who show no count and build without an end.
+  /// Counts steps from 0 again, for callers that show no count and build without end.
   void ForgetCount() { IterationCounter = 0; }
 
  private:
@@ -34,11 +34,11 @@ class NormalSquare : private BuildChoices {
   Random& random_;
   BuildStage& stage_;
 
-  /// Steps counted for the label.
+  /// Steps, counted for the label.
   std::int32_t IterationCounter = 0;
 
-  /// The pick of the last build that picked, from 1, or the quarter turns of the last one that
-  /// turned: one field, each reads what the other left.
+  /// The pick, from 1, of the last build that picked, or the quarter turns of the last one that
+  /// turned. They share one field: each reads what the other left.
   std::int16_t LastPickOrTurns = 0;
 };
 

@@ -19,7 +19,7 @@ class Pattern {
  public:
   static constexpr std::size_t kMaxCells = 16;
 
-  /// Adds `weight` to the cell's.
+  /// Adds `weight` to the weight of the cell.
   void Add(int row, int column, int weight) {
     for (std::size_t i = 0; i < size_; ++i) {
       if (cells_[i].Row == row && cells_[i].Column == column) {

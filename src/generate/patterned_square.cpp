@@ -27,7 +27,7 @@ void PatternedSquare::Apply(const Pattern& pattern, int factor) {
 
 int PatternedSquare::RandomFactor(const Pattern& pattern) {
   constexpr double kNoMinimum = 9999;
-  constexpr double kDepth = 2;  // the most that one application lowers a cell by
+  constexpr double kDepth = 2;  // the largest decrease of a cell per unit of the factor
   double smallest = kNoMinimum;
   for (const FlaggedCell& cell : pattern) {
     if (cell.Weight < 0) smallest = std::min(smallest, square_(cell.Row, cell.Column));
@@ -44,7 +44,7 @@ void PatternedSquare::ApplyBothSigns(Pattern pattern) {
   Apply(pattern, RandomFactor(pattern));
 }
 
-/// Whether any cell of the board, in the pattern or not, would be above 9.
+/// Whether any cell of the board, in the pattern or not, would exceed 9.
 bool PatternedSquare::ExceedsNine(const Pattern& pattern, int factor) const {
   TurningSquare after = square_;
   for (const FlaggedCell& cell : pattern)

@@ -9,15 +9,15 @@
 
 namespace numorra {
 
-/// The highest number that a cell may hold under the limit.
+/// The highest number of a cell under the limit.
 inline constexpr double kHighestLimited = 9;
 
-/// A square to which zero-sum patterns are added, one after the other, so that every line's total
-/// stays as it was: the workpiece of all passes. It counts the applications, shows the count on the
+/// The square that all passes work on: zero-sum patterns are added to it one after the other, so
+/// that the total of every line stays the same. It counts the applications, shows the count on the
 /// stage and yields there.
 class PatternedSquare {
  public:
-  /// `limitToNine`: no application may leave a cell above 9. The count goes on from `passCount`.
+  /// `limitToNine`: no application may raise a cell above 9. The count continues from `passCount`.
   PatternedSquare(const TurningSquare& square, bool limitToNine, std::int32_t passCount,
                   Random& random, BuildStage& stage)
       : square_(square),
@@ -33,18 +33,18 @@ class PatternedSquare {
   bool LimitToNine() const { return limitToNine_; }
   Random& TheRandom() { return random_; }
 
-  /// Applications so far, those with factor 0 too.
+  /// Applications so far, including those with factor 0.
   std::int32_t PassCount() const { return passCount_; }
 
-  /// The pattern that was added last.
+  /// The last pattern added.
   const Pattern& LastPattern() const { return last_; }
 
-  /// Adds `factor` times the pattern, counts, and yields. Under the limit a factor that would leave
-  /// a cell above 9 becomes 0. Throws Overflow when the count does not fit.
+  /// Adds `factor` times the pattern, counts, and yields. Under the limit, a factor that would
+  /// raise a cell above 9 becomes 0. Throws Overflow if the count does not fit.
   void Apply(const Pattern& pattern, int factor);
 
-  /// A random factor that leaves every lowered cell at 1 or more. It is 0 when the smallest of them
-  /// is 3 or less, or when the limit forbids more.
+  /// A random factor that keeps every lowered cell at 1 or more. It is 0 if the smallest of them is
+  /// 3 or less, or if the limit allows no more.
   int RandomFactor(const Pattern& pattern);
 
   /// Applies the pattern and then its negative, each with a random factor of its own.

@@ -6,12 +6,12 @@
 
 namespace numorra {
 
-/// A square of numbers, and where each of them stands.
+/// A square of numbers, and the place of each number.
 class PlacedNumbers {
  public:
   explicit PlacedNumbers(Square<double> square);
 
-  /// Whether each of the numbers 1 to n x n stands in it once; what follows is for such squares.
+  /// Whether each of the numbers 1 to n x n occurs once; PlaceOf is for such squares only.
   bool IsNormal() const { return isNormal_; }
 
   int Order() const { return square_.Order(); }

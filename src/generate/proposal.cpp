@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kMaxProposals = 1000;  // more than any working random source needs
 
-/// A whole number in low..high - 1, freshly seeded. The upper bound itself is never drawn.
+/// A whole number in low..high - 1, drawn after reseeding; `high` itself is never drawn.
 double Draw(Random& random, double low, double high) {
   random.Reseed();
   return std::clamp(Int(low + (high - low) * random.Next()), low, high);

@@ -6,13 +6,13 @@
 
 namespace numorra {
 
-/// The normal total as the text for the sum box, for the text of the size box. Empty when the
-/// number is too large to be written.
+/// The normal total for the sum box, given the text of the size box. Empty if the number is too
+/// large to be written.
 std::string NormalTotalText(const std::string& size);
 
 /// Proposes a size from 3 to 14 and a total by writing them into the boxes: in the Normal mode the
 /// magic constant, in the Variable mode a random total from n x n + 1 to 2 x n x n. Never proposes
-/// the pair of size and random total that the boxes hold.
+/// the size and random total that the boxes already hold.
 void ProposeSquare(SquareBoxes& boxes, Mode mode, Random& random);
 
 }  // namespace numorra

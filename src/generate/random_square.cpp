@@ -11,13 +11,13 @@
 namespace numorra {
 namespace {
 
-/// Low enough for magic squares to be met often, high enough for the walk to leave them: fitted to
+/// Low enough for the walk to meet magic squares often, high enough for it to leave them; fitted to
 /// the orders 5 to 50.
 double TemperatureOf(int order) {
   return 0.2 + 4.2 / order;
 }
 
-/// Numbers from 0 in cells from 0, both in std::size_t for indexing.
+/// Both numbers and cells count from 0, in std::size_t for indexing.
 class Walk {
  public:
   Walk(int order, Random& random)
@@ -32,13 +32,13 @@ class Walk {
     const double temperature = TemperatureOf(order);
     for (int rise = -kMostRise; rise <= kMostRise; ++rise)
       chances_[Index(rise + kMostRise)] = QuickRandom::ChanceOf(std::exp(-rise / temperature));
-    // It leaves a square mostly by an exchange within a line, which raises the cost by 2.
+    // The walk leaves a square mostly by an exchange within a line, which raises the cost by 2.
     constexpr double kShare = 0.02;
     halting_ = QuickRandom::ChanceOf(kShare * std::exp(-2 / temperature));
     NumberCells(random);
   }
 
-  /// One step; true where it ends the walk.
+  /// Takes one step; true if it ends the walk.
   bool Step() {
     constexpr std::uint32_t kAnyTwo = 0xffffffffU / 20;
     if (quick_.Happens(kAnyTwo)) {
@@ -57,16 +57,16 @@ class Walk {
   }
 
  private:
-  /// The lines of a cell: row, column and both diagonals, lines without weight for those that it is
-  /// not on.
+  /// The lines of a cell: row, column and both diagonals; lines without weight replace the
+  /// diagonals that it is not on.
   using LinesOfCell = std::array<std::size_t, 4>;
 
-  /// An exchange of neighbouring numbers changes eight lines at most, each by 1.
+  /// An exchange of neighbouring numbers changes at most eight lines, each by 1.
   static constexpr int kMostRise = 8;
 
   static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
 
-  /// How many lines have weight. Behind them stands one without for each diagonal.
+  /// The number of lines with weight. After them comes one line without weight for each diagonal.
   std::size_t Lines() const { return 2 * order_ + 2; }
 
   void NumberCells(Random& random) {
@@ -115,7 +115,7 @@ class Walk {
     if (!quick_.Happens(chance)) Exchange(raised, lowered, -by);
   }
 
-  /// Exchanges the numbers of two cells; the first gets `by` more than it had.
+  /// Exchanges the numbers of two cells; that of the first rises by `by`.
   void Exchange(std::size_t raised, std::size_t lowered, int by) {
     for (std::size_t way = 0; way < 4; ++way) {
       const std::size_t up = linesOf_[raised][way];
@@ -143,11 +143,11 @@ class Walk {
   std::vector<int> numberIn_;
   std::vector<std::size_t> cellOf_;
   std::vector<LinesOfCell> linesOf_;
-  std::vector<int> off_;        ///< what the numbers of each line add up to, less the total
-  std::vector<int> ifRaised_;   ///< by how much the cost rises when a line is raised by 1
-  std::vector<int> ifLowered_;  ///< and when it is lowered by 1; 0 for lines without weight
+  std::vector<int> off_;        ///< sum of each line minus the total
+  std::vector<int> ifRaised_;   ///< rise of the cost if a line is raised by 1
+  std::vector<int> ifLowered_;  ///< the same if it is lowered by 1; 0 for lines without weight
   int cost_ = 0;
-  std::array<std::uint32_t, 2 * kMostRise + 1> chances_{};  ///< of a rise, from -kMostRise on
+  std::array<std::uint32_t, 2 * kMostRise + 1> chances_{};  ///< by rise, from -kMostRise on
   std::uint32_t halting_ = 0;
 };
 

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// Adds d along the unit pattern; false as soon as a written cell is below 1.
+/// Adds d along the unit pattern; false as soon as a changed cell is below 1.
 bool AddUnit(TurningSquare& square, int d) {
   const int n = square.Order();
   const auto add = [&](int row, int column, int amount) {
@@ -21,7 +21,7 @@ bool AddUnit(TurningSquare& square, int d) {
   return fine;
 }
 
-/// Whether column[i] for the rows i meets the falling and the rising diagonal exactly once each.
+/// Whether the cells (i, column[i]) meet the falling and the rising diagonal exactly once each.
 bool MeetsDiagonalsOnce(std::span<const int> column) {
   const int n = static_cast<int>(column.size());
   int falling = 0;
@@ -51,7 +51,7 @@ bool SpreadRemainderEven(TurningSquare& square, int remainder) {
 }
 
 bool SpreadRemainderOdd(TurningSquare& square, int remainder, Random& random) {
-  constexpr int kMaxShuffles = 10000;  // about one permutation in seven will do
+  constexpr int kMaxShuffles = 10000;  // about one permutation in seven is suitable
   std::array<int, CellTable::kSide> columns{};
   const std::span<int> column(columns.data(), static_cast<std::size_t>(square.Order()));
   std::iota(column.begin(), column.end(), 0);

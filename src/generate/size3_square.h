@@ -19,12 +19,12 @@ struct Size3Offsets {
   int R;
 };
 
-/// Random p, r >= 1 with p + r < base, so that no cell falls below 1. Nothing when a hundred draws
-/// do not meet that; with base 2 none can. Starts the random numbers afresh before every draw.
+/// Random p, r >= 1 with p + r < base, so that no cell falls below 1. Nothing if a hundred draws do
+/// not satisfy that; with base 2 none can. Reseeds the random numbers before every draw.
 std::optional<Size3Offsets> PickSize3Offsets(int base, Random& random);
 
-/// Adds such a pattern to a 3 x 3 square of `base`; false when there is none, with the square as it
-/// was.
+/// Adds such a pattern to a 3 x 3 square of `base`; false, with the square unchanged, if there is
+/// none.
 bool BuildSize3Square(TurningSquare& square, int base, Random& random);
 
 }  // namespace numorra

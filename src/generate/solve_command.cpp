@@ -17,7 +17,7 @@ namespace {
 constexpr int kLargestQuickSize = 20;
 constexpr int kLowestGoodBase = 4;
 
-/// The first cell that the passes, which keep every cell at 1 or more, would take for a larger one.
+/// The first cell below 1: the passes keep every cell at 1 or more and would misread it.
 std::optional<Place> CellBelowOne(const Board& board) {
   std::optional<Place> low;
   ForEachCell(board.GridSize, [&](int r, int c) {
@@ -26,8 +26,8 @@ std::optional<Place> CellBelowOne(const Board& board) {
   return low;
 }
 
-/// Takes away what binary rounding has added behind the board's decimals, which whole numbers leave
-/// as many as they are. False where a number gets too long for that.
+/// Removes the digits that binary rounding has added beyond the board's decimals; adding whole
+/// numbers does not change their count. False if a number becomes too long.
 bool KeepDecimals(CellTable& varied, const Board& board) {
   std::size_t decimals = 0;
   ForEachCell(board.GridSize, [&](int r, int c) {
@@ -75,8 +75,7 @@ void SolveCommand::BuildNormalSquare() {
   ports_.TheBoard.ShowSquare(order, total, Rules::Normal, square);
 }
 
-/// True when the command is over: a square was built, the plan was refused, or the player has had
-/// enough.
+/// True if the command is over: a square was built, the plan was refused, or the player declined.
 bool SolveCommand::TenTries() {
   if (!ReadPlan()) return true;
   const CounterShown counter(ports_.Stage);
@@ -90,7 +89,7 @@ bool SolveCommand::TenTries() {
       break;
     }
   }
-  // The board of before is out of sight while its future is open, and back when it has none.
+  // The previous board is hidden while the question is open.
   Grid& grid = ports_.TheBoard.grid;
   const bool visible = grid.Visible();
   grid.SetVisible(false);
@@ -100,7 +99,7 @@ bool SolveCommand::TenTries() {
   return enough;
 }
 
-/// Takes the plan from the boxes; false when it is refused.
+/// Reads the plan from the boxes; false if it is refused.
 bool SolveCommand::ReadPlan() {
   ports_.List2.Clear();
   ports_.List3.Clear();
@@ -131,8 +130,8 @@ void SolveCommand::Again() {
   BuildVariableSquare(1, true);
 }
 
-/// Builds after the last plan, shows the square and says what is to be said about it. A try that
-/// failed is shown only when asked for.
+/// Builds a square by the last plan, shows it and tells the player what to know about it. Shows a
+/// failed try only if `showFailed`.
 SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
   const auto corner = ports_.Options.Corner();
   VariableBuild build;
@@ -203,7 +202,7 @@ void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   pass(square);
   CellTable varied = square.Square().Settled();
   if (!KeepDecimals(varied, board)) {
-    ports_.TheDialogs.Tell("varied, the board would have numbers of more than " +
+    ports_.TheDialogs.Tell("the varied board would have numbers with more than " +
                            std::to_string(kMostCellDigits) + " digits");
     return;
   }

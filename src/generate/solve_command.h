@@ -12,7 +12,7 @@
 
 namespace numorra {
 
-/// What the solve commands work on and speak with.
+/// What the solve commands need.
 struct SolvePorts : CommandContext {
   BuildOptions& Options;
   BuildStage& Stage;
@@ -20,25 +20,25 @@ struct SolvePorts : CommandContext {
   ListBoy& List3;  ///< a second work list, emptied with the first
 };
 
-/// The commands that build magic squares: "Auto", "Solve Again" and the two corner passes. New
-/// boards are shown with their totals uncoloured until a check.
+/// The commands that build magic squares: "Auto", "Solve Again" and the two corner passes. The
+/// totals of new boards are uncoloured until a check.
 ///
-/// Builds work on squares of their own. Whatever ends a command early (a refusal, a run-time error,
-/// a newer command) leaves the board as it was; a sum box that was corrected stays corrected.
+/// Builds work on squares of their own. If a refusal, a run-time error or a newer command ends a
+/// command early, the board stays as it was; a corrected sum box stays corrected.
 class SolveCommand {
  public:
   explicit SolveCommand(const SolvePorts& ports);
 
-  /// Builds what the mode and the boxes ask for. In the Variable mode up to ten builds are tried,
-  /// then the player is asked about ten more.
+  /// Builds the square that the mode and the boxes describe. In the Variable mode, makes up to ten
+  /// tries, then asks the player about ten more.
   void Auto();
 
-  /// One more square after the plan of the last "Auto" in the Variable mode, whatever the boxes say
-  /// now; does nothing before there is one.
+  /// Builds one more square by the plan of the last "Auto" in the Variable mode, whatever the boxes
+  /// contain now; does nothing if there is none.
   void Again();
   bool CanSolveAgain() const { return lastPlan_.has_value(); }
 
-  /// Varies the board on the screen by one of the two corner passes.
+  /// Varies the shown board by one of the two corner passes.
   void VaryCornerDiagonals();
   void VaryCornerEdges();
 
@@ -54,7 +54,7 @@ class SolveCommand {
   NormalSquare normal_;
   VariableSquare variable_;
   std::optional<VariablePlan> lastPlan_;
-  std::int32_t passCount_ = 0;  ///< patterns added by the last build, and to its square since
+  std::int32_t passCount_ = 0;  ///< patterns added by the last build and to its square since
 };
 
 }  // namespace numorra

@@ -6,13 +6,13 @@
 namespace numorra {
 namespace {
 
-/// A ring by its corner lines.
+/// A ring, by the lines of its corners.
 struct Ring {
   int Top, Left, Bottom, Right;
 };
 
-/// The place of the best of the cells cellAt(first) to cellAt(last), the first of equals; `found`
-/// stays where none is better than `best`.
+/// The index of the best of the cells cellAt(first) to cellAt(last), the first among equals;
+/// `found` is unchanged if none is better than `best`.
 template <class Better, class CellAt>
 void FindBest(int& found, double best, Better better, int first, int last, CellAt cellAt) {
   for (int place = first; place <= last; ++place) {
@@ -25,7 +25,7 @@ void FindBest(int& found, double best, Better better, int first, int last, CellA
 }
 
 /// Raises (sign 1) or lowers (sign -1) the ring's top edge at `column` and right edge at `row`.
-/// False when nothing could be applied: a place is missing or a cell would fall below 1.
+/// False if nothing can be applied: a place is missing or a cell would fall below 1.
 bool ApplyRingPattern(PatternedSquare& square, const Ring& ring, int row, int column, int sign) {
   if (row == 0 || column == 0) return false;
   Pattern pattern;

@@ -21,10 +21,10 @@ void SpreadCornerDiagonals(PatternedSquare& square);
 /// E(c) for c = n - 1 down to 2, with both signs, a quarter turn after each.
 void SpreadCornerEdges(PatternedSquare& square);
 
-/// On the concentric squares from the outermost inwards, without the innermost, up to 100 rounds
-/// each: raises the ring's smallest edge cells, then lowers the largest of the board's top row and
-/// right column, then turns. A ring ends when that would leave a cell below 1. The maxima are taken
-/// from the outermost edges on purpose, for inner rings too.
+/// For each concentric square except the innermost, from the outermost inwards, up to 100 rounds:
+/// raises the ring's smallest edge cells, then lowers the largest of the board's top row and right
+/// column, then turns. A ring ends if that would leave a cell below 1. The maxima are taken from
+/// the outermost edges on purpose, for inner rings too.
 void SpreadRings(PatternedSquare& square);
 
 }  // namespace numorra

@@ -9,15 +9,15 @@ int Wrap(int line, int order) {
   return line < 1 ? order : line > order ? 1 : line;
 }
 
-/// The totals of all lines of a fill from (1, 1), the broken diagonals among them, by the distance
-/// of their first-row cell from column 1, with wrap-around.
+/// The totals of all lines of a fill from (1, 1), including broken diagonals, by the distance of
+/// their first-row cell from column 1, with wrap-around.
 struct LineTotals {
   bool RowsAndColumnsMagic = true;
   std::vector<double> Falling;
   std::vector<double> Rising;
 };
 
-/// Which of the totals are the target, twice over, so that an index may run past the end.
+/// Marks the totals that equal the target, twice over, so that an index may run past the end.
 std::vector<char> MagicOnes(const std::vector<double>& totals, double target) {
   std::vector<char> magic(2 * totals.size());
   for (std::size_t i = 0; i < magic.size(); ++i)
@@ -54,13 +54,13 @@ LineTotals TotalsOf(const CellTable& cells, int order, double target) {
 }  // namespace
 
 void FillByStepping(CellTable& cells, int order, int startRow, int startColumn, Stepping step) {
-  // How many steps a line can be taken on before it leaves the block.
+  // The number of steps until a line leaves the block.
   const auto room = [order](int line, int by) { return by > 0 ? order + 1 - line : line; };
   const int stride = step.Row * CellTable::kSide + step.Column;
   int row = startRow;
   int column = startColumn;
   for (int value = 1; value <= order * order;) {
-    // One diagonal, in the straight runs that the edges cut it into.
+    // One diagonal, in the straight runs between the edges.
     for (int left = order; left > 0;) {
       const int run = std::min({left, room(row, step.Row), room(column, step.Column)});
       double* cell = cells.Row(row) + column;
@@ -70,7 +70,7 @@ void FillByStepping(CellTable& cells, int order, int startRow, int startColumn, 
       row = Wrap(row + run * step.Row, order);
       column = Wrap(column + run * step.Column, order);
     }
-    // Back where the diagonal began: break off from its last cell.
+    // The diagonal is back at its start: break from its last cell.
     row = Wrap(Wrap(row - step.Row, order) + step.BreakRow, order);
     column = Wrap(column - step.Column, order);
   }
@@ -86,8 +86,8 @@ std::vector<SteppingAttempt> FindMagicStarts(int order, double target) {
   const auto falling = MagicOnes(totals.Falling, target);
   const auto rising = MagicOnes(totals.Rising, target);
   for (std::int16_t pattern = 0; pattern < 2; ++pattern) {
-    // Where the main diagonals of a start lie in the fill from (1, 1): one further for each column,
-    // backwards for the first pattern and forwards for the second, which is turned.
+    // The positions of a start's main diagonals in the fill from (1, 1): one further for each
+    // column, backwards for the first pattern and forwards for the second, which is turned.
     const int step = pattern == 0 ? -1 : 1;
     for (int row = 0; row < order; ++row) {
       const char* fall = &falling[static_cast<std::size_t>(order - step * row)];

@@ -9,7 +9,7 @@
 namespace numorra {
 namespace {
 
-/// One of all starts whose square comes out magic (generate/stepping.h).
+/// Builds the square of one of all starts that make it magic (generate/stepping.h).
 CellTable BuildByStepping(int order, BuildChoices& choices) {
   choices.StartCount();
   const auto starts = FindMagicStarts(order, static_cast<double>(NormalTotal(order)));
@@ -21,7 +21,7 @@ CellTable BuildByStepping(int order, BuildChoices& choices) {
   return cells;
 }
 
-/// A number a step. Turned and mirrored squares are known, too.
+/// One number per step. Recognises turned and mirrored squares, too.
 std::vector<WalkStep> StepsOfStepping(const PlacedNumbers& square) {
   const auto moves = MovesOf(square);
   if (!moves) return {};

@@ -5,12 +5,12 @@
 namespace numorra {
 namespace {
 
-/// A line from 1 to n, whose neighbours are counted on round the board.
+/// The line from 1 to n for a line counted on beyond the edge.
 int Wrapped(int line, int n) {
   return (line - 1 + n) % n + 1;
 }
 
-/// One line on or back, with wrap-around: -1, 0 or 1; 2 for any other distance.
+/// The step from one line to another, with wrap-around: -1, 0 or 1; 2 for any other distance.
 int StepBetween(int from, int to, int n) {
   for (const int step : {-1, 0, 1}) {
     if (Wrapped(from + step, n) == to) return step;
@@ -18,7 +18,7 @@ int StepBetween(int from, int to, int n) {
   return 2;
 }
 
-/// Of a diagonal move.
+/// The direction of a diagonal move, in words.
 std::string Direction(Move move) {
   return std::string(move.Rows < 0 ? "up" : "down") + " and to the " +
          (move.Columns < 0 ? "left" : "right");

@@ -10,10 +10,10 @@ constexpr const char* kPrompt = "Top row: four numbers, such as the parts of a d
 constexpr const char* kNotATopRow = "top row should be four whole numbers from 0 to 9999";
 constexpr const char* kNoSquare = "no 4x4 square has this top row";
 
-/// Why a square is not of the best kind, and what that means.
+/// Why a square is not of the best quality, and what that means.
 std::string Explain(TopRowQuality quality) {
   const char* const better =
-      quality == TopRowQuality::WithZeros ? "numbers from 1 on" : "different numbers";
+      quality == TopRowQuality::WithZeros ? "positive numbers" : "different numbers";
   return std::string("no 4x4 square of ") + better + " has this top row\n" + RemarkOn(quality);
 }
 

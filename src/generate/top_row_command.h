@@ -8,21 +8,21 @@
 
 namespace numorra {
 
-/// The command behind "4x4Set": asks for a top row until it is one or the player gives up, and
-/// shows a 4 x 4 magic square with it.
+/// The command behind "4x4Set": asks for a top row until the answer is one or the player cancels,
+/// and shows a 4 x 4 magic square with it.
 class TopRowCommand {
  public:
   TopRowCommand(const CommandContext& context, WorkStage& stage)
       : context_(context), stage_(stage) {}
 
-  /// True when a square was shown: the board is then one of the Variable mode.
+  /// Returns true if a square was shown: the board is then one of the Variable mode.
   bool Run();
 
  private:
   CommandContext context_;
   WorkStage& stage_;
 
-  /// The top row of the last square, with which the next question starts: a date makes a birthday
+  /// The top row of the last square, suggested in the next question: a date makes a birthday
   /// square.
   std::string Last4x4Preset = "30,9,19,95";
 };

@@ -16,8 +16,8 @@ constexpr int kHighest = 9999;
 constexpr std::string_view kSeparators = ",/.-";
 constexpr int kSteps = 4096;  // of the search between two yields
 
-/// The search for one quality. Cells are placed in an order in which each is decided as early as
-/// can be; `cells_` holds those placed so far.
+/// The search for one quality. Cells are placed in an order that decides each as early as possible;
+/// `cells_` holds those placed so far.
 class Search {
  public:
   Search(const TopRow& top, TopRowQuality quality, Random& random, Yielding& yielding)
@@ -55,9 +55,8 @@ class Search {
     });
   }
 
-  /// The bounds of f are those that leave f, j, k, g, and some e with its h, i and l, in range:
-  /// with numbers repeated there is a square for every f tried, and a bottom row is refuted at
-  /// once.
+  /// The bounds keep f, j, k, g, and some e with its h, i and l, in range. So if repeats are
+  /// allowed, every f tried leads to a square, and an impossible bottom row is refuted at once.
   bool PlaceCentre() {
     const int leftUp = sum_ - Cell(1, 1) - Cell(4, 1);   // e + i
     const int column2 = sum_ - Cell(1, 2) - Cell(4, 2);  // f + j

@@ -10,8 +10,8 @@
 
 namespace numorra {
 
-/// How good a 4 x 4 square with a given top row is, from its twelve free cells; what was asked for
-/// in the top row, zeros and repeated numbers too, counts for nothing.
+/// The quality of a 4 x 4 square with a given top row, judged by its twelve free cells only; the
+/// top row itself may have zeros and repeated numbers.
 enum class TopRowQuality {
   AllNew,     ///< all 1 or more, different from each other and from the top row
   Different,  ///< all 1 or more and different from each other
@@ -19,7 +19,7 @@ enum class TopRowQuality {
   WithZeros,  ///< some may be 0
 };
 
-/// What a player should know about a square that is not of the best kind; empty for those that are.
+/// What a player should know about a square that is not of the best quality; empty for the best.
 const char* RemarkOn(TopRowQuality quality);
 
 struct TopRowSquare {
@@ -31,11 +31,11 @@ struct TopRowSquare {
 using TopRow = std::array<int, 4>;
 
 /// Four whole numbers from 0 to 9999, separated as in a date by commas, slashes, points, hyphens or
-/// blanks; nothing when the text is not that.
+/// blanks; nothing for any other text.
 std::optional<TopRow> ParseTopRow(const std::string& text);
 
 /// A 4 x 4 magic square with the given top row (the birthday square of a date), of the best quality
-/// that there is. Once the top row is given, four numbers are free:
+/// possible. Once the top row is given, four numbers are free:
 ///
 ///     a  b  c  d      The bottom corners add up to b + c and the cells between them to a + d;
 ///     e  f  g  h      with m, n, f and e chosen every other cell follows from a line.
@@ -43,8 +43,8 @@ std::optional<TopRow> ParseTopRow(const std::string& text);
 ///     m  n  o  p
 ///
 /// A search over the four, each from a random start with wrap-around, pruned as soon as a cell is
-/// out of place, is complete: when it finds nothing there is nothing. It yields now and
-/// then. Nothing when even zeros do not help.
+/// out of range, is complete: if it finds nothing, no such square exists. It yields regularly.
+/// Nothing if no square exists even with zeros.
 std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random, Yielding& yielding);
 
 }  // namespace numorra

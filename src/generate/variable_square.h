@@ -14,10 +14,10 @@ namespace numorra {
 class PatternedSquare;
 class TurningSquare;
 
-/// How often a plan is tried before the player is asked about more.
+/// Tries of a plan before the player is asked about more.
 inline constexpr int kTries = 10;
 
-/// How one build ended.
+/// The outcome of one build.
 enum class SolveStatus {
   Built,
   TryAgain,           ///< the remainder could not be spread; the square is magic without it
@@ -27,26 +27,25 @@ enum class SolveStatus {
 struct VariableBuild {
   SolveStatus Status = SolveStatus::Built;
   CellTable Square;
-  double Total = 0;            ///< what every line of the square adds up to
-  bool LeftFlat = false;       ///< a 3 x 3 square of a base too small to be varied
-  Pattern LastPattern;         ///< the pattern added last
+  double Total = 0;            ///< sum of every line
+  bool LeftFlat = false;       ///< a 3 x 3 square whose base is too small to be varied
+  Pattern LastPattern;         ///< the last pattern added
   std::int32_t PassCount = 0;  ///< patterns added
 };
 
-/// Magic squares of any total: a flat board is varied by zero-sum patterns (Spreading, exchanges),
-/// then what is left of the wanted total is added to every line. With a corner value wanted, the
-/// remainder is left out and the square has that value at the top left. Every cell is a whole
-/// number of 1 or more.
+/// Magic squares of any total: zero-sum patterns (Spreading, exchanges) vary a flat board, then
+/// every line is raised by the rest of the wanted total. With a corner value, the rest is left out
+/// and the square has that value at the top left. Every cell is a whole number of 1 or more.
 class VariableSquare {
  public:
   VariableSquare(Random& random, BuildStage& stage) : random_(random), stage_(stage) {}
 
-  /// `corner`: the value wanted at the top left, where there is one; the limit then does not apply.
-  /// One that no square has becomes the nearest that one has; squares of order 3 take none.
+  /// `corner`: the value wanted at the top left, if any; the limit then does not apply. A value
+  /// that no square has is replaced by the nearest possible one; squares of order 3 ignore it.
   /// `tries`: 1 for the first of several builds of a plan, which is varied more than later ones.
   VariableBuild Build(const VariablePlan& plan, std::optional<double> corner, int tries);
 
-  /// The first of up to kTries builds that is one; else the last.
+  /// The first successful one of up to kTries builds; otherwise the last.
   VariableBuild BuildInTries(const VariablePlan& plan, std::optional<double> corner);
 
  private:

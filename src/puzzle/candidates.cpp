@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kWordBits = 64;
 
-/// The least that different numbers add up to, the i-th of them at least low[i]; `low` in order.
-/// One of them, at `without`, does not count.
+/// The smallest sum of different numbers of which the i-th is at least low[i]; `low` is sorted. The
+/// number at `without` is left out.
 std::int64_t LeastWithout(const std::vector<std::int64_t>& low, std::size_t without,
                           bool different) {
   std::int64_t sum = 0;
@@ -52,7 +52,7 @@ Candidates::Candidates(const Puzzle& puzzle)
   if (puzzle.Asked == Rules::Normal) StartSets();
 }
 
-/// Gives each gap the numbers that are missing, and each number's cell that number.
+/// Gives each gap the set of missing numbers, and every other cell the set of its own number.
 void Candidates::StartSets() {
   words_ = At(static_cast<int>(most_)) / kWordBits + 1;
   bits_.assign(values_.size() * words_, 0);
@@ -64,7 +64,7 @@ void Candidates::StartSets() {
     if (number == 0) continue;
     const std::uint64_t bit = std::uint64_t{1} << (number % kWordBits);
     std::uint64_t& word = missing[At(static_cast<int>(number / kWordBits))];
-    if ((word & bit) == 0) impossible_ = true;  // it stands in another cell too
+    if ((word & bit) == 0) impossible_ = true;  // it is in another cell, too
     word &= ~bit;
     Bits(cell)[number / kWordBits] = bit;
   }
@@ -128,8 +128,8 @@ void Candidates::UndoTo(std::size_t mark) {
   waiting_.clear();
 }
 
-/// Brings ends and count in line with the set, and wakes the cell's lines to which that matters:
-/// bounds look at the ends alone.
+/// Updates the ends and the count from the set, and queues the lines of the cell that this can
+/// affect: bounds depend on the ends only.
 bool Candidates::Narrowed(int cell) {
   bool endsMoved = true;
   if (IsNormal()) {
@@ -181,7 +181,7 @@ bool Candidates::Restrict(int cell, std::int64_t low, std::int64_t high) {
   return Narrowed(cell);
 }
 
-/// Takes what is not from low to high out of the cell's set.
+/// Removes all numbers outside low..high from the cell's set.
 void Candidates::KeepBits(int cell, std::int64_t low, std::int64_t high) {
   for (std::size_t word = 0; word < words_; ++word) {
     const auto first = static_cast<std::int64_t>(word * kWordBits);
@@ -195,7 +195,7 @@ void Candidates::KeepBits(int cell, std::int64_t low, std::int64_t high) {
   }
 }
 
-/// Makes a gap a cell with a number, which its lines no longer need.
+/// Fills a gap, and takes its number off the rest of its lines.
 void Candidates::Take(int cell, std::int64_t number) {
   values_[At(cell)] = low_[At(cell)] = high_[At(cell)] = number;
   count_[At(cell)] = 1;
@@ -239,7 +239,7 @@ bool Candidates::ApplyPair(int line, int a, int b) {
 
 bool Candidates::ApplyBounds(int line) {
   const std::int64_t sum = Rest(line);
-  // The most that numbers add up to is the least of their negatives.
+  // The largest sum is found as the smallest sum of the negatives.
   for (const bool least : {true, false}) {
     ordered_.clear();
     for (const int cell : map_.CellsOf(line)) {
@@ -304,7 +304,7 @@ bool Candidates::FindSinglePlace(Single& found) const {
   return true;
 }
 
-/// Puts what has one possibility left: numbers of cells, and cells of numbers.
+/// Fills cells with a single candidate, and places numbers that have a single cell left.
 bool Candidates::PutSingles(bool& changed) {
   for (int cell = 0; cell < Cells(); ++cell) {
     if (Value(cell) != 0 || Count(cell) != 1) continue;
@@ -319,11 +319,10 @@ bool Candidates::PutSingles(bool& changed) {
   return Put(single.Cell, single.Number);
 }
 
-/// Applies the rules to the lines that wait; numbers are put only when `put` says so.
+/// Applies the rules to the queued lines; fills gaps only if `put` is set.
 ///
-/// Bounds of large numbers may close in on each other by ones. The rules then end unfinished, as
-/// they may: what they did not find out is left to the search, and a line without gaps is looked at
-/// here at the latest.
+/// The bounds of large numbers may approach each other in steps of one. The rules then stop early,
+/// which is safe: the search does the rest, and here a line without gaps is still checked.
 bool Candidates::ApplyWaiting(Grade grade, bool put) {
   constexpr int kMostApplied = 100'000;
   failedLine_ = -1;

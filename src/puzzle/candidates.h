@@ -8,25 +8,26 @@
 
 namespace numorra {
 
-/// What solving takes: each grade has the rules of those before it, too.
+/// The rules that solving needs: each grade includes those of the grades before it.
 enum class Grade : std::uint8_t {
   Easy,    ///< a line with a single gap
   Medium,  ///< a line with two gaps; a cell or a number with one possibility left
   Hard,    ///< the bounds of each line
-  Expert   ///< trying: no rule more than hard
+  Expert   ///< trial and error: no further rules
 };
 
-/// What may still stand in each gap of a puzzle, narrowed down by the rules of a grade.
+/// The candidates of each gap of a puzzle, narrowed down by the rules of a grade.
 ///
-/// By the normal rules a gap has a set of numbers, of those still missing; by the positive ones a
-/// range. A line with the rest s for its k gaps narrows them so:
+/// Under the normal rules a gap has a set of the missing numbers; under the positive rules it has a
+/// range. A line whose k gaps must add up to s narrows them as follows:
 /// - k = 1: the gap is s.
-/// - k = 2: a number a stays only where s - a may stand in the other gap, and is another number by
-///   the normal rules.
-/// - any k: a is at least s less the most that the others can be, and at most s less their least;
-///   by the normal rules most and least are those of different numbers.
+/// - k = 2: a number a stays only if s - a is a candidate of the other gap and, under the normal
+///   rules, differs from a.
+/// - any k: a is at least s minus the largest sum of the others, and at most s minus their smallest
+///   sum; under the normal rules these are sums of different numbers.
 ///
-/// Everything can be taken back: Mark says where one is, UndoTo goes back there.
+/// All changes can be undone: Mark returns a position in the trail of changes, and UndoTo goes back
+/// to it.
 class Candidates {
  public:
   explicit Candidates(const Puzzle& puzzle);
@@ -41,32 +42,31 @@ class Candidates {
   int Gaps() const { return gaps_; }
   bool Solved() const { return gaps_ == 0; }
 
-  /// The smallest and the largest number that may stand there, and how many may.
+  /// The smallest candidate, the largest, and their count.
   std::int64_t Low(int cell) const { return low_[At(cell)]; }
   std::int64_t High(int cell) const { return high_[At(cell)]; }
   std::int64_t Count(int cell) const { return count_[At(cell)]; }
   bool Allows(int cell, std::int64_t number) const;
 
-  /// What a line still needs for its gaps, and these.
+  /// The sum that a line still needs in its gaps, and these gaps.
   std::int64_t Rest(int line) const { return rest_[At(line)]; }
   std::vector<int> GapsOf(int line) const;
 
-  /// Each returns false when nothing is left for a gap; what was concluded before stays until it is
-  /// undone.
+  /// Each returns false if a gap has no candidates left; its changes remain until they are undone.
   bool Put(int cell, std::int64_t number);
   bool Remove(int cell, std::int64_t number);
   bool Restrict(int cell, std::int64_t low, std::int64_t high);
 
-  /// Applies the grade's rules until none has anything to say. False when the numbers contradict
+  /// Applies the rules of the grade until they change nothing more. False if the numbers contradict
   /// each other; FailedLine is then the line that showed it, or -1.
   bool Propagate(Grade grade);
   int FailedLine() const { return failedLine_; }
 
-  /// The same, but stops before a number is put: the gaps are narrowed down only.
+  /// The same, but narrows the candidates only and fills no gap.
   bool Narrow(Grade grade);
 
-  /// By the normal rules a number that only one gap may hold; Where is -1 without one. False when a
-  /// missing number has no place.
+  /// Under the normal rules, finds a number that only one gap can hold; Cell is -1 if there is
+  /// none. False if a missing number fits no gap.
   struct Single {
     int Cell = -1;
     std::int64_t Number = 0;
@@ -77,7 +77,7 @@ class Candidates {
   void UndoTo(std::size_t mark);
 
  private:
-  /// A cell as it was: one word of its set, and whether it was a gap that was filled then.
+  /// The previous state of a cell: one word of its set, and whether the change filled it.
   struct Change {
     int Cell;
     bool Placed;
@@ -105,26 +105,26 @@ class Candidates {
   int order_;
   std::int64_t most_;
   const LineMap& map_;
-  std::size_t words_ = 0;  ///< of 64 bits a set; none by the positive rules
+  std::size_t words_ = 0;  ///< 64-bit words per set; 0 under the positive rules
   int gaps_;
   std::vector<std::int64_t> values_, low_, high_, count_;  ///< by cell
   std::vector<std::uint64_t> bits_;                        ///< by cell: number v is bit v
   std::vector<std::int64_t> rest_;                         ///< by line
-  std::vector<int> open_;                                  ///< by line: how many gaps
+  std::vector<int> open_;                                  ///< by line: number of gaps
   std::vector<char> touched_;                              ///< by line
-  std::vector<int> waiting_;                               ///< lines that were touched
+  std::vector<int> waiting_;                               ///< the queue of touched lines
   std::vector<Change> trail_;
-  bool impossible_ = false;  ///< the puzzle contradicts itself as it stands
+  bool impossible_ = false;  ///< the puzzle as given contradicts itself
   int failedLine_ = -1;
 
-  // Room for what the rules work with, kept from one to the next.
+  // Buffers of the rules, kept to avoid allocations.
   std::vector<std::pair<std::int64_t, int>> ordered_;
   std::vector<std::int64_t> bounds_;
   mutable std::vector<std::uint64_t> once_, twice_;
 };
 
-/// The least that numbers add up to, of which the i-th is at least low[i]; with `different`, no two
-/// of them equal. The most that such sums can be are those of the negatives.
+/// The smallest sum of numbers of which the i-th is at least low[i]; with `different`, all of them
+/// differ. The largest sums follow from the negatives.
 std::int64_t LeastSum(std::vector<std::int64_t> low, bool different);
 
 }  // namespace numorra

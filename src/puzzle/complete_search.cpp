@@ -41,7 +41,8 @@ CompleteSearch::End CompleteSearch::Descend() {
   return board_.IsNormal() ? TryNumbers(cell) : TryHalves(cell);
 }
 
-/// The gap with the fewest possibilities; in restarts by how often its lines have failed, too.
+/// The gap with the fewest candidates; restarts divide that count by how often the gap's lines
+/// failed.
 int CompleteSearch::Choose() const {
   int best = -1;
   double least = std::numeric_limits<double>::max();
@@ -61,8 +62,8 @@ int CompleteSearch::Choose() const {
   return best;
 }
 
-/// Each try is a level of the stack, and what it changes is kept to be undone: both have a bound,
-/// at which large boards stop.
+/// Each try adds a level to the stack, and its changes are kept to be undone. Both are bounded:
+/// large boards stop there.
 template <class Act>
 CompleteSearch::End CompleteSearch::Try(Act act) {
   constexpr int kMostLevels = 5000;

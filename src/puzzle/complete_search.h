@@ -9,32 +9,32 @@
 
 namespace numorra {
 
-/// What a complete search tells while it works.
+/// What a complete search reports while it works.
 class SearchWatcher {
  public:
   virtual ~SearchWatcher() = default;
 
-  /// At every node, before the rules are applied to it.
+  /// Called at every node, before the rules are applied.
   virtual void NoteNode() = 0;
 
-  /// After them, where the node is no end: whether the search is to stop here.
+  /// Called after the rules, if the node is not a leaf: whether to stop here.
   virtual bool Stops() = 0;
 
-  /// At every solution: whether it is to stop, as enough are known.
+  /// Called at every solution: whether to stop, because enough are known.
   virtual bool NoteSolution(const Candidates& solved) = 0;
 };
 
-/// A depth-first search that sees every solution unless it is stopped: smallest choice first, the
-/// hard rules at every node.
+/// A depth-first search that finds every solution unless it is stopped. It branches on the gap with
+/// the fewest candidates and applies the hard rules at every node.
 ///
-/// Restarts try random values, and first the gaps in lines that were found impossible most often
-/// (weighted degrees: Boussemart, Hemery, Lecoutre and Sais 2004).
+/// Restarts try values in random order, and prefer gaps in lines that failed most often (weighted
+/// degrees: Boussemart, Hemery, Lecoutre and Sais 2004).
 class CompleteSearch {
  public:
-  /// `board` is as the rules left it, and is so again after each run.
+  /// `board` holds what the rules have left open; each run restores it.
   CompleteSearch(Candidates& board, SearchWatcher& watcher);
 
-  /// Each is true when all solutions were seen, false when the search was stopped.
+  /// Each returns true if it has found all solutions, false if it was stopped.
   bool Run();
   bool Restart(Random& random, std::int64_t nodes);
 
@@ -53,7 +53,7 @@ class CompleteSearch {
   Candidates& board_;
   SearchWatcher& watcher_;
   Random* random_ = nullptr;           ///< in restarts
-  std::vector<std::int64_t> weights_;  ///< by line: 1 and how often it was found impossible
+  std::vector<std::int64_t> weights_;  ///< by line: 1 plus the number of times that it failed
   std::int64_t nodesLeft_ = 0;
   int depth_ = 0;
 };

@@ -33,20 +33,20 @@ std::optional<Deduction> SingleGap(const Puzzle& puzzle, const Candidates& board
     const std::vector<int> gaps = board.GapsOf(line);
     if (gaps.size() != 1 || !board.Allows(gaps[0], board.Rest(line))) continue;
     const std::size_t others = board.Map().CellsOf(line).size() - 1;
-    const std::string stand = others == 1 ? " number stands in " : " numbers stand in ";
+    const std::string stand = others == 1 ? " number is in " : " numbers are in ";
     return Deduction{gaps[0],
                      board.Rest(line),
                      Grade::Easy,
                      PlacesOf(board, board.Map().CellsOf(line)),
                      LineName(board, line),
                      std::to_string(others) + stand + LineName(board, line) + ", the total is " +
-                         std::to_string(board.Map().SumOf(line, puzzle.Target)) + ": the last is " +
-                         std::to_string(board.Rest(line))};
+                         std::to_string(board.Map().SumOf(line, puzzle.Target)) +
+                         ": the last one is " + std::to_string(board.Rest(line))};
   }
   return std::nullopt;
 }
 
-/// The numbers that a line leaves for one of its gaps, and how that is said.
+/// The numbers that a line allows in one of its gaps, and the words that say so.
 struct LineTakes {
   std::vector<std::int64_t> Numbers;
   std::string Said;
@@ -56,8 +56,8 @@ std::string Range(std::int64_t low, std::int64_t high) {
   return low == high ? std::to_string(low) : std::to_string(low) + " to " + std::to_string(high);
 }
 
-/// Of `numbers`, those that the line takes in `cell`, given what its other gaps may hold on a board
-/// that is narrowed down: a single other gap holds what the cell leaves of the line's rest.
+/// Those of `numbers` that the line allows in `cell`, given the narrowed candidates of its other
+/// gaps. A single other gap has one candidate.
 LineTakes Taken(const Candidates& board, int line, int cell,
                 const std::vector<std::int64_t>& numbers) {
   std::vector<int> others = board.GapsOf(line);
@@ -84,12 +84,12 @@ LineTakes Taken(const Candidates& board, int line, int cell,
     if (number >= low && number <= high) takes.Numbers.push_back(number);
   }
   takes.Said = LineName(board, line) + " needs " + std::to_string(rest) + " for its " +
-               std::to_string(others.size() + 1) + " gaps, so it takes " +
-               Range(std::max<std::int64_t>(1, low), high) + " here";
+               std::to_string(others.size() + 1) + " gaps, so this cell can hold " +
+               Range(std::max<std::int64_t>(1, low), high);
   return takes;
 }
 
-/// A gap that is narrowed down to one number: the lines that do it, strongest first.
+/// The lines that narrow a gap down to one number, strongest first.
 std::string WhyOnly(const Candidates& board, int cell, std::int64_t number,
                     std::vector<std::int64_t> numbers) {
   std::string why;
@@ -101,7 +101,7 @@ std::string WhyOnly(const Candidates& board, int cell, std::int64_t number,
         best = std::move(takes);
       }
     }
-    if (best.Said.empty()) break;  // what is left is ruled out with the numbers elsewhere
+    if (best.Said.empty()) break;  // the remaining numbers are ruled out by other cells
     why += (why.empty() ? "" : "; ") + best.Said;
     numbers = std::move(best.Numbers);
   }
@@ -110,7 +110,7 @@ std::string WhyOnly(const Candidates& board, int cell, std::int64_t number,
          PlaceName(board, cell);
 }
 
-/// The numbers that stand nowhere yet; by the positive rules all that the cell could hold at first.
+/// The missing numbers; under the positive rules, all numbers that the cell could hold at first.
 std::vector<std::int64_t> NumbersFor(const Puzzle& puzzle, const Candidates& board, int cell) {
   constexpr std::int64_t kMostListed = 10'000;
   std::vector<std::int64_t> numbers;
@@ -126,8 +126,7 @@ std::vector<std::int64_t> NumbersFor(const Puzzle& puzzle, const Candidates& boa
   return numbers;
 }
 
-/// A gap with one number, or a number with one place, once the grade's rules have narrowed the
-/// gaps.
+/// A gap with one candidate, or a number with one possible cell, after the rules of the grade.
 std::optional<Deduction> OnePossibility(const Puzzle& puzzle, Grade grade) {
   Candidates board(puzzle);
   if (!board.Narrow(grade)) return std::nullopt;
@@ -148,12 +147,11 @@ std::optional<Deduction> OnePossibility(const Puzzle& puzzle, Grade grade) {
                    grade,
                    PlaceOf(board, single.Cell),
                    PlaceName(board, single.Cell),
-                   std::to_string(single.Number) + " can stand in " +
-                       PlaceName(board, single.Cell) +
-                       " alone: the lines of every other gap rule it out"};
+                   std::to_string(single.Number) + " fits only " + PlaceName(board, single.Cell) +
+                       ": the lines of every other gap rule it out"};
 }
 
-/// A gap of which all numbers but one lead to a contradiction.
+/// A gap of which all candidates but one lead to a contradiction.
 std::optional<Deduction> Tried(const Puzzle& puzzle, Yielding& yielding) {
   constexpr std::int64_t kMostTried = 12;
   Candidates board(puzzle);
@@ -197,8 +195,8 @@ std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yieldin
 }
 
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number) {
-  return "every number but " + std::to_string(number) + " in " + PlaceName(candidates, cell) +
-         " leads, when it is tried, to a line that cannot be completed";
+  return "trying any number but " + std::to_string(number) + " in " + PlaceName(candidates, cell) +
+         " leads to a line that cannot be completed";
 }
 
 const char* NameOf(Grade grade) {
@@ -215,7 +213,7 @@ std::optional<Grade> GradeNamed(const std::string& name) {
 const char* RulesOf(Grade grade) {
   constexpr std::array kRules = {
       "lines with a single gap", "lines with two gaps, numbers with one place left",
-      "how much and how little the gaps of a line can hold", "trying numbers out"};
+      "the smallest and largest sums of a line's gaps", "trying numbers"};
   return kRules[static_cast<std::size_t>(grade)];
 }
 

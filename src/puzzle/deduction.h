@@ -9,31 +9,31 @@
 
 namespace numorra {
 
-/// A number that follows from the others, and why: what a hint shows.
+/// A number that follows from the others, and the reason: what a hint shows.
 struct Deduction {
   int Cell = 0;
   std::int64_t Number = 0;
   Grade Needed = Grade::Easy;     ///< the easiest rules that find it
   std::vector<Place> Where = {};  ///< the line, or the cell, to look at
   std::string WhereName = {};     ///< "row 2"
-  std::string Why = {};           ///< one sentence, without its capital and its stop
+  std::string Why = {};           ///< one sentence, without a capital or a full stop
 };
 
-/// The next number that the rules of a grade give, by the easiest of them that give any; nothing
-/// when they give none, or contradict each other. Expert gives what trying gives: a gap of which
-/// all numbers but one lead, by the hard rules, to a contradiction.
+/// The next number that follows by the rules of a grade, using the easiest rule that gives one;
+/// nothing if no rule does, or if the numbers contradict each other. Expert tries numbers: it finds
+/// a gap of which all candidates but one lead to a contradiction by the hard rules.
 ///
-/// The yielding is yielded to at every trial; what it throws ends it.
+/// Yields at every trial; an exception thrown by the yield ends the search.
 std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yielding& yielding);
 
-/// What is said of a number that trying alone has found.
+/// The reason for a number that only trying has found.
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number);
 
-/// "easy", "medium", "hard", "expert"; and back, nothing for other words.
+/// The name of a grade: "easy", "medium", "hard" or "expert"; and back, nothing for other words.
 const char* NameOf(Grade grade);
 std::optional<Grade> GradeNamed(const std::string& name);
 
-/// The rules that a grade adds to those before it, in words.
+/// The rules that a grade adds to the ones before it, in words.
 const char* RulesOf(Grade grade);
 
 }  // namespace numorra

@@ -5,8 +5,8 @@
 
 namespace numorra {
 
-/// A puzzle from a fresh square. Not every square has a puzzle of every grade, so several are drawn
-/// until one has the grade that is wished for; else the hardest puzzle that was found is returned.
+/// A puzzle from a fresh square. Some squares have no puzzle of the wanted grade, so several
+/// squares are tried; if none gives it, the hardest puzzle found is returned.
 std::variant<MadePuzzle, CannotMake> MakeFreshPuzzle(const SquareWish& square,
                                                      const PuzzleWish& wish, Random& random,
                                                      Yielding& yielding);

@@ -9,17 +9,17 @@
 
 namespace numorra {
 
-/// Which full square a puzzle is to be made from.
+/// The full square that a puzzle is made from.
 struct SquareWish {
   int Order = 4;
-  std::optional<std::int64_t> Total = {};  ///< any other than the normal one, 1 or more
-  bool LimitToNine = false;  ///< of the square's numbers; a puzzle's gaps know no such limit
+  std::optional<std::int64_t> Total = {};  ///< 1 or more; without it, the normal total
+  bool LimitToNine = false;  ///< for the square's numbers only, not for answers to the puzzle
 };
 
-/// A full square at random. A normal one, each as likely as the others: exactly so up to order 4,
-/// about so above (generate/random_square.h). One of any total (generate/mixed_square.h) where a
-/// total or the limit is wished for. Nothing where there is none, or none was found in ten tries.
-/// The total is that of the square that was built: a limit or a small total may have corrected it.
+/// A full square at random. Without a total or limit, a normal one, uniform up to order 4 and
+/// nearly so above (generate/random_square.h); otherwise one with the total
+/// (generate/mixed_square.h). Nothing if there is none, or ten tries found none. The result has the
+/// total that was built: a limit or a small total may have changed the wish.
 std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, Yielding& yielding);
 
 }  // namespace numorra

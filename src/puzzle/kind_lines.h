@@ -8,33 +8,35 @@
 
 namespace numorra {
 
-/// Cells of a board, by their indices in reading order, that add up to their share of the total: k
-/// cells of a board of order n to k / n of it.
+/// Cells of a board, by their indices in reading order, that must add up to their share of the
+/// total: k cells of a board of order n to k / n of it.
 struct CellLine {
-  std::string Name;  ///< as sentences have it: "row 2"
+  std::string Name;  ///< as used in sentences
   std::vector<int> Cells;
 };
 
-/// What a board is to be besides magic.
+/// What a board must be in addition to magic.
 enum class LineKind { Magic, Associative, Pandiagonal, MostPerfect, Ultramagic };
 
-/// The kind that has the term ("associative"), or null: bordered squares are not told by lines.
+/// The kind of a term ("associative"); null for others, such as bordered, which lines cannot
+/// define.
 const LineKind* FindLineKind(const std::string& term);
 
 /// The terms of all kinds but Magic, separated by commas.
 std::string LineKindTerms();
 
-/// Why no normal square of the kind has the order; empty where one has.
+/// Why no normal square of the kind has this order; empty if one has.
 std::string WhyNoneOfKind(LineKind kind, int order);
 
-/// A normal square of the kind, for orders that have one, from 5 on for magic ones.
+/// A normal square of the kind, for orders that have one; for Magic, orders from 5 on.
 Square<double> BuiltOfKind(LineKind kind, int order, Random& random);
 
-/// The lines that make a board of this order one of the kind: the 2n + 2 magic lines first, then
-/// - associative: opposite cells in pairs, and the middle cell of odd orders,
+/// The lines that define the kind on a board of this order: the 2n + 2 magic lines first, then
+/// - associative: pairs of opposite cells, and the middle cell of odd orders,
 /// - pandiagonal: the broken diagonals,
-/// - most-perfect: these, the 2 x 2 blocks (wrapped) and the cells n / 2 apart in a diagonal,
-/// - ultramagic: those of associative and pandiagonal boards.
+/// - most-perfect: the broken diagonals, the 2 x 2 blocks (wrapped) and the pairs of cells n / 2
+///   apart on a diagonal,
+/// - ultramagic: those of associative and of pandiagonal boards.
 std::vector<CellLine> LinesOf(LineKind kind, int order);
 
 }  // namespace numorra

@@ -8,11 +8,11 @@
 
 namespace numorra {
 
-/// Which cells the lines of a board have, and which lines a cell has: indices in reading order,
-/// lines as LinesOf has them, rows and columns first.
+/// The cells of each line of a board, and the lines of each cell. Cells are indices in reading
+/// order; lines are in the order of LinesOf, rows and columns first.
 class LineMap {
  public:
-  /// The one of an order and kind, made when it is first asked for, in whichever thread.
+  /// The map of an order and kind, created on first use; safe to call from any thread.
   static const LineMap& Of(int order, LineKind kind = LineKind::Magic);
 
   int Order() const { return order_; }
@@ -23,7 +23,7 @@ class LineMap {
     return linesOf_[static_cast<std::size_t>(cell)];
   }
 
-  /// The share of the total that a line adds up to; `IsWhole` tells whether it is a whole number.
+  /// The share of the total that a line adds up to; `IsWhole` says whether it is a whole number.
   std::int64_t SumOf(int line, std::int64_t total) const { return Share(line, total) / order_; }
   bool IsWhole(int line, std::int64_t total) const { return Share(line, total) % order_ == 0; }
 

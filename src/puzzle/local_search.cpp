@@ -7,7 +7,8 @@
 namespace numorra {
 namespace {
 
-/// A cooling takes a share of the run's steps and lowers the temperature by one factor a step.
+/// A cooling takes a share of the run's steps and multiplies the temperature by a constant factor
+/// at each step.
 struct Cooling {
   double From, To;
   double Share;
@@ -15,7 +16,7 @@ struct Cooling {
 constexpr Cooling kCoolings[] = {{100, 4, 1}, {4, 0.4, 0.5}};
 constexpr Cooling kAgain = {1, 0.35, 0.5};
 constexpr int kCoolingsOfRun = 10;
-constexpr double kColdBelow = 4;  // pair steps are worth their time
+constexpr double kColdBelow = 4;  // below this, pair steps are worth their time
 
 const Cooling& CoolingAt(int index) {
   return index < static_cast<int>(std::size(kCoolings)) ? kCoolings[index] : kAgain;
@@ -82,7 +83,7 @@ void LocalSearch::NextTemperature() {
 
 void LocalSearch::Step() {
   constexpr int kNear = 14;
-  constexpr int kInLine = 4;  // of 20; the rest is any two
+  constexpr int kInLine = 4;  // of 20; the rest exchange any two
   const int way = random_.Below(20);
   const int rank = random_.Below(numbering_.Gaps());
   const int cell = numbering_.CellOf(rank);
@@ -113,8 +114,8 @@ bool LocalSearch::Accepts(std::int64_t increase) {
   return exponent < kHopeless && random_.Share() < std::exp(-exponent);
 }
 
-/// A line of the n from `first` on whose error has the sign, from a start at random; any line where
-/// there is none.
+/// One of the n lines from `first` on whose error has this sign, searched from a random start; any
+/// line if there is none.
 int LocalSearch::WrongLine(int first, int sign) {
   const int n = numbering_.Map().Order();
   const int start = random_.Below(n);
@@ -125,8 +126,8 @@ int LocalSearch::WrongLine(int first, int sign) {
   return first + start;
 }
 
-/// Fills `common_` with pairs of gaps, one in each of two rows or columns, that share a column or
-/// row; eight of them at random where there are more.
+/// Fills `common_` with pairs of gaps of two rows (or columns) that share a column (or row); with
+/// eight random ones if there are more.
 int LocalSearch::FindCommonGaps(int one, int other) {
   const std::vector<int>& ones = numbering_.Map().CellsOf(one);
   const std::vector<int>& others = numbering_.Map().CellsOf(other);
@@ -140,8 +141,8 @@ int LocalSearch::FindCommonGaps(int one, int other) {
   return std::min(found, kMostCommon);
 }
 
-/// Returns how many steps it is worth. Goes through the exchanges in the order of Gray's code, each
-/// of which is one exchange from the one before, and back to its start.
+/// Returns the number of steps that it counts as. Visits all exchanges in Gray code order, in which
+/// each differs from the one before by one pair, and then returns to the start.
 std::int64_t LocalSearch::StepPair() {
   const int first = random_.Below(2) * numbering_.Map().Order();
   const int sign = random_.Below(2) * 2 - 1;

@@ -7,33 +7,35 @@
 
 namespace numorra {
 
-/// Looks for a solution of a normal board from numberings at random, by simulated annealing
-/// (Kirkpatrick, Gelatt and Vecchi 1983). It proves nothing where it finds none.
+/// Looks for a solution of a normal board, starting from random numberings, by simulated annealing
+/// (Kirkpatrick, Gelatt and Vecchi 1983). If it finds none, that proves nothing.
 ///
-/// A step exchanges two numbers: mostly two whose difference is no more than the temperature makes
-/// likely to be accepted, or a little larger ones within a line, which change two lines alone. When
-/// the board is cold, steps alternate with pair steps: of two rows (or columns), one wrong and the
-/// other wrong the opposite way where there are such, all exchanges over up to eight common gaps
-/// are looked at, and one is chosen by its Boltzmann weight.
+/// A step exchanges two numbers: mostly two whose difference is small enough to be likely to be
+/// accepted at this temperature; sometimes two of one line, which leaves that line as it is;
+/// sometimes any two. When the board is cold, steps alternate with pair steps. A pair step takes
+/// two rows (or columns), if possible one whose sum is too large and one whose sum is too small. It
+/// considers all combinations of exchanges across up to eight common gaps, and chooses one by its
+/// Boltzmann weight.
 ///
-/// A run cools from hot to cold once, and where that does not lead to a solution, warms up a little
-/// and cools again a few times (thermal cycling). The next run takes half as many steps again.
+/// A run cools from hot to cold once. If this does not solve the board, the run warms it a little
+/// and cools it again a few times (thermal cycling). Each run takes half as many steps again as the
+/// one before.
 class LocalSearch {
  public:
   LocalSearch(const Candidates& board, Random& random);
 
-  /// Whether there is anything for it to do.
+  /// Whether there is anything to search.
   bool CanRun() const { return numbering_.IsPossible() && numbering_.Gaps() > 1; }
 
-  /// Goes on for about so many steps; true as soon as the board is solved.
+  /// Continues for about `steps` steps; true as soon as the board is solved.
   bool Run(std::int64_t steps);
 
-  /// The solution that Run has found, by cell; 0 for a cell that was no gap.
+  /// The solution that Run has found, by cell; 0 for cells that were not gaps.
   std::int64_t NumberIn(int cell) const {
     return numbering_.IsGap(cell) ? numbering_.NumberOf(cell) : 0;
   }
 
-  /// Warms the board up after a solution, for another one near it.
+  /// Warms the board up after a solution, to look for another one nearby.
   void GoOn();
 
  private:
@@ -50,11 +52,11 @@ class LocalSearch {
 
   Numbering numbering_;
   QuickRandom random_;
-  std::int64_t runSteps_ = 0;  ///< how long the first cooling of a run takes
-  std::int64_t done_ = 0;      ///< of these
-  int cooling_ = 0;            ///< the run's first is 0
+  std::int64_t runSteps_ = 0;  ///< steps of the first cooling of a run
+  std::int64_t done_ = 0;      ///< steps done of the current cooling
+  int cooling_ = 0;            ///< index within the run
   double temperature_ = 0;
-  int reach_ = 1;  ///< how many ranks apart exchanged numbers may be
+  int reach_ = 1;  ///< largest difference of ranks in an exchange
   std::array<std::array<int, 2>, kMostCommon> common_{};  ///< pairs of gaps in two lines
 };
 

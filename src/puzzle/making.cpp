@@ -9,10 +9,10 @@
 namespace numorra {
 namespace {
 
-constexpr int kDiggings = 20;  // tried for a grade or a number of clues
+constexpr int kDiggings = 20;  // attempts to reach a grade or a number of clues
 
-/// Whether filling the last gap of a line, again and again, fills the board. For puzzles with a
-/// solution, where each of these numbers fits.
+/// Whether filling the last gap of a line repeatedly fills the board. For puzzles that have a
+/// solution, so that each of these numbers fits.
 bool EasyRulesSolve(const Puzzle& puzzle) {
   const LineMap& map = LineMap::Of(puzzle.Order(), puzzle.Kind);
   const auto at = [](int index) { return static_cast<std::size_t>(index); };
@@ -72,7 +72,7 @@ class Digger {
     return {puzzle, square_, GradeOf(puzzle)};
   }
 
-  /// Gives numbers back until there are so many; false when symmetry passes that number by.
+  /// Returns numbers to the puzzle until it has `clues` clues; false if symmetry skips that number.
   bool AddClues(MadePuzzle& made, int clues) {
     for (const bool keepGrade : {true, false}) {
       for (const std::vector<int>& cells : ShuffledCells()) {
@@ -110,7 +110,7 @@ class Digger {
     return together;
   }
 
-  /// Takes away what leaves the puzzle solvable.
+  /// Removes numbers as long as the puzzle stays solvable.
   template <class IsSolvable>
   void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
     for (const std::vector<int>& cells : ShuffledCells()) {
@@ -163,11 +163,11 @@ std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const Puzz
   }
   if (best) return *best;
   if (passedBy) {
-    return CannotMake{"symmetric gaps do not leave " + std::to_string(*wish.ClueCount) +
-                      " clues here: try one more or less"};
+    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish.ClueCount) +
+                      " clues here: try one more or one less"};
   }
-  return CannotMake{"from this square a puzzle that is " + std::string(NameOf(wish.Wanted)) +
-                    " needs " + std::to_string(fewest) + " clues or more"};
+  return CannotMake{"a puzzle of grade " + std::string(NameOf(wish.Wanted)) +
+                    " from this square needs " + std::to_string(fewest) + " clues or more"};
 }
 
 }  // namespace numorra

@@ -10,45 +10,45 @@
 
 namespace numorra {
 
-/// What a puzzle is to be like.
+/// The requirements for a puzzle.
 struct PuzzleWish {
   Grade Wanted = Grade::Easy;
-  std::optional<int> ClueCount = {};  ///< how many numbers are given; as few as can be without
-  bool Symmetric = false;             ///< gaps in opposite cells, or in none of them
+  std::optional<int> ClueCount = {};  ///< number of clues; as few as possible if not set
+  bool Symmetric = false;             ///< a cell is a gap if and only if its opposite is
 };
 
-/// A puzzle with one solution, and the hardest rules that it needs.
+/// A puzzle with exactly one solution, and the hardest rules that it needs.
 struct MadePuzzle {
   Puzzle Clues;
   Puzzle Solution;
   Grade Needed = Grade::Easy;
 };
 
-/// A full square that puzzles can be made from; without one, why there is none.
+/// A full square to make puzzles from; if there is none, the reason.
 struct PuzzleSource {
   std::optional<Puzzle> Square = {};
   std::string WhyNot = {};
 };
 
-/// Why a puzzle cannot be as it is wished for, in one sentence.
+/// Why a puzzle cannot be made as requested, in one sentence.
 struct CannotMake {
   std::string Why;
 };
 
-/// Nodes that are searched for each clue of an expert puzzle that might be spared.
+/// Nodes searched for each clue that might be removed from an expert puzzle.
 inline constexpr std::int64_t kExpertNodes = 200;
 
-/// Makes a puzzle from a full square. Numbers are taken away, in an order by lot, as long as the
-/// rules of the grade alone still solve the board, which proves that it has one solution; for
-/// expert puzzles a search bounded in nodes takes over where the rules end. Then no clue can be
-/// spared. Where more clues are wanted, numbers come back, such first as leave the grade as it is.
+/// Makes a puzzle from a full square. Removes numbers in random order as long as the rules of the
+/// grade alone still solve the board, which proves that it has one solution; for expert puzzles, a
+/// search limited in nodes then proves further removals. After that no clue can be spared. If more
+/// clues are wanted, numbers are returned, first those that do not change the grade.
 ///
-/// The grade of what was made is the hardest rule that it needs: several orders are tried for one
-/// of the grade that is wanted, and the hardest found is taken where the square gives none.
+/// The grade of the result is the hardest rule that it needs. Several orders are tried until one
+/// gives the wanted grade; if none does, the hardest puzzle found is returned.
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
                                                 Random& random, Yielding& yielding);
 
-/// The easiest grade whose rules solve the puzzle; expert where none does.
+/// The easiest grade whose rules solve the puzzle; expert if none does.
 Grade GradeOf(const Puzzle& puzzle);
 
 }  // namespace numorra

@@ -40,7 +40,8 @@ Numbering::Numbering(const Candidates& board)
   FindPartners();
 }
 
-/// The rules put the partner of every number that stands, so all gaps have partners, or none has.
+/// The rules have filled the partner of every filled cell, so either all gaps have partners or none
+/// has.
 void Numbering::FindPartners() {
   for (int line = 0; line < map_.Lines(); ++line) {
     const std::vector<int>& gaps = GapsOf(line);

@@ -10,21 +10,21 @@
 namespace numorra {
 namespace {
 
-/// What a number is that the puzzle cannot hold.
+/// Why the puzzle cannot hold a number.
 std::string WhatIs(double number, const Puzzle& puzzle) {
   if (puzzle.Asked == Rules::Normal || puzzle.LimitToNine) {
-    return "none of the numbers 1 to " + std::to_string(puzzle.Most());
+    return "not one of the numbers 1 to " + std::to_string(puzzle.Most());
   }
-  if (number < 1 || number != std::floor(number)) return "no whole number of 1 or more";
+  if (number < 1 || number != std::floor(number)) return "not a whole number of 1 or more";
   return "more than the sum leaves for one cell, " + std::to_string(puzzle.Most());
 }
 
-/// A number that stands in two cells: the one to blame is no given where the other is.
+/// A number that is in two cells: if only one of them is a given, the other is to blame.
 AgainstRules Twice(const StoredSquare& square, int first, int second) {
   if (square.IsGiven(second) && !square.IsGiven(first)) std::swap(first, second);
   const Place place = square.Cells.PlaceOf(second);
-  return {Decimal(*square.Cells[second]) + " in " + NameOf(place) + " stands in " +
-              NameOf(square.Cells.PlaceOf(first)) + " too",
+  return {Decimal(*square.Cells[second]) + " in " + NameOf(place) + " is also in " +
+              NameOf(square.Cells.PlaceOf(first)),
           place};
 }
 
@@ -46,13 +46,13 @@ std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool lim
   const std::string sum = "the sum " + Decimal(target);
   if (target != std::floor(target) || target < square.Order() ||
       target > static_cast<double>(Puzzle::kMostTarget)) {
-    return AgainstRules{sum + " is none that whole numbers of 1 or more make here"};
+    return AgainstRules{sum + " is not possible here with whole numbers of 1 or more"};
   }
   Puzzle puzzle{Square<std::int64_t>(square.Order()), static_cast<std::int64_t>(target),
                 square.Asked, limitToNine};
   if (square.Asked == Rules::Normal && puzzle.Target != NormalTotal(square.Order())) {
-    return AgainstRules{sum + " is not that of the numbers 1 to " + std::to_string(puzzle.Most()) +
-                        ", which is " + std::to_string(NormalTotal(square.Order()))};
+    return AgainstRules{sum + " does not fit the numbers 1 to " + std::to_string(puzzle.Most()) +
+                        ", whose lines add up to " + std::to_string(NormalTotal(square.Order()))};
   }
   std::map<double, int> seen;
   for (int cell = 0; cell < square.Cells.Size(); ++cell) {

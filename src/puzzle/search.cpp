@@ -10,7 +10,7 @@
 namespace numorra {
 namespace {
 
-/// The i-th number, from 1, of 1 1 2 1 1 2 4 1 1 2 1 1 2 4 8 ...
+/// The i-th number, from 1, of Luby's sequence 1 1 2 1 1 2 4 1 1 2 1 1 2 4 8 ...
 std::int64_t Luby(std::int64_t i) {
   std::int64_t power = 2;
   while (power - 1 < i)
@@ -18,8 +18,8 @@ std::int64_t Luby(std::int64_t i) {
   return power - 1 == i ? power / 2 : Luby(i - power / 2 + 1);
 }
 
-/// How many steps of the local search are worth a node of the complete one. The rules take the
-/// longer the more gaps there are, and the less they find.
+/// The number of local search steps worth one node of the complete search: the more gaps, the
+/// longer the rules take and the less they find.
 std::int64_t StepsOfNode(std::int64_t gaps) {
   constexpr std::int64_t kGapPairsOfStep = 10;
   return 1 + gaps * gaps / kGapPairsOfStep;
@@ -27,7 +27,7 @@ std::int64_t StepsOfNode(std::int64_t gaps) {
 
 class Search : private SearchWatcher {
  public:
-  /// Without random numbers there is the complete search alone.
+  /// Without random numbers, only the complete search runs.
   Search(const Puzzle& puzzle, const SearchLimit& limit, Random* random, Yielding& yielding)
       : puzzle_(puzzle),
         limit_(limit),
@@ -65,8 +65,8 @@ class Search : private SearchWatcher {
   }
 
  private:
-  /// A board without a number needs no search: a construction gives a square, which turned
-  /// half round is another.
+  /// An empty board needs no search: a construction gives a square, which turned half round is
+  /// another one.
   bool IsEmptyNormal() const {
     constexpr int kSmallestBordered = 5;
     return board_.IsNormal() && puzzle_.Gaps() == board_.Cells() &&
@@ -101,7 +101,7 @@ class Search : private SearchWatcher {
     return Note([&](int cell) { return solved.Value(cell); });
   }
 
-  /// Notes a solution; true when enough are known.
+  /// Notes a solution; true if enough are known.
   template <class NumberIn>
   bool Note(NumberIn numberIn) {
     Puzzle solved = puzzle_;
@@ -117,7 +117,7 @@ class Search : private SearchWatcher {
 
   bool IsEnough() const { return random_ ? second_.has_value() : solutions_ >= most_; }
 
-  /// Lets the local search do as much work as the complete one has done since its head start, in
+  /// Lets the local search do as much work as the complete search has done since its head start, in
   /// slices with yields between them.
   void SearchLocally() {
     constexpr std::int64_t kHeadStart = 160'000;
@@ -152,12 +152,12 @@ class Search : private SearchWatcher {
   TimedYielding yielding_;
   Candidates board_;
   CompleteSearch complete_;
-  std::optional<Candidates> root_;  ///< as the rules alone leave it
+  std::optional<Candidates> root_;  ///< as left by the rules alone
   std::optional<LocalSearch> local_;
   std::int64_t stepsOfNode_ = 1;
   std::int64_t nodes_ = 0;
   std::int64_t steps_ = 0;
-  std::int64_t solutions_ = 0;  ///< of the complete search, in restarts the same ones again
+  std::int64_t solutions_ = 0;  ///< of the complete search; restarts count the same ones again
   std::int64_t most_ = 2;
   double share_ = 1;
   std::optional<Puzzle> first_;

@@ -11,8 +11,8 @@
 
 namespace numorra {
 
-/// What a search has found out about the solutions of a puzzle, each with its gaps filled. That
-/// nothing was found in time is a type of its own, and is no "no".
+/// The result of a search for the solutions of a puzzle; each solution is the puzzle with its gaps
+/// filled. Not finding any in time is a type of its own, not a "no".
 struct OneSolution {
   Puzzle Solved;
 };
@@ -21,40 +21,40 @@ struct SeveralSolutions {
   Puzzle Second;  ///< another one
 };
 struct NoSolution {
-  std::string Why = {};  ///< where the order alone rules it out
+  std::string Why = {};  ///< set if the order alone rules it out
 };
 struct NotSettled {
-  std::optional<Puzzle> Found = {};  ///< a solution, of which it is open whether it is the only one
+  std::optional<Puzzle> Found = {};  ///< a solution; whether it is the only one is open
 };
 using SearchResult = std::variant<OneSolution, SeveralSolutions, NoSolution, NotSettled>;
 
-/// What is open after a search of so many seconds, and why: a sentence without its stop.
+/// What is still open after a search of `seconds` seconds: a sentence without its full stop.
 std::string WhyOpen(const NotSettled& open, double seconds);
 
-/// When a search gives up. Its seconds are those in which it worked, without the yields. Counted in
-/// nodes, it does the same again from the same random numbers; with g gaps left by the rules,
-/// g * g / 10 + 1 steps of the local search count as a node.
+/// When a search gives up. `Seconds` counts the time worked, without yields. A search limited in
+/// `Nodes` is repeatable with the same random numbers; with g gaps left by the rules, g * g / 10 +
+/// 1 steps of the local search count as a node.
 struct SearchLimit {
   std::optional<double> Seconds = {};
   std::optional<std::int64_t> Nodes = {};
 };
 
-/// Fills the gaps of a puzzle in all ways, up to two.
+/// Finds up to two solutions of a puzzle.
 ///
-/// The rules come first (Candidates). Then a complete search, for a fifth of the limit in one
-/// piece, then in restarts after numbers of nodes that follow Luby's sequence (Luby, Sinclair and
-/// Zuckerman 1993). Where it comes to its end by itself, it has seen all solutions. By the normal
-/// rules a local search takes turns with it: after a head start of the complete one, which settles
-/// most small boards, the same number of nodes is due to both. Two different solutions prove that
-/// there are several, whichever search has found them.
+/// The rules come first (Candidates). Then a complete search takes a fifth of the limit in one
+/// piece and the rest in restarts, whose lengths in nodes follow Luby's sequence (Luby, Sinclair
+/// and Zuckerman 1993). If it finishes, it has found all solutions. Under the normal rules it takes
+/// turns with a local search: after a head start of the complete search, which settles most small
+/// boards, both get the same number of nodes. Two different solutions from either search prove that
+/// there are several.
 ///
-/// It yields at every node, and as often during the local search; what a yield throws ends the
-/// search.
+/// Yields at every node, and as often during the local search; an exception thrown by a yield ends
+/// the search.
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,
                    Yielding& yielding);
 
-/// How many solutions a puzzle has, counted up to `most` by the complete search alone; nothing when
-/// the limit came first.
+/// The number of solutions of a puzzle, counted up to `most` by the complete search alone; nothing
+/// if it reached the limit first.
 std::optional<std::int64_t> CountSolutions(const Puzzle& puzzle, std::int64_t most,
                                            const SearchLimit& limit, Yielding& yielding);
 

@@ -5,11 +5,11 @@
 #include "study/special.h"
 #include "study/terms.h"
 
-/// Associative squares: with numbers read as what they are off the mean, opposite cells hold a
-/// number and its negative. So the middle row and column and both diagonals add up to 0, and the
-/// rows and columns below and right of the middle do where those opposite them do. It remains to
-/// give the cells before the centre numbers so that the upper rows and the left columns add up to
-/// 0; what stands opposite a cell of theirs counts with the other sign.
+/// Associative squares: measured from the mean, opposite cells hold a number and its negative. So
+/// the middle row, the middle column and both diagonals add up to 0, and so does each row or column
+/// whose opposite one does. It remains to give numbers to the cells before the centre so that the
+/// upper rows and the left columns add up to 0; the number opposite such a cell counts with the
+/// other sign.
 namespace numorra {
 
 Square<double> AssociativeSquare(int order, Random& random) {
@@ -17,7 +17,7 @@ Square<double> AssociativeSquare(int order, Random& random) {
   const int half = order / 2;
   const int cells = order * order;
   std::vector<PairedPlace> places;
-  std::vector<int> sizes;  // in halves, as the mean of an even order is
+  std::vector<int> sizes;  // in halves, because the mean of an even order is a half
   for (int cell = 0; cell < cells / 2; ++cell) {
     const int i = cell / order;
     const int j = cell % order;

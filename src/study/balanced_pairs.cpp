@@ -11,7 +11,7 @@
 namespace numorra {
 namespace {
 
-/// A size by its rank from 1, with a sign.
+/// The rank of a size, from 1, with a sign.
 using SignedRank = int;
 
 class Walk {
@@ -26,7 +26,7 @@ class Walk {
     for (std::size_t rise = 0; rise < chances_.size(); ++rise) {
       chances_[rise] = QuickRandom::ChanceOf(std::exp(-static_cast<double>(rise) / temperature));
     }
-    // What changes the cost changes two lines by the difference of two sizes at the least.
+    // A change of the cost changes two lines by at least the difference of two sizes.
     constexpr double kShare = 0.02;
     const double least = 2.0 * (sizes[1] - sizes[0]);
     halting_ = QuickRandom::ChanceOf(kShare * std::exp(-least / temperature));
@@ -51,13 +51,13 @@ class Walk {
 
  private:
   int NumberOf(SignedRank rank) const {
-    if (rank == 0) return 0;  // of a place before it is filled
+    if (rank == 0) return 0;  // of a place that is not yet filled
     const int size = sizes_[static_cast<std::size_t>(std::abs(rank) - 1)];
     return rank < 0 ? -size : size;
   }
 
   void Step() {
-    constexpr int kKinds = 20;  // one step in so many turns a sign, another exchanges any two
+    constexpr int kKinds = 20;  // one step in 20 turns a sign, another exchanges any two
     const int kind = quick_.Below(kKinds);
     if (kind == 0) {
       const std::size_t place = AnyPlace();
@@ -109,9 +109,9 @@ class Walk {
   QuickRandom quick_;
   std::vector<SignedRank> rankIn_;
   std::vector<std::size_t> placeOf_;  ///< of each size, by its rank
-  std::array<int, kMaxOrder> off_{};  ///< what each line adds up to
+  std::array<int, kMaxOrder> off_{};  ///< sum of each line
   int cost_ = 0;
-  std::array<std::uint32_t, 64> chances_{};  ///< of a rise; larger ones have none
+  std::array<std::uint32_t, 64> chances_{};  ///< chance of each rise; larger rises have none
   std::uint32_t halting_ = 0;
 };
 

@@ -5,21 +5,21 @@
 
 /// Bordered squares: rings of numbers around a square of order 3 or 4 (Stifel 1544).
 ///
-/// A ring of order n takes the 2n - 2 smallest numbers and the largest; the square within takes
-/// those between. Opposite each number of the ring, along its row, its column or, for a corner, its
-/// diagonal, stands its partner to n x n + 1, so that all lines through the square within are
-/// right. With numbers read as what they are off the mean, it remains to choose the top row and the
-/// left column so that each adds up to 0. Every ring has those, and any of them may be drawn.
+/// A ring of order n takes the 2n - 2 smallest and the 2n - 2 largest numbers; the inner square
+/// takes those between. Opposite each number of the ring, along its row, its column or, for a
+/// corner, its diagonal, is its complement to n x n + 1, so that all lines through the inner square
+/// are right. Measured from the mean, it remains to choose the top row and the left column so that
+/// each adds up to 0. Every ring has such choices, and any of them can be drawn.
 namespace numorra {
 namespace {
 
-/// What the top row and then the left column between the corners hold, less the mean, doubled: the
-/// corners left and right come first. The bottom left corner is the negative of the one at the
-/// right.
+/// The top row and then the left column of the ring, measured from the mean and doubled: first the
+/// left and the right corner, then the cells between the corners. The bottom left corner is the
+/// negative of the right one.
 std::vector<int> DrawRing(int order, Random& random) {
   constexpr int kTop = 0;
   constexpr int kLeft = 1;
-  constexpr double kTemperature = 4;  // twice the step from one size to the next
+  constexpr double kTemperature = 4;  // twice the step between sizes
   std::vector<PairedPlace> places = {{{kTop, kLeft}, {1, 1}}, {{kTop, kLeft}, {1, -1}}};
   for (const int line : {kTop, kLeft})
     places.insert(places.end(), static_cast<std::size_t>(order - 2), {{line, line}, {1, 0}});
@@ -29,7 +29,7 @@ std::vector<int> DrawRing(int order, Random& random) {
   return BalancedPairs(places, sizes, kTemperature, random);
 }
 
-/// The square with a ring around it, its numbers raised so that they follow the ring's small ones.
+/// The square with a ring around it; its numbers are raised to follow the ring's small ones.
 Square<double> WithRing(const Square<double>& inner, Random& random) {
   const int order = inner.Order() + 2;
   const std::vector<int> ring = DrawRing(order, random);

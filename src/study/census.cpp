@@ -10,12 +10,12 @@ namespace {
 constexpr int kTotal = 34;
 constexpr int kCells = 16;
 
-/// The cells in the order in which they are settled; those with others follow from them as 34 minus
-/// three cells of a line, or of the corners, which add up to 34 too. Each choice settles as many as
-/// can be. The last row and column follow from the other three.
+/// The cells in the order in which they are filled. A cell with others follows from them, as 34
+/// minus three cells of a line, or of the corners, which add up to 34, too. Each choice fills as
+/// many cells as possible. The last row and column follow from the other three.
 struct Step {
   int Cell;
-  std::array<int, 3> Others;  ///< all 0 for a cell that is chosen
+  std::array<int, 3> Others;  ///< all 0 if the cell is chosen
 };
 constexpr Step kSteps[] = {{0, {}}, {3, {}},          {12, {}},        {15, {0, 3, 12}},
                            {5, {}}, {10, {0, 5, 15}}, {6, {}},         {9, {3, 6, 12}},
@@ -54,7 +54,8 @@ class Search {
     used_[static_cast<std::size_t>(number)] = false;
   }
 
-  /// Whether the corner is the smallest and its right neighbour smaller than the one below.
+  /// Whether the top left corner is still the smallest and its right neighbour smaller than the one
+  /// below.
   bool IsStandard(int cell) const {
     const bool corner = cell == 3 || cell == 12 || cell == 15;
     if (corner) return At(0) < At(cell);

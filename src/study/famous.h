@@ -6,7 +6,7 @@
 
 namespace numorra {
 
-/// A square that history remembers.
+/// A square known from history.
 struct FamousSquare {
   const char* Name;  ///< of its menu item
   const char* Caption;
@@ -15,10 +15,10 @@ struct FamousSquare {
   Square<double> Numbers;
 };
 
-/// The oldest first.
+/// In order of age, the oldest first.
 const std::vector<FamousSquare>& FamousSquares();
 
-/// The famous square that has this standard form; null where none has.
+/// The famous square with this standard form; null if there is none.
 const FamousSquare* FamousWithForm(const Square<double>& standardForm);
 
 }  // namespace numorra

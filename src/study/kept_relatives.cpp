@@ -13,7 +13,7 @@
 namespace numorra {
 namespace {
 
-/// The numbers times `factor`, and `summand` added. Nothing where a cell does not take the result.
+/// The numbers times `factor` plus `summand`. Nothing if a cell cannot take the result.
 std::optional<Square<double>> Scaled(const NumberSquare& square, int factor, int summand) {
   if (!square.HasUnits()) return std::nullopt;
   Square<double> scaled = square.Numbers();
@@ -34,8 +34,8 @@ std::optional<Square<double>> WithNumbersMultiplied(const Square<double>& square
   return Scaled(NumberSquare(square), random.Between(2, kMostFactor), 0);
 }
 
-/// The terms that a relative must keep, of those that hold of the square: all of how numbers stand
-/// to each other, none of which numbers they are.
+/// The terms that hold for the square and that a relative must keep: those that relate numbers to
+/// each other, but not those about which numbers they are.
 std::vector<const Term*> KindOf(const Facts& facts) {
   std::vector<const Term*> kind;
   for (const Term& term : Terms()) {
@@ -46,7 +46,7 @@ std::vector<const Term*> KindOf(const Facts& facts) {
   return kind;
 }
 
-/// A square with what a relative has to keep, judged once.
+/// A square and what its relatives must keep, judged once.
 struct Judged {
   explicit Judged(const Square<double>& square)
       : Numbers(square),
@@ -85,12 +85,12 @@ std::optional<Square<double>> Draw(const Relative& relative, const Judged& squar
 
 const std::array<Relative, 8> kRelatives = {{
     {"MoveRoundx", "Move &Round",
-     "Rows and columns move round, and every wrapped diagonal stays one: the square stays "
+     "Rows and columns move round, and wrapped diagonals stay wrapped diagonals: the square stays "
      "pandiagonal, and most-perfect if it is.",
      "pandiagonal", true, MovedRound},
     {"MultiplyPlacesx", "Multiply &Places",
-     "Every place, counted from the centre, is multiplied by one number: rows, columns and "
-     "diagonals, wrapped ones too, stay what they are, and opposite cells stay opposite.",
+     "Every place, counted from the centre, is multiplied by one number: lines, including wrapped "
+     "diagonals, stay lines of the same kind, and opposite cells stay opposite.",
      "magic", true, WithPlacesMultiplied},
     {"DiagonalsAsLinesx", "&Diagonals as Lines",
      "Wrapped diagonals become rows and columns, and these become wrapped diagonals: the square "
@@ -109,11 +109,11 @@ const std::array<Relative, 8> kRelatives = {{
      "ring keeps its numbers, so the square stays bordered.",
      "concentric", true, WithRingsExchanged},
     {"AddToAllx", "&Add to All",
-     "One number is added to all: lines of as many cells still add up to the same.", "semi-magic",
-     false, WithNumberAdded},
+     "One number is added to all: lines of equal length that had equal sums still do.",
+     "semi-magic", false, WithNumberAdded},
     {"MultiplyAllx", "&Multiply All",
-     "All numbers are multiplied by one: what added up to the same still does.", "semi-magic",
-     false, WithNumbersMultiplied},
+     "All numbers are multiplied by the same factor: equal sums stay equal.", "semi-magic", false,
+     WithNumbersMultiplied},
 }};
 
 std::optional<Square<double>> DrawRelative(const Relative& relative, const Square<double>& square,

@@ -10,31 +10,31 @@
 
 namespace numorra {
 
-/// A way to make another square of the same kind from a square: its relative.
+/// A way to make a relative of a square: another square of the same kind.
 struct Relative {
   const char* Name;     ///< of its menu item
   const char* Caption;  ///< what the item says
-  const char* Keeps;    ///< one sentence: what is done, and what stays
-  const char* Term;     ///< what a square must be for it
-  bool SameNumbers;     ///< moves the numbers and leaves them as they are
+  const char* Keeps;    ///< one sentence: what changes and what stays
+  const char* Term;     ///< what a square must be
+  bool SameNumbers;     ///< only moves the numbers
 
-  /// A relative at random; nothing where there is none for the order or the numbers.
+  /// A relative at random; nothing if the order or the numbers allow none.
   std::optional<Square<double>> (*Draw)(const Square<double>& square, Random& random);
 };
 
 /// In the order of the menu.
 extern const std::array<Relative, 8> kRelatives;
 
-/// Another square, no image of the given one, of which every term about lines, diagonals, pairs,
-/// blocks, powers and rings holds that holds of it: the first that judges find so among some
-/// relatives at random. Nothing where none is found.
+/// Another square, not an image of the given one, that keeps every term about lines, diagonals,
+/// pairs, blocks, powers and rings that holds for it. Draws relatives at random and returns the
+/// first that the judges confirm; nothing if none is found.
 std::optional<Square<double>> DrawRelative(const Relative& relative, const Square<double>& square,
                                            Random& random);
 
-/// Those that make such squares of this one, to be offered; the same at every call.
+/// The relatives that can be drawn for this square, to offer them; the same at every call.
 std::vector<const Relative*> RelativesOf(const Square<double>& square);
 
-/// The same by any of those that leave the numbers as they are.
+/// A relative drawn in any of the ways that only move the numbers.
 std::optional<Square<double>> VariedWithinKind(const Square<double>& square, Random& random);
 
 }  // namespace numorra

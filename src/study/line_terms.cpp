@@ -29,11 +29,11 @@ Judgement DiagonalsReachTotal(const Facts& facts, const std::vector<Line>& diago
   return Holds({});
 }
 
-/// The largest numbers, in units, of which 50 such powers add up within 64 bits.
+/// The largest numbers, in units, for which a sum of 50 such powers fits into 64 bits.
 constexpr std::int64_t kMostSquared = 400'000'000;
 constexpr std::int64_t kMostCubed = 500'000;
 
-/// Whether all lines of the `exponent`-th powers have the same sum.
+/// Whether the `exponent`-th powers have the same sum in every line.
 Judgement PowersAreMagic(const Facts& facts, int exponent) {
   const std::int64_t most = exponent == 2 ? kMostSquared : kMostCubed;
   const std::string powers = exponent == 2 ? "squares" : "cubes";
@@ -90,7 +90,7 @@ Judgement JudgePandiagonal(const Facts& facts) {
 }
 
 Judgement JudgeSemiPandiagonal(const Facts& facts) {
-  if (facts.N() != 4) return DoesNotApply("it is a term of order 4");
+  if (facts.N() != 4) return DoesNotApply("the term is defined only for order 4");
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const Line falling{Line::Falling, 2};
   const Line rising{Line::Rising, 1};

@@ -79,7 +79,7 @@ std::optional<Square<double>> WithPlacesMultiplied(const Square<double>& square,
   if (factors.empty()) return std::nullopt;
   const int last = static_cast<int>(factors.size()) - 1;
   const int k = factors[static_cast<std::size_t>(random.Between(0, last))];
-  const int shift = k * order - (k - 1) * (order - 1) / 2;  // which leaves the centre in its place
+  const int shift = k * order - (k - 1) * (order - 1) / 2;  // so that the centre stays in its place
   const auto from = [&](int line) { return (k * line + shift) % order; };
   return Moved(square, [&](int i, int j) { return from(i) * order + from(j); });
 }

@@ -8,8 +8,8 @@ namespace {
 
 constexpr int kMostDecimals = 13;
 
-/// The whole number of units of 1 / `one` that `number` is; false when it is none.
-/// Both are exact as doubles, so their quotient is the double nearest to the decimal.
+/// Sets `units` to `number` in units of 1 / `one`; false if that is not a whole number. Both are
+/// exact as doubles, so their quotient is the double nearest to the decimal.
 bool ToUnits(double number, std::int64_t one, std::int64_t& units) {
   const double scaled = std::nearbyint(number * static_cast<double>(one));
   if (!(std::abs(scaled) <= static_cast<double>(NumberSquare::kMostUnits))) return false;

@@ -8,11 +8,10 @@
 
 namespace numorra {
 
-/// A full square of numbers to be studied; cells (i, j) have both indices from 0.
+/// A full square of numbers to study; cells (i, j) have both indices from 0.
 ///
-/// Sums are exact: every number is a whole multiple of one power of ten, its units. Where that
-/// would take more than `kMostUnits` there are no units, and what depends on sums is too large to
-/// say.
+/// Sums are exact: every number is a whole multiple of its unit, a power of ten. If that takes more
+/// than `kMostUnits` units, there are no units, and whatever depends on sums is too large to say.
 class NumberSquare {
  public:
   /// The largest number of units: four sums of 50 of them still fit into 64 bits.
@@ -27,10 +26,10 @@ class NumberSquare {
   const Square<std::int64_t>& Units() const { return units_; }
   std::int64_t Unit(int i, int j) const { return units_[Index(i, j)]; }
 
-  /// How many units make 1.
+  /// The number of units in 1.
   std::int64_t One() const { return one_; }
 
-  /// The decimal that so many units are; of products of `factors` units with `factors` above 1.
+  /// The decimal for `units` units; with `factors` above 1, for products of that many units.
   std::string Shown(std::int64_t units, int factors = 1) const;
 
   int Index(int i, int j) const { return i * Order() + j; }

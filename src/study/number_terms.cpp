@@ -7,8 +7,8 @@
 namespace numorra {
 namespace {
 
-/// Calls visit(begin, end) for each run of equal numbers among the cells in their order, until it
-/// returns true.
+/// Calls visit(begin, end) for each run of equal numbers, in ascending order, until it returns
+/// true.
 template <class Visit>
 void ForEachNumber(const Facts& facts, Visit visit) {
   const auto& numbers = facts.Square.Numbers();
@@ -24,12 +24,12 @@ std::string Times(std::ptrdiff_t times) {
   return times == 2 ? "twice" : std::to_string(times) + " times";
 }
 
-/// The first number that stands more than once.
+/// Finds the first number that occurs more than once.
 Judgement NothingRepeated(const Facts& facts) {
-  Judgement found = Holds("no number stands in it twice");
+  Judgement found = Holds("no number occurs twice");
   ForEachNumber(facts, [&](auto begin, auto end) {
     if (end - begin == 1) return false;
-    found = Fails(facts.NumberIn(*begin) + " stands in it " + Times(end - begin));
+    found = Fails(facts.NumberIn(*begin) + " occurs " + Times(end - begin));
     std::for_each(begin, end, [&](int cell) { found.Cells.push_back(facts.Square.PlaceOf(cell)); });
     return true;
   });
@@ -46,13 +46,13 @@ Judgement JudgeNormal(const Facts& facts) {
   for (const int cell : facts.Ascending) {
     const double number = numbers[cell];
     if (number < 1 || number > count || number != std::floor(number)) {
-      return Fails(facts.NumberAndPlace(cell) + " is none of the numbers " + range,
+      return Fails(facts.NumberAndPlace(cell) + " is not one of the numbers " + range,
                    {facts.Square.PlaceOf(cell)});
     }
     seen[static_cast<std::size_t>(number) - 1] = true;
   }
   const auto missing = std::find(seen.begin(), seen.end(), false);
-  if (missing == seen.end()) return Holds("each of the numbers " + range + " stands in it once");
+  if (missing == seen.end()) return Holds("each of the numbers " + range + " occurs once");
   Judgement repeated = NothingRepeated(facts);
   repeated.Why += ", " + std::to_string(missing - seen.begin() + 1) + " is missing";
   return repeated;
@@ -77,7 +77,7 @@ Judgement JudgeConsecutive(const Facts& facts) {
                facts.Run(units[facts.Ascending.front()], units[facts.Ascending.back()]));
 }
 
-/// Numbers get their ranks, so that what has been seen in a line fits in a table.
+/// Numbers are replaced by their ranks, so that a table can hold what has been seen in a line.
 Judgement JudgeLatin(const Facts& facts) {
   const int n = facts.N();
   Square<int> rank(n);
@@ -98,13 +98,13 @@ Judgement JudgeLatin(const Facts& facts) {
       const int cell = line.Cell(i, n);
       int& seen = seenAt[static_cast<std::size_t>(rank[cell])];
       if (seen >= 0) {
-        return Fails(facts.NumberIn(cell) + " stands in " + NameOf(line, n) + " twice",
+        return Fails(facts.NumberIn(cell) + " occurs twice in " + NameOf(line, n),
                      {facts.Square.PlaceOf(line.Cell(seen, n)), facts.Square.PlaceOf(cell)});
       }
       seen = i;
     }
   }
-  return Holds("each of its " + std::to_string(n) + " numbers stands once in every row and column");
+  return Holds("each of its " + std::to_string(n) + " numbers occurs once in every row and column");
 }
 
 Judgement JudgePrime(const Facts& facts) {

@@ -7,7 +7,7 @@
 namespace numorra {
 namespace {
 
-/// Digits less their middle one, by index.
+/// Digits minus the middle digit, by index.
 using Digits = std::vector<int>;
 
 int Modulo(int number, int n) {
@@ -18,15 +18,15 @@ std::size_t IndexOf(int number, int n) {
   return static_cast<std::size_t>(Modulo(number, n));
 }
 
-/// n/3 of the numbers 1 to (n - 1) / 2, with signs, that add up to 0.
+/// n/3 of the numbers 1 to (n - 1) / 2, with signs so that they add up to 0.
 std::vector<int> ThirdAddingUpToZero(int n, Random& random) {
   const auto third = static_cast<std::size_t>(n / 3);
   return third % 4 == 3 ? AddingUpToZero({1, 2, -3}, 4, 1, third, random)
                         : AddingUpToZero({1, 3, -5, -6, 7}, 8, 1, third, random);
 }
 
-/// The numbers 1 to `most` that are not among `taken`, whatever their signs, with random signs and
-/// in random order.
+/// The numbers 1 to `most` that are not in `taken`, whatever their signs, with random signs and in
+/// random order.
 std::vector<int> Rest(int most, const std::vector<int>& taken, Random& random) {
   std::vector<int> rest;
   for (int number = 1; number <= most; ++number) {
@@ -38,8 +38,8 @@ std::vector<int> Rest(int most, const std::vector<int>& taken, Random& random) {
   return rest;
 }
 
-/// Digits of which those at t and mirror - t add up to 0; with `thirds` each class of indices
-/// modulo 3 does, too. One class is its own mirror image, the others are each other's.
+/// Digits such that those at t and mirror - t add up to 0 and, with `thirds`, each class of indices
+/// modulo 3 does, too. One class is its own mirror image; the other two mirror each other.
 Digits MirroredDigits(int n, int mirror, bool thirds, Random& random) {
   Digits digits(static_cast<std::size_t>(n));
   const int ownClass = Modulo(2 * mirror, 3);
@@ -63,8 +63,8 @@ Digits MirroredDigits(int n, int mirror, bool thirds, Random& random) {
   return digits;
 }
 
-/// Any order of the digits in which each class of indices modulo 3 adds up to 0, where that is
-/// needed.
+/// Any order of the digits; if 3 divides n, one in which each class of indices modulo 3 adds up to
+/// 0.
 Digits NasikDigits(int n, Random& random) {
   const int middle = (n - 1) / 2;
   Digits digits(static_cast<std::size_t>(n));
@@ -102,7 +102,7 @@ Square<double> OddPandiagonal(int order, Random& random) {
   return OddSquare(order, a, NasikDigits(order, random), random);
 }
 
-/// (n - 1 - i, n - 1 - j) takes the index t of A to -3 - t, and that of B to -1 - t.
+/// The cell opposite (i, j) has the index -3 - t in A instead of t, and -1 - t in B.
 Square<double> OddUltramagic(int order, Random& random) {
   const bool thirds = order % 3 == 0;
   const Digits a = MirroredDigits(order, -3, thirds, random);

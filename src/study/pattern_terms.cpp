@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// Whether every cell and its partner add up to the same as the first one and its partner.
+/// Whether every cell and its partner have the same sum as the first cell and its partner.
 template <class PartnerOf>
 Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf partnerOf) {
   if (!facts.Square.HasUnits()) return SumsTooLarge();
@@ -30,7 +30,7 @@ Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf par
   return Holds(which + " add up to " + facts.Shown(wanted), places(0));
 }
 
-/// The k x k square in the middle: whether its lines have one sum, that of its first row.
+/// Whether all lines of the k x k square in the middle add up to the sum of its first row.
 Judgement MiddleIsMagic(const Facts& facts, int k) {
   const int first = (facts.N() - k) / 2;
   const auto& units = facts.Square.Units();
@@ -81,7 +81,7 @@ Judgement JudgeAssociative(const Facts& facts) {
 
 Judgement JudgeComplete(const Facts& facts) {
   const int n = facts.N();
-  if (n % 2 != 0) return DoesNotApply("it is a term of even orders");
+  if (n % 2 != 0) return DoesNotApply("the term is defined only for even orders");
   return PairsAddUp(
       facts, "numbers " + std::to_string(n / 2) + " apart on a wrapped diagonal",
       [&](int i, int j) { return facts.Square.Index((i + n / 2) % n, (j + n / 2) % n); });
@@ -89,7 +89,7 @@ Judgement JudgeComplete(const Facts& facts) {
 
 Judgement JudgeCompact(const Facts& facts) {
   const int n = facts.N();
-  if (n % 2 != 0) return DoesNotApply("it is a term of even orders");
+  if (n % 2 != 0) return DoesNotApply("the term is defined only for even orders");
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const std::string wanted =
       Decimal(4.0 * static_cast<double>(facts.Total) / n / static_cast<double>(facts.Square.One()));
@@ -108,17 +108,18 @@ Judgement JudgeCompact(const Facts& facts) {
       const std::int64_t sum = facts.Square.Unit(i, j) + facts.Square.Unit(i, right) +
                                facts.Square.Unit(below, j) + facts.Square.Unit(below, right);
       if (sum * n == facts.Total * 4) continue;
-      return Fails("the block of 2 x 2 at row " + std::to_string(i + 1) + ", column " +
+      return Fails("the 2 x 2 block at row " + std::to_string(i + 1) + ", column " +
                        std::to_string(j + 1) + " adds up to " + facts.Shown(sum) + ", not " +
                        wanted,
                    placesAt(i, j));
     }
   }
-  return Holds("every wrapped block of 2 x 2 adds up to " + wanted, placesAt(0, 0));
+  return Holds("every wrapped 2 x 2 block adds up to " + wanted, placesAt(0, 0));
 }
 
 Judgement JudgeMostPerfect(const Facts& facts) {
-  if (facts.N() % 4 != 0) return DoesNotApply("it is a term of orders that are multiples of 4");
+  if (facts.N() % 4 != 0)
+    return DoesNotApply("the term is defined only for orders that are multiples of 4");
   return All(facts, {"normal", "compact", "complete"}, Holds("it is normal, compact and complete"));
 }
 
@@ -145,21 +146,22 @@ Judgement JudgeSelfComplementary(const Facts& facts) {
     if (!isComplement(image)) continue;
     return Holds(complement + " gives the square " + NameOfImage(image));
   }
-  return Fails(complement + " gives none of the square's eight images");
+  return Fails(complement + " does not give any of the square's eight images");
 }
 
 Judgement JudgeConcentric(const Facts& facts) {
   constexpr int kSmallestRinged = 5;
-  if (facts.N() < kSmallestRinged) return DoesNotApply("it is a term of orders from 5 on");
+  if (facts.N() < kSmallestRinged)
+    return DoesNotApply("the term is defined only for orders from 5 on");
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   for (int k = facts.N() - 2; k >= kSmallestMiddle; k -= 2) {
     if (Judgement middle = MiddleIsMagic(facts, k); !middle) return middle;
   }
   const int inner = facts.N() - 2;
-  return Holds("every square within, ring by ring, is magic", MiddlePlaces(facts.N(), inner));
+  return Holds("the square inside every ring is magic", MiddlePlaces(facts.N(), inner));
 }
 
-/// Numbers in order, of those that lie within each ring.
+/// Compares the neighbours in ascending order among the numbers inside each ring.
 Judgement JudgeBordered(const Facts& facts) {
   if (Judgement concentric = JudgeConcentric(facts); !concentric) return concentric;
   const int n = facts.N();
@@ -183,8 +185,7 @@ Judgement JudgeBordered(const Facts& facts) {
                    MiddlePlaces(n, n - 2 * ring));
     }
   }
-  return Holds("the numbers of every square within are a run without a gap",
-               MiddlePlaces(n, n - 2));
+  return Holds("the numbers inside every ring are consecutive", MiddlePlaces(n, n - 2));
 }
 
 }  // namespace numorra

@@ -23,7 +23,7 @@ std::uint64_t PowerModulo(std::uint64_t base, std::uint64_t exponent, std::uint6
   return power;
 }
 
-/// With p - 1 = odd x 2^twos: whether base^odd is 1, or squaring it reaches p - 1.
+/// With p - 1 = odd x 2^twos: whether base^odd is 1, or repeated squaring of it reaches p - 1.
 bool PassesStrongTest(std::uint64_t p, std::uint64_t base, std::uint64_t odd, int twos) {
   std::uint64_t power = PowerModulo(base, odd, p);
   if (power == 1) return true;

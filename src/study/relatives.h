@@ -7,17 +7,18 @@
 
 namespace numorra {
 
-/// A member, by lot, of the family of a square: one permutation of its rows and of its columns that
-/// commutes with reversing them, then one of the eight symmetries. Lines, both main diagonals and
-/// opposite cells stay what they are, so a magic or an associative square gives another.
+/// A random member of the square's family: its rows and its columns permuted by one permutation
+/// that commutes with reversal, then one of the eight symmetries. Rows, columns, both main
+/// diagonals and pairs of opposite cells keep their numbers, so a magic or an associative square
+/// stays one.
 ///
-/// There are 2^(n/2) (n/2)! such permutations, the middle line of an odd order staying; a
-/// permutation and its reverse give the same square. It is another square, not an image of this
-/// one, wherever the order (from 4 on) and its numbers allow that; else another image. Nothing
-/// when all its relatives look like itself.
+/// There are 2^(n/2) (n/2)! such permutations, which keep the middle line of an odd order; a
+/// permutation and its reverse give the same square. The result is not an image of the square if
+/// the order (from 4 on) and the numbers allow that, and otherwise another image. Nothing if all
+/// images equal the square.
 std::optional<Square<double>> Varied(const Square<double>& square, Random& random);
 
-/// smallest + largest - number, for each number, as it is shown.
+/// Replaces each number by smallest + largest - number, computed as it is shown.
 Square<double> ComplementOf(const Square<double>& square);
 
 }  // namespace numorra

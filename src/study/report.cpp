@@ -67,7 +67,7 @@ const char* JsonWord(Answer answer) {
   return answer == Answer::Fails ? "false" : "null";
 }
 
-/// {"a": ..., "b": ...} over the properties, with the value that valueOf(judgement) writes.
+/// {"a": ..., "b": ...} for all properties, with the values that valueOf(judgement) writes.
 template <class ValueOf>
 std::string JsonByTerm(const Report& report, ValueOf valueOf) {
   JsonLine json;

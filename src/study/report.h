@@ -8,26 +8,26 @@
 
 namespace numorra {
 
-/// What a term says of a square.
+/// A term and its judgement of a square.
 struct Property {
   const Term* What;
   Judgement Found;
 };
 
-/// A plain fact: "smallest number", "1".
+/// A plain fact: "smallest", "1".
 using Detail = std::pair<std::string, std::string>;
 
-/// What a square is.
+/// All that is known about a square.
 struct Report {
   Square<double> Numbers;
-  std::string Total;                 ///< which most lines share; empty when too large to say
+  std::string Total;                 ///< shared by most lines; empty if too large to say
   std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, fame
   std::vector<Property> Properties;  ///< one for each of Terms()
   Square<double> StandardForm;
-  int Census = 0;  ///< its number among the 880 of order 4; 0 for all others
+  int Census = 0;  ///< its census number of order 4; 0 for all others
 };
 
-/// All there is to say of the square: one pass over all terms.
+/// Studies the square: one pass over all terms.
 Report Study(NumberSquare square);
 
 /// "holds", "fails", "does not apply", "too large to say".
@@ -37,7 +37,7 @@ const char* WordFor(Answer answer);
 /// {"order": 4, "total": 34, "properties": {"magic": true, "compact": null, ...},
 ///  "evidence": {"magic": "...", ...}, "rows": [[16, ...], ...],
 ///  "standard-form": [[1, ...], ...], "census": 175}
-/// A property is null where it does not apply or is too large to say.
+/// A property is null if it does not apply or is too large to say.
 std::string TextOf(const Report& report);
 std::string JsonOf(const Report& report);
 

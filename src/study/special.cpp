@@ -17,12 +17,12 @@ std::string NoneOf(const char* kind, int order, const std::string& why) {
          why;
 }
 
-/// In orders 4k + 2 opposite cells, or wrapped diagonals, settle what a quarter of the numbers add
-/// up to, and it is no whole number (Planck 1919).
+/// In orders 4k + 2, opposite cells or wrapped diagonals fix the sum of a quarter of the numbers,
+/// and this sum is not a whole number (Planck 1919).
 std::string QuarterSum(int order) {
   const double numbers = order * order;
   return "its sums would make a quarter of the numbers add up to " +
-         Decimal(numbers * (numbers + 1) / 8) + ", which is no whole number";
+         Decimal(numbers * (numbers + 1) / 8) + ", which is not a whole number";
 }
 
 bool IsSinglyEven(int order) {
@@ -48,12 +48,14 @@ std::string WhyNotMostPerfect(int order) {
 
 std::string WhyNotUltramagic(int order) {
   if (order == 4) {
-    return NoneOf("ultramagic", order,
-                  "were it pandiagonal, each number would have its partner to 17 two cells on in "
-                  "a diagonal, and not opposite");
+    return NoneOf(
+        "ultramagic", order,
+        "in a pandiagonal one, a number and the one two cells away on a diagonal add up to "
+        "17, and so opposite ones cannot");
   }
   if (WhyNotPandiagonal(order).empty()) return "";
-  return NoneOf("ultramagic", order, "there is no pandiagonal one, as it would have to be");
+  return NoneOf("ultramagic", order,
+                "it would have to be pandiagonal, and no square of this order is");
 }
 
 std::string WhyNotBordered(int order) {
@@ -64,7 +66,7 @@ std::string WhyNotBordered(int order) {
       "there is no magic square of order " + std::to_string(order - 2) + " to put a border around");
 }
 
-/// A relative that keeps the kind, found by as many of them, one after the other.
+/// A relative of the same kind, reached in several random steps.
 Square<double> Related(Square<double> square, Random& random) {
   constexpr int kTimes = 4;
   for (int time = 0; time < kTimes; ++time) {

@@ -8,13 +8,13 @@
 
 namespace numorra {
 
-/// A kind of normal magic square that can be built at every order at which there is one.
+/// A kind of normal magic square that can be built for every order that has one.
 struct SpecialKind {
   const char* Term;
   const char* Name;     ///< of its menu item
   const char* Caption;  ///< what the item says
 
-  /// Why no normal square of this kind has the order, one of 3..50; empty where one has.
+  /// Why no normal square of this kind has the order, one of 3..50; empty if one has.
   std::string (*WhyNone)(int order);
 
   /// Such a square at random.
@@ -24,10 +24,10 @@ struct SpecialKind {
 /// In the order of the menu.
 extern const std::array<SpecialKind, 5> kSpecialKinds;
 
-/// The kind that has this term; null where none has.
+/// The kind with this term; null if there is none.
 const SpecialKind* FindSpecialKind(const std::string& term);
 
-// Each for the orders at which WhyNone says nothing.
+// For the orders for which WhyNone gives no reason.
 Square<double> AssociativeSquare(int order, Random& random);
 Square<double> PandiagonalSquare(int order, Random& random);
 Square<double> MostPerfectSquare(int order, Random& random);

@@ -6,8 +6,8 @@
 
 namespace numorra {
 
-/// A word that the field has for squares, as this program understands it. Authors differ on some:
-/// the definition says what is judged.
+/// A term for squares, as this program defines it. Authors differ on some; the definition says what
+/// is judged.
 struct Term {
   const char* Name;
   const char* Group;
@@ -35,7 +35,7 @@ Judgement JudgeConsecutive(const Facts& facts);
 Judgement JudgeLatin(const Facts& facts);
 Judgement JudgePrime(const Facts& facts);
 
-// Terms of where numbers stand to each other.
+// Terms of the arrangement of the numbers.
 Judgement JudgeAssociative(const Facts& facts);
 Judgement JudgeSelfComplementary(const Facts& facts);
 Judgement JudgeCompact(const Facts& facts);
@@ -45,11 +45,11 @@ Judgement JudgeUltramagic(const Facts& facts);
 Judgement JudgeConcentric(const Facts& facts);
 Judgement JudgeBordered(const Facts& facts);
 
-/// What is said of a square whose sums are too large to be exact.
+/// The judgement of a square whose sums are too large to be exact.
 Judgement SumsTooLarge();
 
-/// The first of the terms `needed`, by name, that does not hold, said as what `facts` lack for the
-/// term; else `reached`. A name that no term has throws std::out_of_range.
+/// The first of the terms `needed`, by name, that does not hold, worded as what is missing;
+/// otherwise `reached`. Throws std::out_of_range for a name that no term has.
 Judgement All(const Facts& facts, std::initializer_list<const char*> needed, Judgement reached);
 
 }  // namespace numorra

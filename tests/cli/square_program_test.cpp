@@ -306,8 +306,8 @@ TEST(SquareProgram, CompletesWhatItReads) {
             std::string::npos);
   EXPECT_EQ(
       RunWith("complete --sum 15.5 --format json", "8 1 .\n. . .\n. . .\n").Out,
-      "{\"answer\": \"none\", \"why\": \"the sum 15.5 is none that whole numbers of 1 or more "
-      "make here\", \"rows\": null, \"second\": null}\n");
+      "{\"answer\": \"none\", \"why\": \"the sum 15.5 is not possible here with whole numbers of "
+      "1 or more\", \"rows\": null, \"second\": null}\n");
   EXPECT_EQ(RunWith("complete", "8 1 6\n3 . 7\n4 . 8\n").Out, "none\n")
       << "the rules are the positive ones unless the numbers are different";
   EXPECT_EQ(RunWith("complete --rules positive --sum 30", "12 . .\n. 10 .\n. . .\n").Status, 0);

@@ -209,7 +209,7 @@ TEST_F(SolveCommandTest, CornerPassesKeepDecimals) {
   Commands.VaryCornerEdges();
   EXPECT_EQ(ShownRows(TheBoard.grid), before);
   EXPECT_EQ(TheDialogs.Take(),
-            Messages{"varied, the board would have numbers of more than 14 digits"});
+            Messages{"the varied board would have numbers with more than 14 digits"});
 }
 
 TEST_F(SolveCommandTest, OffersTheCornersThatFit) {

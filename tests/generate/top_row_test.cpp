@@ -44,7 +44,7 @@ TEST(TopRowCommand, AsksUntilItIsOneAndKeepsWhatMadeASquare) {
       {"1,1,20,1",
        {"no 4x4 square of different numbers has this top row\n"
         "some numbers are repeated"}},
-      {"5,0,0,0", {"no 4x4 square of numbers from 1 on has this top row\nsome numbers are 0"}}};
+      {"5,0,0,0", {"no 4x4 square of positive numbers has this top row\nsome numbers are 0"}}};
   for (const auto& [row, said] : remarks) {
     h.TheDialogs.Texts = {row};
     EXPECT_TRUE(command.Run()) << row;

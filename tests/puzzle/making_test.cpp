@@ -112,9 +112,9 @@ TEST_F(MakingTest, KeepsToTheCluesAndTheSymmetry) {
     return cannot ? cannot->Why : "";
   };
   EXPECT_EQ(why({Grade::Easy, 22}),
-            "from this square a puzzle that is easy needs 23 clues or more");
+            "a puzzle of grade easy from this square needs 23 clues or more");
   EXPECT_EQ(why({Grade::Easy, 29, true}),
-            "symmetric gaps do not leave 29 clues here: try one more or less");
+            "symmetric gaps cannot leave 29 clues here: try one more or one less");
   EXPECT_EQ(why({Grade::Easy, 36}), "a puzzle of this size has fewer than 36 clues");
 }
 

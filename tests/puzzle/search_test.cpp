@@ -281,18 +281,18 @@ TEST(Puzzle, SaysWhatBreaksTheRules) {
                  .Asked = Rules::Positive}),
             "20 in row 1, column 1 is more than the sum leaves for one cell, 13");
   square.Cells[4] = 8;
-  EXPECT_EQ(why(square), "8 in row 2, column 2 stands in row 1, column 1 too");
+  EXPECT_EQ(why(square), "8 in row 2, column 2 is also in row 1, column 1");
   square.Cells[4] = 10;
-  EXPECT_EQ(why(square), "10 in row 2, column 2 is none of the numbers 1 to 9");
+  EXPECT_EQ(why(square), "10 in row 2, column 2 is not one of the numbers 1 to 9");
   square.Total = 16;
-  EXPECT_EQ(why(square), "the sum 16 is not that of the numbers 1 to 9, which is 15");
+  EXPECT_EQ(why(square), "the sum 16 does not fit the numbers 1 to 9, whose lines add up to 15");
   square.Asked = Rules::Positive;
   EXPECT_EQ(why(square), "");
-  EXPECT_EQ(why(square, true), "10 in row 2, column 2 is none of the numbers 1 to 9");
+  EXPECT_EQ(why(square, true), "10 in row 2, column 2 is not one of the numbers 1 to 9");
   square.Cells[4] = 0.5;
-  EXPECT_EQ(why(square), "0.5 in row 2, column 2 is no whole number of 1 or more");
+  EXPECT_EQ(why(square), "0.5 in row 2, column 2 is not a whole number of 1 or more");
   square.Total = 15.5;
-  EXPECT_EQ(why(square), "the sum 15.5 is none that whole numbers of 1 or more make here");
+  EXPECT_EQ(why(square), "the sum 15.5 is not possible here with whole numbers of 1 or more");
 }
 
 TEST(Rules, GiveTheNextNumberAndWhy) {
@@ -303,14 +303,14 @@ TEST(Rules, GiveTheNextNumberAndWhy) {
   };
   const Case cases[] = {
       {"8 1 6 / 3 0 0 / 0 0 0", Grade::Easy,
-       "2 numbers stand in column 1, the total is 15: the last is 4"},
+       "2 numbers are in column 1, the total is 15: the last one is 4"},
       {"8 0 0 / 0 5 0 / 0 0 0", Grade::Easy,
-       "2 numbers stand in the main diagonal that falls, the total is 15: the last is 2"},
+       "2 numbers are in the main diagonal that falls, the total is 15: the last one is 2"},
       {"8 1 0 / 0 0 0 / 0 0 0", Grade::Easy,
-       "2 numbers stand in row 1, the total is 15: the last is 6"},
+       "2 numbers are in row 1, the total is 15: the last one is 6"},
       {"9 0 0 / 0 0 0 / 0 0 0", Grade::Medium, ""},
       {"0 0 0 / 0 0 0 / 0 8 1", Grade::Easy,
-       "2 numbers stand in row 3, the total is 15: the last is 6"},
+       "2 numbers are in row 3, the total is 15: the last one is 6"},
   };
   SilentStage stage;
   for (const Case& c : cases) {
@@ -330,8 +330,8 @@ TEST(Rules, KnowTheLinesOfAKind) {
   Puzzle puzzle = PuzzleFrom("8 0 0 / 0 0 0 / 0 0 0", 15);
   puzzle.Kind = LineKind::Associative;
   EXPECT_EQ(NextDeduction(puzzle, Grade::Easy, stage)->Why,
-            "1 number stands in the pair of row 1, column 1 and row 3, column 3, the total is 10: "
-            "the last is 2");
+            "1 number is in the pair of row 1, column 1 and row 3, column 3, the total is 10: "
+            "the last one is 2");
 }
 
 /// Every step leads to the only solution, and no easier grade would have found one.

@@ -33,7 +33,7 @@ TEST(Special, SaysWhyThereIsNone) {
   }
   EXPECT_EQ(FindSpecialKind("pandiagonal")->WhyNone(6),
             "no pandiagonal normal square has order 6: its sums would make a quarter of the "
-            "numbers add up to 166.5, which is no whole number");
+            "numbers add up to 166.5, which is not a whole number");
 }
 
 /// As many classes as chance has them where all are as likely as each other, less a little: all 48

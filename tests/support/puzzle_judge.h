@@ -96,8 +96,9 @@ inline bool IsDecisive(const Deduction& step) {
                   &rest, &low, &end) == 3) {
     return end == ':' && rest - low == step.Number;
   }
-  const int found = std::sscanf(
-      reason, "needs %lld for its %*d gaps, so it takes %lld to %lld here", &rest, &low, &high);
+  const int found =
+      std::sscanf(reason, "needs %lld for its %*d gaps, so this cell can hold %lld to %lld", &rest,
+                  &low, &high);
   if (found == 2) return step.Number == low;
   return found == 3 && low < high && low <= step.Number && step.Number <= high && high < rest;
 }

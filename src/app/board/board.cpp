@@ -7,7 +7,7 @@
 namespace numorra {
 namespace {
 
-/// Whether a value cell of the shown board is such.
+/// Whether `is` holds for any value cell of the shown board.
 template <class Is>
 bool AnyCell(const Board& board, Is is) {
   bool any = false;
@@ -43,7 +43,7 @@ void Board::SetupBoard() {
   TotalsJudged = false;
   const ScopedFlag busy(BoardBusy);
   const int last = GridSize + 1;
-  grid.Reshape(GridSize + 2, GridSize + 2);  // which leaves every cell in the window's background
+  grid.Reshape(GridSize + 2, GridSize + 2);  // leaves every cell in the window's background
   ForEachCell(GridSize, [this](int row, int column) {
     grid.SetColours(row, column, ColorTable[kCellBackground], ColorTable[kCellText]);
   });

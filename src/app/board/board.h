@@ -10,11 +10,11 @@
 
 namespace numorra {
 
-/// Which squares the program is asked for: the numbers 1 to n x n, or any numbers with a total.
+/// The kind of square to build: the numbers 1 to n x n, or any numbers with a total.
 enum Mode : std::int16_t { ModeVariable = 0, ModeNormal = 1 };
 
-/// The board that every command shares: an n x n block of numbers in a grid of n + 2 lines each
-/// way, with its totals around it.
+/// The board that all commands share: an n x n block of numbers, with its totals around it, in a
+/// grid of (n + 2) x (n + 2) cells.
 ///
 ///     main diagonal | column totals        | other diagonal
 ///     --------------+----------------------+---------------
@@ -28,80 +28,80 @@ struct Board {
   Grid grid;
 
   std::int16_t GridSize = 0;   ///< n: the order of the board in the grid
-  std::int16_t BaseValue = 0;  ///< the cell value of the untouched base board
+  std::int16_t BaseValue = 0;  ///< cell value of the untouched base board
   Mode SolveMode = ModeNormal;
-  Rules Asked = Rules::Normal;  ///< what may stand in the board in the grid
+  Rules Asked = Rules::Normal;  ///< rules of the board in the grid
   CellTable BoardValues;
-  CellTable CellFlags;     ///< one number a cell, for the generators' patterns
-  double TargetTotal = 0;  ///< what every line must add up to
+  CellTable CellFlags;     ///< one number per cell, for the generators' patterns
+  double TargetTotal = 0;  ///< required sum of every line
 
   bool BoardBusy = false;      ///< while SetupBoard runs
   bool TotalsChecked = false;  ///< false before the first totals check and while one runs
   bool CheckRunning = false;   ///< while a totals check runs
-  bool UntouchedBase = false;  ///< the last check found every cell at BaseValue
+  bool UntouchedBase = false;  ///< at the last check, every cell was at BaseValue
   bool NewEntry = false;       ///< the next digit typed replaces the current cell's text
-  bool TotalsJudged = false;   ///< a check has judged the totals of the board in the grid
-  bool WinTold = false;        ///< the player has been congratulated on the board as it stands
+  bool TotalsJudged = false;   ///< a check has judged the totals in the grid
+  bool WinTold = false;        ///< the player has been congratulated on this board
 
-  std::int16_t MarkedRow = -1;  ///< the cell, row or column remembered for a swap; -1 = none
+  std::int16_t MarkedRow = -1;  ///< the cell, row or column marked for a swap; -1 = none
   std::int16_t MarkedCol = -1;
 
-  /// Whether a drawing covers the board. The grid is invisible while one does.
+  /// Whether a drawing covers the board. The grid is then invisible.
   bool OverlayShown = false;
 
-  /// Raised whenever a command shows the board, or a drawing of it, seen before or not.
+  /// Raised whenever a command shows the board or a drawing of it, even if it was shown before.
   std::function<void()> OnShown;
 
-  /// Whether a board of GridSize stands in the grid.
+  /// Whether the grid holds a board of GridSize.
   bool Shown() const { return GridSize > 0 && grid.Rows() == GridSize + 2; }
 
-  /// Whether any cell is a gap, or given.
+  /// Whether any cell is a gap, or a given.
   bool HasGaps() const;
   bool HasGivens() const;
 
   /// Whether the player has typed into the current cell and not yet left it.
   bool Typing() const { return Shown() && TotalsChecked && !NewEntry; }
 
-  /// Whether the main diagonal's total is other than 0: what can be shaded and drawn.
+  /// Whether the main diagonal's total differs from 0: only then can the board be shaded and drawn.
   bool HasTotal() const;
 
-  /// Lets a drawing cover the grid, or shows the grid again.
+  /// Covers the grid with a drawing, or shows the grid again.
   void SetOverlayShown(bool shown);
 
-  /// Makes the grid that of an empty board of GridSize: empty value cells in their colours, the
-  /// frame in the window's own; forgets the marks.
+  /// Makes the grid an empty board of GridSize: empty value cells in their colours, the frame in
+  /// the window's; removes the marks.
   void SetupBoard();
 
-  /// Fills the value block: every cell with `value` in the Variable mode, 1..n x n in reading order
-  /// in the Normal mode. Clears the block's CellFlags.
+  /// Fills the value block: with `value` in the Variable mode, with 1..n x n in reading order in
+  /// the Normal mode. Clears the block's CellFlags.
   void FillBoard(double value);
 
-  /// Stores every total of the value block around it: rows in (r, 0), columns in (0, c), the main
-  /// diagonal in (0, 0), the other one in (0, n + 1) and (n + 1, 0).
+  /// Stores the totals of the value block around it: rows in (r, 0), columns in (0, c), the main
+  /// diagonal in (0, 0), the other diagonal in (0, n + 1) and (n + 1, 0).
   void ComputeTotals();
 
-  /// Computes the totals and writes values and totals into the grid, which takes a drawing away;
+  /// Computes the totals and writes values and totals into the grid, which removes a drawing;
   /// changes no colours.
   void ShowBoard();
 
   /// Computes the totals and writes them into the grid; changes no colours.
   void ShowTotals();
 
-  /// Puts a new board of order `order` with the values of `square` in the grid and in sight, its
-  /// totals uncoloured, its first value cell current.
+  /// Shows a new board of order `order` with the values of `square`: totals uncoloured, the first
+  /// value cell current.
   void ShowSquare(std::int16_t order, double target, Rules rules, const CellTable& square);
 
-  /// Judges every total but (0, 0) wrong.
+  /// Judges every total except (0, 0) as wrong.
   void MarkAllTotalsWrong();
 
-  /// Empties the grid and gives it the shape for GridSize, the bottom row in the window's colour.
+  /// Empties the grid and resizes it for GridSize, with the bottom row in the window's colour.
   void ResizeBoard();
 
-  /// Makes (row, column) current again after a command, or the first value cell when that lies in
-  /// the frame. What was typed there counts as entered.
+  /// Makes (row, column) current again after a command, or the first value cell if that is in the
+  /// frame. Text typed there counts as entered.
   void ReturnTo(int row, int column);
 
-  /// Reads the value block of the grid into BoardValues: what a command works on is what is shown.
+  /// Reads the value block of the grid into BoardValues, so that a command works on what is shown.
   void ReadGrid();
 };
 
@@ -117,7 +117,7 @@ void ForEachCell(int order, Visit visit) {
 /// Stores the totals of the n x n block of `cells` around it, as Board::ComputeTotals does.
 void ComputeTotals(CellTable& cells, int order);
 
-/// The n x n block of `cells`, and a table with the square in its block.
+/// The n x n block of `cells`; and back, a table with the square in its block.
 Square<double> SquareOf(const CellTable& cells, int order);
 CellTable TableOf(const Square<double>& square);
 

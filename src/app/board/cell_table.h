@@ -9,8 +9,8 @@
 namespace numorra {
 
 /// One number for each cell of the grid, addressed like the grid: the value block is rows and
-/// columns 1..n, its totals stand in row 0, column 0 and the corners. Both indices run from 0 to
-/// 52: the largest order, its two frame lines and one to spare; others throw SubscriptOutOfRange.
+/// columns 1..n, its totals are in row 0, column 0 and the corners. Both indices run from 0 to 52
+/// (the largest order, two frame lines and a spare one); others throw SubscriptOutOfRange.
 class CellTable {
  public:
   static constexpr int kSide = kMaxOrder + 3;
@@ -18,7 +18,7 @@ class CellTable {
   double& operator()(int row, int column) { return cells_[Index(row, column)]; }
   double operator()(int row, int column) const { return cells_[Index(row, column)]; }
 
-  /// The row's numbers by column, for loops over a whole block; columns are not checked.
+  /// The row's numbers by column, for loops over a whole block; the column is not checked.
   double* Row(int row) { return &cells_[Index(row, 0)]; }
   const double* Row(int row) const { return &cells_[Index(row, 0)]; }
 

@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-/// A 24-bit colour, or the absence of one: whatever the window shows behind.
+/// A 24-bit colour, or none: the window's own colour.
 struct Colour {
   std::uint8_t Red = 0;
   std::uint8_t Green = 0;
@@ -20,10 +20,10 @@ constexpr Colour Rgb(int red, int green, int blue) {
           static_cast<std::uint8_t>(blue)};
 }
 
-/// The window's own background, whichever theme it has.
+/// The window's background, in any theme.
 inline constexpr Colour kWindowBackground{.SeeThrough = true};
 
-/// What stands where in `ColorTable`.
+/// The indices of `ColorTable`.
 enum ColourUse { kWrongTotal, kRightTotal, kCellBackground, kCellText };
 inline constexpr ColourUse kTotalText = kCellBackground;
 

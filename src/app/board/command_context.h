@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// What every command works on and speaks with.
+/// What every command needs.
 struct CommandContext {
   Board& TheBoard;
   SquareBoxes& Boxes;

@@ -23,7 +23,7 @@ void DecimalSum::Add(double number) {
   const double whole = std::trunc(number);
   whole_ += whole;
   if (number == whole) return;
-  // The decimals that are meant: those behind them are the double's own.
+  // Only the decimals that the number was written with; further ones are the double's rounding.
   int decimals = kDecimals;
   for (double left = std::abs(whole); left >= 10 && decimals > 0; left /= 10)
     --decimals;

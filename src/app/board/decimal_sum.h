@@ -4,10 +4,10 @@
 
 namespace numorra {
 
-/// Adds decimals as one does on paper: 0.1 + 0.2 is 0.3, whatever binary fractions make of it.
+/// Adds decimals as on paper: 0.1 + 0.2 is 0.3, without the errors of binary fractions.
 ///
-/// The digits before the point are added as they are; those behind it as whole numbers of 10^-14.
-/// Exact for numbers of at most 14 digits, as many as a cell takes, and some thousands of them.
+/// Adds the digits before the point as they are, and those after it in units of 10^-14. Exact for
+/// some thousands of numbers of at most 14 digits, as many as a cell takes.
 class DecimalSum {
  public:
   void Add(double number);

@@ -8,7 +8,7 @@
 namespace numorra {
 namespace {
 
-/// Where a cell of a table of so many rows and columns stands in reading order.
+/// The index of a cell in reading order, in a table of rows x columns.
 std::size_t IndexIn(int rows, int columns, int row, int column) {
   if (row < 0 || row >= rows || column < 0 || column >= columns) {
     throw RuntimeError(Fault::SubscriptOutOfRange);
@@ -19,7 +19,7 @@ std::size_t IndexIn(int rows, int columns, int row, int column) {
 
 }  // namespace
 
-// Room for the largest board is taken once, so that no board is lost half way for want of memory.
+// Reserves memory for the largest board, so that no board is lost halfway for lack of it.
 Grid::Grid() {
   cells_.reserve(static_cast<std::size_t>(CellTable::kSide) * CellTable::kSide);
 }

@@ -10,33 +10,33 @@
 
 namespace numorra {
 
-/// What a totals check has found about a total.
+/// The result of a totals check for one total.
 enum class Verdict : std::uint8_t { Unjudged, Right, Wrong };
 
 /// The table on the screen as plain data: what each cell shows, which cell is current, whether the
-/// table is visible. A widget paints it and feeds it; the board's logic fills it.
+/// table is visible. A widget paints it and passes it input; the board's logic fills it.
 ///
-/// Rows and columns count from 0; row 0 and column 0 are fixed, they stay in sight when the rest
-/// scrolls. Every cell is a square of `kCellTwips` and shows its text centred. Cells outside the
-/// table throw SubscriptOutOfRange.
+/// Rows and columns count from 0; row 0 and column 0 are fixed and do not scroll. Every cell is a
+/// square of `kCellTwips` and shows its text centred. Cells outside the table throw
+/// SubscriptOutOfRange.
 class Grid {
  public:
   static constexpr int kCellTwips = 400;  // 1/1440 inch
   static constexpr int kFixedLines = 1;
 
-  /// What one cell is and shows.
+  /// The data of one cell.
   struct Cell {
     std::string Text;
     Colour OwnBackground = kWindowBackground;
     Colour OwnForeground = ColorTable[kCellText];
     bool Shaded = false;  ///< by its value
-    bool Given = false;   ///< a fixed number, which the player cannot change
+    bool Given = false;   ///< a given number, which the player cannot change
     Verdict Judged = Verdict::Unjudged;
 
-    /// Whether a value cell holds no number: nothing, or a sign whose digits are still to come.
+    /// Whether a value cell holds no number: it is empty, or has a sign without digits yet.
     bool IsGap() const { return Text.empty() || Text == "-"; }
 
-    /// The colours that it is shown in: those of its verdict, or else its own.
+    /// The colours that are shown: those of its verdict, or else its own.
     Colour Background() const;
     Colour Foreground() const;
   };
@@ -45,15 +45,15 @@ class Grid {
 
   const Cell& At(int row, int column) const;
 
-  /// Raised before the current cell changes, and after it has, whoever changes it.
+  /// Raised before and after the current cell changes, whatever changes it.
   std::function<void()> OnLeaveCell;
   std::function<void()> OnCellChanged;
 
-  /// Raised when something visible has changed, once until TakeRepaint; never under the lock.
+  /// Raised when something visible has changed; once until TakeRepaint, and never under the lock.
   std::function<void()> OnRepaint;
 
-  /// Gives the table a new shape and empties every cell. The current cell becomes (0, 0) without
-  /// a hook being raised.
+  /// Gives the table a new shape and empties every cell. The current cell becomes (0, 0); no hook
+  /// is raised.
   void Reshape(int rows, int columns);
 
   int Rows() const { return rows_; }
@@ -65,22 +65,22 @@ class Grid {
   Colour Background(int row, int column) const { return At(row, column).Background(); }
   Colour Foreground(int row, int column) const { return At(row, column).Foreground(); }
 
-  /// Gives a cell its plain colours; it is neither shaded nor judged then.
+  /// Gives a cell its plain colours, and removes its shade and its verdict.
   void SetColours(int row, int column, Colour background, Colour foreground);
 
   /// Shades a cell by its value, with text in `ink`.
   void Shade(int row, int column, Colour shade, Colour ink);
   bool Shaded(int row, int column) const { return At(row, column).Shaded; }
 
-  /// Whether a total is right, from which its colours follow.
+  /// Sets the verdict of a total, which sets its colours.
   void Judge(int row, int column, Verdict verdict);
   Verdict VerdictOf(int row, int column) const { return At(row, column).Judged; }
 
   void SetGiven(int row, int column, bool given);
   bool Given(int row, int column) const { return At(row, column).Given; }
 
-  /// The value cells that are pointed at, such as what shows that a square is not magic. A new
-  /// shape forgets them.
+  /// The outlined value cells, such as those that show why a square is not magic. A new shape
+  /// removes the outlines.
   void SetOutlined(std::vector<Place> cells);
   const std::vector<Place>& Outlined() const { return outlined_; }
 
@@ -91,12 +91,12 @@ class Grid {
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
 
-  /// Holds back repainting while on. It does not count: one call with false lifts it however often
-  /// it was taken.
+  /// Holds back repainting while on. Locks are not counted: one call with false releases all of
+  /// them.
   void LockRedraw(bool on);
   bool RedrawLocked() const { return locked_; }
 
-  /// For the painter: what has changed so far is about to be shown.
+  /// For the painter: says that it is about to show all changes so far.
   void TakeRepaint() { repaintWanted_ = false; }
 
  private:
@@ -114,12 +114,12 @@ class Grid {
   bool repaintWanted_ = false;
 };
 
-/// Switches the lock on the table's redrawing.
+/// Switches the table's redraw lock.
 inline void LockGridRedraw(Grid& grid, bool on) {
   grid.LockRedraw(on);
 }
 
-/// Holds the redraw lock for a scope, so that every way out gives it back.
+/// Holds the redraw lock for a scope, and releases it however the scope is left.
 class RedrawLock {
  public:
   explicit RedrawLock(Grid& grid) : grid_(grid) { LockGridRedraw(grid_, true); }

@@ -8,8 +8,8 @@
 
 namespace numorra {
 
-/// A straight line of n cells: a row, a column, or a diagonal, which goes on at the other side of
-/// the square where it leaves it. The i-th cell of line k is
+/// A line of n cells: a row, a column, or a diagonal, which continues on the opposite side when it
+/// leaves the square. The i-th cell of line k is
 ///
 ///     row (k, i)    column (i, k)    falling (i, k + i)    rising (i, k - i)
 ///
@@ -19,23 +19,23 @@ struct Line {
   Direction Way;
   int K;
 
-  /// The index of its i-th cell in reading order, in a square of order n.
+  /// The index of its i-th cell in reading order, in a square of this order.
   int Cell(int i, int n) const;
 };
 
-/// The 2n + 2 lines that a magic square is judged by: rows, columns, both main diagonals.
+/// The 2n + 2 lines that make a square magic: rows, columns, both main diagonals.
 std::vector<Line> MagicLines(int order);
 
-/// The 2n - 2 wrapped diagonals that are no main ones.
+/// The 2n - 2 wrapped diagonals other than the main ones.
 std::vector<Line> BrokenDiagonals(int order);
 
-/// What the line is called: "row 2", "the broken diagonal that falls from row 1, column 3".
+/// The name of the line: "row 2", "the broken diagonal that falls from row 1, column 3".
 std::string NameOf(Line line, int order);
 
-/// Its cells in a square of the order.
+/// The places of its cells in a square of this order.
 std::vector<Place> PlacesOf(Line line, int order);
 
-/// The sum over its cells of valueOf(index).
+/// The sum of valueOf(index) over its cells.
 template <class ValueOf>
 std::int64_t SumOf(Line line, int order, ValueOf valueOf) {
   std::int64_t sum = 0;

@@ -17,7 +17,8 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// How many characters of `text` form a sign, digits and one point; 0 when there is no digit.
+/// The number of leading characters of `text` that form a sign, digits and one point; 0 if there is
+/// no digit.
 std::size_t NumberLength(std::string_view text) {
   std::size_t end = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
   bool point = false;
@@ -40,7 +41,7 @@ double ParseNumber(std::string_view number) {
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value,
                                       std::chars_format::fixed);
   if (result.ec != std::errc::result_out_of_range) return value;
-  // Too close to zero and too far from it are told apart by the digits before the point.
+  // The digits before the point tell underflow from overflow.
   const std::string_view whole = number.substr(0, number.find('.'));
   if (whole.find_first_not_of("-0") == std::string_view::npos) return 0;
   throw RuntimeError(Fault::Overflow);
@@ -81,14 +82,14 @@ double AsShown(double value) {
   const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                      std::chars_format::scientific, kDigitsAfterTheFirst);
   double shown = 0;
-  // The largest numbers of all are rounded up beyond the last one.
+  // Rounding up the largest doubles can exceed the range.
   if (std::from_chars(digits.data(), written.ptr, shown).ec == std::errc()) return shown;
   throw RuntimeError(Fault::Overflow);
 }
 
 std::string Str(double value) {
   const double shown = AsShown(value);
-  if (shown == 0) return " 0";  // also for the negative zero
+  if (shown == 0) return " 0";  // also for negative zero
   std::array<char, 1 + 17 + 330> digits{};
   const auto result =
       std::to_chars(digits.data(), digits.data() + digits.size(), shown, std::chars_format::fixed);

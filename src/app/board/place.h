@@ -20,12 +20,12 @@ Place PlaceAt(std::integral auto index, int order) {
   return {cell / order + 1, cell % order + 1};
 }
 
-/// Where the place comes in reading order, from 0.
+/// The index of the place in reading order, from 0.
 inline std::size_t IndexOf(Place place, int order) {
   return static_cast<std::size_t>((place.Row - 1) * order + place.Column - 1);
 }
 
-/// How the player is told of a cell: "row 1, column 2".
+/// The name of a cell in messages: "row 1, column 2".
 inline std::string NameOf(Place place) {
   return "row " + std::to_string(place.Row) + ", column " + std::to_string(place.Column);
 }

@@ -7,7 +7,7 @@
 namespace numorra {
 namespace {
 
-/// Totals in the window's colours, as before any check.
+/// Shows the totals in the window's colours, as before any check.
 void UnjudgeTotals(Board& board) {
   const int last = board.GridSize + 1;
   for (int line = 0; line <= last; ++line) {
@@ -56,7 +56,7 @@ void Restore(Board& board, const Position& position) {
     board.TotalsChecked = board.TotalsJudged = board.UntouchedBase = false;
     return;
   }
-  board.NewEntry = true;  // what was typed is gone, not to be checked
+  board.NewEntry = true;  // typed text is gone and need not be checked
   const bool reshaped = !board.Shown() || board.GridSize != position.Order();
   board.GridSize = static_cast<std::int16_t>(position.Order());
   board.TargetTotal = position.Target;

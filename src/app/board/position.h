@@ -7,35 +7,34 @@
 
 namespace numorra {
 
-/// All of a board that a player would expect back, in one value: what undo keeps.
-/// The marks, the boxes, the mode, a drawing and the menu's memory of one command are not in it.
+/// Everything about a board that undo brings back, in one value. The marks, the boxes, the mode, a
+/// drawing and the menu's last command are not part of it.
 struct Position {
-  Square<std::string> Texts = {};  ///< of the value cells; an empty one is a gap
-  Square<bool> Givens = {};        ///< empty when there are none
+  Square<std::string> Texts = {};  ///< of the value cells; an empty text is a gap
+  Square<bool> Givens = {};        ///< empty if there are none
   double Target = 0;
   std::int16_t Base = 0;
   Rules Asked = Rules::Normal;
-  bool Checked = false;  ///< a check has been made, so that keys reach the board
+  bool Checked = false;  ///< a check has been made, so keys act on the board
   bool Judged = false;   ///< the totals are coloured
-  bool Typing = false;   ///< the current cell was typed into and not yet left
+  bool Typing = false;   ///< the player has typed into the current cell and not yet left it
   bool WinTold = false;  ///< the player has been congratulated on it
   int Row = 0;           ///< the current cell
   int Column = 0;
 
-  int Order() const { return Texts.Order(); }  ///< 0 where there is no board
+  int Order() const { return Texts.Order(); }  ///< 0 if there is no board
 
   bool operator==(const Position&) const = default;
 };
 
-/// The board as it stands.
+/// The current position of the board.
 Position PositionOf(const Board& board);
 
-/// Shows the board as it stood, recounted without a word where its totals were judged. Shades stay
-/// while the order does; a drawing stays where the board has a total to draw.
+/// Shows the board of a position. If its totals were judged, recounts them without a message.
+/// Shades stay if the order is the same; a drawing stays if the board has a total to draw.
 void Restore(Board& board, const Position& position);
 
-/// Whether a player would call the second a change of the first: another order, target, text or
-/// given.
+/// Whether the second position is a change for the player: another order, target, text or given.
 bool IsChange(const Position& before, const Position& after);
 
 }  // namespace numorra

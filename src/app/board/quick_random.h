@@ -8,12 +8,12 @@
 namespace numorra {
 
 /// Random numbers for inner loops that draw millions of them: the splitmix64 generator (Steele, Lea
-/// and Flood 2014), started once from the program's own source, so that runs repeat from a seed and
-/// end even where that source always returns the same.
+/// and Flood 2014), seeded once from the program's random numbers. So runs repeat from a seed, and
+/// loops end even if those always return the same number.
 class QuickRandom {
  public:
   explicit QuickRandom(Random& random) {
-    constexpr double kStep = 0x1p24;  // the source's numbers are multiples of 2^-24
+    constexpr double kStep = 0x1p24;  // the seed's numbers are multiples of 2^-24
     constexpr int kDraws = 3;
     for (int draw = 0; draw < kDraws; ++draw)
       state_ = state_ * (1U << 24U) + static_cast<std::uint64_t>(random.Next() * kStep);
@@ -28,7 +28,7 @@ class QuickRandom {
     return static_cast<std::uint32_t>((z ^ (z >> 31)) >> 32);
   }
 
-  /// Uniform in 0..count-1, but for a bias of at most count / 2^32.
+  /// Uniform in 0..count-1, except for a bias of at most count / 2^32.
   int Below(int count) {
     return static_cast<int>((std::uint64_t{Next()} * static_cast<std::uint64_t>(count)) >> 32);
   }
@@ -36,10 +36,10 @@ class QuickRandom {
   /// Uniform in [0, 1).
   double Share() { return Next() * 0x1p-32; }
 
-  /// True with a chance as ChanceOf gives it.
+  /// True with a probability that ChanceOf has converted.
   bool Happens(std::uint32_t chance) { return Next() < chance; }
 
-  /// A probability as a share of 2^32; 1 and more as the largest one.
+  /// A probability in units of 2^-32; 1 and above become the largest one.
   static std::uint32_t ChanceOf(double probability) {
     constexpr double kAll = 0x1p32;
     return static_cast<std::uint32_t>(std::fmin(kAll - 1, probability * kAll));

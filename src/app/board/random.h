@@ -22,8 +22,8 @@ class SystemClock : public Clock {
   std::uint64_t NanosecondsSinceMidnight() override;
 };
 
-/// A clock that goes on by one tick at every look, from a start of one's choice, so that a run can
-/// be repeated.
+/// A clock that advances by one tick at every reading, from a chosen start, so that a run can be
+/// repeated.
 class TickingClock : public Clock {
  public:
   explicit TickingClock(std::uint64_t start) : now_(start) {}
@@ -33,15 +33,15 @@ class TickingClock : public Clock {
   std::uint64_t now_;
 };
 
-/// A clock that repeats its run from the seed; the machine's time where there is none.
+/// A clock that repeats a run from the seed; without a seed, the machine's clock.
 std::unique_ptr<Clock> ClockFrom(std::optional<std::uint64_t> seed);
 
-/// Random numbers for the whole program. Tests put in their own.
+/// Random numbers for the whole program. Tests replace them.
 class Random {
  public:
   virtual ~Random() = default;
 
-  /// Starts afresh from the clock. Commands do so right before they draw.
+  /// Reseeds from the clock. Commands do so right before they draw.
   virtual void Reseed() = 0;
 
   /// The next number, uniform in [0, 1), a multiple of 2^-24 (a single-precision number).
@@ -51,7 +51,7 @@ class Random {
   int Between(int low, int high) { return low + static_cast<int>(Next() * (high - low + 1)); }
 };
 
-/// Puts the numbers in random order, every order as likely as the others (Fisher and Yates 1938, in
+/// Puts the numbers in random order, uniform over all orders (Fisher and Yates 1938, in
 /// Durstenfeld's form).
 template <class Number>
 void Shuffle(std::span<Number> numbers, Random& random) {
@@ -61,10 +61,10 @@ void Shuffle(std::span<Number> numbers, Random& random) {
   }
 }
 
-/// The splitmix64 generator (Steele, Lea and Flood 2014), seeded by the clock. The clock's reading
-/// passes through the same mixing before it seeds, as first draws from neighbouring seeds would
-/// otherwise be nearly equal. When the clock stands still between two reseeds the second is nudged
-/// on, so that loops which draw until something differs come to an end on any clock.
+/// The splitmix64 generator (Steele, Lea and Flood 2014), seeded by the clock. The reading is mixed
+/// in the same way before it seeds, because first draws from neighbouring seeds would otherwise be
+/// nearly equal. If the clock has not advanced between two reseeds, the second reading is advanced,
+/// so that loops which draw until something differs end with any clock.
 class ClockSeededRandom final : public Random {
  public:
   explicit ClockSeededRandom(Clock& clock);

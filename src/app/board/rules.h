@@ -2,8 +2,8 @@
 
 namespace numorra {
 
-/// What may stand in a board when its gaps are filled: each of 1 to n x n once, or any whole
-/// numbers of 1 or more. A totals check asks for neither.
+/// The numbers allowed in a board's gaps: each of 1 to n x n once, or any whole numbers of 1 or
+/// more. A totals check requires neither.
 enum class Rules { Normal, Positive };
 
 }  // namespace numorra

@@ -4,7 +4,7 @@
 
 namespace numorra {
 
-/// What can go wrong while a command runs. Each kind has the plain words a player is shown.
+/// The errors of a running command. Each kind has plain words for the player.
 enum class Fault {
   InvalidPropertyValue,
   Overflow,
@@ -18,8 +18,8 @@ enum class Fault {
 /// The words for a fault, such as "Overflow" or "Type mismatch".
 const char* Describe(Fault fault);
 
-/// Ends the running command, never the program: the command runner alone catches it and shows its
-/// words. `what()` is Describe(fault), followed by a detail where one helps.
+/// Ends the running command, never the program: only the command runner catches it and shows its
+/// words. `what()` is Describe(fault), followed by a detail if one helps.
 class RuntimeError : public std::runtime_error {
  public:
   explicit RuntimeError(Fault fault);

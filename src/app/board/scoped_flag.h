@@ -2,7 +2,7 @@
 
 namespace numorra {
 
-/// Holds a flag for a scope, whichever way it is left.
+/// Sets a flag for a scope, however the scope is left.
 class ScopedFlag {
  public:
   explicit ScopedFlag(bool& flag) : flag_(flag) { flag_ = true; }

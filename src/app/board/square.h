@@ -10,8 +10,8 @@
 
 namespace numorra {
 
-/// A square of order x order values, which stand in reading order. A cell is named by its index,
-/// from 0, or by its place.
+/// A square of order x order values, in reading order. A cell is named by its index, from 0, or by
+/// its place.
 template <class T>
 class Square {
  public:
@@ -19,10 +19,10 @@ class Square {
   explicit Square(int order, const T& value = T())
       : order_(order), cells_(static_cast<std::size_t>(order * order), value) {}
 
-  /// `cells`: order x order of them.
+  /// `cells` has order x order values.
   Square(int order, std::vector<T> cells) : order_(order), cells_(std::move(cells)) {}
 
-  /// The same square of another type of values.
+  /// The same square with another type of values.
   template <class U>
   explicit Square(const Square<U>& other)
       : order_(other.Order()), cells_(other.begin(), other.end()) {}

@@ -6,7 +6,7 @@
 namespace numorra {
 namespace {
 
-/// Takes over what the grid shows; whoever was congratulated was so on other numbers.
+/// Reads the grid; if a number has changed, the player can be congratulated again.
 void ReadChanges(Board& board) {
   const CellTable before = board.BoardValues;
   board.ReadGrid();
@@ -15,7 +15,7 @@ void ReadChanges(Board& board) {
   });
 }
 
-/// How many gaps each line has, where its total stands.
+/// The number of gaps of each line, at the position of its total.
 CellTable GapsOf(const Board& board) {
   CellTable gaps;
   ForEachCell(board.GridSize, [&](int row, int column) {

@@ -5,26 +5,26 @@
 
 namespace numorra {
 
-/// What a totals check finds. Repeated, broken and negative numbers are all welcome: a board is
-/// right when every line reaches the target and not every cell is still at the base value. A board
+/// The result of a totals check. Repeated, fractional and negative numbers are allowed: a board is
+/// right if every line reaches the target and not every cell is still at the base value. A board
 /// that has givens is unfinished while it has a gap.
 enum class Finding { UntouchedBase, Unfinished, Right, Wrong };
 
 /// The totals check without its message: reads the grid back into BoardValues, writes every total
-/// and colours it by whether it equals TargetTotal. On a board that has givens, a line with a gap
-/// stays unjudged. The untouched base board gets all totals but (0, 0) marked wrong. Leaves the
-/// current cell at (0, 0), the total coloured last, and the redraw lock lifted.
+/// and colours it by whether it equals TargetTotal. On a board with givens, a line with a gap stays
+/// unjudged. On the untouched base board, all totals except (0, 0) are marked wrong. Leaves the
+/// current cell at (0, 0), the total coloured last, and the redraw lock released.
 Finding Recount(Board& board);
 
-/// The totals check after a player's move: recounts, and congratulates when the board is right,
-/// once on the same numbers. A sign without digits becomes a gap.
+/// The totals check after a player's move: recounts, and congratulates once if the board is right;
+/// after a change of the numbers, it can congratulate again. A sign without digits becomes a gap.
 Finding CheckTotals(Board& board, Dialogs& dialogs);
 
-/// Recounts without a word. The current cell stays, and what was typed into it and not yet left
-/// stays so: it is checked when it is left.
+/// Recounts without a message. The current cell stays, and text typed into it stays unchecked until
+/// the player leaves it.
 void RecountInPlace(Board& board);
 
-/// The same after a change that no player's move made: nothing is done unless an earlier check had
+/// The same after a change that was not a player's move: does nothing unless an earlier check had
 /// coloured the totals.
 void RefreshTotals(Board& board);
 

@@ -4,7 +4,7 @@
 
 namespace numorra {
 
-/// What the player has chosen for squares of any total.
+/// The player's options for squares of any total.
 class BuildOptions {
  public:
   virtual ~BuildOptions() = default;
@@ -13,7 +13,7 @@ class BuildOptions {
   virtual bool LimitToNine() const = 0;
   virtual void UncheckLimit() = 0;
 
-  /// The value wanted at the top left; nothing for any.
+  /// The value wanted at the top left; nothing for any value.
   virtual std::optional<double> Corner() const = 0;
 };
 

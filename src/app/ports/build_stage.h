@@ -6,19 +6,18 @@
 
 namespace numorra {
 
-/// What a build shows of itself: the count label besides the busy pointer.
+/// What a build shows: the count label and the busy pointer.
 class BuildStage : public WorkStage {
  public:
-  /// The count label in the place of the "Auto" button, or the button again.
+  /// Shows the count label in place of the "Auto" button, or the button again.
   virtual void ShowCounter(bool counting) = 0;
 
-  /// The count label's text.
+  /// Sets the text of the count label.
   virtual void ShowCount(const char* text) = 0;
   void ShowCount(std::int32_t count);
 };
 
-/// A stage without an audience: its builds show nothing. They yield where `yielding` does, or not
-/// at all.
+/// A stage that shows nothing. Its builds yield to `yielding`, or not at all.
 class SilentStage : public BuildStage {
  public:
   explicit SilentStage(Yielding* yielding = nullptr) : yielding_(yielding) {}
@@ -35,7 +34,7 @@ class SilentStage : public BuildStage {
   Yielding* yielding_;
 };
 
-/// The count label for a scope.
+/// Shows the count label for a scope.
 class CounterShown {
  public:
   explicit CounterShown(BuildStage& stage) : stage_(stage) { stage_.ShowCounter(true); }

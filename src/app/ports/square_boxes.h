@@ -4,7 +4,7 @@
 
 namespace numorra {
 
-/// The two boxes that say which square is wanted: its size and its sum, as texts.
+/// The two boxes that describe the wanted square: its size and its sum, as texts.
 class SquareBoxes {
  public:
   virtual ~SquareBoxes() = default;

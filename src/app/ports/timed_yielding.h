@@ -6,7 +6,7 @@
 
 namespace numorra {
 
-/// Measures how long something has worked: the time in which it let others run does not count.
+/// Measures the time that something has worked, without the time spent in yields.
 class TimedYielding : public Yielding {
  public:
   explicit TimedYielding(Yielding& yielding) : yielding_(yielding) {}

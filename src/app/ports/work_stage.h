@@ -4,14 +4,14 @@
 
 namespace numorra {
 
-/// Where long work shows that it is under way.
+/// How long work shows that it is running.
 class WorkStage : public Yielding {
  public:
-  /// The busy pointer, or the default one.
+  /// Shows the busy pointer, or the default one.
   virtual void ShowBusy(bool busy) = 0;
 };
 
-/// The busy pointer for a scope.
+/// Shows the busy pointer for a scope.
 class BusyPointer {
  public:
   explicit BusyPointer(WorkStage& stage) : stage_(stage) { stage_.ShowBusy(true); }

@@ -2,16 +2,16 @@
 
 namespace numorra {
 
-/// Thrown out of a yield when something newer has to run. It unwinds to the command runner; long
-/// work is done on values of its own, so nothing has changed by then.
+/// Thrown by a yield when a newer command has to run, and caught by the command runner. Long work
+/// uses values of its own, so nothing has changed by then.
 struct Superseded {};
 
-/// Where long work lets the window live.
+/// Lets long work give way to the window.
 class Yielding {
  public:
   virtual ~Yielding() = default;
 
-  /// Lets pending events run; throws Superseded when the work is to stop.
+  /// Lets pending events run; throws Superseded if the work must stop.
   virtual void Yield() = 0;
 };
 

@@ -59,8 +59,8 @@ TEST_F(FillGapsTest, FillsAndSaysHowManySolutionsThereAre) {
   EXPECT_EQ(slow::WhyNotMagic(ShownRows(board_.grid), 30), "");
   EXPECT_EQ(dialogs_.Take(),
             (Messages{"the board has no gaps to fill", "this is one of several solutions",
-                      "nothing can fill these gaps: 10 in row 2, column 2 is none of the numbers 1 "
-                      "to 9",
+                      "nothing can fill these gaps: 10 in row 2, column 2 is not one of the "
+                      "numbers 1 to 9",
                       "this is one of several solutions"}));
 }
 
@@ -79,8 +79,8 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
             (Messages{"nothing can fill these gaps: 4 in row 2, column 2 cannot stay",
                       "nothing can fill these gaps",
                       "nothing can fill these gaps: column 2 adds up to 10, not 15",
-                      "nothing can fill these gaps: 8 in row 1, column 2 stands in row 1, column 1 "
-                      "too",
+                      "nothing can fill these gaps: 8 in row 1, column 2 is also in row 1, column "
+                      "1",
                       "nothing can fill these gaps: 8 in row 1, column 1, or 2 in row 1, column 3 "
                       "cannot stay"}));
   EXPECT_EQ(At(2, 1), "");

@@ -26,7 +26,7 @@ TEST_F(HintsTest, TellWhereWhyAndWhat) {
   Remark remark = hints_.Next();
   EXPECT_EQ(remark.Text, "look at row 1");
   EXPECT_EQ(remark.Where, (std::vector<Place>{{1, 1}, {1, 2}, {1, 3}}));
-  EXPECT_EQ(hints_.Next().Text, "2 numbers stand in row 1, the total is 15: the last is 6");
+  EXPECT_EQ(hints_.Next().Text, "2 numbers are in row 1, the total is 15: the last one is 6");
   EXPECT_EQ(At(1, 3), "");
   EXPECT_EQ(hints_.Next().Text, "6 is in row 1, column 3");
   EXPECT_EQ(At(1, 3), "6");
@@ -41,7 +41,7 @@ TEST_F(HintsTest, TellWhereWhyAndWhat) {
   Read(". 12 . .\n2 13 . .\n14 1 . .\n. 8 5 .");
   hints_.Next();
   EXPECT_EQ(hints_.Next().Text,
-            "16 can stand in row 2, column 3 alone: the lines of every other gap rule it out");
+            "16 fits only row 2, column 3: the lines of every other gap rule it out");
 }
 
 TEST_F(HintsTest, PointAtWhatCannotStay) {
@@ -56,7 +56,7 @@ TEST_F(HintsTest, PointAtWhatCannotStay) {
   Type(1, 1, "6");
   EXPECT_EQ(Check(), "all entries can stay");
   Type(1, 1, "5");
-  EXPECT_EQ(Check(), "5 in row 1, column 1 stands in row 2, column 2 too") << "a given is right";
+  EXPECT_EQ(Check(), "5 in row 1, column 1 is also in row 2, column 2") << "a given is right";
   Read("8 1 6\n3 5 7\n2 9 4");
   EXPECT_EQ(hints_.Next().Text, "not all lines of the board are right");
 }

@@ -94,7 +94,7 @@ TEST_F(StudyCommands, LayOutSquaresOfTheSizeBox) {
         std::pair{"51", "grid size should be 50x50 or smaller"},
         std::pair{"6",
                   "no pandiagonal normal square has order 6: its sums would make a quarter of "
-                  "the numbers add up to 166.5, which is no whole number"}}) {
+                  "the numbers add up to 166.5, which is not a whole number"}}) {
     boxes_.SizeText = size;
     EXPECT_FALSE(LayOutSpecial(*FindSpecialKind("pandiagonal"), context_));
     EXPECT_EQ(dialogs_.Take(), Messages{message});
