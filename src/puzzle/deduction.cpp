@@ -151,7 +151,7 @@ std::optional<Deduction> OnePossibility(const Puzzle& puzzle, Grade grade) {
                        ": the lines of every other gap rule it out"};
 }
 
-/// A gap of which all candidates but one lead to a contradiction.
+/// A gap where all candidates but one lead to a contradiction.
 std::optional<Deduction> Tried(const Puzzle& puzzle, Yielding& yielding) {
   constexpr std::int64_t kMostTried = 12;
   Candidates board(puzzle);

@@ -21,7 +21,7 @@ struct Deduction {
 
 /// The next number that follows by the rules of a grade, using the easiest rule that gives one;
 /// nothing if no rule does, or if the numbers contradict each other. Expert tries numbers: it finds
-/// a gap of which all candidates but one lead to a contradiction by the hard rules.
+/// a gap where all candidates but one lead to a contradiction by the hard rules.
 ///
 /// Yields at every trial; an exception thrown by the yield ends the search.
 std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yielding& yielding);

@@ -21,7 +21,7 @@ struct PairedPlace {
 /// sum of the lines' distances from 0. A step exchanges two neighbouring sizes and keeps the signs
 /// in place, exchanges the numbers of any two places, or turns a sign. The walk stops at a way of
 /// cost 0 with a small chance per step, so each is chosen in proportion to the time spent there,
-/// which in the long run is the same for all. It runs until it stops: such numbers must exist.
+/// which in the long run is the same for all. It does not give up, so such numbers must exist.
 ///
 /// `temperature` is in units of the sizes: low for many and long lines.
 std::vector<int> BalancedPairs(const std::vector<PairedPlace>& places,

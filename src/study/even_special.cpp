@@ -5,8 +5,8 @@
 namespace numorra {
 namespace {
 
-/// One auxiliary square: a sign for each line, and for each crossing line a digit, doubled and less
-/// n - 1.
+/// One auxiliary square: a sign for each line, and for each crossing line a digit, doubled and
+/// minus n - 1.
 struct Auxiliary {
   std::vector<int> Signs;
   std::vector<int> Digits;

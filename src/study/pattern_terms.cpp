@@ -118,8 +118,9 @@ Judgement JudgeCompact(const Facts& facts) {
 }
 
 Judgement JudgeMostPerfect(const Facts& facts) {
-  if (facts.N() % 4 != 0)
+  if (facts.N() % 4 != 0) {
     return DoesNotApply("the term is defined only for orders that are multiples of 4");
+  }
   return All(facts, {"normal", "compact", "complete"}, Holds("it is normal, compact and complete"));
 }
 
@@ -151,8 +152,9 @@ Judgement JudgeSelfComplementary(const Facts& facts) {
 
 Judgement JudgeConcentric(const Facts& facts) {
   constexpr int kSmallestRinged = 5;
-  if (facts.N() < kSmallestRinged)
+  if (facts.N() < kSmallestRinged) {
     return DoesNotApply("the term is defined only for orders from 5 on");
+  }
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   for (int k = facts.N() - 2; k >= kSmallestMiddle; k -= 2) {
     if (Judgement middle = MiddleIsMagic(facts, k); !middle) return middle;

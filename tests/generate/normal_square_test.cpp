@@ -75,7 +75,7 @@ TEST(NormalSquare, TurnsDoublyEvenSquaresFurtherAtEveryRun) {
   for (int run = 1; run <= 5; ++run) {
     RotateBoard90(expected, 4);
     EXPECT_EQ(RowsOf(generator.Build(4), 4), RowsOf(expected, 4)) << run;
-    EXPECT_EQ(stage.Count, std::to_string(17 * run)) << "the counter goes on";
+    EXPECT_EQ(stage.Count, std::to_string(17 * run)) << "the count continues";
   }
 }
 

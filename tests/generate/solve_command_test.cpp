@@ -130,7 +130,7 @@ TEST_F(SolveCommandTest, SolveAgainFollowsTheLastPlanWhateverTheBoxesSay) {
   EXPECT_EQ(std::count(said.begin(), said.end(), low), 0) << "nothing of ten tries stays";
   dull_.Again();
   EXPECT_EQ(TheDialogs.Take(), Messages{low});
-  EXPECT_EQ(WhyNotMagicNow(8), "") << "a failed try stands as it is, without a question";
+  EXPECT_EQ(WhyNotMagicNow(8), "") << "a failed try stays, without a question";
   EXPECT_EQ(TheBoard.TargetTotal, 8);
 }
 
@@ -167,7 +167,7 @@ TEST_F(SolveCommandTest, CornerPassesVaryTheBoardOnTheScreen) {
   Commands.VaryCornerDiagonals();
   const auto once = ShownRows(TheBoard.grid);
   EXPECT_NE(once, before);
-  EXPECT_EQ(std::stoi(Stage.Count), std::stoi(count) + 2 * 3) << "the count goes on";
+  EXPECT_EQ(std::stoi(Stage.Count), std::stoi(count) + 2 * 3) << "the count continues";
   Commands.VaryCornerEdges();
   EXPECT_NE(ShownRows(TheBoard.grid), once);
   EXPECT_EQ(WhyNotMagicNow(450), "");

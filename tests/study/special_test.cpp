@@ -54,9 +54,9 @@ TEST(Special, IsDrawnFromMany) {
     EXPECT_GE(ClassesIn(c.Draws, c.Term, c.Order, random), c.Classes) << c.Term << c.Order;
 }
 
-/// The rings of order 5, counted by what stands in the top row and the left column, less 13: five
-/// each of the numbers from 5 to 12, with signs, that add up to 0. With the eight images of the
-/// square within, that is also the number of squares up to images.
+/// The number of rings of order 5, by the top row and the left column, minus 13: each has five of
+/// the numbers from 5 to 12, with signs, that add up to 0. With the eight images of the inner
+/// square, this is also the number of squares up to images.
 std::size_t RingsOfOrder5() {
   std::size_t rings = 0;
   int sizes[] = {5, 6, 7, 8, 9, 10, 11, 12};
