@@ -40,7 +40,7 @@ void PrintDraws(const char* what, int order, const std::function<Numbers()>& dra
   for (const Numbers& square : squares)
     classes.try_emplace(StandardForm(square));
   for (auto& [form, kind] : classes) {
-    const Facts facts(NumberSquare(form));
+    const Facts facts{NumberSquare(form)};
     for (const SpecialKind& special : kSpecialKinds) {
       if (All(facts, {special.Term}, Holds(""))) ++kinds[special.Term];
     }

@@ -21,4 +21,16 @@ std::variant<StoredSquare, Unreadable> ReadSquare(const std::string& text, std::
   return Of(SquareFormat::Text).Read(text, firstLine);
 }
 
+std::string FormatNames(bool answersAlone, const std::string& between,
+                        const std::string& beforeLast) {
+  std::vector<std::string> names;
+  for (const Format& format : kFormats) {
+    if (format.ForAnswers || !answersAlone) names.emplace_back(format.Name);
+  }
+  std::string text = names[0];
+  for (std::size_t i = 1; i < names.size(); ++i)
+    text += (i + 1 < names.size() ? between : beforeLast) + names[i];
+  return text;
+}
+
 }  // namespace numorra

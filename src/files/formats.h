@@ -47,4 +47,8 @@ std::optional<SquareFormat> FormatNamed(std::string_view name);
 std::variant<StoredSquare, Unreadable> ReadSquare(const std::string& text,
                                                   std::size_t firstLine = 1);
 
+/// The names of all formats, or only of those for answers: "text, csv or json".
+std::string FormatNames(bool answersAlone, const std::string& between,
+                        const std::string& beforeLast);
+
 }  // namespace numorra

@@ -21,8 +21,8 @@ std::int64_t Luby(std::int64_t i) {
 /// The number of local search steps worth one node of the complete search: the more gaps, the
 /// longer the rules take and the less they find.
 std::int64_t StepsOfNode(std::int64_t gaps) {
-  constexpr std::int64_t kGapPairsOfStep = 10;
-  return 1 + gaps * gaps / kGapPairsOfStep;
+  constexpr std::int64_t kGapTriplesOfStep = 5000;
+  return 1 + gaps * gaps * gaps / kGapTriplesOfStep;
 }
 
 class Search : private SearchWatcher {
@@ -44,7 +44,7 @@ class Search : private SearchWatcher {
   }
 
   SearchResult Run() {
-    constexpr double kShareOfFirst = 0.2;
+    constexpr double kShareOfFirst = 0.1;
     constexpr std::int64_t kRestart = 150;
     if (puzzle_.Asked == Rules::Normal) {
       const std::string why = WhyNoneOfKind(puzzle_.Kind, puzzle_.Order());

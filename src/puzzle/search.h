@@ -32,8 +32,8 @@ using SearchResult = std::variant<OneSolution, SeveralSolutions, NoSolution, Not
 std::string WhyOpen(const NotSettled& open, double seconds);
 
 /// When a search gives up. `Seconds` counts the time worked, without yields. A search limited in
-/// `Nodes` is repeatable with the same random numbers; with g gaps left by the rules, g * g / 10 +
-/// 1 steps of the local search count as a node.
+/// `Nodes` is repeatable with the same random numbers; with g gaps left by the rules,
+/// 1 + g * g * g / 5000 steps of the local search count as a node.
 struct SearchLimit {
   std::optional<double> Seconds = {};
   std::optional<std::int64_t> Nodes = {};
@@ -41,7 +41,7 @@ struct SearchLimit {
 
 /// Finds up to two solutions of a puzzle.
 ///
-/// The rules come first (Candidates). Then a complete search takes a fifth of the limit in one
+/// The rules come first (Candidates). Then a complete search takes a tenth of the limit in one
 /// piece and the rest in restarts, whose lengths in nodes follow Luby's sequence (Luby, Sinclair
 /// and Zuckerman 1993). If it finishes, it has found all solutions. Under the normal rules it takes
 /// turns with a local search: after a head start of the complete search, which settles most small
