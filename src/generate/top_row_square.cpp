@@ -18,9 +18,9 @@ constexpr int kSteps = 4096;  // of the search between two yields
 
 /// The search for one quality. Cells are placed in an order that decides each as early as possible;
 /// `cells_` holds those placed so far.
-class Search {
+class TopRowSearch {
  public:
-  Search(const TopRow& top, TopRowQuality quality, Random& random, Yielding& yielding)
+  TopRowSearch(const TopRow& top, TopRowQuality quality, Random& random, Yielding& yielding)
       : lowest_(quality == TopRowQuality::WithZeros ? 0 : 1),
         different_(quality <= TopRowQuality::Different),
         random_(random),
@@ -180,7 +180,7 @@ std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,
   for (const auto quality : {TopRowQuality::AllNew, TopRowQuality::Different,
                              TopRowQuality::Repeated, TopRowQuality::WithZeros}) {
     random.Reseed();
-    if (auto square = Search(top, quality, random, yielding).Run()) {
+    if (auto square = TopRowSearch(top, quality, random, yielding).Run()) {
       return TopRowSquare{*square, total, quality};
     }
   }

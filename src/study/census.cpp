@@ -22,7 +22,7 @@ constexpr Step kSteps[] = {{0, {}}, {3, {}},          {12, {}},        {15, {0, 
                            {1, {}}, {2, {0, 1, 3}},   {13, {1, 5, 9}}, {14, {2, 6, 10}},
                            {4, {}}, {8, {0, 4, 12}},  {7, {4, 5, 6}},  {11, {8, 9, 10}}};
 
-class Search {
+class CensusSearch {
  public:
   std::vector<Square4> Run() {
     Settle(0);
@@ -72,7 +72,7 @@ class Search {
 }  // namespace
 
 const std::vector<Square4>& SquaresOfOrder4() {
-  static const std::vector<Square4> squares = Search().Run();
+  static const std::vector<Square4> squares = CensusSearch().Run();
   return squares;
 }
 

@@ -204,7 +204,7 @@ TEST_F(SearchTest, FillsLargeBoards) {
     for (int i = 0; i < 9; ++i)
       clues.Cells[i / 3 * order + i % 3] = i + 1;
     for (const Puzzle& puzzle : {clues, WithGaps(Bordered(order, random_), 40, random_)}) {
-      const SearchResult result = Find(puzzle, 50'000);
+      const SearchResult result = Find(puzzle, 200'000);
       const auto* several = std::get_if<SeveralSolutions>(&result);
       ASSERT_TRUE(several) << order;
       for (const Puzzle& solved : {several->First, several->Second}) {
