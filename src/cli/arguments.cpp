@@ -10,7 +10,7 @@
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
-#include "puzzle/deduction.h"
+#include "puzzle/grade.h"
 
 namespace numorra {
 namespace {
@@ -251,7 +251,7 @@ class Reader {
 
   void GradeOption() {
     const auto grade = GradeNamed(Value());
-    if (!grade) Fail("the grade must be easy, medium, hard or expert");
+    if (!grade) Fail("the grade must be easy, medium, hard, expert or extreme");
     request_.Wanted = grade.value_or(Grade::Easy);
   }
 

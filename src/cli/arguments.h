@@ -9,7 +9,8 @@
 #include "app/board/rules.h"
 #include "files/formats.h"
 #include "generate/top_row_square.h"
-#include "puzzle/candidates.h"
+#include "puzzle/grade.h"
+#include "puzzle/kind_lines.h"
 #include "study/special.h"
 
 namespace numorra {

@@ -6,8 +6,8 @@
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
 #include "cli/write_puzzle.h"
-#include "puzzle/deduction.h"
 #include "puzzle/fresh_puzzle.h"
+#include "puzzle/grade.h"
 #include "puzzle/making.h"
 
 namespace numorra {

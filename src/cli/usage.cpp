@@ -88,7 +88,7 @@ puzzle makes squares with gaps that have one solution. Their codes, up to size
 20, are read by study, complete and the window.
 
   --size N                 the number of cells on a side
-  --grade easy|medium|hard|expert
+  --grade easy|medium|hard|expert|extreme
                            the hardest rule that it needs
   --clues K                how many numbers are given; by default as few as possible
   --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more

@@ -3,55 +3,14 @@
 #include <algorithm>
 #include <vector>
 
-#include "puzzle/deduction.h"
+#include "puzzle/rating.h"
 #include "puzzle/search.h"
+#include "puzzle/trials.h"
 
 namespace numorra {
 namespace {
 
 constexpr int kDiggings = 20;  // attempts to reach a grade or a number of clues
-
-/// Whether filling the last gap of a line repeatedly fills the board. For puzzles that have a
-/// solution, so that each of these numbers fits.
-bool EasyRulesSolve(const Puzzle& puzzle) {
-  const LineMap& map = LineMap::Of(puzzle.Order(), puzzle.Kind);
-  const auto at = [](int index) { return static_cast<std::size_t>(index); };
-  std::vector<int> open(at(map.Lines()));
-  std::vector<char> isGap(at(puzzle.Cells.Size()));
-  int gaps = 0;
-  for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
-    if (puzzle.Cells[cell] != 0) continue;
-    isGap[at(cell)] = 1;
-    ++gaps;
-    for (const int line : map.LinesOf(cell))
-      ++open[at(line)];
-  }
-  std::vector<int> waiting;
-  for (int line = 0; line < map.Lines(); ++line) {
-    if (open[at(line)] == 1) waiting.push_back(line);
-  }
-  while (!waiting.empty()) {
-    const int last = waiting.back();
-    waiting.pop_back();
-    if (open[at(last)] != 1) continue;
-    for (const int cell : map.CellsOf(last)) {
-      if (isGap[at(cell)] == 0) continue;
-      isGap[at(cell)] = 0;
-      --gaps;
-      for (const int line : map.LinesOf(cell)) {
-        if (--open[at(line)] == 1) waiting.push_back(line);
-      }
-      break;
-    }
-  }
-  return gaps == 0;
-}
-
-bool RulesSolve(const Puzzle& puzzle, Grade grade) {
-  if (grade == Grade::Easy) return EasyRulesSolve(puzzle);
-  Candidates board(puzzle);
-  return board.Propagate(grade) && board.Solved();
-}
 
 class Digger {
  public:
@@ -61,15 +20,20 @@ class Digger {
   MadePuzzle Dig() {
     Puzzle puzzle = square_;
     const Grade rules = std::min(wish_.Wanted, Grade::Hard);
-    const auto solvedByRules = [&](const Puzzle& dug) { return RulesSolve(dug, rules); };
+    const auto solvedByRules = [&](const Puzzle& dug, const auto&) {
+      return RulesSolve(dug, rules);
+    };
     Remove(puzzle, solvedByRules);
     if (wish_.Wanted == Grade::Expert) {
-      Remove(puzzle, [&](const Puzzle& dug) {
+      Remove(puzzle,
+             [&](const Puzzle& dug, const auto& cells) { return TrialsReturn(dug, cells); });
+    } else if (wish_.Wanted == Grade::Extreme) {
+      Remove(puzzle, [&](const Puzzle& dug, const auto&) {
         return std::holds_alternative<OneSolution>(
-            Solve(dug, {.Nodes = kExpertNodes}, random_, yielding_));
+            Solve(dug, {.Nodes = kExtremeNodes}, random_, yielding_));
       });
     }
-    return {puzzle, square_, GradeOf(puzzle)};
+    return {puzzle, square_, GradeOf(puzzle, yielding_)};
   }
 
   /// Returns numbers to the puzzle until it has `clues` clues; false if symmetry skips that number.
@@ -84,7 +48,7 @@ class Digger {
         Puzzle more = made.Clues;
         for (const int cell : cells)
           more.Cells[cell] = square_.Cells[cell];
-        const Grade grade = GradeOf(more);
+        const Grade grade = GradeOf(more, yielding_);
         if (keepGrade && grade != made.Needed) continue;
         made.Clues = std::move(more);
         made.Needed = grade;
@@ -110,6 +74,15 @@ class Digger {
     return together;
   }
 
+  /// Whether hard rules and trials of the removed cells alone find their numbers again. The puzzle
+  /// then stays solvable: it was so before they were removed.
+  bool TrialsReturn(const Puzzle& dug, const std::vector<int>& cells) {
+    Candidates board(dug);
+    Trials trials(board, kMostTrials, yielding_);
+    return trials.Run(cells) && std::all_of(cells.begin(), cells.end(),
+                                            [&](int cell) { return board.Value(cell) != 0; });
+  }
+
   /// Removes numbers as long as the puzzle stays solvable.
   template <class IsSolvable>
   void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
@@ -118,7 +91,7 @@ class Digger {
       yielding_.Yield();
       for (const int cell : cells)
         puzzle.Cells[cell] = 0;
-      if (isSolvable(puzzle)) continue;
+      if (isSolvable(puzzle, cells)) continue;
       for (const int cell : cells)
         puzzle.Cells[cell] = square_.Cells[cell];
     }
@@ -131,13 +104,6 @@ class Digger {
 };
 
 }  // namespace
-
-Grade GradeOf(const Puzzle& puzzle) {
-  for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard}) {
-    if (RulesSolve(puzzle, grade)) return grade;
-  }
-  return Grade::Expert;
-}
 
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
                                                 Random& random, Yielding& yielding) {

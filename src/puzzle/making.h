@@ -6,7 +6,8 @@
 
 #include "app/board/random.h"
 #include "app/ports/yielding.h"
-#include "puzzle/candidates.h"
+#include "puzzle/grade.h"
+#include "puzzle/puzzle.h"
 
 namespace numorra {
 
@@ -35,20 +36,19 @@ struct CannotMake {
   std::string Why;
 };
 
-/// Nodes searched for each clue that might be removed from an expert puzzle.
-inline constexpr std::int64_t kExpertNodes = 200;
+/// Nodes searched for each clue that might be removed from an extreme puzzle.
+inline constexpr std::int64_t kExtremeNodes = 200;
 
 /// Makes a puzzle from a full square. Removes numbers in random order as long as the rules of the
-/// grade alone still solve the board, which proves that it has one solution; for expert puzzles, a
-/// search limited in nodes then proves further removals. After that no clue can be spared. If more
-/// clues are wanted, numbers are returned, first those that do not change the grade.
+/// grade alone still solve the board, which proves that it has one solution. For expert puzzles,
+/// the hard rules come first; then further numbers are removed if trials of the new gaps, together
+/// with the hard rules, find them again. For extreme puzzles, a search limited in nodes proves
+/// further removals. After that no clue can be spared in the same way. If more clues are wanted,
+/// numbers are returned, first those that do not change the grade.
 ///
 /// The grade of the result is the hardest rule that it needs. Several orders are tried until one
 /// gives the wanted grade; if none does, the hardest puzzle found is returned.
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
                                                 Random& random, Yielding& yielding);
-
-/// The easiest grade whose rules solve the puzzle; expert if none does.
-Grade GradeOf(const Puzzle& puzzle);
 
 }  // namespace numorra

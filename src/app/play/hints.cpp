@@ -6,7 +6,7 @@
 #include "app/board/totals_check.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
-#include "puzzle/making.h"
+#include "puzzle/rating.h"
 
 namespace numorra {
 namespace {
@@ -171,7 +171,7 @@ Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage) {
                 [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
     RefreshTotals(board);  // lines with gaps are now unfinished
     if (std::holds_alternative<OneSolution>(result)) {
-      return {"one solution, " + std::string(NameOf(GradeOf(puzzle)))};
+      return {"one solution, " + std::string(NameOf(GradeOf(puzzle, stage)))};
     }
     if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
     if (!several) return {WhyOpen(std::get<NotSettled>(result), kFirstSearch)};

@@ -2,7 +2,7 @@
 
 #include <QFormLayout>
 
-#include "puzzle/deduction.h"
+#include "puzzle/grade.h"
 #include "toolkit/named.h"
 
 namespace numorra {
@@ -13,7 +13,7 @@ PuzzleWishBox::PuzzleWishBox(QWidget* parent)
       fewest_(Named("FewestCluesx", new QCheckBox("&as few as possible"))),
       clues_(Named("CluesBox", new QSpinBox)),
       symmetric_(Named("SymmetricGapsx", new QCheckBox("gaps &opposite each other"))) {
-  for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert})
+  for (const Grade grade : kGrades)
     grade_->addItem(NameOf(grade));
   fewest_->setChecked(true);
   clues_->setEnabled(false);
