@@ -41,6 +41,7 @@ class RefusedMemory : public PlayTest {
         const bool all = granted >= 0;
         granted = -1;
         EXPECT_TRUE(all);
+        dialogs_.Take();
         return refused;
       } catch (const std::bad_alloc&) {
         granted = -1;
