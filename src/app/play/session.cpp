@@ -90,6 +90,11 @@ void Session::CheckTheTotals() {
   RecountInPlace(TheBoard);
 }
 
+void Session::SetQuietTotals(bool quiet) {
+  TheBoard.QuietTotals = quiet;
+  if (TheBoard.Shown() && TheBoard.TotalsJudged) RecountInPlace(TheBoard);
+}
+
 void Session::LayOut(const StoredSquare& square) {
   numorra::LayOut(TheBoard, ports_->Boxes, square);
 }

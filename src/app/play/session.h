@@ -80,6 +80,9 @@ class Session {
   /// Counts and colours the totals of the board without a message; after that it can be played.
   void CheckTheTotals();
 
+  /// Whether totals say nothing before the board is full.
+  void SetQuietTotals(bool quiet);
+
   /// Shows a square with LayOut; tells the player why a text is not a square, and then changes
   /// nothing.
   void LayOut(const StoredSquare& square);
