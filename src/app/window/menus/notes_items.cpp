@@ -1,6 +1,7 @@
 #include "app/window/menus/notes_items.h"
 
-#include "app/play/puzzle_aids.h"
+#include <utility>
+
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
 
@@ -50,14 +51,13 @@ void NotesItems::ShowState() {
   ShowMissing();
 }
 
-/// A number that is being typed neither brings the panel nor takes it away.
+/// A number that is being typed neither brings the panel nor takes it away. Walks hide it.
 void NotesItems::ShowMissing() {
-  MissingNumbers& panel = *desk_.Place.Missing;
-  NumbersToPlace numbers = NumbersToPlaceOn(desk_.TheBoard());
-  const bool puzzle = !numbers.Numbers.empty();
-  if (desk_.TheBoard().Typing() && panel.isHidden() == puzzle) return;
-  if (desk_.Place.Walking()) numbers = {};
-  panel.Show(numbers, desk_.TheSession.Noting().TakingNotes());
+  NumbersToPlace now = NumbersToPlaceOn(desk_.TheBoard());
+  const bool changes = now.Numbers.empty() != missing_.Numbers.empty();
+  if (!changes || !desk_.TheBoard().Typing()) missing_ = std::move(now);
+  desk_.Place.Missing->Show(desk_.Place.Walking() ? NumbersToPlace() : missing_,
+                            desk_.TheSession.Noting().TakingNotes());
 }
 
 }  // namespace numorra

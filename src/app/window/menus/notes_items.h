@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QObject>
 
+#include "app/play/puzzle_aids.h"
 #include "app/window/menus/desk.h"
 
 namespace numorra {
@@ -29,6 +30,7 @@ class NotesItems : public QObject {
   QAction* fill_;
   QAction* clear_;
   QAction* back_;
+  NumbersToPlace missing_;  ///< as the panel shows them
 };
 
 }  // namespace numorra
