@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "puzzle/code.h"
-#include "puzzle/deduction.h"
+#include "puzzle/grade.h"
 
 namespace numorra {
 

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
+#include "puzzle/candidates.h"
 #include "puzzle/code.h"
-#include "puzzle/deduction.h"
+#include "puzzle/grade.h"
 
 namespace numorra {
 namespace {

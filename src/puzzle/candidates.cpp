@@ -347,6 +347,18 @@ bool Candidates::Propagate(Grade grade) {
   }
 }
 
+bool Candidates::ApplyOnce(Grade grade) {
+  const std::size_t before = Mark();
+  for (int line = 0; line < map_.Lines(); ++line) {
+    const int open = open_[At(line)];
+    if (open < 2 || (open == 2) != (grade == Grade::Medium)) continue;
+    if (!Apply(line, grade, true)) return false;
+    if (Mark() != before) return true;
+  }
+  bool changed = false;
+  return grade == Grade::Medium && PutSingles(changed) && changed;
+}
+
 bool Candidates::Narrow(Grade grade) {
   return !impossible_ && ApplyWaiting(grade, false);
 }

@@ -3,18 +3,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "puzzle/grade.h"
 #include "puzzle/line_map.h"
 #include "puzzle/puzzle.h"
 
 namespace numorra {
-
-/// The rules that solving needs: each grade includes those of the grades before it.
-enum class Grade : std::uint8_t {
-  Easy,    ///< a line with a single gap
-  Medium,  ///< a line with two gaps; a cell or a number with one possibility left
-  Hard,    ///< the bounds of each line
-  Expert   ///< trial and error: no further rules
-};
 
 /// The candidates of each gap of a puzzle, narrowed down by the rules of a grade.
 ///
@@ -62,7 +55,12 @@ class Candidates {
   bool Propagate(Grade grade);
   int FailedLine() const { return failedLine_; }
 
-  /// The same, but narrows the candidates only and fills no gap.
+  /// Applies one rule of a grade, medium or hard, where it changes something: a line with two gaps,
+  /// a gap or a number with one possibility left; or the bounds of a line. False if there is none,
+  /// or if it shows that the numbers contradict each other.
+  bool ApplyOnce(Grade grade);
+
+  /// The same as Propagate, but narrows the candidates only and fills no gap.
   bool Narrow(Grade grade);
 
   /// Under the normal rules, finds a number that only one gap can hold; Cell is -1 if there is

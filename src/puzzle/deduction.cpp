@@ -1,12 +1,9 @@
 #include "puzzle/deduction.h"
 
 #include <algorithm>
-#include <array>
 
 namespace numorra {
 namespace {
-
-constexpr std::array kGrades = {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert};
 
 std::string LineName(const Candidates& board, int line) {
   return board.Map().NameOf(line);
@@ -197,24 +194,6 @@ std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yieldin
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number) {
   return "trying any number but " + std::to_string(number) + " in " + PlaceName(candidates, cell) +
          " leads to a line that cannot be completed";
-}
-
-const char* NameOf(Grade grade) {
-  constexpr std::array kNames = {"easy", "medium", "hard", "expert"};
-  return kNames[static_cast<std::size_t>(grade)];
-}
-
-std::optional<Grade> GradeNamed(const std::string& name) {
-  const auto* const found = std::find_if(kGrades.begin(), kGrades.end(),
-                                         [&](Grade grade) { return NameOf(grade) == name; });
-  return found == kGrades.end() ? std::nullopt : std::optional(*found);
-}
-
-const char* RulesOf(Grade grade) {
-  constexpr std::array kRules = {
-      "lines with a single gap", "lines with two gaps, numbers with one place left",
-      "the smallest and largest sums of a line's gaps", "trying numbers"};
-  return kRules[static_cast<std::size_t>(grade)];
 }
 
 }  // namespace numorra

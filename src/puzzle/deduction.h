@@ -29,11 +29,4 @@ std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yieldin
 /// The reason for a number that only trying has found.
 std::string WhyTried(const Candidates& candidates, int cell, std::int64_t number);
 
-/// The name of a grade: "easy", "medium", "hard" or "expert"; and back, nothing for other words.
-const char* NameOf(Grade grade);
-std::optional<Grade> GradeNamed(const std::string& name);
-
-/// The rules that a grade adds to the ones before it, in words.
-const char* RulesOf(Grade grade);
-
 }  // namespace numorra

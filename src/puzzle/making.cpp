@@ -3,54 +3,15 @@
 #include <algorithm>
 #include <vector>
 
-#include "puzzle/deduction.h"
+#include "puzzle/rating.h"
 #include "puzzle/search.h"
+#include "puzzle/trials.h"
 
 namespace numorra {
 namespace {
 
-constexpr int kDiggings = 20;  // attempts to reach a grade or a number of clues
-
-/// Whether filling the last gap of a line repeatedly fills the board. For puzzles that have a
-/// solution, so that each of these numbers fits.
-bool EasyRulesSolve(const Puzzle& puzzle) {
-  const LineMap& map = LineMap::Of(puzzle.Order(), puzzle.Kind);
-  const auto at = [](int index) { return static_cast<std::size_t>(index); };
-  std::vector<int> open(at(map.Lines()));
-  std::vector<char> isGap(at(puzzle.Cells.Size()));
-  int gaps = 0;
-  for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
-    if (puzzle.Cells[cell] != 0) continue;
-    isGap[at(cell)] = 1;
-    ++gaps;
-    for (const int line : map.LinesOf(cell))
-      ++open[at(line)];
-  }
-  std::vector<int> waiting;
-  for (int line = 0; line < map.Lines(); ++line) {
-    if (open[at(line)] == 1) waiting.push_back(line);
-  }
-  while (!waiting.empty()) {
-    const int last = waiting.back();
-    waiting.pop_back();
-    if (open[at(last)] != 1) continue;
-    for (const int cell : map.CellsOf(last)) {
-      if (isGap[at(cell)] == 0) continue;
-      isGap[at(cell)] = 0;
-      --gaps;
-      for (const int line : map.LinesOf(cell)) {
-        if (--open[at(line)] == 1) waiting.push_back(line);
-      }
-      break;
-    }
-  }
-  return gaps == 0;
-}
-
-bool RulesSolve(const Puzzle& puzzle, Grade grade) {
-  if (grade == Grade::Easy) return EasyRulesSolve(puzzle);
-  Candidates board(puzzle);
-  return board.Propagate(grade) && board.Solved();
+int CluesOf(const Puzzle& puzzle) {
+  return puzzle.Cells.Size() - puzzle.Gaps();
 }
 
 class Digger {
@@ -58,39 +19,41 @@ class Digger {
   Digger(const Puzzle& square, const PuzzleWish& wish, Random& random, Yielding& yielding)
       : square_(square), wish_(wish), random_(random), yielding_(yielding) {}
 
-  MadePuzzle Dig() {
+  Puzzle Dig() {
     Puzzle puzzle = square_;
     const Grade rules = std::min(wish_.Wanted, Grade::Hard);
-    const auto solvedByRules = [&](const Puzzle& dug) { return RulesSolve(dug, rules); };
+    const auto solvedByRules = [&](const Puzzle& dug, const auto&) {
+      return RulesSolve(dug, rules);
+    };
     Remove(puzzle, solvedByRules);
     if (wish_.Wanted == Grade::Expert) {
-      Remove(puzzle, [&](const Puzzle& dug) {
+      Remove(puzzle,
+             [&](const Puzzle& dug, const auto& cells) { return TrialsReturn(dug, cells); });
+    } else if (wish_.Wanted == Grade::Extreme) {
+      Remove(puzzle, [&](const Puzzle& dug, const auto&) {
         return std::holds_alternative<OneSolution>(
-            Solve(dug, {.Nodes = kExpertNodes}, random_, yielding_));
+            Solve(dug, {.Nodes = kExtremeNodes}, random_, yielding_));
       });
     }
-    return {puzzle, square_, GradeOf(puzzle)};
+    return puzzle;
   }
 
   /// Returns numbers to the puzzle until it has `clues` clues; false if symmetry skips that number.
-  bool AddClues(MadePuzzle& made, int clues) {
+  bool AddClues(Puzzle& puzzle, int clues) {
+    const Grade needed = GradeOf(puzzle, yielding_);
     for (const bool keepGrade : {true, false}) {
       for (const std::vector<int>& cells : ShuffledCells()) {
-        const int have = square_.Cells.Size() - made.Clues.Gaps();
+        const int have = CluesOf(puzzle);
         if (have == clues) return true;
-        if (have + static_cast<int>(cells.size()) > clues) continue;
-        if (made.Clues.Cells[cells[0]] != 0) continue;
+        if (have + static_cast<int>(cells.size()) > clues || puzzle.Cells[cells[0]] != 0) continue;
         yielding_.Yield();
-        Puzzle more = made.Clues;
+        Puzzle more = puzzle;
         for (const int cell : cells)
           more.Cells[cell] = square_.Cells[cell];
-        const Grade grade = GradeOf(more);
-        if (keepGrade && grade != made.Needed) continue;
-        made.Clues = std::move(more);
-        made.Needed = grade;
+        if (!keepGrade || GradeOf(more, yielding_) == needed) puzzle = std::move(more);
       }
     }
-    return square_.Cells.Size() - made.Clues.Gaps() == clues;
+    return CluesOf(puzzle) == clues;
   }
 
  private:
@@ -110,6 +73,15 @@ class Digger {
     return together;
   }
 
+  /// Whether hard rules and trials of the removed cells alone find their numbers again. The puzzle
+  /// then stays solvable: it was so before they were removed.
+  bool TrialsReturn(const Puzzle& dug, const std::vector<int>& cells) {
+    Candidates board(dug);
+    Trials trials(board, kMostTrials, yielding_);
+    return trials.Run(cells) && std::all_of(cells.begin(), cells.end(),
+                                            [&](int cell) { return board.Value(cell) != 0; });
+  }
+
   /// Removes numbers as long as the puzzle stays solvable.
   template <class IsSolvable>
   void Remove(Puzzle& puzzle, IsSolvable isSolvable) {
@@ -118,7 +90,7 @@ class Digger {
       yielding_.Yield();
       for (const int cell : cells)
         puzzle.Cells[cell] = 0;
-      if (isSolvable(puzzle)) continue;
+      if (isSolvable(puzzle, cells)) continue;
       for (const int cell : cells)
         puzzle.Cells[cell] = square_.Cells[cell];
     }
@@ -132,42 +104,65 @@ class Digger {
 
 }  // namespace
 
-Grade GradeOf(const Puzzle& puzzle) {
-  for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard}) {
-    if (RulesSolve(puzzle, grade)) return grade;
+bool PuzzleMaker::IsDone() const {
+  if (!whyNever_.empty()) return true;
+  return best_ && rating_.Needed == wish_.Wanted && (StepsOff(rating_) == 0 || moreChances_ == 0);
+}
+
+bool PuzzleMaker::Try(const Puzzle& square, int orders) {
+  const int cells = square.Cells.Size();
+  if (wish_.ClueCount && (*wish_.ClueCount < 0 || *wish_.ClueCount >= cells)) {
+    whyNever_ = "a puzzle of this size has fewer than " + std::to_string(cells) + " clues";
   }
-  return Grade::Expert;
+  Digger digger(square, wish_, random_, yielding_);
+  ++squares_;
+  for (; orders > 0 && !IsDone(); --orders) {
+    ++tries_;
+    Puzzle puzzle = digger.Dig();
+    fewest_ = std::min(fewest_, CluesOf(puzzle));
+    if (wish_.ClueCount && CluesOf(puzzle) > *wish_.ClueCount) continue;
+    if (!wish_.ClueCount || digger.AddClues(puzzle, *wish_.ClueCount)) {
+      Consider({std::move(puzzle), square});
+    } else {
+      passedBy_ = true;
+    }
+  }
+  return IsDone();
+}
+
+void PuzzleMaker::Consider(MadePuzzle made) {
+  const Rating rating = RatingOf(made.Clues, yielding_);
+  made.Needed = rating.Needed;
+  if (best_ && rating_.Needed == wish_.Wanted) --moreChances_;
+  const bool better = rating.Needed == rating_.Needed ? StepsOff(rating) < StepsOff(rating_)
+                                                      : rating.Needed > rating_.Needed;
+  if (best_ && !better) return;
+  best_ = std::move(made);
+  rating_ = rating;
+}
+
+std::variant<MadePuzzle, CannotMake> PuzzleMaker::Result() const {
+  if (best_) return *best_;
+  if (!whyNever_.empty()) return CannotMake{whyNever_};
+  if (passedBy_) {
+    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish_.ClueCount) +
+                      " clues here: try one more or one less"};
+  }
+  const std::string puzzle = std::string(" no puzzle of grade ") + NameOf(wish_.Wanted);
+  const std::string fewer = " had fewer than " + std::to_string(fewest_) + " clues";
+  if (squares_ == 1) {
+    return CannotMake{"in " + std::to_string(tries_) + " tries," + puzzle + " from this square" +
+                      fewer};
+  }
+  return CannotMake{"in " + std::to_string(squares_) + " squares," + puzzle + fewer};
 }
 
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
                                                 Random& random, Yielding& yielding) {
-  const int cells = square.Cells.Size();
-  if (wish.ClueCount && (*wish.ClueCount < 0 || *wish.ClueCount >= cells)) {
-    return CannotMake{"a puzzle of this size has fewer than " + std::to_string(cells) + " clues"};
-  }
-  Digger digger(square, wish, random, yielding);
-  std::optional<MadePuzzle> best;
-  int fewest = cells;
-  bool passedBy = false;
-  for (int digging = 0; digging < kDiggings; ++digging) {
-    MadePuzzle made = digger.Dig();
-    const int clues = cells - made.Clues.Gaps();
-    fewest = std::min(fewest, clues);
-    if (wish.ClueCount && clues > *wish.ClueCount) continue;
-    if (wish.ClueCount && !digger.AddClues(made, *wish.ClueCount)) {
-      passedBy = true;
-      continue;
-    }
-    if (!best || made.Needed > best->Needed) best = std::move(made);
-    if (best->Needed == wish.Wanted) break;
-  }
-  if (best) return *best;
-  if (passedBy) {
-    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish.ClueCount) +
-                      " clues here: try one more or one less"};
-  }
-  return CannotMake{"a puzzle of grade " + std::string(NameOf(wish.Wanted)) +
-                    " from this square needs " + std::to_string(fewest) + " clues or more"};
+  constexpr int kOrders = 20;
+  PuzzleMaker maker(wish, random, yielding);
+  maker.Try(square, kOrders);
+  return maker.Result();
 }
 
 }  // namespace numorra

@@ -7,6 +7,7 @@
 #include "puzzle/code.h"
 #include "puzzle/deduction.h"
 #include "puzzle/making.h"
+#include "puzzle/rating.h"
 #include "puzzle/search.h"
 #include "support/boards.h"
 #include "support/slow_checker.h"
@@ -135,10 +136,12 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
     hardest = std::max(hardest, step->Needed);
     cell = step->Number;
   }
-  if (made.Needed != Grade::Expert && (board.Gaps() > 0 || hardest != made.Needed)) {
+  if (made.Needed < Grade::Expert && (board.Gaps() > 0 || hardest != made.Needed)) {
     return "hints that are not of its grade";
   }
-  if (made.Needed == Grade::Expert && board.Gaps() == 0) return "an expert puzzle that rules solve";
+  if (made.Needed >= Grade::Expert && board.Gaps() == 0) return "an expert puzzle that rules solve";
+  const Rating rating = RatingOf(made.Clues, stage);
+  if (rating.Needed != made.Needed || rating.Steps < 1) return "a rating of another grade";
   const auto back = PuzzleOfCode(CodeOf(made.Clues));
   const auto* read = std::get_if<Puzzle>(&back);
   return read && read->Cells == made.Clues.Cells ? "" : "a code that does not read back";

@@ -5,7 +5,7 @@
 #include "app/board/numbers.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
-#include "puzzle/only_solution.h"
+#include "puzzle/search.h"
 #include "transform/symmetry.h"
 
 namespace numorra {
@@ -111,10 +111,15 @@ Remark BackToLastRight(Board& board, UndoHistory& history, Random& random, WorkS
   if (const auto* against = std::get_if<AgainstRules>(&read)) return {against->Why};
   random.Reseed();
   const BusyPointer busy(stage);
-  const auto solved =
-      WithOnlySolution(std::get<Puzzle>(read), {.Seconds = kFirstSearch}, random, stage);
-  if (const auto* cannot = std::get_if<CannotMake>(&solved)) return {cannot->Why};
-  SolutionTexts solution(std::get<MadePuzzle>(solved).Solution, PositionOf(board));
+  const SearchResult result =
+      Solve(std::get<Puzzle>(read), {.Seconds = kFirstSearch}, random, stage);
+  if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};
+  const auto* one = std::get_if<OneSolution>(&result);
+  if (!one) {
+    return {std::string("no entry is right or wrong: the given numbers have ") +
+            (std::holds_alternative<NoSolution>(result) ? "no solution" : "several solutions")};
+  }
+  SolutionTexts solution(one->Solved, PositionOf(board));
   return GoBack(board, history, solution);
 }
 

@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "puzzle/code.h"
-#include "puzzle/deduction.h"
+#include "puzzle/grade.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
 

@@ -1,0 +1,25 @@
+#include "puzzle/grade.h"
+
+#include <algorithm>
+
+namespace numorra {
+
+const char* NameOf(Grade grade) {
+  constexpr std::array kNames = {"easy", "medium", "hard", "expert", "extreme"};
+  return kNames[static_cast<std::size_t>(grade)];
+}
+
+std::optional<Grade> GradeNamed(const std::string& name) {
+  const auto* const found = std::find_if(kGrades.begin(), kGrades.end(),
+                                         [&](Grade grade) { return NameOf(grade) == name; });
+  return found == kGrades.end() ? std::nullopt : std::optional(*found);
+}
+
+const char* RulesOf(Grade grade) {
+  constexpr std::array kRules = {
+      "lines with a single gap", "lines with two gaps, numbers with one place left",
+      "the smallest and largest sums of a line's gaps", "trying numbers", "a longer search"};
+  return kRules[static_cast<std::size_t>(grade)];
+}
+
+}  // namespace numorra
