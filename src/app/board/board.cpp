@@ -2,6 +2,7 @@
 
 #include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 #include "app/board/scoped_flag.h"
 
 namespace numorra {
@@ -25,6 +26,11 @@ bool Board::HasGaps() const {
 
 bool Board::HasGivens() const {
   return AnyCell(*this, [](const Grid::Cell& cell) { return cell.Given; });
+}
+
+bool Board::ByNormalRules() const {
+  return Shown() && !WhyNoBoardHas(GridSize) && Asked == Rules::Normal &&
+         TargetTotal == NormalTotal(static_cast<double>(GridSize));
 }
 
 bool Board::HasTotal() const {

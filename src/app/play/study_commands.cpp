@@ -13,7 +13,7 @@
 namespace numorra {
 namespace {
 
-Square<double> NumbersOn(const Board& board) {
+Square<double> NumbersShown(const Board& board) {
   return SquareOf(board.GridSize, [&](int cell) {
     const Place place = PlaceAt(cell, board.GridSize);
     return Val(board.grid.Text(place.Row, place.Column));
@@ -27,7 +27,7 @@ std::optional<Square<double>> FullBoard(const CommandContext& context) {
   ForEachCell(board.GridSize, [&](int r, int c) {
     if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
   });
-  if (!gap) return NumbersOn(board);
+  if (!gap) return NumbersShown(board);
   context.TheDialogs.Tell(NameOf(*gap) + " is empty: this needs a full board");
   return std::nullopt;
 }
@@ -62,7 +62,7 @@ double FirstRowTotal(const Square<double>& square) {
 
 std::optional<NumberSquare> SquareOn(const Board& board) {
   if (!board.Shown() || board.HasGaps()) return std::nullopt;
-  return NumberSquare(NumbersOn(board));
+  return NumberSquare(NumbersShown(board));
 }
 
 void VaryBoard(const CommandContext& context) {
