@@ -86,7 +86,7 @@ void NoteEntry::Toggle(int number) {
   number_ = number;
   NoteSet now = before_;
   const auto bit = static_cast<std::size_t>(number);
-  const bool placed = board_.ByNormalRules() && NumbersOn(board_)[bit];
+  const bool placed = board_.ByNormalRules() && NumbersOnBoard(board_)[bit];
   if (number > 0 && number <= LargestNote(board_) && !placed) now.flip(bit);
   Notes notes = board_.grid.AllNotes();
   notes.Set(board_.GridSize, *cell_, now);

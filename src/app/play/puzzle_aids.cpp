@@ -17,7 +17,7 @@ int NumberIn(const Grid::Cell& cell) {
 
 }  // namespace
 
-NoteSet NumbersOn(const Board& board) {
+NoteSet NumbersOnBoard(const Board& board) {
   NoteSet numbers;
   ForEachCell(board.GridSize, [&](int r, int c) {
     const int number = NumberIn(board.grid.At(r, c));
@@ -58,14 +58,14 @@ NumbersToPlace NumbersToPlaceOn(const Board& board) {
   for (int number = 1; number <= board.GridSize * board.GridSize; ++number) {
     if (!given[static_cast<std::size_t>(number)]) place.Numbers.push_back(number);
   }
-  place.Placed = NumbersOn(board);
+  place.Placed = NumbersOnBoard(board);
   return place;
 }
 
 Notes ShownNotes(const Board& board) {
   const Notes& notes = board.grid.AllNotes();
   if (notes.IsEmpty()) return {};
-  const NoteSet hidden = board.ByNormalRules() ? NumbersOn(board) : NoteSet();
+  const NoteSet hidden = board.ByNormalRules() ? NumbersOnBoard(board) : NoteSet();
   return NotesOf(board.GridSize, [&](int cell) {
     const Place place = PlaceAt(cell, board.GridSize);
     return board.grid.At(place.Row, place.Column).IsGap() ? notes[cell] & ~hidden : NoteSet();
@@ -75,7 +75,7 @@ Notes ShownNotes(const Board& board) {
 void ShowAids(Board& board) {
   board.grid.SetRepeated(EqualNumbersOn(board));
   const bool hides = !board.grid.AllNotes().IsEmpty() && board.ByNormalRules();
-  board.grid.SetUnnoted(hides ? NumbersOn(board) : NoteSet());
+  board.grid.SetUnnoted(hides ? NumbersOnBoard(board) : NoteSet());
 }
 
 }  // namespace numorra

@@ -7,7 +7,7 @@
 namespace numorra {
 
 /// The numbers from 1 to kMostNoted in the value cells.
-NoteSet NumbersOn(const Board& board);
+NoteSet NumbersOnBoard(const Board& board);
 
 /// The cells that share their number with another cell, in reading order, on a board with givens
 /// that asks for different numbers; none on others.

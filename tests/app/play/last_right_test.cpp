@@ -49,7 +49,8 @@ TEST_F(LastRightTest, LandsBeforeTheWrongEntryOfAnyPuzzle) {
       if (gaps.empty()) return Place();
       const Place place = gaps[static_cast<std::size_t>(below(static_cast<int>(gaps.size())))];
       const auto right = static_cast<std::int64_t>(solution(place.Row, place.Column));
-      Enter(place, (right + wrongBy - 1) % (order * order) + 1);
+      const std::int64_t numbers = made.Solution.Most();
+      Enter(place, (right + wrongBy - 1) % numbers + 1);
       return place;
     };
     const int gaps = made.Clues.Gaps();

@@ -19,7 +19,7 @@ class NumberStrip : public QAbstractScrollArea {
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override;
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return QSize(CellWidth(), LineHeight()); }
+  QSize minimumSizeHint() const override { return {CellWidth(), LineHeight()}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
