@@ -10,7 +10,6 @@
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
-#include "puzzle/grade.h"
 
 namespace numorra {
 namespace {
@@ -63,6 +62,7 @@ class Reader {
 
  private:
   using Member = void (Reader::*)();
+  static constexpr int kMostCount = 1'000'000;
   using Command = SquareCommand;
 
   void TakeCommand() {
@@ -97,6 +97,7 @@ class Reader {
         Fail("the sum of a puzzle must be a whole number");
       }
       CheckSum();
+      CheckGrades();
       return;
     }
     if (request_.Command != Command::Build) {
@@ -129,6 +130,14 @@ class Reader {
     if (request_.Size == 0 || !request_.Sum || request_.LimitToNine || *request_.Sum < bound)
       return;
     Fail("the sum for size " + std::to_string(request_.Size) + " must be below " + Decimal(bound));
+  }
+
+  void CheckGrades() {
+    if (request_.Grades.empty()) {
+      request_.Grades = {{wanted_.value_or(Grade::Easy), request_.Count}};
+    } else if (wanted_ || counted_) {
+      Fail("several grades cannot be combined with a grade or count");
+    }
   }
 
   /// A relative of a square has its lines in another order.
@@ -179,7 +188,9 @@ class Reader {
         {"--count", &Reader::Count, {kBuild, kPuzzle}},
         {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
         {"--grade", &Reader::GradeOption, {kPuzzle}},
+        {"--grades", &Reader::GradesOption, {kPuzzle}},
         {"--clues", &Reader::Clues, {kPuzzle}},
+        {"--symmetric", &Reader::Symmetric, {kPuzzle}},
         {"--codes", &Reader::Codes, {kPuzzle}},
         {"--rules", &Reader::RulesOption, {kComplete}},
         {"--seconds", &Reader::Seconds, {kComplete}},
@@ -250,10 +261,30 @@ class Reader {
   }
 
   void GradeOption() {
-    const auto grade = GradeNamed(Value());
-    if (!grade) Fail("the grade must be easy, medium, hard, expert or extreme");
-    request_.Wanted = grade.value_or(Grade::Easy);
+    wanted_ = GradeNamed(Value());
+    if (!wanted_) Fail("the grade must be easy, medium, hard, expert or extreme");
   }
+
+  /// "easy:10,medium:10"
+  void GradesOption() {
+    std::string shares = Value() + ",";
+    for (std::size_t comma = 0; (comma = shares.find(',')) != std::string::npos;) {
+      const std::string share = shares.substr(0, comma);
+      shares.erase(0, comma + 1);
+      const std::size_t colon = share.find(':');
+      const auto grade = GradeNamed(share.substr(0, colon));
+      const auto count =
+          colon == std::string::npos ? std::nullopt : NumberIn<int>(share.substr(colon + 1));
+      if (!grade || !count || *count < 1 || *count > kMostCount) {
+        Fail("the grades must be grades with counts, such as easy:10,medium:5, not '" + share +
+             "'");
+        return;
+      }
+      request_.Grades.push_back({*grade, *count});
+    }
+  }
+
+  void Symmetric() { request_.Symmetric = true; }
 
   void Clues() {
     request_.ClueCount = NumberIn<int>(Value());
@@ -285,9 +316,9 @@ class Reader {
   void Fresh() { request_.Fresh = true; }
 
   void Count() {
-    constexpr int kMost = 1'000'000;
     const auto count = NumberIn<int>(Value());
-    if (!count || *count < 1 || *count > kMost)
+    counted_ = true;
+    if (!count || *count < 1 || *count > kMostCount)
       Fail("the count must be a whole number from 1 to 1000000");
     request_.Count = count.value_or(1);
   }
@@ -314,6 +345,8 @@ class Reader {
   std::size_t next_ = 0;
   bool fileNamed_ = false;
   bool wishes_ = false;  ///< there are options that say what is to be made
+  std::optional<Grade> wanted_;
+  bool counted_ = false;
   std::string option_;
   std::optional<std::string> attached_;
   SquareRequest request_;

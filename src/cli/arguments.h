@@ -9,8 +9,8 @@
 #include "app/board/rules.h"
 #include "files/formats.h"
 #include "generate/top_row_square.h"
-#include "puzzle/grade.h"
 #include "puzzle/kind_lines.h"
+#include "puzzle/puzzle_set.h"
 #include "study/special.h"
 
 namespace numorra {
@@ -37,8 +37,9 @@ struct SquareRequest {
   std::optional<std::uint64_t> Seed;
 
   /// The puzzles to make; their squares are normal or have the sum.
-  Grade Wanted = Grade::Easy;
+  std::vector<GradeShare> Grades;
   std::optional<int> ClueCount;
+  bool Symmetric = false;
 
   /// The file with the codes of puzzles to write instead of new ones; "-" is the standard input.
   std::optional<std::string> Codes;

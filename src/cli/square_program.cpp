@@ -20,6 +20,7 @@ constexpr int kBadArguments = 2;
 constexpr int kNoSolution = 3;
 constexpr int kNotSettled = 4;
 constexpr int kNoMemory = 5;
+constexpr int kFellShort = 6;
 
 int StatusOf(Completion completion) {
   switch (completion) {
@@ -43,8 +44,7 @@ int Run(const SquareRequest& request, const Streams& streams) {
       return StatusOf(CompleteSquares(request, streams));
     case SquareCommand::Puzzle:
       if (request.Codes) return WriteCodedPuzzles(request, streams) ? kDone : kFailed;
-      MakePuzzles(request, streams);
-      return kDone;
+      return MakePuzzles(request, streams) ? kDone : kFellShort;
     case SquareCommand::Build:
       break;
   }

@@ -84,22 +84,26 @@ status is 3 for none and 4 if the search did not finish in time.
 )" + OptionText("--format " + ofAnswers, "JSON is one object per line, with a reason, if any,") +
          R"(                           as "why"
 
-puzzle makes squares with gaps that have one solution. Their codes, up to size
+puzzle makes squares with gaps that have one solution; no puzzle of a run is another
+one turned or mirrored, as long as there are others. Their codes, up to size
 20, are read by study, complete and the window.
 
   --size N                 the number of cells on a side
   --grade easy|medium|hard|expert|extreme
                            the hardest rule that it needs
+  --grades G:K,G:K...      so many puzzles of each grade, such as easy:10,medium:5; easy
+                           ones come first
   --clues K                how many numbers are given; by default as few as possible
   --sum T, --limit-to-9    squares of any total, of any whole numbers of 1 or more
+  --symmetric              a cell is a gap if the opposite one is
   --count M, --seed N      the number of puzzles, and the seed that repeats them
   --codes FILE|-           the puzzles of these codes instead: a line has one or more,
                            with words around them
 )" + OptionText("--format " + all, "JSON is one object per line, with its solution") +
          R"(
 The exit status is 0 on success, 1 if there is no such square or something could not
-be read or written, 2 for bad arguments, 3 and 4 as described for complete, and 5 if
-there was not enough memory.
+be read or written, 2 for bad arguments, 3 and 4 as described for complete, 5 if there
+was not enough memory, and 6 if puzzles are missing or other than wished.
 )";
 }
 

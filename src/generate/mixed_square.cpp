@@ -19,12 +19,14 @@ Pattern PatternOfOrder3(bool mirrored) {
   return pattern;
 }
 
-void MoveCell(PatternedSquare& square, int row, int column) {
-  Random& random = square.TheRandom();
-  const Pattern pattern = square.Order() == 3 ? PatternOfOrder3(random.Between(0, 1) == 1)
-                                              : ExchangeAt(square, row, column);
-  const FactorRange range = ExchangeRange(square, pattern);
-  square.Apply(pattern, random.Between(range.Low, range.High));
+/// Applies a random pattern that changes the cell, with a factor that `choose` takes from the range
+/// that the cells allow.
+template <class Choose>
+void MoveCell(PatternedSquare& square, int row, int column, Choose choose) {
+  const Pattern pattern = square.Order() == 3
+                              ? PatternOfOrder3(square.TheRandom().Between(0, 1) == 1)
+                              : ExchangeAt(square, row, column);
+  square.Apply(pattern, choose(ExchangeRange(square, pattern)));
 }
 
 bool IsFlat(const TurningSquare& square) {
@@ -41,11 +43,24 @@ CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Rand
   constexpr int kMoves = 10;
   constexpr int kMostRounds = 100;  // a flat square is magic, but dull
   PatternedSquare mixed(TurningSquare(square, order), limitToNine, 0, random, stage);
+  const auto any = [&](FactorRange range) { return random.Between(range.Low, range.High); };
   for (int round = 0; round == 0 || (round < kMostRounds && IsFlat(mixed.Square())); ++round) {
     for (int move = 0; move < kMoves; ++move)
-      ForEachCell(order, [&](int r, int c) { MoveCell(mixed, r, c); });
+      ForEachCell(order, [&](int r, int c) { MoveCell(mixed, r, c, any); });
   }
   return mixed.Square().Settled();
+}
+
+CellTable WithSmallNumbers(const CellTable& square, int order, bool limitToNine, Random& random,
+                           Yielding& yielding) {
+  constexpr double kShare = 0.2;
+  SilentStage stage(&yielding);
+  PatternedSquare lowered(TurningSquare(square, order), limitToNine, 0, random, stage);
+  ForEachCell(order, [&](int r, int c) {
+    if (random.Next() >= kShare) return;
+    MoveCell(lowered, r, c, [](FactorRange range) { return range.Low; });
+  });
+  return lowered.Square().Settled();
 }
 
 }  // namespace numorra

@@ -17,4 +17,9 @@ namespace numorra {
 CellTable MixedSquare(const CellTable& square, int order, bool limitToNine, Random& random,
                       Yielding& yielding);
 
+/// The square with about one cell in five lowered as far as a random exchange allows: until the
+/// cell or another one of the exchange is 1. The arguments are those of MixedSquare.
+CellTable WithSmallNumbers(const CellTable& square, int order, bool limitToNine, Random& random,
+                           Yielding& yielding);
+
 }  // namespace numorra

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "puzzle/candidates.h"
 #include "puzzle/code.h"
 #include "puzzle/grade.h"
 

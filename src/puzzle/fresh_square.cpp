@@ -37,7 +37,10 @@ std::optional<Puzzle> FreshSquare(const SquareWish& wish, Random& random, Yieldi
   SilentStage stage(&yielding);
   const VariableBuild build = VariableSquare(random, stage).BuildInTries(plan, {});
   if (build.Status != SolveStatus::Built) return std::nullopt;
-  const CellTable mixed = MixedSquare(build.Square, n, plan.LimitToNine, random, yielding);
+  CellTable mixed = MixedSquare(build.Square, n, plan.LimitToNine, random, yielding);
+  if (wish.ManySmallNumbers) {
+    mixed = WithSmallNumbers(mixed, n, plan.LimitToNine, random, yielding);
+  }
   return PuzzleOf(SquareOf(mixed, n), static_cast<std::int64_t>(build.Total), Rules::Positive);
 }
 

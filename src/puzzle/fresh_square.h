@@ -14,6 +14,10 @@ struct SquareWish {
   int Order = 4;
   std::optional<std::int64_t> Total = {};  ///< 1 or more; without it, the normal total
   bool LimitToNine = false;  ///< for the square's numbers only, not for answers to the puzzle
+
+  /// Squares of any total: lower some cells to 1 where that is possible. Under the positive rules
+  /// only small numbers give more than the easiest rules something to say.
+  bool ManySmallNumbers = false;
 };
 
 /// A full square at random. Without a total or limit, a normal one, uniform up to order 4 and

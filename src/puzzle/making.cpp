@@ -10,14 +10,16 @@
 namespace numorra {
 namespace {
 
-constexpr int kDiggings = 20;  // attempts to reach a grade or a number of clues
+int CluesOf(const Puzzle& puzzle) {
+  return puzzle.Cells.Size() - puzzle.Gaps();
+}
 
 class Digger {
  public:
   Digger(const Puzzle& square, const PuzzleWish& wish, Random& random, Yielding& yielding)
       : square_(square), wish_(wish), random_(random), yielding_(yielding) {}
 
-  MadePuzzle Dig() {
+  Puzzle Dig() {
     Puzzle puzzle = square_;
     const Grade rules = std::min(wish_.Wanted, Grade::Hard);
     const auto solvedByRules = [&](const Puzzle& dug, const auto&) {
@@ -33,28 +35,25 @@ class Digger {
             Solve(dug, {.Nodes = kExtremeNodes}, random_, yielding_));
       });
     }
-    return {puzzle, square_, GradeOf(puzzle, yielding_)};
+    return puzzle;
   }
 
   /// Returns numbers to the puzzle until it has `clues` clues; false if symmetry skips that number.
-  bool AddClues(MadePuzzle& made, int clues) {
+  bool AddClues(Puzzle& puzzle, int clues) {
+    const Grade needed = GradeOf(puzzle, yielding_);
     for (const bool keepGrade : {true, false}) {
       for (const std::vector<int>& cells : ShuffledCells()) {
-        const int have = square_.Cells.Size() - made.Clues.Gaps();
+        const int have = CluesOf(puzzle);
         if (have == clues) return true;
-        if (have + static_cast<int>(cells.size()) > clues) continue;
-        if (made.Clues.Cells[cells[0]] != 0) continue;
+        if (have + static_cast<int>(cells.size()) > clues || puzzle.Cells[cells[0]] != 0) continue;
         yielding_.Yield();
-        Puzzle more = made.Clues;
+        Puzzle more = puzzle;
         for (const int cell : cells)
           more.Cells[cell] = square_.Cells[cell];
-        const Grade grade = GradeOf(more, yielding_);
-        if (keepGrade && grade != made.Needed) continue;
-        made.Clues = std::move(more);
-        made.Needed = grade;
+        if (!keepGrade || GradeOf(more, yielding_) == needed) puzzle = std::move(more);
       }
     }
-    return square_.Cells.Size() - made.Clues.Gaps() == clues;
+    return CluesOf(puzzle) == clues;
   }
 
  private:
@@ -105,35 +104,65 @@ class Digger {
 
 }  // namespace
 
-std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
-                                                Random& random, Yielding& yielding) {
+bool PuzzleMaker::IsDone() const {
+  if (!whyNever_.empty()) return true;
+  return best_ && rating_.Needed == wish_.Wanted && (StepsOff(rating_) == 0 || moreChances_ == 0);
+}
+
+bool PuzzleMaker::Try(const Puzzle& square, int orders) {
   const int cells = square.Cells.Size();
-  if (wish.ClueCount && (*wish.ClueCount < 0 || *wish.ClueCount >= cells)) {
-    return CannotMake{"a puzzle of this size has fewer than " + std::to_string(cells) + " clues"};
+  if (wish_.ClueCount && (*wish_.ClueCount < 0 || *wish_.ClueCount >= cells)) {
+    whyNever_ = "a puzzle of this size has fewer than " + std::to_string(cells) + " clues";
   }
-  Digger digger(square, wish, random, yielding);
-  std::optional<MadePuzzle> best;
-  int fewest = cells;
-  bool passedBy = false;
-  for (int digging = 0; digging < kDiggings; ++digging) {
-    MadePuzzle made = digger.Dig();
-    const int clues = cells - made.Clues.Gaps();
-    fewest = std::min(fewest, clues);
-    if (wish.ClueCount && clues > *wish.ClueCount) continue;
-    if (wish.ClueCount && !digger.AddClues(made, *wish.ClueCount)) {
-      passedBy = true;
-      continue;
+  Digger digger(square, wish_, random_, yielding_);
+  ++squares_;
+  for (; orders > 0 && !IsDone(); --orders) {
+    ++tries_;
+    Puzzle puzzle = digger.Dig();
+    fewest_ = std::min(fewest_, CluesOf(puzzle));
+    if (wish_.ClueCount && CluesOf(puzzle) > *wish_.ClueCount) continue;
+    if (!wish_.ClueCount || digger.AddClues(puzzle, *wish_.ClueCount)) {
+      Consider({std::move(puzzle), square});
+    } else {
+      passedBy_ = true;
     }
-    if (!best || made.Needed > best->Needed) best = std::move(made);
-    if (best->Needed == wish.Wanted) break;
   }
-  if (best) return *best;
-  if (passedBy) {
-    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish.ClueCount) +
+  return IsDone();
+}
+
+void PuzzleMaker::Consider(MadePuzzle made) {
+  const Rating rating = RatingOf(made.Clues, yielding_);
+  made.Needed = rating.Needed;
+  if (best_ && rating_.Needed == wish_.Wanted) --moreChances_;
+  const bool better = rating.Needed == rating_.Needed ? StepsOff(rating) < StepsOff(rating_)
+                                                      : rating.Needed > rating_.Needed;
+  if (best_ && !better) return;
+  best_ = std::move(made);
+  rating_ = rating;
+}
+
+std::variant<MadePuzzle, CannotMake> PuzzleMaker::Result() const {
+  if (best_) return *best_;
+  if (!whyNever_.empty()) return CannotMake{whyNever_};
+  if (passedBy_) {
+    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish_.ClueCount) +
                       " clues here: try one more or one less"};
   }
-  return CannotMake{"a puzzle of grade " + std::string(NameOf(wish.Wanted)) +
-                    " from this square needs " + std::to_string(fewest) + " clues or more"};
+  const std::string puzzle = std::string(" no puzzle of grade ") + NameOf(wish_.Wanted);
+  const std::string fewer = " had fewer than " + std::to_string(fewest_) + " clues";
+  if (squares_ == 1) {
+    return CannotMake{"in " + std::to_string(tries_) + " tries," + puzzle + " from this square" +
+                      fewer};
+  }
+  return CannotMake{"in " + std::to_string(squares_) + " squares," + puzzle + fewer};
+}
+
+std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,
+                                                Random& random, Yielding& yielding) {
+  constexpr int kOrders = 20;
+  PuzzleMaker maker(wish, random, yielding);
+  maker.Try(square, kOrders);
+  return maker.Result();
 }
 
 }  // namespace numorra

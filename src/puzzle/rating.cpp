@@ -1,5 +1,6 @@
 #include "puzzle/rating.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "puzzle/trials.h"
@@ -68,6 +69,13 @@ bool RulesSolve(const Puzzle& puzzle, Grade grade) {
   if (grade == Grade::Easy) return EasyRulesSolve(puzzle);
   Candidates board(puzzle);
   return board.Propagate(grade) && board.Solved();
+}
+
+int StepsOff(const Rating& rating) {
+  constexpr int kFewest = 3;
+  constexpr int kMost = 10;
+  if (rating.Needed != Grade::Hard && rating.Needed != Grade::Expert) return 0;
+  return std::max({0, kFewest - rating.Steps, rating.Steps - kMost});
 }
 
 Grade GradeOf(const Puzzle& puzzle, Yielding& yielding) {

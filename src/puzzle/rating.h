@@ -24,6 +24,10 @@ inline constexpr std::int64_t kMostTrials = 20'000;
 /// Yields at every trial.
 Rating RatingOf(const Puzzle& puzzle, Yielding& yielding);
 
+/// How many steps a rating is away from what is usual: a hard or expert puzzle should need its
+/// rules 3 to 10 times. 0 for the other grades, which differ less.
+int StepsOff(const Rating& rating);
+
 /// Its grade alone, which takes less work.
 Grade GradeOf(const Puzzle& puzzle, Yielding& yielding);
 

@@ -1,6 +1,7 @@
 #include "puzzle/search.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "app/board/numbers.h"
 #include "app/ports/timed_yielding.h"
@@ -45,7 +46,7 @@ class Search : private SearchWatcher {
 
   SearchResult Run() {
     constexpr double kShareOfFirst = 0.1;
-    constexpr std::int64_t kRestart = 150;
+    constexpr std::int64_t kShortRuns = 15;
     if (puzzle_.Asked == Rules::Normal) {
       const std::string why = WhyNoneOfKind(puzzle_.Kind, puzzle_.Order());
       if (!why.empty()) return NoSolution{why};
@@ -54,10 +55,10 @@ class Search : private SearchWatcher {
     if (IsEmptyNormal()) return Constructed();
     stepsOfNode_ = StepsOfNode(board_.Gaps());
     share_ = kShareOfFirst;
-    bool allSeen = complete_.Run();
+    bool allSeen = !limit_.Nodes && Restart(kShortRuns);
+    if (!allSeen && !second_) allSeen = complete_.Run();
     share_ = 1;
-    for (std::int64_t run = 1; !allSeen && !second_ && !IsOver(1); ++run)
-      allSeen = complete_.Restart(*random_, kRestart * Luby(run));
+    if (!allSeen) allSeen = Restart(std::numeric_limits<std::int64_t>::max());
     if (second_) return SeveralSolutions{*first_, *second_};
     if (!allSeen) return NotSettled{first_};
     if (first_) return OneSolution{*first_};
@@ -77,6 +78,16 @@ class Search : private SearchWatcher {
     both.First.Cells = Square<std::int64_t>(BuiltOfKind(puzzle_.Kind, puzzle_.Order(), *random_));
     std::reverse_copy(both.First.Cells.begin(), both.First.Cells.end(), both.Second.Cells.begin());
     return both;
+  }
+
+  /// Restarts the complete search until it has seen all solutions, or two are known, or its share
+  /// of the limit is used up, or `runs` runs are done. True if all are seen.
+  bool Restart(std::int64_t runs) {
+    constexpr std::int64_t kShortest = 150;
+    while (run_ < runs && !second_ && !IsOver(share_)) {
+      if (complete_.Restart(*random_, kShortest * Luby(++run_))) return true;
+    }
+    return false;
   }
 
   bool IsOver(double share) const {
@@ -155,6 +166,7 @@ class Search : private SearchWatcher {
   std::optional<Candidates> root_;  ///< as left by the rules alone
   std::optional<LocalSearch> local_;
   std::int64_t stepsOfNode_ = 1;
+  std::int64_t run_ = 0;
   std::int64_t nodes_ = 0;
   std::int64_t steps_ = 0;
   std::int64_t solutions_ = 0;  ///< of the complete search; restarts count the same ones again

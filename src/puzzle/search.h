@@ -41,12 +41,14 @@ struct SearchLimit {
 
 /// Finds up to two solutions of a puzzle.
 ///
-/// The rules come first (Candidates). Then a complete search takes a tenth of the limit in one
-/// piece and the rest in restarts, whose lengths in nodes follow Luby's sequence (Luby, Sinclair
-/// and Zuckerman 1993). If it finishes, it has found all solutions. Under the normal rules it takes
-/// turns with a local search: after a head start of the complete search, which settles most small
-/// boards, both get the same number of nodes. Two different solutions from either search prove that
-/// there are several.
+/// The rules come first (Candidates). Then a complete search works in restarts, whose lengths in
+/// nodes follow Luby's sequence (Luby, Sinclair and Zuckerman 1993). If a run finishes, it has
+/// found all solutions. After fifteen short runs, which settle most boards with few clues, one
+/// undivided run takes a tenth of the limit: it proves what the short ones could not finish. A
+/// search limited in nodes starts with the undivided run. Under the normal rules the complete
+/// search takes turns with a local search: after a head start of the complete search, which settles
+/// most small boards, both get the same number of nodes. Two different solutions from either search
+/// prove that there are several.
 ///
 /// Yields at every node, and as often during the local search; an exception thrown by a yield ends
 /// the search.

@@ -376,10 +376,13 @@ TEST(SquareProgram, MakesPuzzles) {
   EXPECT_EQ(RunWith("complete --format json", three).Status, 0) << three;
   EXPECT_EQ(RunWith("complete", "NP12S3W04").Out, "one\n\n6 1 8\n7 5 3\n2 9 4\n\ntotal 15\n");
   EXPECT_EQ(RunWith("puzzle --size 5 --clues 3 --seed 1").Status, 1);
-  EXPECT_EQ(RunWith("puzzle --size 3 --grade expert --seed 1").Err,
-            "numorra-square: this square has no expert puzzle: this one is hard\n");
+  const Outcome other = RunWith("puzzle --size 3 --grades expert:1,easy:1 --seed 1");
+  EXPECT_EQ(other.Err, "numorra-square: 1 of 2 puzzles is of another grade than wished\n");
+  EXPECT_EQ(other.Status, 6);
   EXPECT_EQ(RunWith("puzzle --size 4 --sum 50 --limit-to-9 --seed 1").Err,
-            "numorra-square: the total is 20\n");
+            "numorra-square: the total is 20, not 50\n");
+  for (const char* grades : {"easy", "easy:0", "easy:1,,hard:1", "odd:3", "easy:1 --count 3"})
+    EXPECT_EQ(RunWith(std::string("puzzle --size 5 --grades ") + grades).Status, 2) << grades;
   EXPECT_EQ(RunWith("puzzle --size 5 --grade odd").Status, 2);
   EXPECT_EQ(RunWith("puzzle --size 4 --sum 90 --format csv --seed 2").Status, 0);
 }

@@ -4,7 +4,7 @@
 
 #include "app/board/position.h"
 #include "app/play/fill_gaps.h"
-#include "app/play/hints.h"
+#include "app/play/enter_puzzle.h"
 #include "app/play/lay_out.h"
 #include "app/play/study_commands.h"
 #include "cli/square_program.h"
@@ -41,6 +41,7 @@ class RefusedMemory : public PlayTest {
         const bool all = granted >= 0;
         granted = -1;
         EXPECT_TRUE(all);
+        dialogs_.Take();
         return refused;
       } catch (const std::bad_alloc&) {
         granted = -1;
@@ -67,7 +68,7 @@ TEST_F(RefusedMemory, EndsASearchAndLeavesTheBoard) {
   EXPECT_GT(Refuse(kOpen, true, fill), 20);
   EXPECT_GT(Refuse(kOne, true, [&] { Hints(board_, lot_, stage_).Next(); }), 20);
   EXPECT_GT(Refuse(kOne, true, [&] { CheckEntries(board_, lot_, stage_); }), 10);
-  EXPECT_GT(Refuse(kOpen, true, [&] { EnterPuzzle(board_, lot_, stage_); }), 20);
+  EXPECT_GT(Refuse(kOpen, true, [&] { EnterPuzzle(context_, stage_); }), 20);
 }
 
 TEST_F(RefusedMemory, LeavesAWholeBoardBehind) {

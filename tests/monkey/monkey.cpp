@@ -69,6 +69,11 @@ std::string StateByHand(const Board& board) {
                                       [](const auto& number) { return number.second > 1; });
   if (gaps > 0) {
     state << gaps << (gaps == 1 ? " cell to fill" : " cells to fill");
+    if (board.HasGivens()) {
+      state << (board.Asked == Rules::Positive
+                    ? " with any whole numbers"
+                    : " with the numbers 1 to " + std::to_string(n * n) + ", each once");
+    }
   } else if (equal) {
     state << "all cells are still equal";
   } else if (right < 2 * n + 2) {

@@ -75,7 +75,11 @@ std::string StateHead(int order, double target) {
 std::string StateOf(const Board& board) {
   if (!board.Shown()) return {};
   const int lines = 2 * board.GridSize + 2;
-  std::string state = StateHead(board.GridSize, board.TargetTotal) + Progress(Count(board), lines);
+  const Tally tally = Count(board);
+  std::string state = StateHead(board.GridSize, board.TargetTotal) + Progress(tally, lines);
+  if (tally.Gaps > 0 && board.HasGivens()) {
+    state += " with " + InWords(board.Asked, board.GridSize);
+  }
   if (board.Typing()) state += ", Enter checks";
   if (!board.TotalsChecked) state += ", F9 to play";
   return state;

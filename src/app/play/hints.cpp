@@ -6,7 +6,6 @@
 #include "app/board/totals_check.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
-#include "puzzle/rating.h"
 #include "puzzle/search.h"
 #include "puzzle/step_words.h"
 
@@ -160,27 +159,6 @@ Remark CheckEntries(const Board& board, Random& random, WorkStage& stage) {
     }
     const auto* open = std::get_if<NotSettled>(&result);
     return {open && !open->Found ? WhyOpen(*open, kFirstSearch) : "all entries can stay"};
-  };
-  return AfterSearch(board, random, stage, say);
-}
-
-Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage) {
-  if (!board.HasGaps()) return {"a puzzle has gaps: empty some cells with Backspace first"};
-  const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
-    constexpr std::int64_t kMostCounted = 100;
-    const bool several = std::holds_alternative<SeveralSolutions>(result);
-    std::optional<std::int64_t> count;
-    if (several) count = CountSolutions(puzzle, kMostCounted, kLimit, stage);
-    ForEachCell(board.GridSize,
-                [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
-    RefreshTotals(board);  // lines with gaps are now unfinished
-    if (std::holds_alternative<OneSolution>(result)) {
-      return {"one solution, " + std::string(NameOf(GradeOf(puzzle, stage)))};
-    }
-    if (std::holds_alternative<NoSolution>(result)) return {"no solution"};
-    if (!several) return {WhyOpen(std::get<NotSettled>(result), kFirstSearch)};
-    if (!count) return {"several solutions"};
-    return {(*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions"};
   };
   return AfterSearch(board, random, stage, say);
 }

@@ -45,7 +45,4 @@ class Hints {
 /// solution of the givens; without givens, those that alone leave no solution.
 Remark CheckEntries(const Board& board, Random& random, WorkStage& stage);
 
-/// Makes the numbers on the board givens, and says how many solutions the puzzle has.
-Remark EnterPuzzle(Board& board, Random& random, WorkStage& stage);
-
 }  // namespace numorra

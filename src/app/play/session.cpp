@@ -6,6 +6,7 @@
 #include "app/board/orders.h"
 #include "app/board/totals_check.h"
 #include "app/play/board_text.h"
+#include "app/play/enter_puzzle.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "app/play/manual_board.h"
@@ -127,7 +128,7 @@ Remark Session::CheckEntries() {
 }
 
 Remark Session::EnterPuzzle() {
-  return numorra::EnterPuzzle(TheBoard, TheRandom, ports_->Searching);
+  return numorra::EnterPuzzle(Context(), ports_->Searching);
 }
 
 void Session::FillGaps(LineKind kind) {

@@ -128,7 +128,7 @@ TEST_F(FillGapsTest, FillsLargeBoards) {
 /// A stopped search leaves the board as it was, and no bar.
 TEST_F(FillGapsTest, IsSuperseded) {
   LayOutGaps("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 1", 34);
-  stage_.YieldsLeft = 20;
+  stage_.YieldsLeft = 3;
   EXPECT_THROW(Fill(), Superseded);
   EXPECT_FALSE(stage_.Busy);
   EXPECT_EQ(At(4, 4), "1");

@@ -1,5 +1,6 @@
 #include "app/play/hints.h"
 
+#include "app/play/enter_puzzle.h"
 #include "app/play/lay_out.h"
 #include "puzzle/code.h"
 #include "support/invariants.h"
@@ -15,6 +16,11 @@ class HintsTest : public PlayTest {
   }
   void Type(int row, int column, const char* number) { board_.grid.SetText(row, column, number); }
   std::string Check() { return CheckEntries(board_, random_, stage_).Text; }
+
+  std::string Enter(bool eachOnce) {
+    dialogs_.Answers = {eachOnce};
+    return EnterPuzzle({board_, boxes_, dialogs_, random_}, stage_).Text;
+  }
 
   PlainBoxes boxes_;
   NotingStage stage_;
@@ -84,7 +90,10 @@ TEST_F(HintsTest, SayWhyABoardIsNoPuzzle) {
   Read(". . .\n. 5 .\n. . .");
   EXPECT_EQ(hints_.Next().Text, "this board has several solutions, so no number follows");
   Read("4 . . 16\n. . . .\n. . . .\n1 . . 13");
-  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "4 solutions");
+  EXPECT_EQ(Enter(true), "by the numbers 1 to 16, each once: 4 solutions");
+  EXPECT_EQ(dialogs_.Take().back(),
+            "by the numbers 1 to 16, each once: 4 solutions\nby any whole numbers: at least 100 "
+            "solutions\ntake the numbers 1 to 16, each once?");
   EXPECT_EQ(WhyInvalid(board_), "");
   EXPECT_TRUE(board_.grid.Given(1, 1));
   EXPECT_FALSE(board_.grid.Given(2, 2));
@@ -93,15 +102,26 @@ TEST_F(HintsTest, SayWhyABoardIsNoPuzzle) {
   EXPECT_EQ(Check(), "all entries can stay") << "of several solutions, one has it";
   board_.grid.SetText(1, 2, "15");
   EXPECT_EQ(Check(), "15 in row 1, column 2 cannot stay");
-  Read("1 . . .\n. . . .\n. . . .\n. . . .");
-  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "at least 100 solutions");
-  Read("8 1 .\n. 5 .\n. . .");
-  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "one solution, easy");
-  Read("8 1 .\n. 4 .\n. . .");
-  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text, "no solution");
-  Read("8 1 6\n3 5 7\n4 9 2");
-  EXPECT_EQ(EnterPuzzle(board_, random_, stage_).Text,
-            "a puzzle has gaps: empty some cells with Backspace first");
+  const struct {
+    const char* Rows;
+    bool EachOnce;
+    const char* Remark;
+    std::size_t Questions;
+  } kEntered[] = {
+      {"1 . . .\n. . . .\n. . . .\n. . . .", true,
+       "by the numbers 1 to 16, each once: at least 100 solutions", 1},
+      {"8 1 .\n. 5 .\n. . .", false, "by any whole numbers: one solution, easy", 1},
+      {"8 1 .\n. 4 .\n. . .", true, "by the numbers 1 to 9, each once: no solution", 1},
+      {"8 8 .\n. 5 .\n. . .", true, "by any whole numbers: no solution", 0},
+      {"8 1 6\n3 5 7\n4 9 2", true, "a puzzle has gaps: empty some cells with Backspace first", 0},
+  };
+  for (const auto& entered : kEntered) {
+    Read(entered.Rows);
+    EXPECT_EQ(Enter(entered.EachOnce), entered.Remark);
+    EXPECT_EQ(dialogs_.Take().size(), entered.Questions) << entered.Rows;
+    const bool normal = entered.Questions > 0 && entered.EachOnce;
+    EXPECT_TRUE(!board_.HasGivens() || (board_.Asked == Rules::Normal) == normal);
+  }
   EXPECT_FALSE(board_.HasGivens());
 }
 

@@ -215,9 +215,12 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
   Find<QAction>("PrintWorksheetx").trigger();
   auto* form = window_.findChild<QDialog*>("PrintWorksheet");
   ASSERT_NE(form, nullptr);
-  form->findChild<QSpinBox*>("SheetCount")->setValue(24);
-  form->findChild<QComboBox*>("PerPage")->setCurrentIndex(3);
-  form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(3);
+  auto* easy = form->findChild<QSpinBox*>("Sheet_easy");
+  auto* expert = form->findChild<QSpinBox*>("Sheet_expert");
+  EXPECT_EQ(form->findChild<QSpinBox*>("SheetSize")->value(), 8);
+  easy->setValue(0);
+  EXPECT_FALSE(form->findChild<QPushButton*>("PreviewSheetx")->isEnabled()) << "no puzzles";
+  expert->setValue(24);
   auto* print = form->findChild<QPushButton*>("PreviewSheetx");
   auto* stop = form->findChild<QPushButton*>("StopMakingx");
   const auto* told = form->findChild<QLabel*>("SheetTold");
@@ -225,7 +228,11 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
   EXPECT_TRUE(ActWithin([&] { print->click(); }, made, [&] { stop->click(); }));
   EXPECT_TRUE(print->isEnabled());
   EXPECT_TRUE(pages_.Pictures.empty());
-  form->findChild<QComboBox*>("GradeBox")->setCurrentIndex(0);
+  easy->setValue(20);
+  expert->setValue(4);
+  EXPECT_EQ(told->text(),
+            "Prints 24 puzzles of size 8, total 260, with the numbers 1 to 64, each once: 20 easy, "
+            "4 expert; on 4 pages, with 4 pages of answers.");
   print->click();
   EXPECT_EQ(pages_.Pictures.size(), 8U) << "four pages of puzzles, four of answers";
   EXPECT_NE(pages_.Pictures[0], pages_.Pictures[4]);
@@ -233,6 +240,20 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
   form->findChild<QComboBox*>("Orientation")->setCurrentText("landscape");
   print->click();
   EXPECT_EQ(pages_.Orientation, QPageLayout::Landscape);
+  form->findChild<QSpinBox*>("SheetSize")->setValue(3);
+  expert->setValue(1);
+  easy->setValue(0);
+  print->click();
+  EXPECT_EQ(told->text(), "the puzzle is of another grade than wished");
+  form->findChild<QComboBox*>("SheetNumbers")->setCurrentIndex(2);
+  form->findChild<QDoubleSpinBox*>("SheetTotal")->setValue(12);
+  form->close();
+  Find<QAction>("PrintWorksheetx").trigger();
+  EXPECT_EQ(
+      window_.findChildren<QLabel*>("SheetTold").last()->text(),
+      "Prints 1 puzzle of size 3, total 12, with numbers up to 9: 1 expert; on 1 page, with 1 "
+      "page of answers.")
+      << "what was chosen is kept";
 }
 
 }  // namespace

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QSpinBox>
-#include <QWidget>
 
+#include "app/window/forms/clues_box.h"
 #include "puzzle/making.h"
 
 namespace numorra {
@@ -19,16 +17,14 @@ class PuzzleWishBox : public QWidget {
   PuzzleWish Wish() const;
 
   /// Adapts the controls to puzzles of this order.
-  void SetOrder(int order);
+  void SetOrder(int order) { clues_->SetOrder(order); }
 
  Q_SIGNALS:
   void Changed();
 
  private:
   QComboBox* grade_;
-  QCheckBox* fewest_;
-  QSpinBox* clues_;
-  QCheckBox* symmetric_;
+  CluesBox* clues_;
 };
 
 }  // namespace numorra

@@ -1,5 +1,7 @@
 #include "app/window/forms/worksheet_form.h"
 
+#include <algorithm>
+
 #include <QFormLayout>
 #include <QScopeGuard>
 #include <QVBoxLayout>
@@ -10,120 +12,153 @@
 namespace numorra {
 namespace {
 
-/// Thrown if a set of puzzles cannot be made; holds the reason.
-struct NoSet {
-  std::string Why;
-};
+QString Counted(int count, const char* what) {
+  return QString("%1 %2%3").arg(count).arg(what, count == 1 ? "" : "s");
+}
+
+/// "on 2 pages, with 2 pages of answers"
+QString PagesFor(int puzzles, int perPage) {
+  const QString pages = Counted((puzzles + perPage - 1) / perPage, "page");
+  return "on " + pages + ", with " + pages + " of answers";
+}
+
+bool TakesLong(const PuzzleSetWish& set) {
+  constexpr int kLargeOrder = 40;
+  return set.Square.Order >= kLargeOrder &&
+         std::any_of(set.Grades.begin(), set.Grades.end(),
+                     [](const GradeShare& share) { return share.Wanted > Grade::Easy; });
+}
+
+int PuzzlesIn(const PuzzleSetWish& set) {
+  int all = 0;
+  for (const GradeShare& share : set.Grades)
+    all += share.Count;
+  return all;
+}
 
 }  // namespace
 
-WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SquareWish fresh, PagePrinter& printer,
+WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrinter& printer,
                              Random& random, Dialogs& dialogs, QWidget* parent)
     : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
       atHand_(std::move(atHand.Puzzles)),
-      fresh_(fresh),
+      choice_(choice),
       printer_(printer),
       random_(random),
       printsAtHand_(Named("SheetFromBoardx", new QRadioButton(atHand.Caption))),
-      count_(Named("SheetCount", new QSpinBox)),
-      wish_(new PuzzleWishBox),
+      set_(new FreshSetBox(choice.Set)),
       perPage_(Named("PerPage", new QComboBox)),
       orientation_(Named("Orientation", new QComboBox)),
-      title_(Named("SheetTitle", new QLineEdit(WorksheetWish().Title))),
+      title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
       total_(Named("TotalGivenx", new QCheckBox("the &total is given"))),
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
-  constexpr int kMostPuzzles = 200;
-  count_->setRange(1, kMostPuzzles);
-  count_->setValue(6);
   for (const int number : {1, 2, 4, 6})
     perPage_->addItem(QString::number(number), number);
+  perPage_->setCurrentIndex(perPage_->findData(choice.Layout.PerPage));
   orientation_->addItems({"portrait", "landscape"});
-  perPage_->setCurrentIndex(perPage_->count() - 1);
-  total_->setChecked(true);
-  auto* fromFresh = Named("SheetFreshx",
-                          new QRadioButton(QString("&Fresh puzzles of size %1").arg(fresh_.Order)));
+  orientation_->setCurrentIndex(choice.Landscape ? 1 : 0);
+  total_->setChecked(choice.Layout.TotalGiven);
+  auto* fromFresh = Named("SheetFreshx", new QRadioButton("&Fresh puzzles"));
   printsAtHand_->setEnabled(!atHand_.empty());
   (atHand_.empty() ? fromFresh : printsAtHand_)->setChecked(true);
-  wish_->SetOrder(fresh_.Order);
   told_->setWordWrap(true);
-  told_->setMinimumHeight(2 * told_->fontMetrics().lineSpacing());
+  told_->setAlignment(Qt::AlignTop);
+  told_->setMinimumHeight(4 * told_->fontMetrics().lineSpacing());
   auto* close = Named("CloseSheetx", new QPushButton("&Close"));
 
-  auto* form = new QFormLayout;
-  form->addRow("How &many", count_);
-  form->addRow(wish_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(printsAtHand_);
   column->addWidget(fromFresh);
-  column->addLayout(form);
+  column->addWidget(set_);
   auto* layout = new QFormLayout;
   layout->addRow("Puzzles on a pag&e", perPage_);
   layout->addRow("Pape&r", orientation_);
   layout->addRow("T&itle", title_);
   layout->addRow("", total_);
   column->addLayout(layout);
-  column->addWidget(told_);
+  column->addWidget(told_, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(print_);
   buttons->addWidget(stop_);
   buttons->addStretch();
   buttons->addWidget(close);
   column->addLayout(buttons);
-  const auto follow = [this] {
-    const bool makes = !printsAtHand_->isChecked();
-    count_->setEnabled(makes);
-    wish_->setEnabled(makes);
-  };
-  follow();
   ShowMaking(false);
-  OnSignal(runner_, printsAtHand_, &QRadioButton::toggled, this, follow);
+  TakeChoice();
+  const auto take = [this] { TakeChoice(); };
+  OnSignal(runner_, printsAtHand_, &QRadioButton::toggled, this, take);
+  OnSignal(runner_, set_, &FreshSetBox::Changed, this, take);
+  OnSignal(runner_, perPage_, &QComboBox::currentIndexChanged, this, take);
+  OnSignal(runner_, orientation_, &QComboBox::currentIndexChanged, this, take);
+  OnSignal(runner_, title_, &QLineEdit::textChanged, this, take);
+  OnSignal(runner_, total_, &QCheckBox::toggled, this, take);
   OnClick(runner_, print_, this, [this] { Print(); });
   OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
   OnClick(runner_, close, this, [this] { this->close(); });
 }
 
+/// Keeps what is chosen, and says what it will print.
+void WorksheetForm::TakeChoice() {
+  const bool makes = !printsAtHand_->isChecked();
+  set_->setEnabled(makes);
+  choice_ = {set_->Wish(),
+             {perPage_->currentData().toInt(), title_->text(), total_->isChecked()},
+             orientation_->currentIndex() == 1};
+  const int puzzles = makes ? PuzzlesIn(choice_.Set) : static_cast<int>(atHand_.size());
+  const bool making = stop_->isEnabled();
+  print_->setEnabled(puzzles > 0 && !making);
+  if (making) return;
+  QString what = Counted(puzzles, "puzzle");
+  if (puzzles == 0) {
+    told_->setText("Choose how many puzzles of each grade.");
+    return;
+  }
+  if (makes) what = InWords(choice_.Set);
+  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout.PerPage) + ".";
+  if (makes && TakesLong(choice_.Set)) told += " Puzzles as large take some seconds each.";
+  told_->setText(told);
+}
+
 void WorksheetForm::ShowMaking(bool making) {
   stop_->setEnabled(making);
   print_->setEnabled(!making);
-  told_->clear();
+  if (!making) TakeChoice();
 }
 
-std::vector<MadePuzzle> WorksheetForm::Puzzles() {
-  if (printsAtHand_->isChecked()) return atHand_;
+std::vector<MadePuzzle> WorksheetForm::MakeSet(QString& shortfall) {
   ShowMaking(true);
   const auto done = qScopeGuard([this] { ShowMaking(false); });
   std::vector<MadePuzzle> puzzles;
+  const int all = PuzzlesIn(choice_.Set);
   FormYielding stage(runner_, [&] {
-    told_->setText(
-        QString("Making puzzle %1 of %2...").arg(puzzles.size() + 1).arg(count_->value()));
+    told_->setText(QString("Making puzzle %1 of %2...").arg(puzzles.size() + 1).arg(all));
   });
   random_.Reseed();
-  while (static_cast<int>(puzzles.size()) < count_->value()) {
+  PuzzleSet set(choice_.Set, random_, stage);
+  stage.Yield();
+  while (auto made = set.Next()) {
+    puzzles.push_back(*std::move(made));
     stage.Yield();
-    auto made = MakeFreshPuzzle(fresh_, wish_->Wish(), random_, stage);
-    if (const auto* cannot = std::get_if<CannotMake>(&made)) throw NoSet{cannot->Why};
-    puzzles.push_back(std::get<MadePuzzle>(std::move(made)));
   }
+  shortfall = QString::fromStdString(set.Shortfall());
   return puzzles;
 }
 
 void WorksheetForm::Print() {
   runner_.Run("Worksheet", [this] {
-    try {
-      const WorksheetWish wish{perPage_->currentData().toInt(), title_->text(),
-                               total_->isChecked()};
-      const Worksheet sheet(Puzzles(), wish);
-      printer_.Preview(
-          this, {title_->text(), sheet.Pages(),
-                 orientation_->currentIndex() == 0 ? QPageLayout::Portrait : QPageLayout::Landscape,
-                 [&sheet](QPainter& painter, QSizeF size, int page) {
-                   sheet.PaintPage(painter, size, page);
-                 }});
-    } catch (const NoSet& none) {
-      told_->setText(QString::fromStdString(none.Why));
-    }
+    const SheetChoice choice = choice_;
+    QString shortfall;
+    const auto puzzles = printsAtHand_->isChecked() ? atHand_ : MakeSet(shortfall);
+    if (!shortfall.isEmpty()) told_->setText(shortfall);
+    if (puzzles.empty()) return;
+    const Worksheet sheet(puzzles, choice.Layout);
+    printer_.Preview(this, {choice.Layout.Title, sheet.Pages(),
+                            choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                            [&sheet](QPainter& painter, QSizeF size, int page) {
+                              sheet.PaintPage(painter, size, page);
+                            }});
   });
 }
 

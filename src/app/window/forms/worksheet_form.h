@@ -5,10 +5,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "app/window/forms/puzzle_wish_box.h"
+#include "app/window/forms/fresh_set_box.h"
 #include "print/page_printer.h"
 #include "print/worksheet.h"
-#include "puzzle/fresh_puzzle.h"
 #include "toolkit/command_form.h"
 
 namespace numorra {
@@ -19,27 +18,36 @@ struct PuzzlesAtHand {
   std::vector<MadePuzzle> Puzzles;
 };
 
-/// The dialog (`PrintWorksheet`) that prints puzzles: those at hand, or a set of fresh ones; the
-/// player can stop the making of a set.
+/// What was last chosen for worksheets.
+struct SheetChoice {
+  PuzzleSetWish Set;
+  WorksheetWish Layout = {.PerPage = 6};
+  bool Landscape = false;
+};
+
+/// The dialog (`PrintWorksheet`) that prints puzzles: those at hand, or a set of fresh ones. It
+/// says what it will print, and afterwards what could not be made; the player can stop the making
+/// of a set.
 class WorksheetForm : public CommandForm {
   Q_OBJECT
 
  public:
-  WorksheetForm(PuzzlesAtHand atHand, SquareWish fresh, PagePrinter& printer, Random& random,
+  /// `choice`: what the dialog starts with; it keeps what the player chooses.
+  WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrinter& printer, Random& random,
                 Dialogs& dialogs, QWidget* parent);
 
  private:
+  void TakeChoice();
   void Print();
-  std::vector<MadePuzzle> Puzzles();
+  std::vector<MadePuzzle> MakeSet(QString& shortfall);
   void ShowMaking(bool making);
 
   std::vector<MadePuzzle> atHand_;
-  SquareWish fresh_;
+  SheetChoice& choice_;
   PagePrinter& printer_;
   Random& random_;
   QRadioButton* printsAtHand_;
-  QSpinBox* count_;
-  PuzzleWishBox* wish_;
+  FreshSetBox* set_;
   QComboBox* perPage_;
   QComboBox* orientation_;
   QLineEdit* title_;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/play/session.h"
 #include "app/window/board/board_place.h"
+#include "app/window/forms/worksheet_form.h"
 #include "app/window/frames/control_column.h"
 #include "app/window/menus/board_menu.h"
 #include "toolkit/command_runner.h"
@@ -21,6 +23,7 @@ class Desk {
   ControlColumn& Controls;
   BoardPlace& Place;
   BoardMenu& Menu;
+  std::optional<SheetChoice> Sheet = {};  ///< what was last chosen for worksheets
 
   const Board& TheBoard() const { return TheSession.TheBoard; }
 
@@ -35,6 +38,10 @@ class Desk {
   std::function<void()> Beside(CommandRunner::Command body);
 
   void BringCurrentCellIntoView();
+
+  /// Opens the dialog that prints worksheets. At first it offers puzzles as the boxes describe
+  /// them.
+  void OpenWorksheet(PuzzlesAtHand atHand, PagePrinter& printer, QWidget* window);
 
   /// Shows the session's mode.
   void ShowMode();

@@ -3,7 +3,6 @@
 #include <QApplication>
 
 #include "app/play/lay_out.h"
-#include "app/window/forms/worksheet_form.h"
 #include "app/window/menus/square_files.h"
 #include "print/print_form.h"
 #include "print/sheet.h"
@@ -87,15 +86,11 @@ void FileMenu::OpenPrintForm() {
 }
 
 void FileMenu::OpenWorksheet() {
-  const auto fresh = desk_.TheSession.WishForFreshSquares();
-  if (!fresh) return;
   PuzzlesAtHand onBoard{"The puzzle on the &board", {}};
   if (auto solved = desk_.TheSession.SolvedPuzzleOnBoard()) {
     onBoard.Puzzles.push_back(*std::move(solved));
   }
-  (new WorksheetForm(std::move(onBoard), *fresh, ports_.Pages, desk_.TheSession.TheRandom,
-                     desk_.TheDialogs, window_))
-      ->open();
+  desk_.OpenWorksheet(std::move(onBoard), ports_.Pages, window_);
 }
 
 }  // namespace numorra

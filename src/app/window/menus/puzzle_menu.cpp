@@ -7,7 +7,6 @@
 
 #include "app/window/forms/enter_code_form.h"
 #include "app/window/forms/hide_numbers_form.h"
-#include "app/window/forms/worksheet_form.h"
 #include "study/special.h"
 #include "toolkit/menus.h"
 #include "toolkit/named.h"
@@ -134,17 +133,13 @@ void PuzzleMenu::OpenEnterCode() {
   });
   OnSignal(desk_.Runner, form, &EnterCodeForm::SetTaken, this,
            [this](const std::vector<MadePuzzle>& puzzles) {
-             desk_.Runner.Run("Print Worksheet", [this, puzzles] { OpenWorksheet(puzzles); });
+             desk_.Runner.Run("Print Worksheet", [this, puzzles] {
+               desk_.OpenWorksheet(
+                   {QString("Puzzles &by their codes: %1").arg(puzzles.size()), puzzles}, printer_,
+                   window_);
+             });
            });
   form->open();
-}
-
-void PuzzleMenu::OpenWorksheet(const std::vector<MadePuzzle>& puzzles) {
-  const auto fresh = desk_.TheSession.WishForFreshSquares();
-  if (!fresh) return;
-  (new WorksheetForm({QString("Puzzles &by their codes: %1").arg(puzzles.size()), puzzles}, *fresh,
-                     printer_, desk_.TheSession.TheRandom, desk_.TheDialogs, window_))
-      ->open();
 }
 
 }  // namespace numorra

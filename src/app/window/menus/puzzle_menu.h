@@ -21,7 +21,6 @@ class PuzzleMenu : public QObject {
  private:
   void OpenHideNumbers();
   void OpenEnterCode();
-  void OpenWorksheet(const std::vector<MadePuzzle>& puzzles);
   void CopyCode();
 
   /// Runs a command and shows its remark; its search replaces an older remark.

@@ -1,0 +1,65 @@
+#include "app/play/enter_puzzle.h"
+
+#include "app/board/totals_check.h"
+#include "app/play/fill_gaps.h"
+#include "app/play/lay_out.h"
+#include "puzzle/rating.h"
+
+namespace numorra {
+namespace {
+
+/// How many solutions a puzzle has, and its grade if there is one.
+std::string SolutionsOf(const Puzzle& puzzle, Random& random, WorkStage& stage) {
+  constexpr std::int64_t kMostCounted = 100;
+  const SearchLimit limit{.Seconds = kFirstSearch};
+  const BusyPointer busy(stage);
+  const SearchResult result = Solve(puzzle, limit, random, stage);
+  if (std::holds_alternative<OneSolution>(result)) {
+    return "one solution, " + std::string(NameOf(GradeOf(puzzle, stage)));
+  }
+  if (std::holds_alternative<NoSolution>(result)) return "no solution";
+  if (const auto* open = std::get_if<NotSettled>(&result)) return WhyOpen(*open, kFirstSearch);
+  const auto count = CountSolutions(puzzle, kMostCounted, limit, stage);
+  if (!count) return "several solutions";
+  return (*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions";
+}
+
+}  // namespace
+
+Remark EnterPuzzle(const CommandContext& context, WorkStage& stage) {
+  Board& board = context.TheBoard;
+  if (!board.HasGaps()) return {"a puzzle has gaps: empty some cells with Backspace first"};
+  const auto readBy = [&](Rules rules) {
+    StoredSquare square = StoredSquareOf(board);
+    square.Asked = rules;
+    return PuzzleOf(square);
+  };
+  const auto normal = readBy(Rules::Normal);
+  const auto positive = readBy(Rules::Positive);
+  if (const auto* against = std::get_if<AgainstRules>(&positive)) {
+    return {against->Why, against->Where ? std::vector{*against->Where} : std::vector<Place>()};
+  }
+  context.TheRandom.Reseed();
+  const auto told = [&](const std::variant<Puzzle, AgainstRules>& read) {
+    const auto& puzzle = std::get<Puzzle>(read);
+    return "by " + InWords(puzzle.Asked, puzzle.Order()) + ": " +
+           SolutionsOf(puzzle, context.TheRandom, stage);
+  };
+  auto chosen = Rules::Positive;
+  std::string text = told(positive);
+  if (std::holds_alternative<Puzzle>(normal)) {
+    const std::string byNormal = told(normal);
+    if (context.TheDialogs.Ask(byNormal + "\n" + text + "\ntake " +
+                               InWords(Rules::Normal, board.GridSize) + "?")) {
+      chosen = Rules::Normal;
+      text = byNormal;
+    }
+  }
+  board.Asked = chosen;
+  ForEachCell(board.GridSize,
+              [&](int r, int c) { board.grid.SetGiven(r, c, !board.grid.At(r, c).IsGap()); });
+  RefreshTotals(board);  // lines with gaps are now unfinished
+  return {text};
+}
+
+}  // namespace numorra
