@@ -56,6 +56,9 @@ bool DeriveLine(const Candidates& board, Step& step) {
     step.Sum = step.Total - step.Sum;
     return step.Gaps == 0 && step.Sum != step.Total;
   }
+  for (const int gap : gaps) {
+    if (gap != step.Cell && board.Count(gap) == 0) return false;  // its own step says so
+  }
   if (!IsGap(board, step.Cell)) return false;
   if (step.By == StepRule::LastGap) {
     step.Left = Between(board, step.Cell, step.Sum, step.Sum);

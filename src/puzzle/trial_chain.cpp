@@ -136,7 +136,8 @@ TrialChainFinder::Choice TrialChainFinder::Several() {
 bool TrialChainFinder::Suffices(Choice& choice) {
   const std::size_t mark = board_.Mark();
   std::erase_if(choice, [&](const Refuted& refuted) {
-    return !board_.Allows(refuted.Cell, refuted.Number) ||
+    const std::vector<std::int64_t> numbers = NumbersToTry(refuted.Cell);
+    return std::find(numbers.begin(), numbers.end(), refuted.Number) == numbers.end() ||
            !WorkToRefute(refuted.Cell, refuted.Number) || !Remove(refuted);
   });
   const bool gives = GivesNumber();

@@ -166,7 +166,7 @@ class ChainJudge {
              Listed(step.Partner) == At(step.OtherGap).Marks;
     }
     const std::int64_t sign = step.By == StepRule::AtMost ? 1 : -1;
-    return others.size() > 1 && sign * step.Others <= LeastSum(others, sign);
+    return others.size() > 1 && sign * step.Others == LeastSum(others, sign);
   }
 
   /// Whether the step leaves a number.
@@ -178,33 +178,33 @@ class ChainJudge {
     return Contains(Listed(step.Partner), rest) && (!normal_ || rest != number);
   }
 
-  /// The smallest sum of marks of the cells, all different under the normal rules; with sign -1,
-  /// the smallest sum of their negatives.
+  /// The smallest sum of numbers of which each is at least the lowest mark of one of the cells, all
+  /// different under the normal rules; with sign -1, of the negatives of numbers that are at most
+  /// the highest marks.
   std::int64_t LeastSum(const std::vector<int>& cells, std::int64_t sign) {
     std::int64_t least = puzzle_.Target * puzzle_.Order();
-    Numbers used;
-    AddTo(used, 0, cells, sign, least);
+    AddTo({}, 0, cells, sign, least);
     return least;
   }
-  void AddTo(Numbers& used, std::int64_t sum, const std::vector<int>& cells, std::int64_t sign,
+  void AddTo(Numbers used, std::int64_t sum, const std::vector<int>& cells, std::int64_t sign,
              std::int64_t& least) {
-    if (used.size() == cells.size()) {
-      least = std::min(least, sum);
-      return;
-    }
+    if (used.size() == cells.size()) least = std::min(least, sum);
     std::int64_t atLeast = sum;
-    for (std::size_t i = used.size(); i < cells.size(); ++i) {
+    const auto first = [&](std::size_t i) {
       const Numbers& marks = At(cells[i]).Marks;
-      atLeast += marks.empty() ? 0 : std::min(sign * marks.front(), sign * marks.back());
-    }
-    if (atLeast >= least) return;
-    Numbers marks = At(cells[used.size()]).Marks;
-    if (sign < 0) std::reverse(marks.begin(), marks.end());
-    for (const std::int64_t number : marks) {
+      return sign > 0 ? marks.front() : -marks.back();
+    };
+    for (std::size_t i = used.size(); i < cells.size(); ++i)
+      atLeast += first(i);
+    if (used.size() == cells.size() || atLeast >= least) return;
+    const std::int64_t low = first(used.size());
+    const auto choices = normal_ ? static_cast<std::int64_t>(cells.size()) : 1;
+    used.push_back(0);
+    for (std::int64_t number = low; number < low + choices; ++number) {
+      used.back() = 0;
       if (normal_ && Contains(used, number)) continue;
-      used.push_back(number);
-      AddTo(used, sum + sign * number, cells, sign, least);
-      used.pop_back();
+      used.back() = number;
+      AddTo(used, sum + number, cells, sign, least);
     }
   }
 
