@@ -41,8 +41,9 @@ std::optional<std::size_t> TrialChainFinder::WorkToRefute(int cell, std::int64_t
 /// The gaps, those with the fewest candidates first.
 std::vector<int> TrialChainFinder::GapsToTry() const {
   std::vector<int> gaps;
+  const std::int64_t most = Trials::MostTried(board_.IsNormal());
   for (int cell = 0; cell < board_.Cells(); ++cell) {
-    if (board_.Value(cell) == 0 && board_.Count(cell) <= Trials::kMostTried) gaps.push_back(cell);
+    if (board_.Value(cell) == 0 && board_.Count(cell) <= most) gaps.push_back(cell);
   }
   std::stable_sort(gaps.begin(), gaps.end(),
                    [&](int a, int b) { return board_.Count(a) < board_.Count(b); });
