@@ -121,7 +121,7 @@ std::optional<Chain> ChainFinder::ShortestTo(const std::vector<Note>& ends) {
       chain = replayed(std::move(all));
     }
     if (!chain) continue;
-    chain = Shortened(base_, std::move(*chain), goal);
+    chain = Shortened(base_, std::move(*chain), goal, yielding_);
     if (!best || chain->size() < best->size()) best = std::move(chain);
   }
   return best;

@@ -1,5 +1,7 @@
 #include "puzzle/chain_replay.h"
 
+#include <algorithm>
+
 #include "puzzle/step_rules.h"
 
 namespace numorra {
@@ -90,10 +92,11 @@ std::optional<Chain> Replayed(Candidates& board, const std::vector<Move>& moves,
   return std::nullopt;
 }
 
-Chain Shortened(Candidates& board, Chain chain, ChainGoal goal) {
+Chain Shortened(Candidates& board, Chain chain, ChainGoal goal, Yielding& yielding) {
   constexpr std::size_t kFewest = 4;
   for (std::size_t size = chain.size() / 2; size >= kFewest; size /= 2) {
     for (std::size_t end = chain.size(); end >= size; end = std::min(end - size, chain.size())) {
+      yielding.Yield();
       std::vector<Move> moves(chain.begin(), chain.end());
       const auto last = moves.begin() + static_cast<std::ptrdiff_t>(end);
       moves.erase(last - static_cast<std::ptrdiff_t>(size), last);
@@ -104,6 +107,7 @@ Chain Shortened(Candidates& board, Chain chain, ChainGoal goal) {
     before = chain.size();
     for (std::size_t i = chain.size(); i-- > 0;) {
       if (i >= chain.size()) continue;
+      yielding.Yield();
       if (auto shorter = Replayed(board, Without(chain, i), goal)) chain = std::move(*shorter);
     }
   }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/ports/yielding.h"
 #include "puzzle/candidates.h"
 #include "puzzle/step.h"
 
@@ -20,7 +21,7 @@ std::optional<Chain> Replayed(Candidates& board, const std::vector<Move>& moves,
 
 /// Leaves out steps, and whole trials, first many at a time, until the goal is not reached without
 /// any of those that remain. A number that was left for a gap in a step of its own is put there by
-/// the step before that leaves it, if this is enough.
-Chain Shortened(Candidates& board, Chain chain, ChainGoal goal);
+/// the step before that leaves it, if this is enough. Yields before every attempt.
+Chain Shortened(Candidates& board, Chain chain, ChainGoal goal, Yielding& yielding);
 
 }  // namespace numorra

@@ -212,7 +212,7 @@ std::optional<Chain> TrialChainFinder::Explained(const Choice& choice, bool narr
   }
   Candidates board = fresh_;
   auto chain = Replayed(board, moves, ChainGoal::Number);
-  return chain ? std::optional(Shortened(board, std::move(*chain), ChainGoal::Number))
+  return chain ? std::optional(Shortened(board, std::move(*chain), ChainGoal::Number, yielding_))
                : std::nullopt;
 }
 

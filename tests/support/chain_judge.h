@@ -186,8 +186,8 @@ class ChainJudge {
     AddTo({}, 0, cells, sign, least);
     return least;
   }
-  void AddTo(Numbers used, std::int64_t sum, const std::vector<int>& cells, std::int64_t sign,
-             std::int64_t& least) {
+  void AddTo(const Numbers& used, std::int64_t sum, const std::vector<int>& cells,
+             std::int64_t sign, std::int64_t& least) {
     if (used.size() == cells.size()) least = std::min(least, sum);
     std::int64_t atLeast = sum;
     const auto first = [&](std::size_t i) {
@@ -199,12 +199,11 @@ class ChainJudge {
     if (used.size() == cells.size() || atLeast >= least) return;
     const std::int64_t low = first(used.size());
     const auto choices = normal_ ? static_cast<std::int64_t>(cells.size()) : 1;
-    used.push_back(0);
     for (std::int64_t number = low; number < low + choices; ++number) {
-      used.back() = 0;
       if (normal_ && Contains(used, number)) continue;
-      used.back() = number;
-      AddTo(used, sum + number, cells, sign, least);
+      Numbers more = used;
+      more.push_back(number);
+      AddTo(more, sum + number, cells, sign, least);
     }
   }
 
