@@ -13,7 +13,7 @@
 namespace numorra {
 namespace {
 
-Square<double> NumbersShown(const Board& board) {
+Square<double> NumbersOn(const Board& board) {
   return SquareOf(board.GridSize, [&](int cell) {
     const Place place = PlaceAt(cell, board.GridSize);
     return Val(board.grid.Text(place.Row, place.Column));
@@ -27,7 +27,7 @@ std::optional<Square<double>> FullBoard(const CommandContext& context) {
   ForEachCell(board.GridSize, [&](int r, int c) {
     if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
   });
-  if (!gap) return NumbersShown(board);
+  if (!gap) return NumbersOn(board);
   context.TheDialogs.Tell(NameOf(*gap) + " is empty: this needs a full board");
   return std::nullopt;
 }
@@ -63,7 +63,7 @@ double FirstRowTotal(const Square<double>& square) {
 
 std::optional<NumberSquare> SquareOn(const Board& board) {
   if (!board.Shown() || board.HasGaps()) return std::nullopt;
-  return NumberSquare(NumbersShown(board));
+  return NumberSquare(NumbersOn(board));
 }
 
 void VaryBoard(const CommandContext& context) {
