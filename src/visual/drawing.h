@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+
 #include <QWidget>
 
 #include "app/board/board.h"
@@ -23,6 +26,10 @@ class Drawing : public QWidget {
 
   /// Whether the drawing shows the numbers.
   void SetNumbers(bool shown);
+
+  /// Where all cells of the drawing go in a widget of a size, if not in its middle and as large as
+  /// possible.
+  std::function<std::optional<QRect>(QSize)> BlockIn = [](QSize) { return std::nullopt; };
 
   /// Paints the drawing in the colours of the palette over the painter's ground, which is as large
   /// as the widget.

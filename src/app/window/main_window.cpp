@@ -92,7 +92,7 @@ void MainWindow::ConnectSession() {
 void MainWindow::AddMenus() {
   files_ = new FileMenu(menuBar(), desk_, {world_.Files, world_.Printer, world_.Pages});
   new EditMenu(menuBar(), desk_);
-  view_ = new ViewMenu(this, desk_);
+  view_ = new ViewMenu(this, desk_, state_);
   new ControlsMenu(menuBar(), *controls_);
   new StudyMenu(this, desk_, view_->Room());
   new PuzzleMenu(menuBar(), desk_, searchStage_, world_.Pages, state_);

@@ -143,12 +143,37 @@ TEST_F(ZoomTest, FullScreenShowsTheBoardAndRestoresEverything) {
   EXPECT_FALSE(window_.View().Fitting() || Find<QAction>("FullScreenx").isChecked());
 }
 
+/// A fitted board stands in the middle, and drawings and walks put their cells where its cells are.
+TEST_F(ZoomTest, BoardDrawingAndWalkStandInOnePlace) {
+  Make("SolveAuto", "5");
+  Trigger("FitBoardx");
+  const auto blockIn = [](const GridView& view) {
+    const QRect block = view.CellRect(1, 1).united(view.CellRect(5, 5));
+    return block.translated(view.viewport()->pos());
+  };
+  GridView& view = window_.View();
+  const QRect block = blockIn(view);
+  const int lines = view.CellRect(0, 0).united(view.CellRect(6, 6)).width();
+  EXPECT_NEAR(view.viewport()->pos().x(), (view.width() - lines) / 2, 1);
+  EXPECT_EQ(view.FittedBlock(view.size()), block);
+  Trigger("BoardCriclesx");
+  const QImage drawn = Find<QWidget>("Picture1").grab().toImage();
+  const QRgb ground = drawn.pixel(2, 2);
+  EXPECT_NE(drawn.pixel(block.topLeft() + QPoint(3, 3)), ground);
+  EXPECT_NE(drawn.pixel(block.bottomRight() - QPoint(3, 3)), ground);
+  EXPECT_EQ(drawn.pixel(block.topLeft() - QPoint(3, 3)), ground);
+  EXPECT_EQ(drawn.pixel(block.bottomRight() + QPoint(3, 3)), ground);
+}
+
 TEST_F(ZoomTest, EscapeEndsTheMostRecent) {
   Make("SolveAuto", "4");
   Trigger("FullScreenx");
+  const int side = Side();
   Trigger("Hintx");
   auto& remark = Find<QWidget>("RemarkBar");
   EXPECT_TRUE(remark.isVisible());
+  EXPECT_GE(remark.font().pixelSize() * 1080, 28 * window_.screen()->size().height());
+  EXPECT_EQ(Side(), side) << "the bar has room of its own";
   QTest::keyClick(&window_.View(), Qt::Key_Escape);
   EXPECT_FALSE(remark.isVisible());
   EXPECT_TRUE(Find<QAction>("FullScreenx").isChecked());

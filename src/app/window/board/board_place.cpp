@@ -22,9 +22,13 @@ BoardPlace::BoardPlace(Board& board)
       Missing(new MissingNumbers),
       SearchBar(new BoardBar("SearchBar", "StopSearchx", "Stop")),
       RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", "Close")),
-      stack_(new QStackedLayout) {
+      stack_(new QStackedLayout),
+      bars_(new QWidget) {
   setObjectName("Frame1");
   View->setAccessibleName("Board");
+  Picture->BlockIn = [this](QSize room) { return View->FittedBlock(room); };
+  bars_->setFixedWidth(0);
+  bars_->hide();
   auto* column = new QVBoxLayout(this);
   // The board's margin is measured from the frame's own edge, which the style has moved inwards.
   const int margin = PixelsOf(kMargin);
@@ -35,8 +39,16 @@ BoardPlace::BoardPlace(Board& board)
   for (QWidget* widget : std::initializer_list<QWidget*>{View, Picture, Walk})
     stack_->addWidget(widget);
   column->addWidget(Missing);
-  column->addWidget(SearchBar);
-  column->addWidget(RemarkBar);
+  auto* bars = new QHBoxLayout;
+  bars->setSpacing(0);
+  for (QWidget* widget : std::initializer_list<QWidget*>{SearchBar, RemarkBar, bars_})
+    bars->addWidget(widget);
+  column->addLayout(bars);
+}
+
+void BoardPlace::KeepRoomForBars(int height) {
+  bars_->setFixedHeight(height);
+  bars_->setVisible(height > 0);
 }
 
 void BoardPlace::ShowBoard() {

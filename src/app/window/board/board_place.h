@@ -62,6 +62,10 @@ class BoardPlace : public QGroupBox {
   /// After a command: removes an older remark if the board has changed.
   void EndCommand(bool changedTheBoard);
 
+  /// Keeps `height` pixels for the bars, visible or not, so that the board keeps its place; 0 for
+  /// none.
+  void KeepRoomForBars(int height);
+
   /// Removes the visible bar, as Esc does; false if there is none.
   bool DismissBar();
 
@@ -73,6 +77,7 @@ class BoardPlace : public QGroupBox {
   void ShowWidget(QWidget* widget);
 
   QStackedLayout* stack_;
+  QWidget* bars_;             ///< holds the room for the bars
   bool remarkIsNew_ = false;  ///< the running command made it
 };
 

@@ -30,6 +30,7 @@ GridView::GridView(Grid& grid, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setBackgroundRole(QPalette::Window);
+  setAutoFillBackground(true);  // a fitted board leaves room around the viewport
   grid_.OnRepaint = [this] {
     UpdateScrollBars();
     viewport()->update();
@@ -70,11 +71,12 @@ void GridView::SetZoom(double zoom, QPoint fixed) {
   fitting_ = false;
   const double grown = zoom / painter_.Zoom();
   const QPoint scrolled = Scrolled();
+  const QPoint moved(viewportMargins().left(), viewportMargins().top());  // these end with fitting
   painter_.SetZoom(zoom);
   shape_.reset();
   UpdateScrollBars();
-  ScrollTo({qRound((scrolled.x() + fixed.x()) * grown) - fixed.x(),
-            qRound((scrolled.y() + fixed.y()) * grown) - fixed.y()});
+  ScrollTo({qRound((scrolled.x() + fixed.x()) * grown) - fixed.x() - moved.x(),
+            qRound((scrolled.y() + fixed.y()) * grown) - fixed.y() - moved.y()});
   viewport()->update();
 }
 
@@ -95,13 +97,38 @@ void GridView::SetFitting(bool fitting) {
   viewport()->update();
 }
 
-/// Sets the largest zoom at which the last line still fits in the view.
-void GridView::Fit() {
+/// The largest zoom at which the last line still fits in the view.
+double GridView::ZoomFor(QSize room) const {
   const int lines = std::max(grid_.Rows(), grid_.Columns());
-  if (lines == 0) return;
-  const QSize room = maximumViewportSize();
   const int side = std::min(room.width(), room.height());
-  painter_.SetZoom(std::min(kLargestZoom, painter_.ZoomThatFits(lines, side)));
+  return std::min(kLargestZoom, painter_.ZoomThatFits(lines, side));
+}
+
+QMargins GridView::MarginsAround(QSize table, QSize room) const {
+  const int left = std::max(0, (room.width() - table.width()) / 2);
+  const int top = std::max(0, (room.height() - table.height()) / 2);
+  return {left, top, left, top};
+}
+
+void GridView::Fit() {
+  QMargins margins;
+  if (grid_.Visible() && grid_.Rows() > 0) {
+    const QSize room = maximumViewportSize().grownBy(viewportMargins());
+    painter_.SetZoom(ZoomFor(room));
+    margins = MarginsAround({painter_.Edge(grid_.Columns()), painter_.Edge(grid_.Rows())}, room);
+  }
+  if (margins != viewportMargins()) setViewportMargins(margins);
+}
+
+std::optional<QRect> GridView::FittedBlock(QSize room) const {
+  if (!fitting_ || grid_.Rows() < 3) return std::nullopt;
+  GridPainter fitted(grid_, font(), logicalDpiX());
+  fitted.SetZoom(ZoomFor(room));
+  const QMargins margins =
+      MarginsAround({fitted.Edge(grid_.Columns()), fitted.Edge(grid_.Rows())}, room);
+  const QPoint first(fitted.Edge(1), fitted.Edge(1));
+  const QPoint end(fitted.Edge(grid_.Columns() - 1) - 1, fitted.Edge(grid_.Rows() - 1) - 1);
+  return QRect(first, end).translated(margins.left(), margins.top());
 }
 
 void GridView::SetNoting(bool noting) {
@@ -260,7 +287,11 @@ void GridView::UpdateScrollBars() {
   const QSize shape = grid_.Visible() ? QSize(grid_.Columns(), grid_.Rows()) : QSize(0, 0);
   if (shape_ == shape) return;
   shape_ = shape;
-  if (fitting_) Fit();
+  if (fitting_) {
+    Fit();
+  } else if (!viewportMargins().isNull()) {
+    setViewportMargins({});
+  }
   const QSize table(painter_.Edge(shape.width()), painter_.Edge(shape.height()));
   const QSize whole = maximumViewportSize();
   // A table that fits needs no scroll bars, even if each bar alone makes the other one necessary.

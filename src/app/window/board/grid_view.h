@@ -38,9 +38,12 @@ class GridView : public QAbstractScrollArea {
   void SetZoom(double zoom);
   double Zoom() const { return painter_.Zoom(); }
 
-  /// Makes the whole board as large as fits the view, and follows the view's size.
+  /// Makes the whole board as large as fits the view, in its middle, and follows the view's size.
   void SetFitting(bool fitting);
   bool Fitting() const { return fitting_; }
+
+  /// While fitting: the rectangle of all cells without the totals, in a view of this size.
+  std::optional<QRect> FittedBlock(QSize room) const;
 
   /// Shows that digits write notes.
   void SetNoting(bool noting);
@@ -102,6 +105,8 @@ class GridView : public QAbstractScrollArea {
   GridPainter::Look Look() const;
   void UpdateScrollBars();
   void Fit();
+  double ZoomFor(QSize room) const;
+  QMargins MarginsAround(QSize table, QSize room) const;
   void PaintInvitation(QPainter& painter);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);

@@ -2,18 +2,21 @@
 
 #include <utility>
 
+#include <QDockWidget>
 #include <QEvent>
+#include <QScreen>
 
 #include "app/window/board/zoom.h"
 
 namespace numorra {
 
 ViewControl::ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside,
-                         QAction* fit, QAction* full)
+                         QWidget* state, QAction* fit, QAction* full)
     : QObject(window),
       window_(window),
       place_(place),
       beside_(std::move(beside)),
+      state_(state),
       fit_(fit),
       full_(full) {
   window_->installEventFilter(this);
@@ -59,11 +62,16 @@ void ViewControl::TakeAway() {
     widget->hide();
   }
   board.SetFitting(true);
+  constexpr int kLinesOfScreen = 1080;
+  constexpr int kTextLines = 28;
+  SetTextHeight((window_->screen()->size().height() * kTextLines + kLinesOfScreen - 1) /
+                kLinesOfScreen);
   ShowMarks();
 }
 
 void ViewControl::GiveBack() {
   const Before before = *std::exchange(before_, std::nullopt);
+  SetTextHeight({});
   for (QWidget* widget : before.Hidden)
     widget->show();
   place_->View->SetZoom(before.Zoom, {});
@@ -71,6 +79,19 @@ void ViewControl::GiveBack() {
   ShowMarks();
   scrolled_ = before.Scrolled;
   QMetaObject::invokeMethod(this, "ScrollBack", Qt::QueuedConnection);
+}
+
+/// Without a height, the texts are as large as elsewhere, and the bars keep no room.
+void ViewControl::SetTextHeight(std::optional<int> pixels) {
+  constexpr double kBarLines = 3.5;  // two lines of text, with its frame
+  QFont font;
+  if (pixels) font.setPixelSize(*pixels);
+  for (QWidget* widget : std::initializer_list<QWidget*>{place_->SearchBar, place_->RemarkBar,
+                                                         place_->Missing, state_})
+    widget->setFont(font);
+  for (QDockWidget* panel : window_->findChildren<QDockWidget*>())
+    panel->setFont(font);
+  place_->KeepRoomForBars(pixels ? static_cast<int>(kBarLines * *pixels) : 0);
 }
 
 void ViewControl::ScrollBack() {

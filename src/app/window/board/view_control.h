@@ -16,9 +16,10 @@ class ViewControl : public QObject {
   Q_OBJECT
 
  public:
-  /// `beside`: the widgets that full screen hides. `fit` and `full`: the menu's items.
-  ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside, QAction* fit,
-              QAction* full);
+  /// `beside`: the widgets that full screen hides. `state`: the line in the menu bar. `fit` and
+  /// `full`: the menu's items.
+  ViewControl(QMainWindow* window, BoardPlace* place, std::vector<QWidget*> beside, QWidget* state,
+              QAction* fit, QAction* full);
 
   /// Zooms in (1), out (-1) or back to 100 % (0), on the visible board or walk; the point `fixed`,
   /// or else a visible current cell, keeps its place.
@@ -27,7 +28,9 @@ class ViewControl : public QObject {
   /// Switches between fitting the board, or the walk, and a fixed zoom.
   void ToggleFitting();
 
-  /// Shows only the fitted board and the menu bar, or restores everything.
+  /// Shows only the fitted board and the menu bar, or restores everything. What is told in full
+  /// screen can be read from the back of a room: its letters grow with the screen, and bars have
+  /// room of their own below the board.
   void ToggleFullScreen();
   bool FullScreen() const { return before_.has_value(); }
 
@@ -39,6 +42,7 @@ class ViewControl : public QObject {
   void TakeAway();
   void GiveBack();
   void ShowMarks();
+  void SetTextHeight(std::optional<int> pixels);
 
   /// Called when the window has its size again.
   Q_SLOT void ScrollBack();
@@ -54,6 +58,7 @@ class ViewControl : public QObject {
   QMainWindow* window_;
   BoardPlace* place_;
   std::vector<QWidget*> beside_;
+  QWidget* state_;
   QAction* fit_;
   QAction* full_;
   std::optional<Before> before_;

@@ -9,7 +9,7 @@
 
 namespace numorra {
 
-ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
+ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state)
     : QObject(window), desk_(desk), properties_(new PropertiesPanel(desk.Runner, window)) {
   const QList<QKeySequence> none;
   QMenu* menu = window->menuBar()->addMenu("&View");
@@ -48,7 +48,7 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
 
   window->addDockWidget(Qt::RightDockWidgetArea, properties_);
   properties_->hide();
-  size_ = new ViewControl(window, &desk_.Place, {&desk_.Controls, properties_}, fit, full);
+  size_ = new ViewControl(window, &desk_.Place, {&desk_.Controls, properties_}, state, fit, full);
   room_ = new PanelRoom(window);  // created later, so that it sees a new state first
   OnSignal(desk_.Runner, properties_, &PropertiesPanel::EvidenceChosen, this,
            [this](const std::vector<Place>& cells) { desk_.Place.PointAt(cells); });

@@ -14,7 +14,8 @@ class ViewMenu : public QObject {
   Q_OBJECT
 
  public:
-  ViewMenu(QMainWindow* window, Desk& desk);
+  /// `state`: the line in the menu bar.
+  ViewMenu(QMainWindow* window, Desk& desk, QWidget* state);
 
   /// Makes room for panels that open and close.
   PanelRoom& Room() { return *room_; }

@@ -12,9 +12,10 @@ namespace numorra {
 namespace {
 
 // Twips.
-constexpr int kWidth = 6600;       // free beside six menus at the opening size
 constexpr int kAroundMenu = 330;   // a menu's own edges
 constexpr int kAroundMenus = 240;  // those of all menus
+
+constexpr int kWidth = 27;  // in heights of a line: free beside six menus at the opening size
 
 }  // namespace
 
@@ -56,11 +57,12 @@ void StateLine::ShowText(const std::string& told, const QString& more) {
 }
 
 QSize StateLine::sizeHint() const {
-  int free = PixelsOf(kWidth);
+  int free = kWidth * fontMetrics().height();
   if (const auto* bar = qobject_cast<const QMenuBar*>(parentWidget())) {
     int menus = PixelsOf(kAroundMenus);
     for (const QAction* menu : bar->actions())
-      menus += fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
+      menus +=
+          bar->fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
     free = std::clamp(bar->width() - menus, 0, free);
   }
   return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};

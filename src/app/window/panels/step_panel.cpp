@@ -38,6 +38,7 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
   setFeatures(DockWidgetClosable);
   setAllowedAreas(Qt::BottomDockWidgetArea);
   choice_->setAccessibleName("Square to walk through");
+  choice_->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // full screen enlarges the letters
   speed_->setAccessibleName("Speed");
   speed_->setToolTip("speed");
   speed_->setRange(1, kSpeeds);
