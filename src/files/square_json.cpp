@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "app/board/note_ranges.h"
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/place.h"
@@ -29,6 +30,17 @@ std::string Rows(const Square<T>& square, Write written) {
   });
 }
 
+/// The numbers that cannot be notes: by the normal rules, those in the square.
+NoteSet NumbersIn(const StoredSquare& square) {
+  NoteSet numbers;
+  if (square.Asked != Rules::Normal) return numbers;
+  for (const auto& cell : square.Cells) {
+    const bool whole = cell && *cell >= 1 && *cell <= kMostNoted && *cell == std::floor(*cell);
+    if (whole) numbers.set(static_cast<std::size_t>(*cell));
+  }
+  return numbers;
+}
+
 /// The members of an object, checked against what a square has.
 class Reader {
  public:
@@ -42,6 +54,7 @@ class Reader {
     square_.Total = Total();
     square_.Asked = Asked();
     square_.Givens = Givens();
+    square_.Noted = Noted();
     return square_;
   }
 
@@ -153,6 +166,23 @@ class Reader {
     });
   }
 
+  Notes Noted() const {
+    if (!Has("notes")) return {};
+    const Square<JsonValue> entries = Entries("notes");
+    const NoteSet shown = NumbersIn(square_);
+    const int most = square_.Asked == Rules::Normal ? order_ * order_ : kMostNoted;
+    return NotesOf(order_, [&](int cell) {
+      const JsonValue& entry = entries[cell];
+      const auto numbers = NumbersInRanges(entry.Text, most);
+      if (entry.Is != Kind::Text || !numbers) {
+        FailIn(cell, "\"notes\" must be a text of numbers from 1 to " + std::to_string(most) +
+                         " and ranges, such as \"1-3 7\"");
+      }
+      if (numbers->any() && square_.Cells[cell]) FailIn(cell, "only a gap can have notes");
+      return *numbers & ~shown;
+    });
+  }
+
   JsonMembers members_;
   int order_ = 0;
   StoredSquare square_;
@@ -172,6 +202,12 @@ JsonLine JsonLineOf(const StoredSquare& square) {
   line.Add("rules", JsonString(NameOf(square.Asked))).Add("rows", JsonRowsOf(square.Cells));
   if (!square.Givens.IsEmpty()) {
     line.Add("givens", Rows(square.Givens, [](bool given) { return given ? "true" : "false"; }));
+  }
+  if (!square.Noted.IsEmpty()) {
+    const NoteSet shown = NumbersIn(square);
+    const auto notes = SquareOf(square.Order(), [&](int cell) { return square.Noted[cell]; });
+    line.Add("notes",
+             Rows(notes, [&](const NoteSet& set) { return JsonString(RangesOf(set, shown)); }));
   }
   return line;
 }

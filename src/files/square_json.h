@@ -11,8 +11,10 @@ namespace numorra {
 
 /// One JSON object on one line:
 /// {"format": "numorra-square", "version": 1, "order": 3, "total": 15, "rules": "normal",
-///  "rows": [[8, null, 6], ...], "givens": [[true, false, false], ...]}
-/// with null for a gap, and "givens" only if there are any.
+///  "rows": [[8, null, 6], ...], "givens": [[true, false, false], ...],
+///  "notes": [["", "1-3 7", ""], ...]}
+/// with null for a gap, and "givens" and "notes" only if there are any. A range of notes covers
+/// numbers that are on the board, which are no notes.
 std::string JsonOf(const StoredSquare& square);
 
 /// The same object without a line end, so that members can be added.
@@ -26,8 +28,8 @@ bool LooksLikeJson(const std::string& text);
 
 /// Reads what JsonOf writes, and any other object that has "rows". Without "order", the order is
 /// the number of rows. Unknown members are skipped; the type and range of known ones are checked,
-/// and a given must have a number. Errors name the line, or the row of the square. `firstLine`: the
-/// number of the text's first line.
+/// a given must have a number, and only gaps have notes. Errors name the line, or the row of the
+/// square. `firstLine`: the number of the text's first line.
 std::variant<StoredSquare, Unreadable> ReadSquareJson(const std::string& text,
                                                       std::size_t firstLine = 1);
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "app/board/notes.h"
 #include "app/board/rules.h"
 #include "app/board/square.h"
 
@@ -17,6 +18,7 @@ struct StoredSquare {
   Square<bool> Givens = {};          ///< empty when there are none
   std::optional<double> Total = {};  ///< if it is stored
   Rules Asked = Rules::Positive;
+  Notes Noted = {};  ///< of the gaps
 
   int Order() const { return Cells.Order(); }
   bool IsGiven(int cell) const { return !Givens.IsEmpty() && Givens[cell]; }

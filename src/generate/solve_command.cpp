@@ -208,6 +208,7 @@ void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   }
   passCount_ = square.PassCount();
   board.BoardValues = varied;
+  board.grid.SetNotes({});
   board.ShowBoard();
   RefreshTotals(board);
 }

@@ -15,6 +15,20 @@ void ExchangeRounding(double& visited, double& mirror) {
   mirror = rounded;
 }
 
+void TurnNotes(Board& board, const Symmetry& symmetry) {
+  const int order = board.GridSize;
+  CellTable from;
+  ForEachCell(order, [&](int r, int c) {
+    from(r, c) = static_cast<double>(IndexOf({r, c}, order));
+  });
+  symmetry.Turn(from, order);
+  const Notes& notes = board.grid.AllNotes();
+  board.grid.SetNotes(NotesOf(order, [&](int cell) {
+    const auto [row, column] = PlaceAt(cell, order);
+    return notes[static_cast<int>(from(row, column))];
+  }));
+}
+
 }  // namespace
 
 void RotateBoard90(CellTable& cells, int order) {
@@ -77,6 +91,7 @@ void TurnBoard(Board& board, const Symmetry& symmetry) {
     if (gaps(r, c) != 0) board.grid.SetText(r, c, "");
     board.grid.SetGiven(r, c, givens(r, c) != 0);
   });
+  if (!board.grid.AllNotes().IsEmpty()) TurnNotes(board, symmetry);
   RefreshTotals(board);
 }
 

@@ -36,6 +36,14 @@ TEST(SquareJson, IsWrittenOnOneLineAndReadInAnyForm) {
     ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << std::get<Unreadable>(read).Why;
     EXPECT_EQ(std::get<StoredSquare>(read), kStored);
   }
+  StoredSquare noted = kStored;
+  noted.Noted.Set(3, 1, NoteSet(0b10));
+  const std::string notes =
+      Replaced(kPuzzle, "}", R"(, "notes": [["", "1", ""], ["", "", ""], ["", "", ""]]})");
+  EXPECT_EQ(JsonOf(noted), notes);
+  EXPECT_EQ(std::get<StoredSquare>(ReadSquareJson(notes)), noted);
+  EXPECT_EQ(std::get<StoredSquare>(ReadSquareJson(Replaced(notes, "\"1\"", "\" 1-9\""))), noted)
+      << "numbers on the board are no notes";
   const auto rows = ReadSquareJson(R"({"rows": [[-8, 0.5, 6], [3, 5, 7], [4, 9, 2]]})");
   EXPECT_EQ(std::get<StoredSquare>(rows), (StoredSquare{{3, {-8, 0.5, 6, 3, 5, 7, 4, 9, 2}}}));
 }
@@ -72,6 +80,18 @@ TEST(SquareJson, ThatIsInvalidIsRefusedWithItsPlace) {
       {Replaced(kPuzzle, "[[true, false", "[[true, true"),
        "row 1, column 2: a gap cannot be given"},
       {Replaced(kPuzzle, "[[true", "[[1"), "row 1, column 1: \"givens\" must be true or false"}};
+  const std::string before = kPuzzle.substr(0, kPuzzle.find("\"givens")) + "\"notes\": [[\"\", ";
+  for (const char* const notes : {"1", "null", "\"10\"", "\"0\"", "\"1-\"", "\"3-2\"", "\"1,2\"",
+                                  "\"1-2-3\"", "\"99999999999999999999\"", "\"-1\""}) {
+    const auto read = ReadSquareJson(before + notes + R"(, ""], ["", "", ""], ["", "", ""]]})");
+    EXPECT_EQ(
+        std::get<Unreadable>(read).Why,
+        "row 1, column 2: \"notes\" must be a text of numbers from 1 to 9 and ranges, such as "
+        "\"1-3 7\"")
+        << notes;
+  }
+  const auto full = ReadSquareJson(before + R"("", "1"], ["", "", ""], ["", "", ""]]})");
+  EXPECT_EQ(std::get<Unreadable>(full).Why, "row 1, column 3: only a gap can have notes");
   for (const auto& [text, why] : cases) {
     const auto read = ReadSquareJson(text, 3);
     ASSERT_TRUE(std::holds_alternative<Unreadable>(read)) << text;

@@ -14,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const auto again = ReadSquareJson(JsonOf(*square));
   Check(std::get_if<StoredSquare>(&again) && std::get<StoredSquare>(again).Cells == square->Cells &&
-        std::get<StoredSquare>(again).Givens == square->Givens);
+        std::get<StoredSquare>(again).Givens == square->Givens &&
+        std::get<StoredSquare>(again).Noted == square->Noted);
   return 0;
 }

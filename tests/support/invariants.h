@@ -26,6 +26,8 @@ inline std::string WhyInvalid(const Board& board) {
   };
   const bool judged = board.TotalsJudged;
   const bool puzzle = board.HasGivens();
+  const bool quiet = board.QuietTotals && board.HasGaps();
+  if (board.QuietTotals && board.Typing()) return {};  // whether it is full counts later, too
   if (judged && !board.TotalsChecked) return "a verdict before any check";
   const std::string target = Decimal(board.TargetTotal);
   std::string why;
@@ -47,9 +49,9 @@ inline std::string WhyInvalid(const Board& board) {
     const Verdict verdict = grid.VerdictOf(row, column);
     const bool untouched = board.UntouchedBase && (row != 0 || column != 0);
     const bool right = shown == target && !untouched;
-    const Verdict due = !judged || unfinished ? Verdict::Unjudged
-                        : right               ? Verdict::Right
-                                              : Verdict::Wrong;
+    const Verdict due = !judged || unfinished || quiet ? Verdict::Unjudged
+                        : right                        ? Verdict::Right
+                                                       : Verdict::Wrong;
     if (verdict != due) why += "wrongly judged" + where;
     const Colour colour = due == Verdict::Unjudged ? kWindowBackground
                                                    : ColorTable[right ? kRightTotal : kWrongTotal];

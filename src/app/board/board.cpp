@@ -2,6 +2,7 @@
 
 #include "app/board/decimal_sum.h"
 #include "app/board/numbers.h"
+#include "app/board/orders.h"
 #include "app/board/scoped_flag.h"
 
 namespace numorra {
@@ -25,6 +26,11 @@ bool Board::HasGaps() const {
 
 bool Board::HasGivens() const {
   return AnyCell(*this, [](const Grid::Cell& cell) { return cell.Given; });
+}
+
+bool Board::ByNormalRules() const {
+  return Shown() && !WhyNoBoardHas(GridSize) && Asked == Rules::Normal &&
+         TargetTotal == NormalTotal(static_cast<double>(GridSize));
 }
 
 bool Board::HasTotal() const {
@@ -153,12 +159,6 @@ Square<double> SquareOf(const CellTable& cells, int order) {
   Square<double> square(order);
   ForEachCell(order, [&](int r, int c) { square[Place{r, c}] = cells(r, c); });
   return square;
-}
-
-CellTable TableOf(const Square<double>& square) {
-  CellTable table;
-  ForEachCell(square.Order(), [&](int r, int c) { table(r, c) = square[Place{r, c}]; });
-  return table;
 }
 
 }  // namespace numorra

@@ -41,6 +41,7 @@ struct Board {
   bool UntouchedBase = false;  ///< at the last check, every cell was at BaseValue
   bool NewEntry = false;       ///< the next digit typed replaces the current cell's text
   bool TotalsJudged = false;   ///< a check has judged the totals in the grid
+  bool QuietTotals = false;    ///< a board with gaps shows no verdicts
   bool WinTold = false;        ///< the player has been congratulated on this board
 
   std::int16_t MarkedRow = -1;  ///< the cell, row or column marked for a swap; -1 = none
@@ -61,6 +62,9 @@ struct Board {
 
   /// Whether the player has typed into the current cell and not yet left it.
   bool Typing() const { return Shown() && TotalsChecked && !NewEntry; }
+
+  /// Whether the board asks for each of the numbers 1 to n x n once.
+  bool ByNormalRules() const;
 
   /// Whether the main diagonal's total differs from 0: only then can the board be shaded and drawn.
   bool HasTotal() const;
@@ -117,8 +121,7 @@ void ForEachCell(int order, Visit visit) {
 /// Stores the totals of the n x n block of `cells` around it, as Board::ComputeTotals does.
 void ComputeTotals(CellTable& cells, int order);
 
-/// The n x n block of `cells`; and back, a table with the square in its block.
+/// The n x n block of `cells`.
 Square<double> SquareOf(const CellTable& cells, int order);
-CellTable TableOf(const Square<double>& square);
 
 }  // namespace numorra

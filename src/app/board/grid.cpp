@@ -1,5 +1,6 @@
 #include "app/board/grid.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/board/cell_table.h"
@@ -31,6 +32,8 @@ void Grid::Reshape(int rows, int columns) {
   currentRow_ = 0;
   currentColumn_ = 0;
   outlined_.clear();
+  repeated_.clear();
+  notes_ = {};
   WantRepaint();
 }
 
@@ -76,6 +79,35 @@ void Grid::SetOutlined(std::vector<Place> cells) {
   if (cells == outlined_) return;
   outlined_ = std::move(cells);
   WantRepaint();
+}
+
+void Grid::SetRepeated(std::vector<Place> cells) {
+  if (cells == repeated_) return;
+  repeated_ = std::move(cells);
+  WantRepaint();
+}
+
+bool Grid::IsRepeated(int row, int column) const {
+  return std::find(repeated_.begin(), repeated_.end(), Place{row, column}) != repeated_.end();
+}
+
+void Grid::SetNotes(Notes notes) {
+  if (notes == notes_) return;
+  notes_ = std::move(notes);
+  WantRepaint();
+}
+
+void Grid::SetUnnoted(const NoteSet& numbers) {
+  if (numbers == unnoted_) return;
+  unnoted_ = numbers;
+  if (!notes_.IsEmpty()) WantRepaint();
+}
+
+NoteSet Grid::NotesIn(int row, int column) const {
+  const auto inBlock = [](int line, int lines) { return line >= 1 && line < lines - 1; };
+  if (notes_.IsEmpty() || !inBlock(row, rows_) || !inBlock(column, columns_)) return {};
+  if (!At(row, column).IsGap()) return {};
+  return notes_[static_cast<int>(IndexOf({row, column}, rows_ - 2))] & ~unnoted_;
 }
 
 void Grid::SetCurrent(int row, int column) {

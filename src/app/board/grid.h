@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/board/colour.h"
+#include "app/board/notes.h"
 #include "app/board/place.h"
 
 namespace numorra {
@@ -84,6 +85,22 @@ class Grid {
   void SetOutlined(std::vector<Place> cells);
   const std::vector<Place>& Outlined() const { return outlined_; }
 
+  /// The marked value cells: their number stands in more than one of them. A new shape removes the
+  /// marks.
+  void SetRepeated(std::vector<Place> cells);
+  const std::vector<Place>& Repeated() const { return repeated_; }
+  bool IsRepeated(int row, int column) const;
+
+  /// The notes of the value cells. A new shape removes them.
+  void SetNotes(Notes notes);
+  const Notes& AllNotes() const { return notes_; }
+
+  /// The numbers that are not shown as notes because they are on the board.
+  void SetUnnoted(const NoteSet& numbers);
+
+  /// The notes that a cell shows: none unless it is a gap.
+  NoteSet NotesIn(int row, int column) const;
+
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
   void SetCurrent(int row, int column);
@@ -105,6 +122,9 @@ class Grid {
 
   std::vector<Cell> cells_;
   std::vector<Place> outlined_;
+  std::vector<Place> repeated_;
+  Notes notes_;
+  NoteSet unnoted_;
   int rows_ = 0;
   int columns_ = 0;
   int currentRow_ = 0;

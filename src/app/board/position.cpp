@@ -34,6 +34,7 @@ Position PositionOf(const Board& board) {
   if (board.HasGivens()) {
     position.Givens = SquareOf(board.GridSize, [&](int cell) { return cellAt(cell).Given; });
   }
+  position.Noted = grid.AllNotes();
   position.Target = board.TargetTotal;
   position.Base = board.BaseValue;
   position.Asked = board.Asked;
@@ -68,6 +69,7 @@ void Restore(Board& board, const Position& position) {
     grid.SetText(row, column, position.Texts[place]);
     grid.SetGiven(row, column, !position.Givens.IsEmpty() && position.Givens[place]);
   });
+  grid.SetNotes(position.Noted);
   board.ReadGrid();
   board.ShowTotals();
   if (position.Judged) {
@@ -86,6 +88,10 @@ void Restore(Board& board, const Position& position) {
 bool IsChange(const Position& before, const Position& after) {
   const auto seen = [](const Position& p) { return std::tie(p.Target, p.Texts, p.Givens); };
   return seen(before) != seen(after);
+}
+
+bool IsStep(const Position& before, const Position& after) {
+  return IsChange(before, after) || before.Noted != after.Noted;
 }
 
 }  // namespace numorra

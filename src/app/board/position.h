@@ -12,6 +12,7 @@ namespace numorra {
 struct Position {
   Square<std::string> Texts = {};  ///< of the value cells; an empty text is a gap
   Square<bool> Givens = {};        ///< empty if there are none
+  Notes Noted = {};
   double Target = 0;
   std::int16_t Base = 0;
   Rules Asked = Rules::Normal;
@@ -36,5 +37,8 @@ void Restore(Board& board, const Position& position);
 
 /// Whether the second position is a change for the player: another order, target, text or given.
 bool IsChange(const Position& before, const Position& after);
+
+/// Whether undo leads from the second position back to the first: a change, or other notes.
+bool IsStep(const Position& before, const Position& after);
 
 }  // namespace numorra

@@ -42,6 +42,7 @@ Finding Recount(Board& board) {
   });
   board.ComputeTotals();
   const CellTable gaps = board.HasGivens() ? GapsOf(board) : CellTable();
+  const bool quiet = board.QuietTotals && board.HasGaps();
 
   bool offTarget = false;
   bool unfinished = false;
@@ -54,7 +55,8 @@ Finding Recount(Board& board) {
       grid.Judge(row, column, Verdict::Unjudged);
     } else {
       if (!right) offTarget = true;
-      grid.Judge(row, column, right ? Verdict::Right : Verdict::Wrong);
+      const Verdict verdict = right ? Verdict::Right : Verdict::Wrong;
+      grid.Judge(row, column, quiet ? Verdict::Unjudged : verdict);
     }
   };
   for (int line = 1; line <= board.GridSize; ++line) {
@@ -68,7 +70,7 @@ Finding Recount(Board& board) {
 
   board.TotalsChecked = board.TotalsJudged = true;
   board.UntouchedBase = !changed;
-  if (!changed) board.MarkAllTotalsWrong();
+  if (!changed && !quiet) board.MarkAllTotalsWrong();
   if (changed && !unfinished && !offTarget) return Finding::Right;
   board.WinTold = false;
   if (!changed) return Finding::UntouchedBase;

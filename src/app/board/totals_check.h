@@ -12,7 +12,8 @@ enum class Finding { UntouchedBase, Unfinished, Right, Wrong };
 
 /// The totals check without its message: reads the grid back into BoardValues, writes every total
 /// and colours it by whether it equals TargetTotal. On a board with givens, a line with a gap stays
-/// unjudged. On the untouched base board, all totals except (0, 0) are marked wrong. Leaves the
+/// unjudged; with QuietTotals, so do all lines of a board with gaps. On the untouched base board,
+/// all totals except (0, 0) are marked wrong. Leaves the
 /// current cell at (0, 0), the total coloured last, and the redraw lock released.
 Finding Recount(Board& board);
 

@@ -26,22 +26,6 @@ void Show(Board& board, const Puzzle& solved) {
   RefreshTotals(board);
 }
 
-/// Names the first full line with a wrong total, as ": column 9 adds up to 135, not 369"; empty if
-/// there is none.
-std::string FullWrongLine(const Puzzle& puzzle) {
-  for (const Line line : MagicLines(puzzle.Order())) {
-    bool full = true;
-    const std::int64_t sum = SumOf(line, puzzle.Order(), [&](int cell) {
-      full = full && puzzle.Cells[cell] != 0;
-      return puzzle.Cells[cell];
-    });
-    if (!full || sum == puzzle.Target) continue;
-    return ": " + NameOf(line, puzzle.Order()) + " adds up to " + std::to_string(sum) + ", not " +
-           std::to_string(puzzle.Target);
-  }
-  return {};
-}
-
 std::string WhyNone(const Puzzle& puzzle, const Square<bool>& givens, Random& random,
                     WorkStage& stage) {
   const BusyPointer busy(stage);
@@ -75,6 +59,20 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& sta
 }
 
 }  // namespace
+
+std::string FullWrongLine(const Puzzle& puzzle) {
+  for (const Line line : MagicLines(puzzle.Order())) {
+    bool full = true;
+    const std::int64_t sum = SumOf(line, puzzle.Order(), [&](int cell) {
+      full = full && puzzle.Cells[cell] != 0;
+      return puzzle.Cells[cell];
+    });
+    if (!full || sum == puzzle.Target) continue;
+    return ": " + NameOf(line, puzzle.Order()) + " adds up to " + std::to_string(sum) + ", not " +
+           std::to_string(puzzle.Target);
+  }
+  return {};
+}
 
 std::vector<Place> EntriesInTheWay(const Puzzle& puzzle, const Square<bool>& givens, Random& random,
                                    Yielding& yielding) {
@@ -133,6 +131,7 @@ void EmptyBoard(Board& board) {
   for (int cell = 0; cell < position.Texts.Size(); ++cell) {
     if (position.Givens.IsEmpty() || !position.Givens[cell]) position.Texts[cell].clear();
   }
+  position.Noted = {};
   position.Checked = position.Judged = true;
   position.Typing = position.WinTold = false;
   Restore(board, position);

@@ -18,9 +18,13 @@ inline constexpr double kLongSearch = 30;
 void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage,
               LineKind kind = LineKind::Magic);
 
-/// Empties every cell that is not given, to start a puzzle over or to enter one. Keys reach the
-/// board afterwards.
+/// Empties every cell that is not given, and removes the notes, to start a puzzle over or to enter
+/// one. Keys reach the board afterwards.
 void EmptyBoard(Board& board);
+
+/// Names the first full line with a wrong total, as ": column 9 adds up to 135, not 369"; empty if
+/// there is none.
+std::string FullWrongLine(const Puzzle& puzzle);
 
 /// The entries, among the cells that are not given, each of which alone leaves the puzzle without a
 /// solution; only the first few.

@@ -6,6 +6,7 @@
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/position.h"
+#include "app/play/puzzle_aids.h"
 #include "files/aim.h"
 
 namespace numorra {
@@ -18,7 +19,8 @@ StoredSquare StoredSquareOf(const Board& board) {
   return {.Cells = SquareOf(position.Order(), number),
           .Givens = position.Givens,
           .Total = position.Target,
-          .Asked = position.Asked};
+          .Asked = position.Asked,
+          .Noted = ShownNotes(board)};
 }
 
 void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square) {
@@ -30,6 +32,7 @@ void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square) {
   const int order = square.Order();
   const Position position{.Texts = SquareOf(order, textOf),
                           .Givens = square.Givens,
+                          .Noted = square.Noted,
                           .Target = aim.Target,
                           .Base = ToInt16(std::min(kHighestBase, BaseOf(aim.Target, order))),
                           .Asked = aim.Asked,

@@ -6,7 +6,7 @@
 
 namespace numorra {
 
-/// The board as a stored square: its numbers, gaps and givens, target and rules.
+/// The board as a stored square: its numbers, gaps, givens and shown notes, target and rules.
 StoredSquare StoredSquareOf(const Board& board);
 
 /// Shows a stored square as a board, recounted without a message and ready to play; the boxes

@@ -19,6 +19,11 @@ bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place,
     grid.SetText(a.Row, a.Column, grid.Text(b.Row, b.Column));
     grid.SetText(b.Row, b.Column, std::move(text));
   }
+  Notes notes = grid.AllNotes();
+  for (const auto& [a, b] : pairs)
+    notes.Swap(static_cast<int>(IndexOf(a, board.GridSize)),
+               static_cast<int>(IndexOf(b, board.GridSize)));
+  grid.SetNotes(std::move(notes));
   CheckAndReturn(board, dialogs);
   return true;
 }

@@ -8,8 +8,10 @@
 #include "app/play/board_text.h"
 #include "app/play/enter_puzzle.h"
 #include "app/play/fill_gaps.h"
+#include "app/play/last_right.h"
 #include "app/play/lay_out.h"
 #include "app/play/manual_board.h"
+#include "app/play/puzzle_aids.h"
 #include "app/play/study_commands.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
@@ -24,6 +26,7 @@ Session::Session(Clock& clock) : TheRandom(clock), List2(TheRandom), List3(TheRa
 Session::Commands::Commands(Session& session, const SessionPorts& ports)
     : Entry(session.TheBoard, ports.TheDialogs),
       Edits(session.TheBoard, ports.TheDialogs, session.TheRandom, session.LastCommand),
+      Noting(session.TheBoard, ports.TheDialogs, session.History),
       Hints(session.TheBoard, session.TheRandom, ports.Searching),
       Solve({session.Context(), ports.Options, ports.Building, session.List2, session.List3}),
       TopRow(session.Context(), ports.Building) {}
@@ -31,7 +34,14 @@ Session::Commands::Commands(Session& session, const SessionPorts& ports)
 void Session::Connect(const SessionPorts& ports) {
   ports_.emplace(ports);
   commands_.emplace(*this, ports);
-  Watch.Listen([this](const CommandResult& result) { History.Note(result); });
+  Watch.Listen([this](const CommandResult& result) { Follow(result); });
+}
+
+void Session::Follow(const CommandResult& result) {
+  History.Note(result);
+  ShowAids(TheBoard);
+  if (result.Name != UndoHistory::kNoting) Noting().EndNumber();
+  if (!TheBoard.HasGaps()) Noting().TakeNotes(false);
 }
 
 void Session::Disconnect() {
@@ -80,6 +90,11 @@ bool Session::BuildFromTopRow() {
 
 void Session::CheckTheTotals() {
   RecountInPlace(TheBoard);
+}
+
+void Session::SetQuietTotals(bool quiet) {
+  TheBoard.QuietTotals = quiet;
+  if (TheBoard.Shown() && TheBoard.TotalsJudged) RecountInPlace(TheBoard);
 }
 
 void Session::LayOut(const StoredSquare& square) {
@@ -133,6 +148,18 @@ Remark Session::EnterPuzzle() {
 
 void Session::FillGaps(LineKind kind) {
   numorra::FillGaps(Context(), ports_->Options.LimitToNine(), ports_->Searching, kind);
+}
+
+Remark Session::FillNotes() {
+  return numorra::FillNotes(TheBoard);
+}
+
+void Session::ClearNotes() {
+  numorra::ClearNotes(TheBoard);
+}
+
+Remark Session::BackToLastRight() {
+  return numorra::BackToLastRight(TheBoard, History, TheRandom, ports_->Searching);
 }
 
 void Session::EmptyBoard() {

@@ -10,6 +10,7 @@
 #include "app/play/command_history.h"
 #include "app/play/edit_commands.h"
 #include "app/play/hints.h"
+#include "app/play/note_entry.h"
 #include "app/play/undo_history.h"
 #include "generate/solve_command.h"
 #include "generate/top_row_command.h"
@@ -36,7 +37,8 @@ struct SessionPorts {
 /// one and outlives it.
 ///
 /// Every command runs between BeginCommand and EndCommand, which tell the watch's listeners its
-/// name and its changes; undo is the first listener.
+/// name and its changes; undo is the first listener, and what the grid shows besides the numbers is
+/// updated next.
 class Session {
  public:
   /// `clock`: seeds the random numbers.
@@ -58,6 +60,7 @@ class Session {
 
   CellEntry& Entry() { return commands_->Entry; }
   EditCommands& Edits() { return commands_->Edits; }
+  NoteEntry& Noting() { return commands_->Noting; }
   SolveCommand& Solve() { return commands_->Solve; }
 
   /// Initializes the session from the boxes, before the first proposal replaces their values.
@@ -77,6 +80,9 @@ class Session {
   /// Counts and colours the totals of the board without a message; after that it can be played.
   void CheckTheTotals();
 
+  /// Whether totals say nothing before the board is full.
+  void SetQuietTotals(bool quiet);
+
   /// Shows a square with LayOut; tells the player why a text is not a square, and then changes
   /// nothing.
   void LayOut(const StoredSquare& square);
@@ -95,6 +101,9 @@ class Session {
   Remark CheckEntries();
   Remark EnterPuzzle();
   void FillGaps(LineKind kind = LineKind::Magic);
+  Remark FillNotes();
+  void ClearNotes();
+  Remark BackToLastRight();
   void EmptyBoard();
 
   /// The puzzle on the board: only its givens, if it has any. Boards of one or two rows, which Auto
@@ -124,10 +133,13 @@ class Session {
 
     CellEntry Entry;
     EditCommands Edits;
+    NoteEntry Noting;
     numorra::Hints Hints;
     SolveCommand Solve;
     TopRowCommand TopRow;
   };
+
+  void Follow(const CommandResult& result);
 
   ListBoy List2;
   ListBoy List3;

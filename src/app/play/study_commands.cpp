@@ -32,13 +32,14 @@ std::optional<Square<double>> FullBoard(const CommandContext& context) {
   return std::nullopt;
 }
 
-/// Replaces the board's numbers.
+/// Replaces the board's numbers, and removes the notes, which were about the others.
 void Replace(Board& board, const Square<double>& numbers) {
   const RedrawLock lock(board.grid);
   ForEachCell(board.GridSize, [&](int r, int c) {
     board.BoardValues(r, c) = numbers[Place{r, c}];
     board.grid.SetGiven(r, c, false);
   });
+  board.grid.SetNotes({});
   board.ShowBoard();
   board.NewEntry = true;  // another square than the one that was typed into
   RefreshTotals(board);

@@ -6,12 +6,12 @@ namespace numorra {
 
 void UndoHistory::Note(const CommandResult& result) {
   const bool walked = std::exchange(walking_, false);
-  const bool typed = result.Name == kTyping;
-  if (!typed || walked) typing_ = false;
-  if (walked || !result.ChangedTheBoard()) return;
+  const bool typed = result.Name == kTyping || result.Name == kNoting;
+  if (!typed || walked || (typing_ && names_.back() != result.Name)) typing_ = false;
+  if (walked || !IsStep(result.Before, result.After)) return;
   if (typing_) {
     positions_.back() = result.After;
-    if (!IsChange(positions_[now_ - 1], positions_[now_])) ForgetLastStep();
+    if (!IsStep(positions_[now_ - 1], positions_[now_])) ForgetLastStep();
     return;
   }
   typing_ = typed;

@@ -10,9 +10,10 @@ namespace numorra {
 
 /// The player's changes of the board, step by step, for undo and redo.
 ///
-/// A step is a command that changed the board; digits typed into one cell are one step. Positions
-/// are stored in full, one before each step and the current one; undo and redo move among them. A
-/// new step drops the steps that could be redone; beyond kMostSteps the oldest is dropped.
+/// A step is a command that changed the board or its notes; digits typed into one cell are one
+/// step. Positions are stored in full, one before each step and the current one; undo and redo move
+/// among them. A new step drops the steps that could be redone; beyond kMostSteps the oldest is
+/// dropped.
 class UndoHistory {
  public:
   static constexpr std::size_t kMostSteps = 500;
@@ -21,11 +22,21 @@ class UndoHistory {
   /// them.
   static constexpr const char* kTyping = "typing";
 
+  /// The name of commands that type the digits of a note: one step in the same way.
+  static constexpr const char* kNoting = "note";
+
   /// Listens to every command. The history's own commands are not steps.
   void Note(const CommandResult& result);
 
   bool CanUndo() const { return now_ > 0; }
   bool CanRedo() const { return now_ < names_.size(); }
+
+  /// The next digits begin a new step.
+  void EndTyping() { typing_ = false; }
+
+  /// How many steps can be undone, and the board before the last `steps` of them.
+  std::size_t Done() const { return now_; }
+  const Position& Back(std::size_t steps) const { return positions_[now_ - steps]; }
 
   /// The names of the steps to undo and to redo; call them only if there is one.
   const std::string& UndoName() const { return names_[now_ - 1]; }
@@ -34,6 +45,9 @@ class UndoHistory {
   /// Shows the board before the last step, or after the next; does nothing if there is none.
   void Undo(Board& board);
   void Redo(Board& board);
+
+  /// Undoes the last `steps` steps at once; they can be redone one by one.
+  void UndoSteps(Board& board, std::size_t steps) { Walk(board, now_ - steps); }
 
  private:
   void Walk(Board& board, std::size_t to);

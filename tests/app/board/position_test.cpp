@@ -25,6 +25,10 @@ TEST(Positions, ComeBackWholeFromAnyOther) {
   Recount(board);
   board.ReturnTo(1, 1);
   note();
+  Notes notes;
+  notes.Set(3, 0, NoteSet(40));
+  board.grid.SetNotes(notes);
+  note();
   ShowRows(board, "8 1 6 / 3 5 7 / 4 9 2", 16);
   board.TotalsChecked = false;
   board.ReturnTo(1, 1);
@@ -40,7 +44,8 @@ TEST(Positions, ComeBackWholeFromAnyOther) {
       Restore(board, to);
       EXPECT_EQ(PositionOf(board), to);
       EXPECT_EQ(WhyInvalid(board), "");
-      EXPECT_EQ(IsChange(from, to), &from != &to);
+      EXPECT_EQ(IsStep(from, to), &from != &to);
+      EXPECT_EQ(IsChange(from, to), from.Texts != to.Texts || from.Target != to.Target);
     }
   }
   EXPECT_TRUE(board.grid.Visible());

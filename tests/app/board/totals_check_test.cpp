@@ -66,5 +66,27 @@ TEST(Recount, LeavesUnfinishedLinesUnjudged) {
   }
 }
 
+/// Quiet totals say nothing before the board is full, whatever its lines are.
+TEST(Recount, IsQuietUntilTheBoardIsFull) {
+  for (const bool given : {false, true}) {
+    for (const char* const last : {"", "-", "4", "7"}) {
+      Board board;
+      board.QuietTotals = true;
+      ShowRows(board, "8 1 6 / 3 5 7 / 4 9 2", 15);
+      board.grid.SetGiven(2, 2, given);
+      board.grid.SetText(3, 1, last);
+      Recount(board);
+      const bool full = last[0] > '0';
+      EXPECT_EQ(board.grid.VerdictOf(1, 0), full ? Verdict::Right : Verdict::Unjudged) << last;
+      EXPECT_EQ(board.grid.VerdictOf(3, 0) == Verdict::Wrong, full && last[0] == '7') << last;
+      board.ReturnTo(1, 1);
+      EXPECT_EQ(WhyInvalid(board), "");
+      board.QuietTotals = false;
+      RefreshTotals(board);
+      EXPECT_EQ(board.grid.VerdictOf(2, 0), Verdict::Right);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace numorra

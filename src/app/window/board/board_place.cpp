@@ -20,6 +20,7 @@ BoardPlace::BoardPlace(Board& board)
       View(new GridView(board.grid)),
       Picture(new Drawing(board)),
       Walk(new WalkView(walkGrid_)),
+      Missing(new MissingNumbers),
       SearchBar(new BoardBar("SearchBar", "StopSearchx", "Stop")),
       RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", "Close")),
       BackButton(RemarkBar->AddButton("RemarkBackx", "Back", "Alt+Left")),
@@ -36,6 +37,7 @@ BoardPlace::BoardPlace(Board& board)
   column->addLayout(stack_, 1);
   for (QWidget* widget : std::initializer_list<QWidget*>{View, Picture, Walk})
     stack_->addWidget(widget);
+  column->addWidget(Missing);
   column->addWidget(SearchBar);
   column->addWidget(RemarkBar);
 }

@@ -7,13 +7,15 @@
 #include "app/play/hints.h"
 #include "app/window/board/board_bar.h"
 #include "app/window/board/grid_view.h"
+#include "app/window/board/missing_numbers.h"
 #include "app/window/board/walk_view.h"
 #include "visual/drawing.h"
 
 namespace numorra {
 
 /// The frame "Solution" (`Frame1`): the board, or in its place a drawing of it or a walk through a
-/// construction; below it remarks about the board.
+/// construction; below it the missing numbers of a puzzle and remarks about the
+/// board.
 class BoardPlace : public QGroupBox {
   Q_OBJECT
 
@@ -26,6 +28,7 @@ class BoardPlace : public QGroupBox {
   GridView* const View;
   Drawing* const Picture;
   WalkView* const Walk;
+  MissingNumbers* const Missing;
   BoardBar* const SearchBar;
   BoardBar* const RemarkBar;
   QPushButton* const BackButton;  ///< in the remark's bar, for a remark of several steps

@@ -6,6 +6,8 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include "app/board/note_ranges.h"
+
 namespace numorra {
 namespace {
 
@@ -17,6 +19,15 @@ QString LineName(int row, int column, int last) {
   if (row == 0) return QString("column %1").arg(column);
   if (column == 0) return QString("row %1").arg(row);
   return {};
+}
+
+/// ", notes 1 to 3, 7" or, if that is long, ", 57 notes"; empty without notes.
+QString NotesInWords(const NoteSet& notes) {
+  constexpr std::size_t kMostRead = 12;
+  if (notes.none()) return {};
+  if (notes.count() > kMostRead) return QString(", %1 notes").arg(notes.count());
+  return ", notes " +
+         QString::fromStdString(RangesOf(notes)).replace(' ', ", ").replace('-', " to ");
 }
 
 /// One cell. Its table owns it and creates it on request.
@@ -47,11 +58,13 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
     if (kind != QAccessible::Name) return {};
     if (!line.isEmpty()) return Total(row_, column_);
     if (row_ == last || column_ == last) return value.isEmpty() ? "frame" : "marked for a swap";
-    return QString("row %1, column %2, %3%4")
+    return QString("row %1, column %2, %3%4%5%6")
         .arg(row_)
         .arg(column_)
         .arg(value.isEmpty() ? "empty" : "value " + value,
-             Cells().Given(row_, column_) ? ", given" : "");
+             Cells().Given(row_, column_) ? ", given" : "",
+             Cells().IsRepeated(row_, column_) ? ", more than once" : "",
+             NotesInWords(Cells().NotesIn(row_, column_)));
   }
 
   QRect rect() const override {

@@ -22,12 +22,14 @@ GridPainter::GridPainter(const Grid& grid, const QFont& font, int dpi)
       font_(font),
       dpi_(std::max(kLowestDpi, dpi)),
       texts_(font, Edge(1)),
-      givens_(Heavier(font), Edge(1)) {}
+      givens_(Heavier(font), Edge(1)),
+      notes_(font, Edge(1)) {}
 
 void GridPainter::SetFont(const QFont& font) {
   font_ = font;
   texts_ = CellText(font, Edge(1));
   givens_ = CellText(Heavier(font), Edge(1));
+  notes_ = NoteText(font, Edge(1));
 }
 
 void GridPainter::SetZoom(double zoom) {
@@ -69,8 +71,10 @@ QRect GridPainter::CellRect(int row, int column, QPoint scrolled) const {
           Edge(row + 1) - Edge(row)};
 }
 
-bool GridPainter::Readable(const Grid::Cell& cell) {
-  return TextsFor(cell).Readable(cell.Text);
+bool GridPainter::Readable(int row, int column) {
+  const Grid::Cell& cell = grid_.At(row, column);
+  if (!cell.Text.empty()) return TextsFor(cell).Readable(cell.Text);
+  return notes_.Readable(grid_.NotesIn(row, column));
 }
 
 /// The four blocks of cells that scroll differently.
@@ -116,16 +120,26 @@ void GridPainter::PaintBlock(QPainter& painter, const Look& look, const QRect& a
         PaintBlockEdge(painter, look, place, row, column);
       }
       if (cell.Judged == Verdict::Wrong) PaintWrongMark(painter, place);
-      PaintText(painter, look, place, cell);
+      PaintText(painter, look, place, row, column);
     }
   }
 }
 
-void GridPainter::PaintText(QPainter& painter, const Look& look, const QRect& place,
-                            const Grid::Cell& cell) {
-  if (cell.Text.empty()) return;
-  painter.setPen(TextColour(look, cell));
-  TextsFor(cell).Draw(painter, place, cell.Text);
+void GridPainter::PaintText(QPainter& painter, const Look& look, const QRect& place, int row,
+                            int column) {
+  const Grid::Cell& cell = grid_.At(row, column);
+  if (!cell.Text.empty()) {
+    painter.setPen(TextColour(look, cell));
+    TextsFor(cell).Draw(painter, place, cell.Text);
+    return;
+  }
+  const NoteSet notes = grid_.NotesIn(row, column);
+  if (notes.none()) return;
+  constexpr int kAlphaOfNotes = 190;  // of 255
+  QColor ink = TextColour(look, cell);
+  ink.setAlpha(kAlphaOfNotes);
+  painter.setPen(ink);
+  notes_.Draw(painter, place, notes);
 }
 
 QColor GridPainter::TextColour(const Look& look, const Grid::Cell& cell) {

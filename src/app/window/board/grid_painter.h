@@ -7,6 +7,7 @@
 
 #include "app/board/grid.h"
 #include "app/window/board/cell_text.h"
+#include "app/window/board/note_text.h"
 
 namespace numorra {
 
@@ -36,8 +37,8 @@ class GridPainter {
   /// The rectangle of the cell (row, column) in the scrolled table.
   QRect CellRect(int row, int column, QPoint scrolled) const;
 
-  /// Whether the cell's text is drawn uncut and large enough to read.
-  bool Readable(const Grid::Cell& cell);
+  /// Whether the cell's text, or all its notes, are drawn uncut and large enough to read.
+  bool Readable(int row, int column);
 
   /// How a table is painted: its scroll position, and the palette for cells without colours.
   struct Look {
@@ -48,8 +49,8 @@ class GridPainter {
   /// Paints the cells within `dirty` in a viewport of `size`.
   void PaintCells(QPainter& painter, const Look& look, QSize size, const QRect& dirty);
 
-  /// Paints a cell's text over what is already there.
-  void PaintText(QPainter& painter, const Look& look, const QRect& place, const Grid::Cell& cell);
+  /// Paints a cell's text, or its notes, over what is already there.
+  void PaintText(QPainter& painter, const Look& look, const QRect& place, int row, int column);
 
   /// The colour of a cell's text; on the window's background, the window's text colour.
   static QColor TextColour(const Look& look, const Grid::Cell& cell);
@@ -70,6 +71,7 @@ class GridPainter {
   mutable std::vector<int> edges_;  ///< by line, computed on demand
   CellText texts_;
   CellText givens_;  ///< in bold, for given numbers
+  NoteText notes_;
 };
 
 }  // namespace numorra

@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include "app/board/note_ranges.h"
+
 namespace numorra {
 namespace {
 
@@ -102,6 +104,12 @@ void GridView::Fit() {
   painter_.SetZoom(std::min(kLargestZoom, painter_.ZoomThatFits(lines, side)));
 }
 
+void GridView::SetNoting(bool noting) {
+  if (noting == noting_) return;
+  noting_ = noting;
+  viewport()->update();
+}
+
 void GridView::BringIntoView(int row, int column) {
   UpdateScrollBars();
   const auto bring = [this](QScrollBar* bar, int line, int length) {
@@ -123,9 +131,10 @@ bool GridView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto cell = CellAt(help->pos());
-    if (cell && !painter_.Readable(grid_.At(cell->y(), cell->x()))) {
-      QToolTip::showText(help->globalPos(),
-                         QString::fromStdString(grid_.Text(cell->y(), cell->x())), viewport());
+    if (cell && !painter_.Readable(cell->y(), cell->x())) {
+      const std::string& text = grid_.Text(cell->y(), cell->x());
+      const std::string shown = text.empty() ? RangesOf(grid_.NotesIn(cell->y(), cell->x())) : text;
+      QToolTip::showText(help->globalPos(), QString::fromStdString(shown), viewport());
     } else {
       QToolTip::hideText();
     }

@@ -42,6 +42,9 @@ class GridView : public QAbstractScrollArea {
   void SetFitting(bool fitting);
   bool Fitting() const { return fitting_; }
 
+  /// Shows that digits write notes.
+  void SetNoting(bool noting);
+
   /// The scroll position, in pixels.
   QPoint Scrolled() const;
   void ScrollTo(QPoint scrolled);
@@ -105,6 +108,7 @@ class GridView : public QAbstractScrollArea {
   void ClipToScrollingCells(QPainter& painter) const;
   void PaintCurrentCell(QPainter& painter);
   void PaintOutlined(QPainter& painter);
+  void PaintRepeated(QPainter& painter);
   bool Navigate(int key, bool toTheVeryEnd);
   void TellCurrentCell();
 
@@ -112,11 +116,15 @@ class GridView : public QAbstractScrollArea {
     int Row;
     int Column;
     std::string Text;
+    bool Repeated;
+    NoteSet Notes;
+    bool operator==(const ShownCell&) const = default;
   };
 
   Grid& grid_;
   GridPainter painter_;
   bool fitting_ = false;
+  bool noting_ = false;
   int turned_ = 0;  ///< turn of the wheel with Ctrl since the last step, in eighths of a degree
   std::optional<QSize> shape_;     ///< the table's lines when the scroll bars were last set
   std::optional<ShownCell> told_;  ///< the current cell as last reported

@@ -11,9 +11,20 @@ namespace numorra {
 namespace {
 
 constexpr int kGuideAlpha = 36;  // of 255
+constexpr QColor kEqualSign(190, 0, 0);
 
 QRect Inside(const QRect& frame, int width) {
   return frame.adjusted(width, width, -width, -width);
+}
+
+/// Breaks a ring of this width into dashes.
+void PaintDashes(QPainter& painter, const QRect& ring, int width) {
+  for (int at = 0; at < ring.width(); at += 4 * width) {
+    const QRect column(ring.left() + at + width, ring.top(), 2 * width, ring.height());
+    const QRect row(ring.left(), ring.top() + at + width, ring.width(), 2 * width);
+    painter.fillRect(column & ring, Qt::white);
+    painter.fillRect(row & ring, Qt::white);
+  }
 }
 
 }  // namespace
@@ -36,6 +47,7 @@ void GridView::paintEvent(QPaintEvent* event) {
     PaintCurrentCell(painter);
     TellCurrentCell();
   }
+  PaintRepeated(painter);
   PaintOutlined(painter);
 }
 
@@ -50,10 +62,12 @@ void GridView::PaintInvitation(QPainter& painter) {
 /// Screen readers are told what is painted, so at most once per repaint.
 void GridView::TellCurrentCell() {
   if (!hasFocus()) return;
-  const ShownCell now{grid_.CurrentRow(), grid_.CurrentColumn(),
-                      grid_.Text(grid_.CurrentRow(), grid_.CurrentColumn())};
+  const int row = grid_.CurrentRow();
+  const int column = grid_.CurrentColumn();
+  const ShownCell now{row, column, grid_.Text(row, column), grid_.IsRepeated(row, column),
+                      grid_.NotesIn(row, column)};
   const bool another = !told_ || told_->Row != now.Row || told_->Column != now.Column;
-  if (!another && told_->Text == now.Text) return;
+  if (told_ == now) return;
   told_ = now;
   Q_EMIT CurrentCellShown(another);
 }
@@ -124,6 +138,25 @@ void GridView::ClipToScrollingCells(QPainter& painter) const {
   painter.setClipRect(QRect(QPoint(fixed, fixed), viewport()->rect().bottomRight()));
 }
 
+/// An equals sign in the upper left corner, for players who cannot see a colour.
+void GridView::PaintRepeated(QPainter& painter) {
+  ClipToScrollingCells(painter);
+  constexpr int kBarsOfCell = 3;
+  constexpr int kThicknessOfCell = 13;
+  const int width = painter_.Edge(1) / kBarsOfCell;
+  const int thick = std::max(1, painter_.Edge(1) / kThicknessOfCell);
+  const int apart = thick + std::max(1, thick * 2 / 3);
+  for (const Place place : grid_.Repeated()) {
+    const QPoint corner = CellRect(place.Row, place.Column).topLeft() + QPoint(2, 2);
+    const QRect sign(corner, QSize(width, apart + thick));
+    painter.fillRect(sign.adjusted(-1, -1, 1, 1), Qt::white);
+    for (const int down : {0, apart}) {
+      const QPoint start = corner + QPoint(0, down);
+      painter.fillRect(QRect(start, QSize(width, thick)), kEqualSign);
+    }
+  }
+}
+
 void GridView::PaintOutlined(QPainter& painter) {
   ClipToScrollingCells(painter);
   PaintOutline(painter, grid_.Outlined(), [this](Place place) {
@@ -132,7 +165,8 @@ void GridView::PaintOutlined(QPainter& painter) {
 }
 
 /// Repaints the current cell with a ring in the theme's highlight and a light ring inside, visible
-/// on every colour. The number is painted over the rings, so that long ones stay readable.
+/// on every colour; the outer ring is dashed while notes are taken. The number is painted over the
+/// rings, so that long ones stay readable.
 void GridView::PaintCurrentCell(QPainter& painter) {
   const int row = grid_.CurrentRow();
   const int column = grid_.CurrentColumn();
@@ -141,9 +175,10 @@ void GridView::PaintCurrentCell(QPainter& painter) {
   const QRect withItsLines = cell.adjusted(-1, -1, 0, 0);
   const int ring = std::max(2, painter_.Edge(1) / 16);
   painter.fillRect(withItsLines, palette().color(QPalette::Highlight));
+  if (noting_) PaintDashes(painter, withItsLines, ring);
   painter.fillRect(Inside(withItsLines, ring), Qt::white);
   painter.fillRect(Inside(withItsLines, ring + 1), ToQColor(grid_.Background(row, column)));
-  painter_.PaintText(painter, Look(), cell, grid_.At(row, column));
+  painter_.PaintText(painter, Look(), cell, row, column);
 }
 
 }  // namespace numorra

@@ -45,6 +45,7 @@ void BoardInput::ConnectMouse() {
     });
   });
   OnSignal(desk_.Runner, view, &GridView::MarkWanted, this, [this, &board](MarkedLine line) {
+    if (desk_.TheSession.Noting().EndNumber()) return;
     Press([this, &board, line] { return MarkByKey(board, desk_.TheDialogs, line); });
   });
 }
@@ -61,7 +62,11 @@ void BoardInput::ConnectKeys() {
         "move", [&session, row, column] { session.TheBoard.grid.SetCurrent(row, column); });
   });
   OnSignal(desk_.Runner, view, &GridView::CharacterTyped, this, [this, &session](char32_t typed) {
-    if (typed == U'\r') {
+    if (typed == U'\r' && session.Noting().EndNumber()) return;
+    if (session.Noting().TakingNotes() && typed != U'\r') {
+      desk_.RunOnCurrentCell(UndoHistory::kNoting,
+                             [&session, typed] { session.Noting().TypeCharacter(typed); });
+    } else if (typed == U'\r') {
       desk_.RunOnCurrentCell("check", [&session] { session.Entry().PressEnter(); });
     } else {
       desk_.RunOnCurrentCell(UndoHistory::kTyping,

@@ -7,6 +7,7 @@
 
 #include "app/window/forms/enter_code_form.h"
 #include "app/window/forms/hide_numbers_form.h"
+#include "app/window/menus/notes_items.h"
 #include "study/special.h"
 #include "toolkit/menus.h"
 #include "toolkit/named.h"
@@ -56,6 +57,9 @@ PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinte
   needBoard_ += AddItem(
       menu, {"FillGapsx", "&Fill Gaps", {}, [this] { FillGaps("Fill Gaps", LineKind::Magic); }});
   AddFillAs(menu);
+  new NotesItems(menu, desk_,
+                 remark("Back to Last Right", "Looking for the first wrong entry",
+                        [&session] { return session.BackToLastRight(); }));
   state->setContextMenuPolicy(Qt::ActionsContextMenu);
   state->addAction(code);
 

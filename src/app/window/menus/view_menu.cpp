@@ -35,6 +35,10 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk)
   QAction* numbers = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
   OnSignal(desk_.Runner, numbers, &QAction::toggled, this,
            [this](bool on) { desk_.Place.Picture->SetNumbers(on); });
+  QAction* quiet = AddItem(menu, {"QuietTotalsx", "&Quiet Totals", none, [] {}, true});
+  OnSignal(desk_.Runner, quiet, &QAction::toggled, this, [this](bool on) {
+    desk_.Runner.Run("Quiet Totals", [this, on] { desk_.TheSession.SetQuietTotals(on); });
+  });
   shown_ =
       AddItem(menu, {"Propertiesx",
                      "&Properties",
