@@ -3,6 +3,7 @@
 #include <random>
 
 #include "puzzle/code.h"
+#include "support/boards.h"
 #include "support/puzzle_session.h"
 #include "support/soak.h"
 

@@ -49,6 +49,37 @@ TEST_F(PuzzleWindowTest, FillsGapsInOneStep) {
   ExpectSettled();
 }
 
+/// A hint of several steps: the bar leads through them.
+TEST_F(PuzzleWindowTest, HintsGoStepByStep) {
+  Paste(". . . 5\n. . . .\n9 1 8 16\n. 7 2 .");
+  const auto& bar = Find<QWidget>("RemarkBar");
+  auto& back = Find<QAbstractButton>("RemarkBackx");
+  auto& next = Find<QAbstractButton>("RemarkNextx");
+  Trigger("Hintx");
+  EXPECT_FALSE(next.isVisible());
+  Trigger("Hintx");
+  EXPECT_EQ(
+      bar.accessibleName(),
+      "1 of 2: Column 4 needs 13 for its two gaps, so row 4, column 4 can hold only 3 or 10.");
+  EXPECT_FALSE(back.isEnabled());
+  window_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  QTest::keyClick(&window_.View(), Qt::Key_Right, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return back.isEnabled(); }))
+      << "the button shows that it is down";
+  EXPECT_EQ(bar.accessibleName(),
+            "2 of 2: Row 4 needs 25 for its two gaps; row 4, column 4 can hold 3 or 10, so row 4, "
+            "column 1 can hold only 15.");
+  EXPECT_EQ(TheGrid().Outlined(), (std::vector<Place>{{4, 1}, {4, 2}, {4, 3}, {4, 4}}));
+  EXPECT_FALSE(next.isEnabled());
+  back.click();
+  EXPECT_TRUE(next.isEnabled());
+  Trigger("Hintx");
+  EXPECT_EQ(TheGrid().Text(4, 1), "15");
+  EXPECT_FALSE(back.isVisible());
+  ExpectSettled();
+}
+
 /// Auto also builds one or two rows: nothing that can be done to them destroys the board.
 TEST_F(PuzzleWindowTest, TinyBoardsAreHandledSafely) {
   Trigger("Propertiesx");

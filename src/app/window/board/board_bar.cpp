@@ -1,24 +1,33 @@
 #include "app/window/board/board_bar.h"
 
 #include <QAccessible>
-#include <QHBoxLayout>
 
 #include "toolkit/named.h"
 
 namespace numorra {
 
 BoardBar::BoardBar(const char* name, const char* buttonName, const char* buttonText)
-    : Button(Named(buttonName, new QPushButton(buttonText))), text_(new QLabel) {
+    : Button(Named(buttonName, new QPushButton(buttonText))),
+      row_(new QHBoxLayout(this)),
+      text_(new QLabel) {
   setObjectName(name);
   setFrameShape(QFrame::StyledPanel);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   Button->setToolTip("Esc");
   text_->setWordWrap(true);
   text_->setTextFormat(Qt::PlainText);
-  auto* row = new QHBoxLayout(this);
-  row->addWidget(text_, 1);
-  row->addWidget(Button);
+  row_->addWidget(text_, 1);
+  row_->addWidget(Button);
   hide();
+}
+
+QPushButton* BoardBar::AddButton(const char* name, const char* text, const char* key) {
+  auto* button = Named(name, new QPushButton(text));
+  button->setShortcut(QKeySequence(key));
+  button->setToolTip(key);
+  row_->insertWidget(row_->count() - 1, button);
+  button->hide();
+  return button;
 }
 
 void BoardBar::ShowText(const QString& text) {

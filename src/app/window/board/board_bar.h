@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -17,9 +18,13 @@ class BoardBar : public QFrame {
 
   void ShowText(const QString& text);
 
+  /// Adds a hidden button, left of the last one. A key presses it while it is shown.
+  QPushButton* AddButton(const char* name, const char* text, const char* key);
+
   QPushButton* const Button;
 
  private:
+  QHBoxLayout* row_;
   QLabel* text_;
 };
 

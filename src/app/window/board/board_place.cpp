@@ -1,6 +1,7 @@
 #include "app/window/board/board_place.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QVBoxLayout>
 
@@ -22,6 +23,8 @@ BoardPlace::BoardPlace(Board& board)
       Missing(new MissingNumbers),
       SearchBar(new BoardBar("SearchBar", "StopSearchx", "Stop")),
       RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", "Close")),
+      BackButton(RemarkBar->AddButton("RemarkBackx", "Back", "Alt+Left")),
+      NextButton(RemarkBar->AddButton("RemarkNextx", "Next", "Alt+Right")),
       stack_(new QStackedLayout),
       bars_(new QWidget) {
   setObjectName("Frame1");
@@ -68,15 +71,34 @@ void BoardPlace::ShowWidget(QWidget* widget) {
   Q_EMIT SightChanged();
 }
 
-void BoardPlace::ShowRemark(const Remark& remark) {
+void BoardPlace::ShowRemark(Remark remark) {
   remarkIsNew_ = true;
-  board_.grid.SetOutlined(remark.Where);
-  QString text = QString::fromStdString(remark.Text);
+  remark_ = std::move(remark);
+  step_ = 0;
+  ShowStep();
+}
+
+void BoardPlace::StepRemark(int by) {
+  if (remark_.Steps.empty()) return;
+  step_ = std::clamp(step_ + by, 0, static_cast<int>(remark_.Steps.size()) - 1);
+  ShowStep();
+}
+
+void BoardPlace::ShowStep() {
+  const auto steps = static_cast<int>(remark_.Steps.size());
+  const Remark& shown = steps > 0 ? remark_.Steps[static_cast<std::size_t>(step_)] : remark_;
+  board_.grid.SetOutlined(shown.Where);
+  QString text = QString::fromStdString(shown.Text);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
-  RemarkBar->ShowText(text + ".");
-  if (remark.Where.size() != 1) return;
+  const QString where = steps > 0 ? QString("%1 of %2: ").arg(step_ + 1).arg(steps) : "";
+  for (QPushButton* button : {BackButton, NextButton})
+    button->setVisible(steps > 0);
+  BackButton->setEnabled(step_ > 0);
+  NextButton->setEnabled(step_ + 1 < steps);
+  RemarkBar->ShowText(where + text + ".");
+  if (shown.Where.size() != 1) return;
   layout()->activate();  // lay out the bar first
-  View->BringIntoView(remark.Where.front().Row, remark.Where.front().Column);
+  View->BringIntoView(shown.Where.front().Row, shown.Where.front().Column);
 }
 
 void BoardPlace::ForgetRemark() {

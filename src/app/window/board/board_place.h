@@ -31,6 +31,8 @@ class BoardPlace : public QGroupBox {
   MissingNumbers* const Missing;
   BoardBar* const SearchBar;
   BoardBar* const RemarkBar;
+  QPushButton* const BackButton;  ///< in the remark's bar, for a remark of several steps
+  QPushButton* const NextButton;
 
   /// Shows the board, or the drawing that covers it.
   void ShowBoard();
@@ -45,9 +47,12 @@ class BoardPlace : public QGroupBox {
   /// The cells that zoom applies to: those of the walk, or of the board.
   GridView& Cells() const { return Walking() ? *Walk : *View; }
 
-  /// Shows a remark until the board changes, and outlines its cells.
-  void ShowRemark(const Remark& remark);
+  /// Shows a remark until the board changes, and outlines its cells; of several steps, the first.
+  void ShowRemark(Remark remark);
   void ForgetRemark();
+
+  /// Goes through the steps of the remark: 1 for the next one, -1 for the one before.
+  void StepRemark(int by);
 
   /// Outlines cells without a remark and removes an older remark; a remark of the running command
   /// takes precedence.
@@ -75,9 +80,12 @@ class BoardPlace : public QGroupBox {
 
  private:
   void ShowWidget(QWidget* widget);
+  void ShowStep();
 
   QStackedLayout* stack_;
-  QWidget* bars_;             ///< holds the room for the bars
+  QWidget* bars_;  ///< holds the room for the bars
+  Remark remark_;
+  int step_ = 0;              ///< of the remark's steps, from 0
   bool remarkIsNew_ = false;  ///< the running command made it
 };
 

@@ -66,6 +66,8 @@ PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinte
   BoardPlace& place = desk_.Place;
   OnClick(desk_.Runner, place.SearchBar->Button, this, [this] { desk_.Runner.Run("Stop", [] {}); });
   OnClick(desk_.Runner, place.RemarkBar->Button, this, [this] { desk_.Place.ForgetRemark(); });
+  OnClick(desk_.Runner, place.BackButton, this, [this] { desk_.Place.StepRemark(-1); });
+  OnClick(desk_.Runner, place.NextButton, this, [this] { desk_.Place.StepRemark(1); });
   desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
     desk_.Place.EndCommand(result.ChangedTheBoard());
     ShowState();
