@@ -1,7 +1,8 @@
+#include <algorithm>
+
 #include "benches.h"
 #include "puzzle/deduction.h"
-#include "puzzle/fresh_square.h"
-#include "puzzle/making.h"
+#include "puzzle/fresh_puzzle.h"
 #include "puzzle/search.h"
 #include "study/report.h"
 #include "study/special.h"
@@ -27,6 +28,26 @@ void FillBoard(benchmark::State& state) {
     benchmark::DoNotOptimize(Solve(puzzle, {}, random, stage));
 }
 
+/// 20 numbers of a square of order 20: only the local search fills such a board.
+void FillLargeBoard(benchmark::State& state) {
+  constexpr int kGiven = 20;
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  Puzzle puzzle = *FreshSquare({20}, random, stage);
+  std::fill(puzzle.Cells.begin() + kGiven, puzzle.Cells.end(), 0);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Solve(puzzle, {}, random, stage));
+}
+
+void DrawFreshSquare(benchmark::State& state) {
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(FreshSquare({10}, random, stage));
+}
+
 template <Grade Wanted>
 void MakePuzzleOfOrder8(benchmark::State& state) {
   TickingClock time(7);
@@ -37,11 +58,12 @@ void MakePuzzleOfOrder8(benchmark::State& state) {
     benchmark::DoNotOptimize(MakePuzzle(square, {Wanted}, random, stage));
 }
 
+template <Grade Wanted>
 void FindHint(benchmark::State& state) {
   TickingClock time(7);
   ClockSeededRandom random(time);
   SilentStage stage;
-  const auto made = MakePuzzle(*FreshSquare({8}, random, stage), {Grade::Hard}, random, stage);
+  const auto made = MakeFreshPuzzle({8}, {Wanted}, random, stage);
   const Puzzle& puzzle = std::get<MadePuzzle>(made).Clues;
   for (auto _ : state)
     benchmark::DoNotOptimize(NextDeduction(puzzle, Grade::Expert, stage));
@@ -57,7 +79,10 @@ constexpr Measured kRoads[] = {
     {{"filling a board of order 8, 70 % given, one solution", 1}, FillBoard},
     {{"making a hard puzzle of order 8", 1}, MakePuzzleOfOrder8<Grade::Hard>},
     {{"making an expert puzzle of order 8", 50}, MakePuzzleOfOrder8<Grade::Expert>},
-    {{"a hint for a hard puzzle of order 8", 1}, FindHint},
+    {{"filling a board of order 20 with 20 numbers", 50}, FillLargeBoard},
+    {{"a fresh square of order 10", 1}, DrawFreshSquare},
+    {{"a hint for a hard puzzle of order 8", 1}, FindHint<Grade::Hard>},
+    {{"a hint for an expert puzzle of order 8", 10}, FindHint<Grade::Expert>},
 };
 
 }  // namespace

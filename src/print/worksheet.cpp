@@ -83,13 +83,25 @@ QString Missing(const Puzzle& puzzle) {
   return "Missing: " + missing.join("  ");
 }
 
+bool IsNormal(const MadePuzzle& made) {
+  return made.Clues.Asked == Rules::Normal;
+}
+
+QString Numbers(const MadePuzzle& made) {
+  return IsNormal(made) ? "each missing number once" : "whole numbers of 1 or more";
+}
+
+bool AreMixed(const std::vector<MadePuzzle>& puzzles) {
+  const auto normal = std::count_if(puzzles.begin(), puzzles.end(), IsNormal);
+  return normal > 0 && normal < static_cast<std::ptrdiff_t>(puzzles.size());
+}
+
+/// If the puzzles have different rules, each names its own.
 QString RulesText(const std::vector<MadePuzzle>& puzzles) {
-  const bool normal = std::all_of(puzzles.begin(), puzzles.end(), [](const MadePuzzle& made) {
-    return made.Clues.Asked == Rules::Normal;
-  });
-  const QString numbers = normal ? "each missing number once" : "whole numbers of 1 or more";
-  return "Fill the gaps with " + numbers +
-         ", so that all rows, columns and both diagonals add up to the same total.";
+  const QString numbers =
+      AreMixed(puzzles) || puzzles.empty() ? "" : "with " + Numbers(puzzles.front()) + ", ";
+  return "Fill the gaps " + numbers +
+         "so that all rows, columns and both diagonals add up to the same total.";
 }
 
 }  // namespace
@@ -167,11 +179,14 @@ void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
 }
 
 void Worksheet::PaintPuzzle(QPainter& painter, const Slot& slot, double side) const {
-  const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
+  const MadePuzzle& made = puzzles_[static_cast<std::size_t>(slot.Number)];
+  const Puzzle& clues = made.Clues;
   const bool given = wish_.TotalGiven || !TotalCanBeFound(clues);
   const QString total = given ? QString::number(clues.Target) : "________";
+  const QString numbers = AreMixed(puzzles_) ? "; " + Numbers(made) : QString();
   PaintCaptioned(painter, slot, side, clues,
-                 QString("%1.   Total: %2").arg(slot.Number + 1).arg(total), Missing(clues));
+                 QString("%1.   Total: %2%3").arg(slot.Number + 1).arg(total, numbers),
+                 Missing(clues));
 }
 
 void Worksheet::PaintAnswer(QPainter& painter, const Slot& slot, double side) const {

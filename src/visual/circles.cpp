@@ -66,7 +66,12 @@ void PaintCircles(QPainter& painter, const DrawingArea& area) {
 
 }  // namespace
 
-const DrawingKind kCircles = {"C", "Command1", "Cric&les",
-                              "Draw each number as a circle of its size", PaintCircles};
+const DrawingKind kCircles = {"C",
+                              "Command1",
+                              "Cric&les",
+                              "Draw each number as a circle of its size",
+                              "BoardCriclesx",
+                              Qt::Key_F2,
+                              PaintCircles};
 
 }  // namespace numorra

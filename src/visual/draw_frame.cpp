@@ -17,6 +17,7 @@ DrawFrame::DrawFrame(QWidget* parent)
     auto* button = Named(kind->Button, new QPushButton(kind->Caption));
     button->setToolTip(kind->ToolTip);
     connect(button, &QPushButton::clicked, this, [this, kind] { Q_EMIT Chosen(kind); });
+    Buttons[static_cast<std::size_t>(place)] = button;
     layout->addWidget(button, place / kColumns, place % kColumns);
     ++place;
   }

@@ -14,7 +14,8 @@ class DrawFrame : public QGroupBox {
  public:
   explicit DrawFrame(QWidget* parent = nullptr);
 
-  QPushButton* const Command4;  ///< "Clear"
+  std::array<QPushButton*, kDrawingKinds.size()> Buttons;  ///< in the order of the drawings
+  QPushButton* const Command4;                             ///< "Clear"
 
  Q_SIGNALS:
   void Chosen(const DrawingKind* kind);

@@ -41,6 +41,8 @@ struct DrawingKind {
   const char* Button;
   const char* Caption;
   const char* ToolTip;
+  const char* Item;  ///< the name of its menu item, with the button's caption
+  Qt::Key Key;       ///< of the menu item
   void (*Paint)(QPainter& painter, const DrawingArea& area);
 };
 

@@ -97,7 +97,12 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
 
 }  // namespace
 
-const DrawingKind kVectors = {"V", "Command2", "Vec&tors",
-                              "Draw a path from the smallest number to the largest", PaintVectors};
+const DrawingKind kVectors = {"V",
+                              "Command2",
+                              "Vec&tors",
+                              "Draw a path from the smallest number to the largest",
+                              "BoardVectorsx",
+                              Qt::Key_F3,
+                              PaintVectors};
 
 }  // namespace numorra

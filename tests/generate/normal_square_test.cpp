@@ -70,8 +70,7 @@ TEST(NormalSquare, TurnsDoublyEvenSquaresFurtherAtEveryRun) {
   ScriptedRandom random({0.5});
   NotingStage stage;
   NormalSquare generator(random, stage);
-  CellTable expected =
-      TableOf(SquareFrom(ParseRows("16 2 3 13 / 5 11 10 8 / 9 7 6 12 / 4 14 15 1")));
+  CellTable expected = TableFrom(ParseRows("16 2 3 13 / 5 11 10 8 / 9 7 6 12 / 4 14 15 1"));
   for (int run = 1; run <= 5; ++run) {
     RotateBoard90(expected, 4);
     EXPECT_EQ(RowsOf(generator.Build(4), 4), RowsOf(expected, 4)) << run;

@@ -77,11 +77,11 @@ TEST(RemainderEven, RaisesEveryLineOrComesBackTurned) {
     EXPECT_EQ(slow::WhyNotMagic(RowsOf(square.Settled(), order), 9 * order + 1), "");
   }
   // A quarter turn brings larger numbers under the two cells that are lowered.
-  CellTable cells = TableOf(SquareFrom(ParseRows("5 5 5 1 / 5 5 5 5 / 5 5 1 5 / 5 5 5 5")));
+  CellTable cells = TableFrom(ParseRows("5 5 5 1 / 5 5 5 5 / 5 5 1 5 / 5 5 5 5"));
   TurningSquare turnable(cells, 4);
   ASSERT_TRUE(SpreadRemainderEven(turnable, 1));
   EXPECT_EQ(turnable(4, 4), 1 + 1) << "(1, 4) of before, turned and raised";
-  cells = TableOf(SquareFrom(ParseRows("1 2 3 1 / 4 1 1 5 / 6 1 1 7 / 1 8 9 1")));
+  cells = TableFrom(ParseRows("1 2 3 1 / 4 1 1 5 / 6 1 1 7 / 1 8 9 1"));
   TurningSquare hopeless(cells, 4);
   EXPECT_FALSE(SpreadRemainderEven(hopeless, 1));
   for (int turn = 0; turn < 3; ++turn)

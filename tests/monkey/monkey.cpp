@@ -70,9 +70,8 @@ std::string StateByHand(const Board& board) {
   if (gaps > 0) {
     state << gaps << (gaps == 1 ? " cell to fill" : " cells to fill");
     if (board.HasGivens()) {
-      state << (board.Asked == Rules::Positive
-                    ? " with any whole numbers"
-                    : " with the numbers 1 to " + std::to_string(n * n) + ", each once");
+      state << (board.Asked == Rules::Positive ? ", any whole numbers"
+                                               : ", 1 to " + std::to_string(n * n) + " each once");
     }
   } else if (equal) {
     state << "all cells are still equal";

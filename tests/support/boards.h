@@ -50,6 +50,16 @@ inline Square<double> SquareFrom(const slow::Rows& rows) {
   return square;
 }
 
+/// The numbers in a table with room for the totals.
+inline CellTable TableFrom(const slow::Rows& rows) {
+  CellTable table;
+  for (std::size_t r = 0; r < rows.size(); ++r) {
+    for (std::size_t c = 0; c < rows.size(); ++c)
+      table(static_cast<int>(r) + 1, static_cast<int>(c) + 1) = rows[r][c];
+  }
+  return table;
+}
+
 /// The texts in the grid's value block.
 inline slow::Rows ShownRows(const Grid& grid) {
   slow::Rows rows;
@@ -69,7 +79,7 @@ inline void ShowRows(Board& board, const std::string& text, double target = 15,
   board.TargetTotal = target;
   board.BaseValue = baseValue;
   board.SetupBoard();
-  board.BoardValues = TableOf(SquareFrom(rows));
+  board.BoardValues = TableFrom(rows);
   board.ShowBoard();
 }
 

@@ -161,10 +161,4 @@ Square<double> SquareOf(const CellTable& cells, int order) {
   return square;
 }
 
-CellTable TableOf(const Square<double>& square) {
-  CellTable table;
-  ForEachCell(square.Order(), [&](int r, int c) { table(r, c) = square[Place{r, c}]; });
-  return table;
-}
-
 }  // namespace numorra

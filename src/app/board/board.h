@@ -121,8 +121,7 @@ void ForEachCell(int order, Visit visit) {
 /// Stores the totals of the n x n block of `cells` around it, as Board::ComputeTotals does.
 void ComputeTotals(CellTable& cells, int order);
 
-/// The n x n block of `cells`; and back, a table with the square in its block.
+/// The n x n block of `cells`.
 Square<double> SquareOf(const CellTable& cells, int order);
-CellTable TableOf(const Square<double>& square);
 
 }  // namespace numorra

@@ -78,7 +78,9 @@ std::string StateOf(const Board& board) {
   const Tally tally = Count(board);
   std::string state = StateHead(board.GridSize, board.TargetTotal) + Progress(tally, lines);
   if (tally.Gaps > 0 && board.HasGivens()) {
-    state += " with " + InWords(board.Asked, board.GridSize);
+    state += board.Asked == Rules::Positive
+                 ? ", any whole numbers"
+                 : ", 1 to " + std::to_string(board.GridSize * board.GridSize) + " each once";
   }
   if (board.Typing()) state += ", Enter checks";
   if (!board.TotalsChecked) state += ", F9 to play";

@@ -14,7 +14,7 @@ namespace numorra {
 ///     4 x 4, sum 34: 3 of 10 lines right
 ///     4 x 4, sum 34: magic, 7 numbers more than once
 ///     4 x 4, sum 34: 8 of 10 lines right, Enter checks    (a number is being typed)
-///     4 x 4, sum 34: 9 cells to fill with the numbers 1 to 16, each once       (a puzzle)
+///     4 x 4, sum 34: 9 cells to fill, 1 to 16 each once   (a puzzle)
 ///     4 x 4, sum 34: magic, F9 to play                    (no check has been made)
 ///
 /// Empty without a board. A board whose cells all hold the base value is not called magic, although

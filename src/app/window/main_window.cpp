@@ -12,6 +12,7 @@
 
 #include "app/window/menus/board_input.h"
 #include "app/window/menus/control_commands.h"
+#include "app/window/menus/controls_menu.h"
 #include "app/window/menus/edit_menu.h"
 #include "app/window/menus/puzzle_menu.h"
 #include "app/window/menus/study_menu.h"
@@ -92,6 +93,7 @@ void MainWindow::AddMenus() {
   files_ = new FileMenu(menuBar(), desk_, {world_.Files, world_.Printer, world_.Pages});
   new EditMenu(menuBar(), desk_);
   view_ = new ViewMenu(this, desk_);
+  new ControlsMenu(menuBar(), *controls_);
   new StudyMenu(this, desk_, view_->Room());
   new PuzzleMenu(menuBar(), desk_, searchStage_, world_.Pages, state_);
   QMenu* help = menuBar()->addMenu("&Help");

@@ -40,9 +40,9 @@ TEST_F(BoardStateTest, SaysWhatIsTrueOfTheBoard) {
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill");
   board_.grid.SetGiven(1, 1, true);
   board_.Asked = Rules::Positive;
-  EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill with any whole numbers");
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill, any whole numbers");
   board_.Asked = Rules::Normal;
-  EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill with the numbers 1 to 9, each once");
+  EXPECT_EQ(StateOf(board_), "3 x 3, sum 9: 1 cell to fill, 1 to 9 each once");
   ShowRows(board_, "8 1 6 / 3 5 7 / 4 9 2", 15);
   board_.TotalsChecked = false;
   board_.ReturnTo(1, 1);

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "puzzle/code.h"
+#include "support/boards.h"
 #include "support/puzzle_session.h"
 #include "support/soak.h"
 
@@ -35,7 +36,7 @@ TEST_F(LastRightTest, LandsBeforeTheWrongEntryOfAnyPuzzle) {
     const MadePuzzle made = LayOutPuzzle(order, static_cast<Grade>(below(4)));
     SCOPED_TRACE(CodeOf(made.Clues));
     // The board turns with the numbers of the solution, so it is followed by the number it shows.
-    CellTable solution = TableOf(Square<double>(made.Solution.Cells));
+    CellTable solution = TableFrom(RowsOf(made.Solution.Cells));
     const auto turn = [&] {
       const Symmetry& symmetry = kSymmetries[static_cast<std::size_t>(below(7))];
       symmetry.Turn(solution, order);

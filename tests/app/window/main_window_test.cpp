@@ -174,5 +174,30 @@ TEST_F(WindowTest, ControlsLieSideBySideInTheirFrames) {
   }
 }
 
+/// In full screen the buttons are hidden, but the menu still presses them.
+TEST_F(WindowTest, TheBoardMenuPressesTheButtons) {
+  EXPECT_FALSE(Find<QAction>("BoardDiagonalsx").isEnabled())
+      << "as its button, in a disabled frame";
+  Find<QAction>("FullScreenx").trigger();
+  Type("Text1", "5");
+  Find<QAction>("BoardAutox").trigger();
+  EXPECT_EQ(window_.TheBoard().GridSize, 5);
+  EXPECT_TRUE(window_.TheBoard().Shown());
+  Find<QAction>("BoardCriclesx").trigger();
+  EXPECT_TRUE(window_.TheBoard().OverlayShown);
+  Find<QAction>("BoardClearx").trigger();
+  EXPECT_FALSE(window_.TheBoard().OverlayShown);
+  Find<QRadioButton>("Option4").click();
+  Type("Text4", "100");
+  Find<QAction>("BoardAutox").trigger();
+  for (const char* item : {"BoardAgainx", "BoardDiagonalsx", "BoardEdgesx"}) {
+    auto& action = Find<QAction>(item);
+    EXPECT_TRUE(action.isEnabled()) << item;
+    const Position before = PositionOf(window_.TheBoard());
+    action.trigger();
+    EXPECT_TRUE(IsChange(before, PositionOf(window_.TheBoard()))) << item;
+  }
+}
+
 }  // namespace
 }  // namespace numorra

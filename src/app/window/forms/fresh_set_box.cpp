@@ -1,6 +1,5 @@
 #include "app/window/forms/fresh_set_box.h"
 
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -25,7 +24,8 @@ FreshSetBox::FreshSetBox(const PuzzleSetWish& wish, QWidget* parent)
       size_(Named("SheetSize", new QSpinBox)),
       numbers_(Named("SheetNumbers", new QComboBox)),
       total_(Named("SheetTotal", new QDoubleSpinBox)),
-      clues_(new CluesBox) {
+      clues_(new CluesBox),
+      rows_(new QFormLayout(this)) {
   const SquareWish& square = wish.Square;
   size_->setRange(kMinOrder, kMaxOrder);
   size_->setValue(square.Order);
@@ -46,13 +46,12 @@ FreshSetBox::FreshSetBox(const PuzzleSetWish& wish, QWidget* parent)
     grades->addWidget(counts_[i], 1, static_cast<int>(i));
     connect(counts_[i], &QSpinBox::valueChanged, this, &FreshSetBox::Changed);
   }
-  auto* form = new QFormLayout(this);
-  form->setContentsMargins({});
-  form->addRow("Si&ze", size_);
-  form->addRow("&Numbers", numbers_);
-  form->addRow("Tota&l", total_);
-  form->addRow("How many", grades);
-  form->addRow("Clues", clues_);
+  rows_->setContentsMargins({});
+  rows_->addRow("Si&ze", size_);
+  rows_->addRow("&Numbers", numbers_);
+  rows_->addRow("Tota&l", total_);
+  rows_->addRow("How many", grades);
+  rows_->addRow("Clues", clues_);
   FollowSize();
   total_->setValue(static_cast<double>(square.Total.value_or(NormalTotal(square.Order))));
   clues_->Show(wish.ClueCount, wish.Symmetric);

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
 
 #include "app/window/forms/clues_box.h"
 #include "puzzle/puzzle_set.h"
@@ -21,6 +22,8 @@ class FreshSetBox : public QWidget {
   /// The set as it is chosen; grades without puzzles are left out.
   PuzzleSetWish Wish() const;
 
+  const QFormLayout* Rows() const { return rows_; }
+
  Q_SIGNALS:
   void Changed();
 
@@ -32,6 +35,7 @@ class FreshSetBox : public QWidget {
   QDoubleSpinBox* total_;
   std::array<QSpinBox*, kGrades.size()> counts_;
   CluesBox* clues_;
+  QFormLayout* rows_;
 };
 
 /// The set in words: "6 puzzles of size 4, total 34, with the numbers 1 to 16, each once: 4 easy, 2

@@ -29,6 +29,22 @@ bool TakesLong(const PuzzleSetWish& set) {
                      [](const GradeShare& share) { return share.Wanted > Grade::Easy; });
 }
 
+/// Gives the labels of two forms, one below the other, the same width.
+void AlignLabels(const QFormLayout& above, const QFormLayout& below) {
+  std::vector<QWidget*> labels;
+  for (const QFormLayout* form : {&above, &below}) {
+    for (int row = 0; row < form->rowCount(); ++row) {
+      const QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole);
+      if (label) labels.push_back(label->widget());
+    }
+  }
+  int width = 0;
+  for (const QWidget* label : labels)
+    width = std::max(width, label->sizeHint().width());
+  for (QWidget* label : labels)
+    label->setMinimumWidth(width);
+}
+
 int PuzzlesIn(const PuzzleSetWish& set) {
   int all = 0;
   for (const GradeShare& share : set.Grades)
@@ -78,6 +94,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   layout->addRow("T&itle", title_);
   layout->addRow("", total_);
   column->addLayout(layout);
+  AlignLabels(*set_->Rows(), *layout);
   column->addWidget(told_, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(print_);
