@@ -43,7 +43,7 @@ bool Trials::Run(const std::vector<int>& cells) {
     before = refuted_;
     std::vector<int> gaps;
     std::copy_if(cells.begin(), cells.end(), std::back_inserter(gaps), [&](int cell) {
-      return board_.Value(cell) == 0 && board_.Count(cell) <= kMostTried;
+      return board_.Value(cell) == 0 && board_.Count(cell) <= MostTried(board_.IsNormal());
     });
     std::stable_sort(gaps.begin(), gaps.end(),
                      [&](int a, int b) { return board_.Count(a) < board_.Count(b); });

@@ -13,11 +13,16 @@ namespace numorra {
 /// the gap, and the hard rules go on from there. A trial never starts inside another one.
 ///
 /// What trials and hard rules find in the end does not depend on the order of the trials. Under the
-/// positive rules, only the ends of a gap's range are tried. Gaps with more than kMostTried
-/// candidates are left alone.
+/// positive rules, only the ends of a gap's range are tried, one after another. Gaps with more
+/// candidates than MostTried are left alone.
 class Trials {
  public:
-  static constexpr std::int64_t kMostTried = 100;
+  /// The most candidates of a gap that is tried. A range that is longer would take too many trials.
+  static std::int64_t MostTried(bool isNormal) {
+    constexpr std::int64_t kNumbers = 100;
+    constexpr std::int64_t kRange = 12;
+    return isNormal ? kNumbers : kRange;
+  }
 
   /// Works on `board` and yields at every trial; an exception thrown by a yield leaves the trial's
   /// numbers on the board. After `most` trials, it finds nothing more.

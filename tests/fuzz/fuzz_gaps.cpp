@@ -16,12 +16,16 @@ bool Solves(const Puzzle& solved, const Puzzle& puzzle) {
   return slow::WhyNotMagic(RowsOf(solved.Cells), static_cast<double>(puzzle.Target)).empty();
 }
 
-/// Every hint is right if there is one solution.
+/// Every hint is right if there is one solution, and follows if the numbers are small enough to
+/// judge.
 void FollowHints(Puzzle board, const Puzzle& solved, Yielding& yielding) {
-  while (const auto step = NextDeduction(board, Grade::Hard, yielding)) {
-    const int cell = step->Cell;
-    Check(board.Cells[cell] == 0 && step->Number == solved.Cells[cell] && !step->Why.empty());
-    board.Cells[cell] = step->Number;
+  constexpr int kMostJudged = 50;
+  while (const auto next = NextDeduction(board, Grade::Expert, yielding)) {
+    const int cell = next->Cell;
+    Check(board.Cells[cell] == 0 && next->Number == solved.Cells[cell]);
+    Check(board.Most() > kMostJudged ||
+          ChainJudge(board).WhyWrong(*next, solved.Cells[cell]).empty());
+    board.Cells[cell] = next->Number;
   }
 }
 

@@ -5,7 +5,6 @@
 #include <numeric>
 #include <thread>
 
-#include "puzzle/deduction.h"
 #include "study/special.h"
 #include "support/boards.h"
 #include "support/slow_classifier.h"
@@ -293,70 +292,6 @@ TEST(Puzzle, SaysWhatBreaksTheRules) {
   EXPECT_EQ(why(square), "0.5 in row 2, column 2 is not a whole number of 1 or more");
   square.Total = 15.5;
   EXPECT_EQ(why(square), "the sum 15.5 is not possible here with whole numbers of 1 or more");
-}
-
-TEST(Rules, GiveTheNextNumberAndWhy) {
-  struct Case {
-    const char* Rows;
-    Grade Needed;
-    const char* Why;
-  };
-  const Case cases[] = {
-      {"8 1 6 / 3 0 0 / 0 0 0", Grade::Easy,
-       "2 numbers are in column 1, the total is 15: the last one is 4"},
-      {"8 0 0 / 0 5 0 / 0 0 0", Grade::Easy,
-       "2 numbers are in the main diagonal that falls, the total is 15: the last one is 2"},
-      {"8 1 0 / 0 0 0 / 0 0 0", Grade::Easy,
-       "2 numbers are in row 1, the total is 15: the last one is 6"},
-      {"9 0 0 / 0 0 0 / 0 0 0", Grade::Medium, ""},
-      {"0 0 0 / 0 0 0 / 0 8 1", Grade::Easy,
-       "2 numbers are in row 3, the total is 15: the last one is 6"},
-  };
-  SilentStage stage;
-  for (const Case& c : cases) {
-    const auto step = NextDeduction(PuzzleFrom(c.Rows, 15), Grade::Expert, stage);
-    if (std::string(c.Why).empty()) {
-      EXPECT_EQ(step, std::nullopt) << c.Rows;
-      continue;
-    }
-    ASSERT_TRUE(step) << c.Rows;
-    EXPECT_EQ(step->Needed, c.Needed);
-    EXPECT_EQ(step->Why, c.Why);
-  }
-}
-
-TEST(Rules, KnowTheLinesOfAKind) {
-  SilentStage stage;
-  Puzzle puzzle = PuzzleFrom("8 0 0 / 0 0 0 / 0 0 0", 15);
-  puzzle.Kind = LineKind::Associative;
-  EXPECT_EQ(NextDeduction(puzzle, Grade::Easy, stage)->Why,
-            "1 number is in the pair of row 1, column 1 and row 3, column 3, the total is 10: "
-            "the last one is 2");
-}
-
-/// Every step leads to the only solution, and no easier grade would have found one.
-TEST(Rules, LeadToTheSolution) {
-  SeededRandom random(4);
-  SilentStage stage;
-  std::array<int, 4> needed{};
-  for (int order = 3; order <= 7; ++order) {
-    for (int draw = 0; draw < 10; ++draw) {
-      Puzzle puzzle = WithGaps(Bordered(std::max(5, order), random), 30 + 5 * draw, random);
-      const SearchResult result = Solve(puzzle, {.Nodes = 5000}, random, stage);
-      const auto* one = std::get_if<OneSolution>(&result);
-      if (!one) continue;
-      while (const auto step = NextDeduction(puzzle, Grade::Expert, stage)) {
-        auto& cell = puzzle.Cells[step->Cell];
-        ASSERT_EQ(cell, 0);
-        ASSERT_EQ(step->Number, one->Solved.Cells[step->Cell]) << step->Why;
-        EXPECT_NE(step->Why, "");
-        ++needed[static_cast<std::size_t>(step->Needed)];
-        cell = step->Number;
-      }
-    }
-  }
-  for (const int count : needed)
-    EXPECT_GT(count, 0);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdio>
-#include <cstring>
 #include <string>
 
 #include "puzzle/code.h"
@@ -10,6 +8,7 @@
 #include "puzzle/rating.h"
 #include "puzzle/search.h"
 #include "support/boards.h"
+#include "support/chain_judge.h"
 #include "support/slow_checker.h"
 #include "support/stand_ins.h"
 
@@ -86,26 +85,8 @@ class SlowCounter {
   int found_ = 0;
 };
 
-/// Whether the reason for two gaps in a line names the other's number, and so this one; and for
-/// more gaps a range that contains the number and fits the line's rest.
-inline bool IsDecisive(const Deduction& step) {
-  const char* const reason = std::strstr(step.Why.c_str(), "needs ");
-  if (!reason) return true;
-  long long rest = 0, low = 0, high = 0;
-  char end = 0;
-  if (std::sscanf(reason, "needs %lld for this cell and row %*d, column %*d, which can hold %lld%c",
-                  &rest, &low, &end) == 3) {
-    return end == ':' && rest - low == step.Number;
-  }
-  const int found =
-      std::sscanf(reason, "needs %lld for its %*d gaps, so this cell can hold %lld to %lld", &rest,
-                  &low, &high);
-  if (found == 2) return step.Number == low;
-  return found == 3 && low < high && low <= step.Number && step.Number <= high && high < rest;
-}
-
-/// What is wrong with a puzzle; empty if it has one solution, every hint leads there, its grade is
-/// what its hints need, and its code reads back.
+/// What is wrong with a puzzle; empty if it has one solution, every step of every hint follows,
+/// its grade is what its hints need, and its code reads back.
 inline std::string WhyUnfair(const MadePuzzle& made) {
   const int n = made.Clues.Order();
   SeededRandom random(1);
@@ -127,19 +108,16 @@ inline std::string WhyUnfair(const MadePuzzle& made) {
   if (made.Needed == Grade::Easy && normal && clues < least) return "too few clues to be easy";
   auto hardest = Grade::Easy;
   Puzzle board = made.Clues;
-  while (const auto step = NextDeduction(board, std::min(made.Needed, Grade::Hard), stage)) {
-    auto& cell = board.Cells[step->Cell];
-    if (cell != 0 || step->Number != made.Solution.Cells[step->Cell]) {
-      return "a hint that leads astray: " + step->Why;
-    }
-    if (!IsDecisive(*step)) return "a reason that is none: " + step->Why;
-    hardest = std::max(hardest, step->Needed);
-    cell = step->Number;
+  while (const auto next = NextDeduction(board, made.Needed, stage)) {
+    why = ChainJudge(board).WhyWrong(*next, made.Solution.Cells[next->Cell]);
+    if (!why.empty()) return "a hint with " + why;
+    hardest = std::max(hardest, next->Needed);
+    board.Cells[next->Cell] = next->Number;
   }
-  if (made.Needed < Grade::Expert && (board.Gaps() > 0 || hardest != made.Needed)) {
+  const bool extreme = made.Needed == Grade::Extreme;
+  if ((board.Gaps() > 0) != extreme || (!extreme && hardest != made.Needed)) {
     return "hints that are not of its grade";
   }
-  if (made.Needed >= Grade::Expert && board.Gaps() == 0) return "an expert puzzle that rules solve";
   const Rating rating = RatingOf(made.Clues, stage);
   if (rating.Needed != made.Needed || rating.Steps < 1) return "a rating of another grade";
   const auto back = PuzzleOfCode(CodeOf(made.Clues));

@@ -6,6 +6,8 @@
 #include "app/board/totals_check.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
+#include "puzzle/search.h"
+#include "puzzle/step_words.h"
 
 namespace numorra {
 namespace {
@@ -84,51 +86,53 @@ Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say
   return say(puzzle, Solve(puzzle, kLimit, random, stage));
 }
 
-/// The next number by the rules, or else one from the solution, found by trying.
-std::optional<Deduction> FindStep(const Puzzle& puzzle, const Puzzle& solved, WorkStage& stage) {
-  if (auto step = NextDeduction(puzzle, Grade::Expert, stage)) return step;
-  const Candidates board(puzzle);
-  for (int cell = 0; cell < board.Cells(); ++cell) {
-    if (board.Value(cell) != 0) continue;
-    const std::int64_t number = solved.Cells[cell];
-    return Deduction{cell,
-                     number,
-                     Grade::Expert,
-                     {puzzle.Cells.PlaceOf(cell)},
-                     NameOf(puzzle.Cells.PlaceOf(cell)),
-                     "only a longer search shows it: " + WhyTried(board, cell, number)};
-  }
-  return std::nullopt;
+/// The next number by the rules, or else one that the search has found.
+Deduction FindDeduction(const Puzzle& puzzle, const Puzzle& solved, WorkStage& stage) {
+  if (auto found = NextDeduction(puzzle, Grade::Expert, stage)) return *found;
+  const auto gap = std::find(puzzle.Cells.begin(), puzzle.Cells.end(), 0);
+  const auto cell = static_cast<int>(gap - puzzle.Cells.begin());
+  return SearchedDeduction(cell, solved.Cells[cell]);
+}
+
+/// The steps as remarks; the first one holds them all if there are several.
+Remark Explained(const Deduction& deduction, const LineMap& map) {
+  std::vector<Remark> steps;
+  for (const Step& step : deduction.Steps)
+    steps.push_back({SentenceOf(step, map), PlacesOf(step, map)});
+  Remark remark = steps.front();
+  if (steps.size() > 1) remark.Steps = std::move(steps);
+  return remark;
 }
 
 }  // namespace
 
 Remark Hints::Next() {
   Position now = PositionOf(board_);
-  if (!step_ || IsChange(position_, now) || position_.Asked != now.Asked) {
-    step_.reset();
+  if (!next_ || IsChange(position_, now) || position_.Asked != now.Asked) {
+    next_.reset();
     position_ = std::move(now);
     presses_ = 0;
     Remark remark = Begin();
-    if (!step_) return remark;
+    if (!next_) return remark;
   }
-  const Place place = PlaceAt(step_->Cell, board_.GridSize);
+  const LineMap& map = LineMap::Of(board_.GridSize);
+  const Place place = PlaceAt(next_->Cell, board_.GridSize);
   switch (++presses_) {
     case 1:
-      return {"look at " + step_->WhereName, step_->Where};
+      return {"look at " + WhereToLook(*next_, map), PlacesToLook(*next_, map)};
     case 2:
-      return {step_->Why, step_->Where};
+      return Explained(*next_, map);
     default:
       break;
   }
   const RedrawLock lock(board_.grid);
-  board_.grid.SetText(place.Row, place.Column, std::to_string(step_->Number));
+  board_.grid.SetText(place.Row, place.Column, std::to_string(next_->Number));
   board_.ReadGrid();
   board_.ShowTotals();
   RefreshTotals(board_);
   board_.ReturnTo(place.Row, place.Column);
-  const std::string text = std::to_string(step_->Number) + " is in " + NameOf(place);
-  step_.reset();
+  const std::string text = std::to_string(next_->Number) + " is in " + NameOf(place);
+  next_.reset();
   return {text, {place}};
 }
 
@@ -139,7 +143,7 @@ Remark Hints::Begin() {
     }
     if (!board_.HasGaps()) return {"the board has no gaps"};
     if (const auto* one = std::get_if<OneSolution>(&result)) {
-      step_ = FindStep(puzzle, one->Solved, stage_);
+      next_ = FindDeduction(puzzle, one->Solved, stage_);
       return {};
     }
     if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};

@@ -12,15 +12,17 @@
 
 namespace numorra {
 
-/// A sentence about a puzzle and the cells that it is about.
+/// A sentence about a puzzle and the cells that it is about. A remark that takes several sentences
+/// has them as steps, in order; it is the first of them itself.
 struct Remark {
   std::string Text;
   std::vector<Place> Where = {};
+  std::vector<Remark> Steps = {};
 };
 
 /// Gives hints for the board, each in three presses: where to look, why a number follows there,
-/// then the number itself, as a move. Starts over when the board changes. First points at entries
-/// that prevent any solution; if there are several solutions, or none, says so.
+/// step by step, then the number itself, as a move. Starts over when the board changes. First
+/// points at entries that prevent any solution; if there are several solutions, or none, says so.
 class Hints {
  public:
   Hints(Board& board, Random& random, WorkStage& stage)
@@ -34,8 +36,8 @@ class Hints {
   Board& board_;
   Random& random_;
   WorkStage& stage_;
-  Position position_;  ///< of the board that the step is for
-  std::optional<Deduction> step_;
+  Position position_;  ///< of the board that the hint is for
+  std::optional<Deduction> next_;
   int presses_ = 0;
 };
 

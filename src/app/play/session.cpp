@@ -15,6 +15,7 @@
 #include "app/play/study_commands.h"
 #include "generate/corner_choice.h"
 #include "generate/proposal.h"
+#include "puzzle/candidates.h"
 #include "puzzle/code.h"
 #include "puzzle/only_solution.h"
 

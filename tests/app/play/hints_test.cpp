@@ -46,8 +46,12 @@ TEST_F(HintsTest, TellWhereWhyAndWhat) {
   EXPECT_EQ(hints_.Next().Text, "the board has no gaps");
   Read(". 12 . .\n2 13 . .\n14 1 . .\n. 8 5 .");
   hints_.Next();
-  EXPECT_EQ(hints_.Next().Text,
-            "16 fits only row 2, column 3: the lines of every other gap rule it out");
+  remark = hints_.Next();
+  ASSERT_EQ(remark.Steps.size(), 13U);
+  EXPECT_EQ(remark.Text, remark.Steps[0].Text);
+  EXPECT_EQ(remark.Where, (std::vector<Place>{{1, 1}, {1, 2}, {1, 3}, {1, 4}})) << "row 1";
+  EXPECT_EQ(remark.Steps[12].Text, "16 fits only row 2, column 3, as no other gap can hold it");
+  EXPECT_EQ(remark.Steps[12].Where, (std::vector<Place>{{2, 3}}));
 }
 
 TEST_F(HintsTest, PointAtWhatCannotStay) {
