@@ -272,7 +272,7 @@ TEST_F(PaintingTest, RingAndFramesAreEvenAtEveryZoom) {
     const auto frame = static_cast<std::size_t>(std::max(1, cell.width() / 24));
     for (const QRect& total : {window_.View().CellRect(at, 0), window_.View().CellRect(0, at)}) {
       EXPECT_EQ(look(total.adjusted(0, 0, -1, -1), ToQColor(TheGrid().Foreground(at, 0))),
-                std::set{"." + std::string(frame, 'i')})
+                std::set{std::string(".").append(frame, 'i')})
           << zoom;
     }
   }
