@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include <QAction>
 #include <QPagedPaintDevice>
 #include <QPaintEngine>
 #include <QPrintPreviewDialog>
@@ -39,6 +40,15 @@ bool IsPreview(const QPrinter& printer) {
   return printer.paintEngine()->type() == QPaintEngine::Picture;
 }
 
+/// The toolkit's preview prints by a button only.
+void AddPrintKey(QPrintPreviewDialog& preview) {
+  for (QAction* action : preview.findChildren<QAction*>()) {
+    if (action->text() == QPrintPreviewDialog::tr("Print")) {
+      action->setShortcuts(QKeySequence::Print);
+    }
+  }
+}
+
 }  // namespace
 
 void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
@@ -73,6 +83,7 @@ void PreviewedPages::Preview(QWidget* window, const PaintedPages& pages) {
   printer.setDocName(pages.Name);
   QPrintPreviewDialog dialog(&printer, window);
   dialog.setWindowTitle(pages.Name);
+  AddPrintKey(dialog);
   std::exception_ptr failed;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* device) {
     try {

@@ -79,11 +79,11 @@ void Drawing::Paint(QPainter& painter, const QPalette& palette) const {
   if (!kind_ || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   const int order = board_.GridSize;
-  const std::optional<QRect> place = BlockIn(size());
-  const double side = place ? static_cast<double>(place->width()) / order
+  const std::optional<QRect> given = BlockIn(size());
+  const double side = given ? static_cast<double>(given->width()) / order
                             : std::max(1.0, (std::min(width(), height()) - 2 * kMargin) / order);
   QRectF block(0, 0, order * side, order * side);
-  block.moveCenter(QRectF(place.value_or(rect())).center());
+  block.moveCenter(QRectF(given.value_or(rect())).center());
   kind_->Paint(painter, {board_, picked_, palette, numbers_, block, side});
   PaintOutline(painter, board_.grid.Outlined(), [&](Place place) {
     const QPointF corner = block.topLeft() + QPointF(place.Column - 1, place.Row - 1) * side;
