@@ -54,6 +54,7 @@ TEST_F(NotesTest, EveryNumberIsOneStep) {
   Note("12|34");
   EXPECT_EQ(session_.History.UndoName(), "note");
   Type("7");
+  EXPECT_EQ(session_.History.UndoName(), "typing");
   Type("<");
   Note("5");
   for (const char* const left : {"3-4 12", "3 12", "12", ""}) {
