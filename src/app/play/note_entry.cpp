@@ -1,12 +1,10 @@
 #include "app/play/note_entry.h"
 
-#include <algorithm>
-
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "app/play/moves.h"
 #include "app/play/puzzle_aids.h"
-#include "puzzle/candidates.h"
+#include "puzzle/fitting_numbers.h"
 
 namespace numorra {
 namespace {
@@ -17,14 +15,6 @@ constexpr int kTen = 10;
 /// The largest number that can be noted on the board.
 int LargestNote(const Board& board) {
   return board.ByNormalRules() ? board.GridSize * board.GridSize : kMostNoted;
-}
-
-/// Why the numbers on the board leave a gap without candidates.
-std::string WhyNothingFits(const Puzzle& puzzle, const Candidates& candidates) {
-  const int line = candidates.FailedLine();
-  const std::string wrong = FullWrongLine(puzzle);
-  if (!wrong.empty() || line < 0) return "nothing can fill these gaps" + wrong;
-  return "nothing can fill the gaps of " + candidates.Map().NameOf(line);
 }
 
 }  // namespace
@@ -101,23 +91,24 @@ Remark FillNotes(Board& board) {
     return remark;
   }
   const auto& puzzle = std::get<Puzzle>(read);
-  Candidates candidates(puzzle);
-  if (!candidates.Narrow(Grade::Hard)) return {WhyNothingFits(puzzle, candidates)};
-  const int cells = candidates.Cells();
-  for (int cell = 0; cell < cells; ++cell) {
-    if (candidates.Value(cell) != 0 || candidates.High(cell) <= kMostNoted) continue;
-    const Place place = PlaceAt(cell, candidates.Order());
-    return {NameOf(place) + " may hold a number above " + std::to_string(kMostNoted) +
-                ", which is too large for notes",
-            {place}};
+  const std::string wrong = FullWrongLine(puzzle);
+  if (!wrong.empty()) return {"nothing can fill these gaps" + wrong};
+  const int order = puzzle.Order();
+  Square<NoteSet> notes(order);
+  for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
+    if (puzzle.Cells[cell] != 0) continue;
+    const Place place = puzzle.Cells.PlaceOf(cell);
+    const auto numbers = FittingNumbers(puzzle, cell, kMostNoted + 1);
+    if (numbers.empty()) return {"no number fits " + NameOf(place), {place}};
+    if (numbers.back() > kMostNoted) {
+      return {NameOf(place) + " may hold a number above " + std::to_string(kMostNoted) +
+                  ", which is too large for notes",
+              {place}};
+    }
+    for (const std::int64_t number : numbers)
+      notes[cell].set(static_cast<std::size_t>(number));
   }
-  board.grid.SetNotes(NotesOf(candidates.Order(), [&](int cell) {
-    NoteSet numbers;
-    if (candidates.Value(cell) != 0) return numbers;
-    for (std::int64_t number = candidates.Low(cell); number <= candidates.High(cell); ++number)
-      numbers[static_cast<std::size_t>(number)] = candidates.Allows(cell, number);
-    return numbers;
-  }));
+  board.grid.SetNotes(NotesOf(order, [&](int cell) { return notes[cell]; }));
   return {};
 }
 

@@ -47,8 +47,8 @@ class NoteEntry {
   NoteSet before_;           ///< the notes of that cell without it
 };
 
-/// Writes into every gap the numbers that it can hold by the hard rules; returns why not if the
-/// numbers on the board rule this out, otherwise an empty remark.
+/// Writes into every gap the numbers that its lines leave for it (FittingNumbers); returns why not
+/// if a gap can hold none, otherwise an empty remark.
 Remark FillNotes(Board& board);
 
 /// Removes all notes.

@@ -149,7 +149,7 @@ TEST_F(NotesTest, AreNotFilledAgainstTheRules) {
   ShowPuzzle();
   const std::pair<std::vector<int>, const char*> rows[] = {
       {{0, 16, 0, 0}, "16 in row 2, column 2 is also in row 1, column 1"},
-      {{15, 14, 0, 0}, "nothing can fill the gaps of row 2"},
+      {{15, 14, 0, 0}, "no number fits row 2, column 4"},
       {{15, 14, 13, 12}, "nothing can fill these gaps: row 2 adds up to 54, not 34"}};
   for (const auto& [numbers, why] : rows) {
     for (int column = 1; column <= 4; ++column) {
