@@ -6,7 +6,8 @@
 namespace numorra {
 namespace {
 
-constexpr const char* kPrompt = "Top row: four numbers, such as the parts of a date";
+constexpr const char* kPrompt =
+    "Top row: four numbers from 0 to 9999, such as 30,9,19,95, or a date, such as 14.3.2014";
 constexpr const char* kNotATopRow = "top row should be four whole numbers from 0 to 9999";
 constexpr const char* kNoSquare = "no 4x4 square has this top row";
 

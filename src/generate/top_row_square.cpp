@@ -133,6 +133,18 @@ class TopRowSearch {
   std::uint32_t steps_ = 0;
 };
 
+/// Splits the year of a date, its first or last number, into its halves: 14 3 2014 becomes 14 3 20
+/// 14.
+void HalveYear(std::vector<int>& date) {
+  constexpr int kFirstYear = 1000;
+  constexpr int kCentury = 100;
+  const auto year = date.back() >= kFirstYear ? date.end() - 1 : date.begin();
+  if (*year < kFirstYear) return;
+  const int century = *year / kCentury;
+  *year %= kCentury;
+  date.insert(year, century);
+}
+
 }  // namespace
 
 const char* RemarkOn(TopRowQuality quality) {
@@ -149,7 +161,7 @@ const char* RemarkOn(TopRowQuality quality) {
 }
 
 std::optional<TopRow> ParseTopRow(const std::string& text) {
-  TopRow top{};
+  std::vector<int> numbers;
   const char* at = text.data();
   const char* const end = at + text.size();
   const auto skipBlanks = [&] {
@@ -158,20 +170,28 @@ std::optional<TopRow> ParseTopRow(const std::string& text) {
       ++at;
     return at != begin;
   };
-  for (std::size_t i = 0; i < top.size(); ++i) {
-    bool separated = skipBlanks();
-    if (i > 0 && at != end && kSeparators.find(*at) != std::string_view::npos) {
+  skipBlanks();
+  for (bool separated = true; at != end && numbers.size() < TopRow().size();) {
+    int number = 0;
+    const auto result = std::from_chars(at, end, number);
+    if (!separated || result.ec != std::errc() || number < 0 || number > kHighest) {
+      return std::nullopt;
+    }
+    numbers.push_back(number);
+    at = result.ptr;
+    separated = skipBlanks();
+    if (at != end && numbers.size() < TopRow().size() &&
+        kSeparators.find(*at) != std::string_view::npos) {
       ++at;
       separated = true;
       skipBlanks();
+      if (at == end) return std::nullopt;
     }
-    if (i > 0 && !separated) return std::nullopt;
-    const auto result = std::from_chars(at, end, top[i]);
-    if (result.ec != std::errc() || top[i] < 0 || top[i] > kHighest) return std::nullopt;
-    at = result.ptr;
   }
-  skipBlanks();
-  return at == end ? std::optional(top) : std::nullopt;
+  if (at != end) return std::nullopt;
+  if (numbers.size() == 3) HalveYear(numbers);
+  if (numbers.size() != TopRow().size()) return std::nullopt;
+  return TopRow{numbers[0], numbers[1], numbers[2], numbers[3]};
 }
 
 std::optional<TopRowSquare> FindTopRowSquare(const TopRow& top, Random& random,

@@ -31,7 +31,8 @@ struct TopRowSquare {
 using TopRow = std::array<int, 4>;
 
 /// Four whole numbers from 0 to 9999, separated as in a date by commas, slashes, points, hyphens or
-/// blanks; nothing for any other text.
+/// blanks; or a date of three numbers whose year, first or last, has four digits and gives two
+/// numbers. Nothing for any other text.
 std::optional<TopRow> ParseTopRow(const std::string& text);
 
 /// A 4 x 4 magic square with the given top row (the birthday square of a date), of the best quality

@@ -12,12 +12,15 @@ namespace {
 
 TEST(TopRows, AreFourNumbersAsInADate) {
   const TopRow row{14, 3, 20, 15};
-  for (const char* text : {"14,3,20,15", " 14 , 3 ,20, 15 ", "14 3 20 15", "14\t3,20 15",
-                           "14/3/20/15", "14.3.20.15", "14-3-20-15", "14. 3. 20. 15"}) {
+  for (const char* text :
+       {"14,3,20,15", " 14 , 3 ,20, 15 ", "14 3 20 15", "14\t3,20 15", "14/3/20/15", "14.3.20.15",
+        "14-3-20-15", "14. 3. 20. 15", "14.3.2015", "14/3/2015", "14 3 2015 "}) {
     EXPECT_EQ(ParseTopRow(text), row) << text;
   }
-  for (const char* text : {"", "1,2,3", "1,2,3,4,5", "1,2,3,x", "1,2,3,-4", "1,2,3,10000", "1,,2,3",
-                           "1;2;3;4", "1.5,2,3,4", "1,2,3,99999999999", "1--2-3-4", "/1/2/3/4"}) {
+  EXPECT_EQ(ParseTopRow("2015-03-14"), (TopRow{20, 15, 3, 14}));
+  for (const char* text : {"", "1,2,3", "1,2015,3", "14.3.2015.", "14.3.999", "1,2,3,4,5",
+                           "1,2,3,x", "1,2,3,-4", "1,2,3,10000", "1,,2,3", "1;2;3;4", "1.5,2,3,4",
+                           "1,2,3,99999999999", "1--2-3-4", "/1/2/3/4"}) {
     EXPECT_EQ(ParseTopRow(text), std::nullopt) << text;
   }
 }
@@ -25,7 +28,8 @@ TEST(TopRows, AreFourNumbersAsInADate) {
 TEST(TopRowCommand, AsksUntilItIsOneAndKeepsWhatMadeASquare) {
   SolveHarness h;
   TopRowCommand command(h.Context(), h.Stage);
-  const std::string prompt = "Top row: four numbers, such as the parts of a date ";
+  const std::string prompt =
+      "Top row: four numbers from 0 to 9999, such as 30,9,19,95, or a date, such as 14.3.2014 ";
   h.TheDialogs.Texts = {"30,9,19", "31/12/19/99"};
   EXPECT_TRUE(command.Run());
   EXPECT_EQ(h.TheDialogs.Take(), (Messages{prompt + "[30,9,19,95]",

@@ -1,8 +1,11 @@
 #include "app/play/board_state.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <vector>
 
+#include "app/board/line.h"
 #include "app/board/numbers.h"
 
 namespace numorra {
@@ -51,6 +54,18 @@ Tally Count(const Board& board) {
   return tally;
 }
 
+/// The line whose total stands in the frame's cell (row, column); nothing for other cells.
+std::optional<Line> LineOfTotal(int row, int column, int n) {
+  const int last = n + 1;
+  if (row == 0 && column == 0) return Line{Line::Falling, 0};
+  if ((row == 0 && column == last) || (row == last && column == 0)) {
+    return Line{Line::Rising, n - 1};
+  }
+  if (row == 0 && column <= n) return Line{Line::Column, column - 1};
+  if (column == 0 && row <= n) return Line{Line::Row, row - 1};
+  return std::nullopt;
+}
+
 std::string Counted(int count, const char* one, const char* more) {
   return std::to_string(count) + " " + (count == 1 ? one : more);
 }
@@ -85,6 +100,19 @@ std::string StateOf(const Board& board) {
   if (board.Typing()) state += ", Enter checks";
   if (!board.TotalsChecked) state += ", F9 to play";
   return state;
+}
+
+std::string TipOfTotal(const Board& board, int row, int column) {
+  const int n = board.GridSize;
+  const auto line = LineOfTotal(row, column, n);
+  if (!board.Shown() || !line) return {};
+  const std::string total = board.grid.Text(row, column);
+  std::string tip = NameOf(*line, n) + " adds up to " + total;
+  if (board.QuietTotals && board.HasGaps()) return tip;
+  const double off = AsShown(Val(total) - board.TargetTotal);
+  if (off == 0) return tip + ", as it should";
+  return tip + ", " + Decimal(std::abs(off)) + (off < 0 ? " less" : " more") + " than " +
+         Decimal(board.TargetTotal);
 }
 
 }  // namespace numorra

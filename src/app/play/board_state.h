@@ -21,6 +21,10 @@ namespace numorra {
 /// its lines are right.
 std::string StateOf(const Board& board);
 
+/// What a total adds up and how far it is off: "row 3 adds up to 33, 1 less than 34". Empty for
+/// other cells.
+std::string TipOfTotal(const Board& board, int row, int column);
+
 /// The beginning of such a line: "4 x 4, sum 34: ".
 std::string StateHead(int order, double target);
 

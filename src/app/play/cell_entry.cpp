@@ -20,26 +20,33 @@ CellEntry::CellEntry(Board& board, Dialogs& dialogs) : board_(board), dialogs_(d
   board_.grid.OnCellChanged = [this] { ChangeCell(); };
 }
 
-void CellEntry::TypeCharacter(char32_t character) {
-  if (!board_.TotalsChecked || !board_.Shown()) return;
+std::string CellEntry::TypeCharacter(char32_t character) {
+  const bool digit = character >= U'0' && character <= U'9';
+  const bool editing = digit || character == kBackspace;
+  if (!board_.Shown()) return {};
+  if (!board_.TotalsChecked) return editing ? "press F9 to play on this board" : "";
+  if (!editing) return "cells take digits only";
   Grid& grid = board_.grid;
   const int row = grid.CurrentRow();
   const int column = grid.CurrentColumn();
-  const bool editing = character == kBackspace || (character >= U'0' && character <= U'9');
-  if (!editing || !MayChange(board_, dialogs_, row, column)) return;
+  if (!MayChange(board_, dialogs_, row, column)) return {};
   std::string text = Trim(grid.Text(row, column));
+  std::string why;
   if (character == kBackspace) {
-    if (text.empty()) return;
+    if (text.empty()) return {};
     text.pop_back();
   } else {
     if (board_.NewEntry) text.clear();
-    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
-    if (std::count_if(text.begin(), text.end(), digit) < kMostCellDigits) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (std::count_if(text.begin(), text.end(), isDigit) < kMostCellDigits) {
       text += static_cast<char>(character);
+    } else {
+      why = "a cell takes at most " + std::to_string(kMostCellDigits) + " digits";
     }
   }
   grid.SetText(row, column, text);
   board_.NewEntry = false;
+  return why;
 }
 
 void CellEntry::PressEnter() {

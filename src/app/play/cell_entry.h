@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "app/board/board.h"
 #include "app/ports/dialogs.h"
 
@@ -15,9 +17,9 @@ class CellEntry {
   CellEntry(Board& board, Dialogs& dialogs);
 
   /// Digits build a number of at most kMostCellDigits digits; Backspace (code 8) removes the last
-  /// one and counts as typing; neither checks. Other characters are ignored: signs, points and
-  /// letters cannot be typed.
-  void TypeCharacter(char32_t character);
+  /// one and counts as typing; neither checks. Signs, points and letters cannot be typed. Returns
+  /// why a character was not taken, or nothing; if a given was in the way, the player was told.
+  std::string TypeCharacter(char32_t character);
 
   /// Checks, then moves to the next row; the check leaves the last column current.
   void PressEnter();

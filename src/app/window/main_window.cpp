@@ -53,7 +53,7 @@ MainWindow::MainWindow(Session& session, const World& world)
   Arrange();
   ConnectSession();
   new ControlCommands(desk_, this);
-  new BoardInput(desk_, this);
+  new BoardInput(desk_, *state_, this);
   AddMenus();
   session_.Start();
   desk_.ShowMode();

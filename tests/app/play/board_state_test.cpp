@@ -1,5 +1,7 @@
 #include "app/play/board_state.h"
 
+#include <tuple>
+
 #include "support/play_harness.h"
 
 namespace numorra {
@@ -47,6 +49,23 @@ TEST_F(BoardStateTest, SaysWhatIsTrueOfTheBoard) {
   board_.TotalsChecked = false;
   board_.ReturnTo(1, 1);
   EXPECT_EQ(StateOf(board_), "3 x 3, sum 15: magic, F9 to play");
+}
+
+TEST_F(BoardStateTest, TotalsSayWhichLineTheyAddAndHowFarTheyAreOff) {
+  ShowRows(board_, "8 1 6 / 3 5 7 / 4 9 3", 15);
+  const std::tuple<int, int, const char*> tips[] = {
+      {3, 0, "row 3 adds up to 16, 1 more than 15"},
+      {0, 2, "column 2 adds up to 15, as it should"},
+      {0, 0, "the main diagonal that falls adds up to 16, 1 more than 15"},
+      {0, 4, "the main diagonal that rises adds up to 15, as it should"},
+      {4, 0, "the main diagonal that rises adds up to 15, as it should"},
+      {1, 4, ""},
+      {2, 2, ""}};
+  for (const auto& [row, column, tip] : tips)
+    EXPECT_EQ(TipOfTotal(board_, row, column), tip);
+  board_.QuietTotals = true;
+  board_.grid.SetText(1, 1, "");
+  EXPECT_EQ(TipOfTotal(board_, 3, 0), "row 3 adds up to 16");
 }
 
 }  // namespace

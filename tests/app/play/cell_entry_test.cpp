@@ -15,6 +15,17 @@ class CellEntryTest : public PlayTest {
   }
 };
 
+TEST_F(CellEntryTest, SaysWhyAKeyIsNotTaken) {
+  Show("1 2 3 / 4 5 6 / 7 8 9");
+  EXPECT_EQ(entry_.TypeCharacter(U'.'), "cells take digits only");
+  EXPECT_EQ(entry_.TypeCharacter(U'7'), "");
+  board_.grid.SetText(1, 1, "12345678901234");
+  EXPECT_EQ(entry_.TypeCharacter(U'5'), "a cell takes at most 14 digits");
+  board_.TotalsChecked = false;
+  EXPECT_EQ(entry_.TypeCharacter(U'7'), "press F9 to play on this board");
+  EXPECT_EQ(entry_.TypeCharacter(U'x'), "");
+}
+
 TEST_F(CellEntryTest, TypingBuildsNumbers) {
   struct Case {
     const char *before, *keys, *after;

@@ -154,17 +154,21 @@ QSize GridView::sizeHint() const {
   return {painter_.Edge(16), painter_.Edge(16)};
 }
 
+QString GridView::Tip(int row, int column) {
+  std::string tip = TipOf ? TipOf(row, column) : std::string();
+  if (tip.empty() && !painter_.Readable(row, column)) {
+    tip = grid_.Text(row, column);
+    if (tip.empty()) tip = RangesOf(grid_.NotesIn(row, column));
+  }
+  return QString::fromStdString(tip);
+}
+
 bool GridView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto cell = CellAt(help->pos());
-    if (cell && !painter_.Readable(cell->y(), cell->x())) {
-      const std::string& text = grid_.Text(cell->y(), cell->x());
-      const std::string shown = text.empty() ? RangesOf(grid_.NotesIn(cell->y(), cell->x())) : text;
-      QToolTip::showText(help->globalPos(), QString::fromStdString(shown), viewport());
-    } else {
-      QToolTip::hideText();
-    }
+    const QString tip = cell ? Tip(cell->y(), cell->x()) : QString();
+    tip.isEmpty() ? QToolTip::hideText() : QToolTip::showText(help->globalPos(), tip, viewport());
     return true;
   }
   return QAbstractScrollArea::viewportEvent(event);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -64,6 +65,9 @@ class GridView : public QAbstractScrollArea {
 
   QSize sizeHint() const override;
 
+  /// The tool-tip of a cell; where it is empty, a cell shows what is not readable in it.
+  std::function<std::string(int row, int column)> TipOf;
+
  Q_SIGNALS:
   void CellPressed(int row, int column, Qt::MouseButton button, QPoint globalPosition);
 
@@ -104,6 +108,7 @@ class GridView : public QAbstractScrollArea {
  private:
   GridPainter::Look Look() const;
   void UpdateScrollBars();
+  QString Tip(int row, int column);
   void Fit();
   double ZoomFor(QSize room) const;
   QMargins MarginsAround(QSize table, QSize room) const;

@@ -1,8 +1,10 @@
 #include "app/window/menus/board_input.h"
 
+#include <memory>
 #include <utility>
 
 #include "app/board/numbers.h"
+#include "app/play/board_state.h"
 #include "app/window/board/grid_accessible.h"
 #include "toolkit/on_signal.h"
 
@@ -22,7 +24,11 @@ PressedButton ButtonOf(Qt::MouseButton button) {
 
 }  // namespace
 
-BoardInput::BoardInput(Desk& desk, QObject* parent) : QObject(parent), desk_(desk) {
+BoardInput::BoardInput(Desk& desk, StateLine& state, QObject* parent)
+    : QObject(parent), desk_(desk), state_(state) {
+  desk_.Place.View->TipOf = [&board = desk_.TheBoard()](int row, int column) {
+    return TipOfTotal(board, row, column);
+  };
   ConnectMouse();
   ConnectKeys();
   ConnectMenu();
@@ -69,8 +75,11 @@ void BoardInput::ConnectKeys() {
     } else if (typed == U'\r') {
       desk_.RunOnCurrentCell("check", [&session] { session.Entry().PressEnter(); });
     } else {
-      desk_.RunOnCurrentCell(UndoHistory::kTyping,
-                             [&session, typed] { session.Entry().TypeCharacter(typed); });
+      auto why = std::make_shared<std::string>();
+      desk_.RunOnCurrentCell(UndoHistory::kTyping, [&session, typed, why] {
+        *why = session.Entry().TypeCharacter(typed);
+      });
+      if (!why->empty()) state_.ShowBriefly(*why);
     }
   });
   OnSignal(desk_.Runner, view, &GridView::KeypadPressed, this, [this, &session](int sign) {

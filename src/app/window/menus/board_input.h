@@ -8,6 +8,7 @@
 
 #include "app/play/board_mouse.h"
 #include "app/window/menus/desk.h"
+#include "app/window/panels/state_line.h"
 
 namespace numorra {
 
@@ -16,7 +17,8 @@ class BoardInput : public QObject {
   Q_OBJECT
 
  public:
-  BoardInput(Desk& desk, QObject* parent);
+  /// `state`: tells why a key was not taken.
+  BoardInput(Desk& desk, StateLine& state, QObject* parent);
 
  private:
   void ConnectMouse();
@@ -28,6 +30,7 @@ class BoardInput : public QObject {
   void Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition = {});
 
   Desk& desk_;
+  StateLine& state_;
 };
 
 }  // namespace numorra

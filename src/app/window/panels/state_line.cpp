@@ -25,6 +25,9 @@ StateLine::StateLine(QWidget* parent) : QLabel(parent) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setContentsMargins(0, 0, PixelsOf(kAroundMenus) / 2, 0);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  constexpr int kMoment = 3000;  // milliseconds
+  brief_.setInterval(kMoment);
+  connect(&brief_, &QTimer::timeout, this, &StateLine::Cut);
 }
 
 void StateLine::Show(const Board& board) {
@@ -49,7 +52,6 @@ void StateLine::ShowText(const std::string& told, const QString& more) {
   setToolTip(state + more);
   if (state == state_) return;
   state_ = state;
-  setAccessibleName(state);
   Cut();
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::NameChanged);
@@ -68,12 +70,25 @@ QSize StateLine::sizeHint() const {
   return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};
 }
 
+void StateLine::ShowBriefly(const std::string& text) {
+  const QString brief = QString::fromStdString(text);
+  setText(fontMetrics().elidedText(brief, Qt::ElideRight, contentsRect().width()));
+  brief_.start();
+  if (!QAccessible::isActive()) return;
+  setAccessibleName(brief);
+  QAccessibleEvent event(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
 void StateLine::resizeEvent(QResizeEvent* event) {
   QLabel::resizeEvent(event);
   Cut();
 }
 
+/// Shows the state, as much as there is room for.
 void StateLine::Cut() {
+  brief_.stop();
+  setAccessibleName(state_);
   setText(fontMetrics().elidedText(state_, Qt::ElideRight, contentsRect().width()));
 }
 

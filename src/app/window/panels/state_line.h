@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QTimer>
 
 #include "app/board/board.h"
 #include "app/play/walk.h"
@@ -20,6 +21,9 @@ class StateLine : public QLabel {
   void Show(const Board& board);
   void Show(const Walk& walk);
 
+  /// Shows a text for a moment, in place of the state; screen readers read it.
+  void ShowBriefly(const std::string& text);
+
   QSize sizeHint() const override;
 
  protected:
@@ -30,6 +34,7 @@ class StateLine : public QLabel {
   void Cut();
 
   QString state_;
+  QTimer brief_;  ///< runs while another text is shown
 };
 
 }  // namespace numorra
