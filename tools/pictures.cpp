@@ -24,7 +24,9 @@ class Album {
 
   /// `width`: of the picture, 0 for the widget's own width.
   void Save(const QWidget& widget, const QString& name, int width = 0) {
-    QCoreApplication::processEvents();
+    // A text that wraps needs a second round: its height follows from the width of the first.
+    for (int round = 0; round < 3; ++round)
+      QCoreApplication::processEvents();
     const QString path = folder_.filePath(name + ".png");
     QPixmap picture(widget.size());
     const_cast<QWidget&>(widget).render(&picture);

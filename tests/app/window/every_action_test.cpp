@@ -88,9 +88,9 @@ TEST_F(EveryActionTest, EndsInTheWindow) {
 /// During a search, while it processes events.
 TEST_F(EveryActionTest, EndsASearchAtMost) {
   QString text;
-  for (int row = 0; row < 10; ++row) {
-    for (int column = 0; column < 10; ++column)
-      text += column == (row + 1) % 10 ? QString::number(7 * row + 3) + ' ' : ". ";
+  for (int row = 0; row < 30; ++row) {
+    for (int column = 0; column < 30; ++column)
+      text += column == (row + 1) % 30 ? QString::number(7 * row + 3) + ' ' : ". ";
     text += '\n';
   }
   const auto paste = [&] {

@@ -12,7 +12,7 @@ BoardBar::BoardBar(const char* name, const char* buttonName, const char* buttonT
       text_(new QLabel) {
   setObjectName(name);
   setFrameShape(QFrame::StyledPanel);
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
   Button->setToolTip("Esc");
   text_->setWordWrap(true);
   text_->setTextFormat(Qt::PlainText);

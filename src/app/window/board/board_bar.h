@@ -23,6 +23,13 @@ class BoardBar : public QFrame {
 
   QPushButton* const Button;
 
+ Q_SIGNALS:
+  void ShownOrHidden();
+
+ protected:
+  void showEvent(QShowEvent*) override { Q_EMIT ShownOrHidden(); }
+  void hideEvent(QHideEvent*) override { Q_EMIT ShownOrHidden(); }
+
  private:
   QHBoxLayout* row_;
   QLabel* text_;

@@ -26,12 +26,11 @@ BoardPlace::BoardPlace(Board& board)
       BackButton(RemarkBar->AddButton("RemarkBackx", "Back", "Alt+Left")),
       NextButton(RemarkBar->AddButton("RemarkNextx", "Next", "Alt+Right")),
       stack_(new QStackedLayout),
-      bars_(new QWidget) {
+      room_(new QWidget) {
   setObjectName("Frame1");
   View->setAccessibleName("Board");
   Picture->BlockIn = [this](QSize room) { return View->FittedBlock(room); };
-  bars_->setFixedWidth(0);
-  bars_->hide();
+  room_->hide();
   auto* column = new QVBoxLayout(this);
   // The board's margin is measured from the frame's own edge, which the style has moved inwards.
   const int margin = PixelsOf(kMargin);
@@ -42,16 +41,21 @@ BoardPlace::BoardPlace(Board& board)
   for (QWidget* widget : std::initializer_list<QWidget*>{View, Picture, Walk})
     stack_->addWidget(widget);
   column->addWidget(Missing);
-  auto* bars = new QHBoxLayout;
-  bars->setSpacing(0);
-  for (QWidget* widget : std::initializer_list<QWidget*>{SearchBar, RemarkBar, bars_})
-    bars->addWidget(widget);
-  column->addLayout(bars);
+  for (BoardBar* bar : {SearchBar, RemarkBar}) {
+    column->addWidget(bar);
+    connect(bar, &BoardBar::ShownOrHidden, this, &BoardPlace::FillRoomForBars);
+  }
+  column->addWidget(room_);
 }
 
 void BoardPlace::KeepRoomForBars(int height) {
-  bars_->setFixedHeight(height);
-  bars_->setVisible(height > 0);
+  for (QWidget* widget : std::initializer_list<QWidget*>{SearchBar, RemarkBar, room_})
+    widget->setMinimumHeight(height);
+  FillRoomForBars();
+}
+
+void BoardPlace::FillRoomForBars() {
+  room_->setVisible(room_->minimumHeight() > 0 && SearchBar->isHidden() && RemarkBar->isHidden());
 }
 
 void BoardPlace::ShowBoard() {

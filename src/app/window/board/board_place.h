@@ -79,11 +79,12 @@ class BoardPlace : public QGroupBox {
   void SightChanged();
 
  private:
+  void FillRoomForBars();
   void ShowWidget(QWidget* widget);
   void ShowStep();
 
   QStackedLayout* stack_;
-  QWidget* bars_;  ///< holds the room for the bars
+  QWidget* room_;  ///< takes the place of the bars while none is visible
   Remark remark_;
   int step_ = 0;              ///< of the remark's steps, from 0
   bool remarkIsNew_ = false;  ///< the running command made it
