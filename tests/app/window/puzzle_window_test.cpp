@@ -105,12 +105,12 @@ TEST_F(PuzzleWindowTest, TinyBoardsAreHandledSafely) {
   }
 }
 
-/// Order 10 with a dozen numbers: the search takes seconds, and Stop ends it at once.
+/// Order 30 with a few numbers: the search takes several yields, and Stop ends it at once.
 TEST_F(PuzzleWindowTest, StopEndsASearchAtOnce) {
   QString text;
-  for (int row = 0; row < 10; ++row) {
-    for (int column = 0; column < 10; ++column)
-      text += column == (row + 1) % 10 ? QString::number(7 * row + 3) + ' ' : ". ";
+  for (int row = 0; row < 30; ++row) {
+    for (int column = 0; column < 30; ++column)
+      text += column == (row + 1) % 30 ? QString::number(7 * row + 3) + ' ' : ". ";
     text += '\n';
   }
   Paste(text);

@@ -22,14 +22,18 @@ GridPainter::GridPainter(const Grid& grid, const QFont& font, int dpi)
       font_(font),
       dpi_(std::max(kLowestDpi, dpi)),
       texts_(font, Edge(1)),
-      givens_(Heavier(font), Edge(1)),
-      notes_(font, Edge(1)) {}
+      givens_(Heavier(font), Edge(1)) {}
 
 void GridPainter::SetFont(const QFont& font) {
   font_ = font;
   texts_ = CellText(font, Edge(1));
   givens_ = CellText(Heavier(font), Edge(1));
-  notes_ = NoteText(font, Edge(1));
+  notes_.reset();
+}
+
+const NoteText& GridPainter::Notes() {
+  if (!notes_) notes_.emplace(font_, Edge(1));
+  return *notes_;
 }
 
 void GridPainter::SetZoom(double zoom) {
@@ -74,7 +78,8 @@ QRect GridPainter::CellRect(int row, int column, QPoint scrolled) const {
 bool GridPainter::Readable(int row, int column) {
   const Grid::Cell& cell = grid_.At(row, column);
   if (!cell.Text.empty()) return TextsFor(cell).Readable(cell.Text);
-  return notes_.Readable(grid_.NotesIn(row, column));
+  const NoteSet notes = grid_.NotesIn(row, column);
+  return notes.none() || Notes().Readable(notes);
 }
 
 /// The four blocks of cells that scroll differently.
@@ -139,7 +144,7 @@ void GridPainter::PaintText(QPainter& painter, const Look& look, const QRect& pl
   QColor ink = TextColour(look, cell);
   ink.setAlpha(kAlphaOfNotes);
   painter.setPen(ink);
-  notes_.Draw(painter, place, notes);
+  Notes().Draw(painter, place, notes);
 }
 
 QColor GridPainter::TextColour(const Look& look, const Grid::Cell& cell) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QPainter>
@@ -62,6 +63,7 @@ class GridPainter {
   void PaintBlock(QPainter& painter, const Look& look, const QRect& area, const Block& block);
   void PaintBlockEdge(QPainter& painter, const Look& look, const QRect& cell, int row, int column);
   static void PaintWrongMark(QPainter& painter, const QRect& cell);
+  const NoteText& Notes();
   CellText& TextsFor(const Grid::Cell& cell) { return cell.Given ? givens_ : texts_; }
 
   const Grid& grid_;
@@ -70,8 +72,8 @@ class GridPainter {
   double zoom_ = 1;
   mutable std::vector<int> edges_;  ///< by line, computed on demand
   CellText texts_;
-  CellText givens_;  ///< in bold, for given numbers
-  NoteText notes_;
+  CellText givens_;                ///< in bold, for given numbers
+  std::optional<NoteText> notes_;  ///< measured when the first notes are painted
 };
 
 }  // namespace numorra
