@@ -51,8 +51,8 @@ inline constexpr std::array kSymmetries = {
 };
 
 /// The symmetry as a command: reads the grid, turns it and shows it, and checks the totals again if
-/// they had been checked before. Gaps, givens and notes move with their cells. If a value overflows, the
-/// grid does not change.
+/// they had been checked before. Gaps, givens and notes move with their cells. If a value
+/// overflows, the grid does not change.
 void TurnBoard(Board& board, const Symmetry& symmetry);
 
 }  // namespace numorra

@@ -3,8 +3,8 @@
 #include <sstream>
 
 #include "app/board/position.h"
-#include "app/play/fill_gaps.h"
 #include "app/play/enter_puzzle.h"
+#include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "app/play/study_commands.h"
 #include "cli/square_program.h"
