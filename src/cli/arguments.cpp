@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <initializer_list>
-#include <limits>
 #include <utility>
 
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
+#include "cli/argument_checks.h"
 
 namespace numorra {
 namespace {
@@ -87,73 +86,11 @@ class Reader {
   }
 
   void CheckTogether() {
-    if (request_.Command == Command::Puzzle) {
-      if (request_.Codes) {
-        if (wishes_) Fail("a list of codes can be combined with a format only");
-        return;
-      }
-      if (request_.Size == 0) Fail("the size is missing");
-      if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
-        Fail("the sum of a puzzle must be a whole number");
-      }
-      CheckSum();
-      CheckGrades();
-      return;
-    }
-    if (request_.Command != Command::Build) {
-      if (request_.LimitToNine && request_.RulesWanted == Rules::Normal) {
-        Fail("the limit to 9 needs the positive rules");
-      }
-      if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
-      if (!Of(request_.Format).ForAnswers)
-        Fail("the format must be " + FormatNames(true, ", ", " or "));
-      return;
-    }
-    CheckSum();
-    const bool variable = request_.Sum || request_.LimitToNine || request_.Corner;
-    if (request_.Top) {
-      if (request_.Size != 0 || variable || request_.Kind) {
-        Fail("a top row cannot be combined with a size, sum, limit, corner or kind");
-      }
-    } else if (request_.Size == 0) {
-      Fail("the size is missing");
-    }
-    if (request_.Kind && variable) Fail("a kind cannot be combined with a sum, limit or corner");
-    CheckFresh();
-    if (request_.Corner && request_.LimitToNine) Fail("the limit cannot be combined with a corner");
-    CheckVary();
-  }
-
-  /// Squares are built from 16-bit shares of the sum; the limit lowers any larger sum.
-  void CheckSum() {
-    const double bound = (std::numeric_limits<std::int16_t>::max() + 1.0) * request_.Size;
-    if (request_.Size == 0 || !request_.Sum || request_.LimitToNine || *request_.Sum < bound)
-      return;
-    Fail("the sum for size " + std::to_string(request_.Size) + " must be below " + Decimal(bound));
-  }
-
-  void CheckGrades() {
+    Fail(WhyNotTogether(request_, {wishes_, counted_, wanted_.has_value()}));
     if (request_.Grades.empty()) {
       request_.Grades = {{wanted_.value_or(Grade::Easy), request_.Count}};
-    } else if (wanted_ || counted_) {
-      Fail("several grades cannot be combined with a grade or count");
     }
-  }
-
-  /// A relative of a square has its lines in another order.
-  void CheckVary() {
-    if (!request_.Vary) return;
-    if (request_.Top) Fail("a varied square does not keep its top row");
-    if (request_.Corner) Fail("a varied square does not keep its corner");
-  }
-
-  void CheckFresh() {
-    if (!request_.Fresh) return;
-    if (request_.Top) Fail("a fresh square cannot be combined with a top row");
-    if (request_.Corner) Fail("a fresh square cannot be combined with a corner");
-    if (request_.Sum && *request_.Sum != std::floor(*request_.Sum)) {
-      Fail("the sum of a fresh square must be a whole number");
-    }
+    if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
   }
 
   void TakeOption() {

@@ -1,0 +1,89 @@
+#include "cli/argument_checks.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "app/board/numbers.h"
+
+namespace numorra {
+namespace {
+
+bool IsBroken(const std::optional<double>& sum) {
+  return sum && *sum != std::floor(*sum);
+}
+
+/// Squares are built from 16-bit shares of the sum; the limit lowers any larger sum.
+std::string WhyTooLarge(const SquareRequest& request) {
+  const double bound = (std::numeric_limits<std::int16_t>::max() + 1.0) * request.Size;
+  if (!request.Sum || request.LimitToNine || *request.Sum < bound) return {};
+  return "the sum for size " + std::to_string(request.Size) + " must be below " + Decimal(bound);
+}
+
+std::string WhyNoPuzzle(const SquareRequest& request, const OptionsGiven& given) {
+  if (request.Codes) {
+    return given.Wishes ? "a list of codes can be combined with a format only" : "";
+  }
+  if (request.Size == 0) return "the size is missing";
+  if (IsBroken(request.Sum)) return "the sum of a puzzle must be a whole number";
+  if (!request.Grades.empty() && (given.Grade || given.Count)) {
+    return "several grades cannot be combined with a grade or count";
+  }
+  return WhyTooLarge(request);
+}
+
+std::string WhyNoAnswer(const SquareRequest& request) {
+  if (request.LimitToNine && request.RulesWanted == Rules::Normal) {
+    return "the limit to 9 needs the positive rules";
+  }
+  return Of(request.Format).ForAnswers ? ""
+                                       : "the format must be " + FormatNames(true, ", ", " or ");
+}
+
+std::string WhyNoFreshSquare(const SquareRequest& request) {
+  if (request.Top) return "a fresh square cannot be combined with a top row";
+  if (request.Corner) return "a fresh square cannot be combined with a corner";
+  return IsBroken(request.Sum) ? "the sum of a fresh square must be a whole number" : "";
+}
+
+/// A relative of a square has its lines in another order.
+std::string WhyNotVaried(const SquareRequest& request) {
+  if (request.Top) return "a varied square does not keep its top row";
+  return request.Corner ? "a varied square does not keep its corner" : "";
+}
+
+std::string WhyNoSquare(const SquareRequest& request) {
+  const bool variable = request.Sum || request.LimitToNine || request.Corner;
+  if (request.Top) {
+    if (request.Size != 0 || variable || request.Kind) {
+      return "a top row cannot be combined with a size, sum, limit, corner or kind";
+    }
+  } else if (request.Size == 0) {
+    return "the size is missing";
+  } else if (std::string why = WhyTooLarge(request); !why.empty()) {
+    return why;
+  }
+  if (request.Kind && variable) return "a kind cannot be combined with a sum, limit or corner";
+  if (request.Fresh) {
+    if (std::string why = WhyNoFreshSquare(request); !why.empty()) return why;
+  }
+  if (request.Corner && request.LimitToNine) return "the limit cannot be combined with a corner";
+  return request.Vary ? WhyNotVaried(request) : "";
+}
+
+}  // namespace
+
+std::string WhyNotTogether(const SquareRequest& request, const OptionsGiven& given) {
+  switch (request.Command) {
+    case SquareCommand::Puzzle:
+      return WhyNoPuzzle(request, given);
+    case SquareCommand::Build:
+      return WhyNoSquare(request);
+    case SquareCommand::Study:
+    case SquareCommand::Complete:
+      break;
+  }
+  return WhyNoAnswer(request);
+}
+
+}  // namespace numorra
