@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "app/ports/build_stage.h"
 #include "benches.h"
 #include "puzzle/deduction.h"
 #include "puzzle/fresh_puzzle.h"

@@ -29,7 +29,7 @@ bool Board::HasGivens() const {
 }
 
 bool Board::ByNormalRules() const {
-  return Shown() && !WhyNoBoardHas(GridSize) && Asked == Rules::Normal &&
+  return Shown() && WhyNoBoardHas(GridSize) == nullptr && Asked == Rules::Normal &&
          TargetTotal == NormalTotal(static_cast<double>(GridSize));
 }
 

@@ -20,9 +20,10 @@ bool Exchange(Board& board, Dialogs& dialogs, const std::vector<std::pair<Place,
     grid.SetText(b.Row, b.Column, std::move(text));
   }
   Notes notes = grid.AllNotes();
-  for (const auto& [a, b] : pairs)
+  for (const auto& [a, b] : pairs) {
     notes.Swap(static_cast<int>(IndexOf(a, board.GridSize)),
                static_cast<int>(IndexOf(b, board.GridSize)));
+  }
   grid.SetNotes(std::move(notes));
   CheckAndReturn(board, dialogs);
   return true;

@@ -104,7 +104,7 @@ double GridView::ZoomFor(QSize room) const {
   return std::min(kLargestZoom, painter_.ZoomThatFits(lines, side));
 }
 
-QMargins GridView::MarginsAround(QSize table, QSize room) const {
+QMargins GridView::MarginsAround(QSize table, QSize room) {
   const int left = std::max(0, (room.width() - table.width()) / 2);
   const int top = std::max(0, (room.height() - table.height()) / 2);
   return {left, top, left, top};

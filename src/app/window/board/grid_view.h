@@ -111,7 +111,7 @@ class GridView : public QAbstractScrollArea {
   QString Tip(int row, int column);
   void Fit();
   double ZoomFor(QSize room) const;
-  QMargins MarginsAround(QSize table, QSize room) const;
+  static QMargins MarginsAround(QSize table, QSize room);
   void PaintInvitation(QPainter& painter);
   bool CurrentInBlock() const;
   void PaintGuides(QPainter& painter);

@@ -76,7 +76,7 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
     Q_EMIT Taken(*made_);
     accept();
   });
-  QMetaObject::invokeMethod(this, &HideNumbersForm::Make, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, "Make", Qt::QueuedConnection);
 }
 
 /// Makes a puzzle to the current settings; a newer request supersedes an older one.

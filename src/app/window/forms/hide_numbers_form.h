@@ -23,7 +23,7 @@ class HideNumbersForm : public CommandForm {
   void Taken(const MadePuzzle& made);
 
  private:
-  void Make();
+  Q_SLOT void Make();
 
   std::optional<Puzzle> square_;
   SquareWish fresh_;
