@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include "app/window/board/grid_accessible.h"
 #include "app/window/main_window.h"
@@ -38,6 +39,14 @@ void KeepNoSettings() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
+/// The desktop's folders for this program, used only if the player wants something kept.
+numorra::KeptFolders FoldersAtHome() {
+  const auto in = [](QStandardPaths::StandardLocation place) {
+    return QStandardPaths::writableLocation(place) + "/numorra";
+  };
+  return {in(QStandardPaths::GenericConfigLocation), in(QStandardPaths::GenericDataLocation)};
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -49,7 +58,7 @@ int main(int argc, char** argv) {
   numorra::InstallGridAccessibility();
   numorra::SystemClock clock;
   numorra::Session session(clock);
-  numorra::MainWindow window(session);
+  numorra::MainWindow window(session, {.Kept = FoldersAtHome()});
   window.show();
   return QApplication::exec();
 }

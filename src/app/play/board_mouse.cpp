@@ -13,6 +13,15 @@ void WipeMarks(Board& board) {
   if (board.MarkedCol != -1) board.grid.SetText(last, board.MarkedCol, "");
 }
 
+/// Whether a row or a column of the grid is one of the value block.
+bool IsInBlock(const Board& board, int line) {
+  return line >= 1 && line <= board.GridSize;
+}
+
+bool IsInBlock(const Board& board, Place place) {
+  return IsInBlock(board, place.Row) && IsInBlock(board, place.Column);
+}
+
 }  // namespace
 
 PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, PressedButton button) {
@@ -22,10 +31,9 @@ PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, Pre
   if (!board.TotalsChecked) return PressOutcome::OpenShortMenu;
 
   Grid& grid = board.grid;
-  const auto inBlock = [last](int line) { return line >= 1 && line < last; };
-  const bool onCell = inBlock(row) && inBlock(column);
-  const bool onRowMark = column == last && inBlock(row);
-  const bool onColumnMark = row == last && inBlock(column);
+  const bool onCell = IsInBlock(board, Place{row, column});
+  const bool onRowMark = column == last && IsInBlock(board, row);
+  const bool onColumnMark = row == last && IsInBlock(board, column);
   if (button == PressedButton::Left) {
     if (onCell) {
       grid.SetCurrent(row, column);
@@ -57,6 +65,17 @@ PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, Pre
     }
   }
   return PressOutcome::Done;
+}
+
+bool CanDrag(const Board& board, Place from) {
+  return board.Shown() && board.TotalsChecked && IsInBlock(board, from) &&
+         !board.grid.At(from.Row, from.Column).IsGap();
+}
+
+void DragCell(Board& board, Dialogs& dialogs, Place from, Place to) {
+  if (!CanDrag(board, from) || !IsInBlock(board, to) || from == to) return;
+  board.grid.SetCurrent(to.Row, to.Column);
+  SwapCells(board, dialogs, from.Row, from.Column, to.Row, to.Column);
 }
 
 PressOutcome MarkByKey(Board& board, Dialogs& dialogs, MarkedLine line) {

@@ -23,6 +23,14 @@ enum class PressOutcome {
 /// the marked one. Before the first check every press opens the menu.
 PressOutcome PressBoard(Board& board, Dialogs& dialogs, int row, int column, PressedButton button);
 
+/// Whether the number of a cell can be dragged: keys act on the board, and the cell is no gap.
+bool CanDrag(const Board& board, Place from);
+
+/// Drops a number on another cell, which becomes current: the two are exchanged as "Swap value"
+/// exchanges them, so that a number on a gap moves there. Beside the value block, nothing happens;
+/// a given that would move is refused.
+void DragCell(Board& board, Dialogs& dialogs, Place from, Place to);
+
 /// What a key can mark: the current cell, its row, or its column.
 enum class MarkedLine { Cell, Row, Column };
 

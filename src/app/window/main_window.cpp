@@ -54,13 +54,15 @@ MainWindow::MainWindow(Session& session, const World& world)
   ConnectSession();
   new ControlCommands(desk_, this);
   new BoardInput(desk_, *state_, this);
-  AddMenus();
+  AddMenus(world.Kept);
   session_.Start();
   desk_.ShowMode();
   resize(kOpeningSize.boundedTo(screen()->availableSize() * kShareOfScreen));
+  view_->Kept().BringBack();
 }
 
 MainWindow::~MainWindow() {
+  view_->Kept().Save();  // a command that ran when the window was closed has ended
   session_.Disconnect();
   for (QDockWidget* panel : findChildren<QDockWidget*>())
     panel->disconnect();
@@ -89,10 +91,10 @@ void MainWindow::ConnectSession() {
   OnSignal(runner_, place_->Walk, &WalkView::StepShown, this, [this] { ShowStateLine(); });
 }
 
-void MainWindow::AddMenus() {
+void MainWindow::AddMenus(const KeptFolders& folders) {
   files_ = new FileMenu(menuBar(), desk_, {world_.Files, world_.Printer, world_.Pages});
   new EditMenu(menuBar(), desk_);
-  view_ = new ViewMenu(this, desk_, state_);
+  view_ = new ViewMenu(this, desk_, state_, folders);
   new ControlsMenu(menuBar(), *controls_);
   new StudyMenu(this, desk_, view_->Room());
   new PuzzleMenu(menuBar(), desk_, searchStage_, world_.Pages, state_);
@@ -135,6 +137,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   runner_.Abandon();
+  view_->Kept().Save();
   event->accept();
 }
 

@@ -33,7 +33,7 @@ class MainWindow : public QMainWindow {
  private:
   void Arrange();
   void ConnectSession();
-  void AddMenus();
+  void AddMenus(const KeptFolders& folders);
   void ShowState();
   void ShowStateLine();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/window/menus/keep_items.h"
 #include "print/page_printer.h"
 #include "print/sheet_printer.h"
 #include "toolkit/command_runner.h"
@@ -15,6 +16,7 @@ struct World {
   PagePrinter* Pages = nullptr;
   FileChooser* Files = nullptr;
   int FrameMilliseconds = CommandRunner::kFrameMilliseconds;
+  KeptFolders Kept = {};  ///< without them, the window keeps nothing
 };
 
 /// A world with nothing missing.

@@ -109,8 +109,14 @@ TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
     EXPECT_NE(key, "") << text.toStdString();
     EXPECT_TRUE(mnemonics.insert(key).second) << key.toStdString() << " twice";
   };
-  for (const QAction* menu : window_.menuBar()->actions())
+  for (const QAction* menu : window_.menuBar()->actions()) {
     note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
+    std::set<QString> letters;
+    for (const QAction* item : menu->menu()->actions()) {
+      const QString letter = QKeySequence::mnemonic(item->text()).toString();
+      EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << letter.toStdString();
+    }
+  }
   for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
     if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
       const bool bars = button->toolTip() == "Esc";  // the bars use that key

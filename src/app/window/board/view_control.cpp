@@ -1,5 +1,6 @@
 #include "app/window/board/view_control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QDockWidget>
@@ -32,6 +33,23 @@ void ViewControl::Zoom(int direction, std::optional<QPoint> fixed) {
     cells.SetZoom(zoom);
   }
   ShowMarks();
+}
+
+ViewControl::BoardSize ViewControl::OwnSize() const {
+  if (before_) return {before_->Zoom, before_->Fitting};
+  return {place_->View->Zoom(), place_->View->Fitting()};
+}
+
+void ViewControl::SetOwnSize(const BoardSize& size) {
+  place_->View->SetZoom(size.Zoom);
+  place_->View->SetFitting(size.Fitting);
+  ShowMarks();
+}
+
+bool ViewControl::OwnShown(QWidget* widget) const {
+  const auto isIt = [widget](const QWidget* hidden) { return hidden == widget; };
+  return !widget->isHidden() ||
+         (before_ && std::any_of(before_->Hidden.begin(), before_->Hidden.end(), isIt));
 }
 
 void ViewControl::ToggleFitting() {

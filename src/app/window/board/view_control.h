@@ -25,6 +25,17 @@ class ViewControl : public QObject {
   /// or else a visible current cell, keeps its place.
   void Zoom(int direction, std::optional<QPoint> fixed = {});
 
+  /// How large the board is outside full screen.
+  struct BoardSize {
+    double Zoom;
+    bool Fitting;
+  };
+  BoardSize OwnSize() const;
+  void SetOwnSize(const BoardSize& size);
+
+  /// Whether a widget beside the board is shown outside full screen.
+  bool OwnShown(QWidget* widget) const;
+
   /// Switches between fitting the board, or the walk, and a fixed zoom.
   void ToggleFitting();
 

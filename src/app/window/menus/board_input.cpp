@@ -5,6 +5,7 @@
 
 #include "app/board/numbers.h"
 #include "app/play/board_state.h"
+#include "app/window/board/cell_gestures.h"
 #include "app/window/board/grid_accessible.h"
 #include "toolkit/on_signal.h"
 
@@ -30,6 +31,7 @@ BoardInput::BoardInput(Desk& desk, StateLine& state, QObject* parent)
     return TipOfTotal(board, row, column);
   };
   ConnectMouse();
+  ConnectGestures();
   ConnectKeys();
   ConnectMenu();
 }
@@ -54,6 +56,27 @@ void BoardInput::ConnectMouse() {
     if (desk_.TheSession.Noting().EndNumber()) return;
     Press([this, &board, line] { return MarkByKey(board, desk_.TheDialogs, line); });
   });
+}
+
+void BoardInput::ConnectGestures() {
+  auto* gestures = new CellGestures(desk_.Place.View, this);
+  Board& board = desk_.TheSession.TheBoard;
+  gestures->CanDrag = [&board](Place from) { return CanDrag(board, from); };
+  const EditCommand& swap = *FindEdit(std::string("swapvaluex"));
+  OnSignal(desk_.Runner, gestures, &CellGestures::Dragged, this,
+           [this, &board, &swap](Place from, Place to) {
+             desk_.RunOnCurrentCell(swap.Caption, [this, &board, from, to] {
+               DragCell(board, desk_.TheDialogs, from, to);
+             });
+           });
+  OnSignal(desk_.Runner, gestures, &CellGestures::Held, this,
+           [this, &board](Place cell, QPoint position) {
+             const auto press = [=, this, &board] {
+               return PressBoard(board, desk_.TheDialogs, cell.Row, cell.Column,
+                                 PressedButton::Right);
+             };
+             Press(press, position);
+           });
 }
 
 void BoardInput::ConnectKeys() {

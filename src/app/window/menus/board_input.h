@@ -22,6 +22,7 @@ class BoardInput : public QObject {
 
  private:
   void ConnectMouse();
+  void ConnectGestures();
   void ConnectKeys();
   void ConnectMenu();
 

@@ -9,7 +9,7 @@
 
 namespace numorra {
 
-ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state)
+ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state, const KeptFolders& folders)
     : QObject(window), desk_(desk), properties_(new PropertiesPanel(desk.Runner, window)) {
   const QList<QKeySequence> none;
   QMenu* menu = window->menuBar()->addMenu("&View");
@@ -32,11 +32,11 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state)
                    window->showMaximized();
                  })});
   menu->addSeparator();
-  QAction* numbers = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
-  OnSignal(desk_.Runner, numbers, &QAction::toggled, this,
+  numbers_ = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
+  OnSignal(desk_.Runner, numbers_, &QAction::toggled, this,
            [this](bool on) { desk_.Place.Picture->SetNumbers(on); });
-  QAction* quiet = AddItem(menu, {"QuietTotalsx", "&Quiet Totals", none, [] {}, true});
-  OnSignal(desk_.Runner, quiet, &QAction::toggled, this, [this](bool on) {
+  quiet_ = AddItem(menu, {"QuietTotalsx", "&Quiet Totals", none, [] {}, true});
+  OnSignal(desk_.Runner, quiet_, &QAction::toggled, this, [this](bool on) {
     desk_.Runner.Run("Quiet Totals", [this, on] { desk_.TheSession.SetQuietTotals(on); });
   });
   shown_ =
@@ -45,6 +45,9 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state)
                      {Qt::CTRL | Qt::Key_I},
                      desk_.Beside([this] { properties_->setVisible(properties_->isHidden()); }),
                      true});
+  kept_ = new KeepItems(
+      menu, desk_, folders,
+      {[this] { return Choices(); }, [this](const ViewChoices& choices) { Choose(choices); }});
 
   window->addDockWidget(Qt::RightDockWidgetArea, properties_);
   properties_->hide();
@@ -64,6 +67,18 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state)
   }
   auto* escape = new QShortcut(Qt::Key_Escape, window);
   OnSignal(desk_.Runner, escape, &QShortcut::activated, this, [this] { Escape(); });
+}
+
+ViewChoices ViewMenu::Choices() const {
+  const auto [zoom, fitting] = size_->OwnSize();
+  return {zoom, fitting, size_->OwnShown(properties_), numbers_->isChecked(), quiet_->isChecked()};
+}
+
+void ViewMenu::Choose(const ViewChoices& choices) {
+  size_->SetOwnSize({choices.Zoom, choices.Fitting});
+  properties_->setVisible(choices.Properties);
+  numbers_->setChecked(choices.DrawingNumbers);
+  quiet_->setChecked(choices.QuietTotals);
 }
 
 /// Esc ends the most recent of a search, a remark and the full screen.
