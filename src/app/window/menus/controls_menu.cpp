@@ -1,7 +1,5 @@
 #include "app/window/menus/controls_menu.h"
 
-#include <utility>
-
 #include <QEvent>
 
 #include "toolkit/menus.h"
@@ -10,10 +8,10 @@ namespace numorra {
 
 ControlsMenu::ControlsMenu(QMenuBar* bar, const ControlColumn& controls) : QObject(bar) {
   QMenu* menu = bar->addMenu("&Board");
-  const auto add = [&](const char* name, QKeySequence key, QPushButton* button,
+  const auto add = [&](const char* name, const QKeySequence& key, QPushButton* button,
                        const QString& before = {}) {
     const QByteArray caption = (before + button->text()).toUtf8();
-    QAction* item = AddItem(menu, {name, caption, {std::move(key)}, [button] { button->click(); }});
+    QAction* item = AddItem(menu, {name, caption, {key}, [button] { button->click(); }});
     item->setEnabled(button->isEnabled());
     button->installEventFilter(this);
     items_[button] = item;

@@ -62,9 +62,10 @@ QSize StateLine::sizeHint() const {
   int free = kWidth * fontMetrics().height();
   if (const auto* bar = qobject_cast<const QMenuBar*>(parentWidget())) {
     int menus = PixelsOf(kAroundMenus);
-    for (const QAction* menu : bar->actions())
+    for (const QAction* menu : bar->actions()) {
       menus +=
           bar->fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
+    }
     free = std::clamp(bar->width() - menus, 0, free);
   }
   return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};

@@ -30,7 +30,7 @@ class StateLine : public QLabel {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ShowText(const std::string& state, const QString& more);
+  void ShowText(const std::string& told, const QString& more);
   void Cut();
 
   QString state_;
