@@ -24,6 +24,9 @@ class CellEntry {
   /// Checks, then moves to the next row; the check leaves the last column current.
   void PressEnter();
 
+  /// Checks what was typed into the current cell, which stays current.
+  void Finish() { LeaveCell(); }
+
   /// The keypad's plus and minus: one more or less in the Variable mode, then a check. Minus gives
   /// 1 where the result would be exactly 0; a 0 becomes -1. A step to more digits than a cell takes
   /// is not made.

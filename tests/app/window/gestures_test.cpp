@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QPointingDevice>
+#include <QToolButton>
 
 #include "support/window_fixture.h"
 
@@ -87,6 +88,50 @@ TEST_F(GesturesTest, AFingerDragsAndOpensTheMenuByALongPress) {
   Touch().release(0, to, &window_);
   EXPECT_TRUE(menu.isVisible());
   EXPECT_EQ(TheGrid().CurrentRow(), 2);
+}
+
+/// The puzzle has a wrong order of 1 and 6, and a gap. Fingers alone put that right.
+TEST_F(GesturesTest, APuzzleIsSolvedByTouch) {
+  const auto tap = [this](QPoint at) {
+    Touch().press(0, at, &window_);
+    Touch().release(0, at, &window_);
+  };
+  auto& pad = Find<QFrame>("NumberPad");
+  const auto press = [&](const char* name) {
+    auto& key = Find<QToolButton>(name);
+    const double millimetres = 25.4 / window_.logicalDpiX();
+    EXPECT_GE(std::min(key.width(), key.height()) * millimetres, 9) << name;
+    tap(key.mapTo(&window_, key.rect().center()));
+  };
+  tap(InWindow(Middle({1, 1})));
+  EXPECT_FALSE(pad.isVisible()) << "a given number";
+  const std::pair<Place, std::vector<const char*>> entries[] = {
+      {{2, 1}, {"Pad7", "PadBackspace", "Pad3"}}, {{1, 2}, {"Pad1"}}, {{1, 3}, {"Pad6"}}};
+  for (const auto& [cell, keys] : entries) {
+    tap(InWindow(Middle(cell)));
+    ASSERT_TRUE(pad.isVisible());
+    EXPECT_TRUE(window_.rect().contains(pad.geometry()));
+    EXPECT_FALSE(pad.geometry().contains(InWindow(Middle(cell))));
+    for (const char* key : keys)
+      press(key);
+    EXPECT_EQ(dialogs_.Take(), Messages()) << "before it is done";
+    press("PadDone");
+    EXPECT_FALSE(pad.isVisible());
+  }
+  EXPECT_EQ(Numbers(), "816357492");
+  EXPECT_EQ(dialogs_.Take(), Messages{"WELL DONE, YOU GOT IT"});
+}
+
+/// Clicks open the pad only for those who wish, and another current cell closes it.
+TEST_F(GesturesTest, AClickOpensThePadIfTheMenuSaysSo) {
+  auto& pad = Find<QFrame>("NumberPad");
+  ClickCell(1, 2);
+  EXPECT_FALSE(pad.isVisible());
+  Find<QAction>("NumberPadx").trigger();
+  ClickCell(1, 2);
+  EXPECT_TRUE(pad.isVisible());
+  QTest::keyClick(&window_.View(), Qt::Key_Right);
+  EXPECT_FALSE(pad.isVisible());
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ TEST_F(KeepTest, AnotherWindowShowsWhatWasChosenUntilItIsUnticked) {
   Trigger("KeepSettingsx");
   EXPECT_EQ(Files(), QStringList{kSettings});
   for (const char* action :
-       {"ZoomInx", "QuietTotalsx", "DrawingNumbersx", "Propertiesx", "FullScreenx"})
+       {"ZoomInx", "QuietTotalsx", "DrawingNumbersx", "NumberPadx", "Propertiesx", "FullScreenx"})
     Trigger(action);
   Trigger("PrintWorksheetx");
   Find<QComboBox>("PerPage").setCurrentText("2");
@@ -80,7 +80,8 @@ TEST_F(KeepTest, AnotherWindowShowsWhatWasChosenUntilItIsUnticked) {
     Another next(folder_);
     EXPECT_EQ(next.window_.View().Zoom(), std::sqrt(2));
     EXPECT_FALSE(next.window_.View().Fitting());
-    for (const char* action : {"QuietTotalsx", "DrawingNumbersx", "Propertiesx", "KeepSettingsx"})
+    for (const char* action :
+         {"QuietTotalsx", "DrawingNumbersx", "NumberPadx", "Propertiesx", "KeepSettingsx"})
       EXPECT_TRUE(next.Find<QAction>(action).isChecked()) << action;
     EXPECT_TRUE(next.window_.TheBoard().QuietTotals);
     EXPECT_FALSE(next.window_.TheBoard().Shown());

@@ -20,6 +20,7 @@ BoardPlace::BoardPlace(Board& board)
       View(new GridView(board.grid)),
       Picture(new Drawing(board)),
       Walk(new WalkView(walkGrid_)),
+      Gestures(new CellGestures(View, this)),
       Missing(new MissingNumbers),
       SearchBar(new BoardBar("SearchBar", "StopSearchx", "Stop")),
       RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", "Close")),

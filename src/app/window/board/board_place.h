@@ -6,6 +6,7 @@
 #include "app/board/board.h"
 #include "app/play/hints.h"
 #include "app/window/board/board_bar.h"
+#include "app/window/board/cell_gestures.h"
 #include "app/window/board/grid_view.h"
 #include "app/window/board/missing_numbers.h"
 #include "app/window/board/walk_view.h"
@@ -28,6 +29,7 @@ class BoardPlace : public QGroupBox {
   GridView* const View;
   Drawing* const Picture;
   WalkView* const Walk;
+  CellGestures* const Gestures;  ///< on the board
   MissingNumbers* const Missing;
   BoardBar* const SearchBar;
   BoardBar* const RemarkBar;

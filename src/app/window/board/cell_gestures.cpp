@@ -45,9 +45,9 @@ void CellGestures::Begin(const QMouseEvent& event) {
   const QPoint at = event.position().toPoint();
   const auto cell = PlaceAt(at);
   if (!cell || event.buttons() != Qt::LeftButton) return;
-  press_ = Press{*cell, at, event.globalPosition().toPoint()};
-  const bool touch = event.source() != Qt::MouseEventNotSynthesized;
-  if (touch) hold_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
+  const bool byFinger = event.source() != Qt::MouseEventNotSynthesized;
+  press_ = Press{*cell, at, event.globalPosition().toPoint(), byFinger};
+  if (byFinger) hold_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
 }
 
 void CellGestures::Move(const QMouseEvent& event) {
@@ -75,6 +75,7 @@ void CellGestures::End(const QMouseEvent& event) {
   Forget();
   const auto to = PlaceAt(event.position().toPoint());
   if (press.Dragging && to && *to != press.Cell) Q_EMIT Dragged(press.Cell, *to);
+  if (!press.Dragging && to == press.Cell) Q_EMIT Tapped(press.Cell, press.ByFinger);
 }
 
 void CellGestures::Forget() {

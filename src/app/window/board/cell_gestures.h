@@ -33,6 +33,9 @@ class CellGestures : public QObject {
   /// A number was dragged to another cell.
   void Dragged(Place from, Place to);
 
+  /// A press was released where it began.
+  void Tapped(Place cell, bool byFinger);
+
   /// A finger has stayed on a cell as long as the desktop wants for a long press.
   void Held(Place cell, QPoint globalPosition);
 
@@ -41,6 +44,7 @@ class CellGestures : public QObject {
     Place Cell;
     QPoint At;
     QPoint Global;
+    bool ByFinger;
     bool Dragging = false;
   };
 

@@ -5,7 +5,6 @@
 
 #include "app/board/numbers.h"
 #include "app/play/board_state.h"
-#include "app/window/board/cell_gestures.h"
 #include "app/window/board/grid_accessible.h"
 #include "toolkit/on_signal.h"
 
@@ -59,7 +58,7 @@ void BoardInput::ConnectMouse() {
 }
 
 void BoardInput::ConnectGestures() {
-  auto* gestures = new CellGestures(desk_.Place.View, this);
+  CellGestures* const gestures = desk_.Place.Gestures;
   Board& board = desk_.TheSession.TheBoard;
   gestures->CanDrag = [&board](Place from) { return CanDrag(board, from); };
   const EditCommand& swap = *FindEdit(std::string("swapvaluex"));

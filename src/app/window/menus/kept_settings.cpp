@@ -79,7 +79,8 @@ QVariantMap ValuesOf(const KeptSettings& settings) {
                      {"View/Fitting", view.Fitting},
                      {"View/Properties", view.Properties},
                      {"View/DrawingNumbers", view.DrawingNumbers},
-                     {"View/QuietTotals", view.QuietTotals}};
+                     {"View/QuietTotals", view.QuietTotals},
+                     {"View/NumberPad", view.NumberPad}};
   if (settings.Sheet) AddValuesOf(*settings.Sheet, values);
   return values;
 }
@@ -89,7 +90,8 @@ KeptSettings SettingsFrom(const QVariantMap& values) {
   const double largest = ZoomAtStep(kLargestZoomStep);
   return {{NumberOf(values, "View/Zoom", smallest, largest).value_or(1),
            values.value("View/Fitting").toBool(), values.value("View/Properties").toBool(),
-           values.value("View/DrawingNumbers").toBool(), values.value("View/QuietTotals").toBool()},
+           values.value("View/DrawingNumbers").toBool(), values.value("View/QuietTotals").toBool(),
+           values.value("View/NumberPad").toBool()},
           SheetFrom(values)};
 }
 

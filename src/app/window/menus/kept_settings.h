@@ -16,6 +16,7 @@ struct ViewChoices {
   bool Properties = false;      ///< the panel is open
   bool DrawingNumbers = false;  ///< drawings show the numbers
   bool QuietTotals = false;
+  bool NumberPad = false;  ///< a click opens it
 };
 
 /// What Keep My Settings keeps.

@@ -39,6 +39,7 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state, const KeptFo
   OnSignal(desk_.Runner, quiet_, &QAction::toggled, this, [this](bool on) {
     desk_.Runner.Run("Quiet Totals", [this, on] { desk_.TheSession.SetQuietTotals(on); });
   });
+  pad_ = new NumberPadItem(menu, desk_);
   shown_ =
       AddItem(menu, {"Propertiesx",
                      "&Properties",
@@ -71,7 +72,12 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state, const KeptFo
 
 ViewChoices ViewMenu::Choices() const {
   const auto [zoom, fitting] = size_->OwnSize();
-  return {zoom, fitting, size_->OwnShown(properties_), numbers_->isChecked(), quiet_->isChecked()};
+  return {zoom,
+          fitting,
+          size_->OwnShown(properties_),
+          numbers_->isChecked(),
+          quiet_->isChecked(),
+          pad_->Item->isChecked()};
 }
 
 void ViewMenu::Choose(const ViewChoices& choices) {
@@ -79,6 +85,7 @@ void ViewMenu::Choose(const ViewChoices& choices) {
   properties_->setVisible(choices.Properties);
   numbers_->setChecked(choices.DrawingNumbers);
   quiet_->setChecked(choices.QuietTotals);
+  pad_->Item->setChecked(choices.NumberPad);
 }
 
 /// Esc ends the most recent of a search, a remark and the full screen.

@@ -5,6 +5,7 @@
 #include "app/window/board/view_control.h"
 #include "app/window/menus/desk.h"
 #include "app/window/menus/keep_items.h"
+#include "app/window/menus/number_pad_item.h"
 #include "app/window/panels/panel_room.h"
 #include "app/window/panels/properties_panel.h"
 
@@ -34,6 +35,7 @@ class ViewMenu : public QObject {
   PropertiesPanel* properties_;
   QAction* numbers_;
   QAction* quiet_;
+  NumberPadItem* pad_;
   QAction* shown_;
   ViewControl* size_;
   PanelRoom* room_;

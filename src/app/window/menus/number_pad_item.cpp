@@ -1,0 +1,46 @@
+#include "app/window/menus/number_pad_item.h"
+
+#include "toolkit/menus.h"
+#include "toolkit/on_signal.h"
+
+namespace numorra {
+
+NumberPadItem::NumberPadItem(QMenu* menu, Desk& desk)
+    : QObject(menu),
+      Item(AddItem(menu, {"NumberPadx", "N&umber Pad", {}, [this] { pad_->hide(); }, true})),
+      desk_(desk),
+      pad_(new NumberPad(desk.Place.window())) {
+  OnSignal(desk_.Runner, desk_.Place.Gestures, &CellGestures::Tapped, this,
+           [this](Place cell, bool byFinger) {
+             if (byFinger || Item->isChecked()) Open(cell);
+           });
+  OnSignal(desk_.Runner, pad_, &NumberPad::Typed, this,
+           [this](char32_t character) { Q_EMIT desk_.Place.View->CharacterTyped(character); });
+  OnSignal(desk_.Runner, pad_, &NumberPad::Done, this, [this] { Finish(); });
+  OnSignal(desk_.Runner, &desk_.Place, &BoardPlace::SightChanged, this, [this] { pad_->hide(); });
+  desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
+    if (Place{result.After.Row, result.After.Column} != cell_) pad_->hide();
+  });
+}
+
+void NumberPadItem::Open(Place cell) {
+  const Board& board = desk_.TheBoard();
+  const Place current{board.grid.CurrentRow(), board.grid.CurrentColumn()};
+  if (!board.Shown() || !board.TotalsChecked || cell != current) return;
+  if (board.grid.Given(cell.Row, cell.Column)) return;
+  cell_ = cell;
+  const QRect place = desk_.Place.View->CellRect(cell.Row, cell.Column);
+  pad_->ShowBeside(
+      {desk_.Place.View->viewport()->mapTo(pad_->parentWidget(), place.topLeft()), place.size()});
+}
+
+/// Checks what was typed.
+void NumberPadItem::Finish() {
+  pad_->hide();
+  desk_.RunOnCurrentCell("check", [this] {
+    desk_.TheSession.Noting().EndNumber();
+    desk_.TheSession.Entry().Finish();
+  });
+}
+
+}  // namespace numorra
