@@ -44,7 +44,13 @@ class GesturesTest : public WindowTest {
   QTest::QTouchEventWidgetSequence Touch() { return QTest::touchEvent(&window_, finger_); }
   QPoint InWindow(QPoint at) { return Cells()->mapTo(&window_, at); }
 
-  QPointingDevice* finger_ = QTest::createTouchDevice();
+  /// One device for all tests: the toolkit keeps devices until the process ends.
+  static QPointingDevice* Finger() {
+    static QPointingDevice* const finger = QTest::createTouchDevice();
+    return finger;
+  }
+
+  QPointingDevice* finger_ = Finger();
 };
 
 TEST_F(GesturesTest, ANumberIsDraggedToAnotherOrToAGap) {
