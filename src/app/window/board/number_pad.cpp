@@ -55,7 +55,10 @@ NumberPad::NumberPad(QWidget* window) : QFrame(window) {
   }
   connect(add("Backspace", QString(QChar(0x2190)), 3, 0), &QToolButton::clicked, this,
           [this] { Q_EMIT Typed(kBackspace); });
-  connect(add("Done", "Done", 3, 2), &QToolButton::clicked, this, &NumberPad::Done);
+  const auto* done = add("Done", "Done", 3, 2);
+  connect(done, &QToolButton::clicked, this, &NumberPad::Done);
+  for (int column = 0; column < keys->columnCount(); ++column)
+    keys->setColumnMinimumWidth(column, done->sizeHint().width());
   hide();
 }
 
