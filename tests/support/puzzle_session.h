@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <type_traits>
 
 #include "app/play/session.h"
 #include "puzzle/fresh_puzzle.h"
@@ -16,11 +17,18 @@ class PuzzleSession : public testing::Test {
     session_.Start();
   }
 
+  /// Runs a command in the same way as a window.
   template <class Command>
-  void Do(const std::string& name, Command command) {
+  auto Do(const std::string& name, Command command) {
     session_.BeginCommand();
-    command();
-    session_.EndCommand(name);
+    if constexpr (std::is_void_v<decltype(command())>) {
+      command();
+      session_.EndCommand(name);
+    } else {
+      auto result = command();
+      session_.EndCommand(name);
+      return result;
+    }
   }
 
   /// Lays out a fresh puzzle.

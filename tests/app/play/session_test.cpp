@@ -2,51 +2,18 @@
 
 #include "support/boards.h"
 #include "support/invariants.h"
+#include "support/puzzle_session.h"
 #include "support/slow_checker.h"
-#include "support/stand_ins.h"
 
 namespace numorra {
 namespace {
 
-class SessionTest : public testing::Test {
+class SessionTest : public PuzzleSession {
  protected:
-  SessionTest() {
-    session_.Connect({boxes_, options_, dialogs_, stage_, stage_});
-    session_.Start();
-  }
-
-  /// Runs a command in the same way as a window.
-  template <class Command>
-  auto Do(const std::string& name, Command command) {
-    session_.BeginCommand();
-    if constexpr (std::is_void_v<decltype(command())>) {
-      command();
-      session_.EndCommand(name);
-    } else {
-      auto result = command();
-      session_.EndCommand(name);
-      return result;
-    }
-  }
-
   void Type(int row, int column, const std::string& digits) {
-    Do("move", [&] { session_.TheBoard.grid.SetCurrent(row, column); });
-    for (const char digit : digits) {
-      Do(UndoHistory::kTyping,
-         [&] { session_.Entry().TypeCharacter(static_cast<char32_t>(digit)); });
-    }
+    Go(row, column);
+    PuzzleSession::Type(digits);
   }
-
-  void Undo() {
-    Do("Undo", [this] { session_.History.Undo(session_.TheBoard); });
-  }
-
-  TickingClock clock_{7};
-  PlainBoxes boxes_{"11", "34"};
-  PlainOptions options_;
-  ScriptedDialogs dialogs_;
-  NotingStage stage_;
-  Session session_{clock_};
 };
 
 /// From the empty window to the last number, with one wrong number undone, without a window.
