@@ -28,6 +28,11 @@ need_packages() {
     { tail -n 15 build/install.log >&2; echo "Installing failed: see build/install.log" >&2; return 1; }
 }
 
+# want_packages NAME...: installs what some tests need; they are skipped without it.
+want_packages() {
+  need_packages "$@" 2>/dev/null || echo "Not installed, so some tests are skipped: $*"
+}
+
 # build PRESET [TARGET...]: configures if needed and builds; details go to build/PRESET.log.
 build() {
   local preset=$1 log=build/$1.log

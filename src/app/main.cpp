@@ -1,10 +1,13 @@
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
+#include "app/program_arguments.h"
 #include "app/window/board/grid_accessible.h"
 #include "app/window/main_window.h"
 #include "toolkit/program_icon.h"
@@ -47,18 +50,57 @@ numorra::KeptFolders FoldersAtHome() {
   return {in(QStandardPaths::GenericConfigLocation), in(QStandardPaths::GenericDataLocation)};
 }
 
+/// The words after the program's name.
+std::vector<std::string> WordsOf(int argc, char** argv) {
+  return {argv + std::min(argc, 1), argv + argc};
+}
+
+using Wanted = numorra::ProgramRequest::Kind;
+
+/// Answers what needs no display. Only the toolkit knows its own options, so nothing is wrong yet.
+std::optional<int> AnswerWithoutWindow(const numorra::ProgramRequest& request) {
+  if (request.Wanted == Wanted::Help) return std::fputs(numorra::ProgramUsage(), stdout) < 0;
+  if (request.Wanted == Wanted::Version) return std::puts("numorra " NUMORRA_VERSION) < 0;
+  return std::nullopt;
+}
+
+void Begin(numorra::MainWindow& window, const numorra::ProgramRequest& request) {
+  switch (request.Wanted) {
+    case Wanted::Open:
+      window.OpenFileOrCode(QString::fromLocal8Bit(request.What.c_str()));
+      break;
+    case Wanted::NewBoard:
+      window.BeginBoard();
+      break;
+    case Wanted::NewPuzzle:
+      window.BeginPuzzle();
+      break;
+    default:
+      break;
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
   KeepNoSettings();
+  const auto answered = AnswerWithoutWindow(numorra::ParseProgramArguments(WordsOf(argc, argv)));
+  if (answered) return *answered;
   const QApplication application(argc, argv);
-  QGuiApplication::setDesktopFileName("org.numorra.Numorra");
+  const numorra::ProgramRequest request = numorra::ParseProgramArguments(WordsOf(argc, argv));
+  if (request.Wanted == Wanted::Wrong) {
+    constexpr int kBadArguments = 2;
+    std::fprintf(stderr, "numorra: %s\n", request.What.c_str());
+    return kBadArguments;
+  }
+  QGuiApplication::setDesktopFileName("org.numorra.numorra");
   QApplication::setWindowIcon(numorra::ProgramIcon());
   numorra::InstallGridAccessibility();
   numorra::SystemClock clock;
   numorra::Session session(clock);
   numorra::MainWindow window(session, {.Kept = FoldersAtHome()});
   window.show();
+  QTimer::singleShot(0, &window, [&] { Begin(window, request); });
   return QApplication::exec();
 }

@@ -5,6 +5,7 @@
 #include <set>
 #include <sstream>
 
+#include "cli/commands.h"
 #include "support/boards.h"
 #include "support/slow_classifier.h"
 
@@ -161,6 +162,19 @@ TEST(SquareProgram, AnswersBadArgumentsWithOneLine) {
     EXPECT_EQ(run.Status, 2) << line;
     EXPECT_EQ(run.Out, "") << line;
     EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 1) << line;
+  }
+}
+
+TEST(SquareProgram, OffersEveryOptionToTheShells) {
+  for (const char* shell : {"bash", "zsh", "fish"}) {
+    const std::string completions = RunWith(std::string("--completions ") + shell).Out;
+    for (const OptionEntry& option : Options()) {
+      const std::string name(option.Name + (shell == std::string("fish") ? 2 : 0));
+      EXPECT_NE(completions.find(name), std::string::npos) << shell << ": " << option.Name;
+      for (const std::string& choice : option.Choices)
+        EXPECT_NE(completions.find(choice), std::string::npos) << shell << ": " << choice;
+      EXPECT_NE(Usage().find(option.Name), std::string::npos);
+    }
   }
 }
 

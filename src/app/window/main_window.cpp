@@ -68,6 +68,17 @@ MainWindow::~MainWindow() {
     panel->disconnect();
 }
 
+void MainWindow::BeginBoard() {
+  controls_->Solve->SolveAuto->click();
+}
+
+/// A square of order 4 whose numbers the player hides, as the menus have it.
+void MainWindow::BeginPuzzle() {
+  controls_->Square->SetSize("4");
+  BeginBoard();
+  findChild<QAction*>("HideNumbersx")->trigger();
+}
+
 void MainWindow::Arrange() {
   auto* centre = new QWidget;
   setCentralWidget(centre);

@@ -1,11 +1,13 @@
 #include "app/window/menus/file_menu.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include "app/play/lay_out.h"
 #include "app/window/menus/square_files.h"
 #include "print/print_form.h"
 #include "print/sheet.h"
+#include "puzzle/code.h"
 #include "toolkit/menus.h"
 
 namespace numorra {
@@ -46,15 +48,22 @@ void FileMenu::ChooseAndOpen() {
 }
 
 void FileMenu::Open(const QString& name) {
-  desk_.Runner.Run("Open", [this, name] {
-    const auto read = OpenSquare(name);
-    if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
-      desk_.TheDialogs.Tell(unreadable->Why);
-      return;
-    }
-    desk_.TheSession.LayOut(std::get<StoredSquare>(read));
-    desk_.ShowLaidOut();
-  });
+  desk_.Runner.Run("Open", [this, name] { Show(OpenSquare(name)); });
+}
+
+void FileMenu::OpenFileOrCode(const QString& name) {
+  const std::string code = name.toStdString();
+  if (QFileInfo::exists(name) || !LooksLikeCode(code)) return Open(name);
+  desk_.Runner.Run("Open", [this, code] { Show(ReadSquareOrCode(code)); });
+}
+
+void FileMenu::Show(const std::variant<StoredSquare, Unreadable>& read) {
+  if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
+    desk_.TheDialogs.Tell(unreadable->Why);
+    return;
+  }
+  desk_.TheSession.LayOut(std::get<StoredSquare>(read));
+  desk_.ShowLaidOut();
 }
 
 void FileMenu::Save() {
