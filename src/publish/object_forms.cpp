@@ -9,9 +9,10 @@ namespace {
 
 constexpr char kLeftOut = '\n';
 constexpr int kDeepest = 2;
+constexpr std::string_view kDigits = "0123456789";
 
 bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
+  return kDigits.find(c) != std::string_view::npos;
 }
 
 /// The length of the escape at the start of a text: \n, \u0041.
@@ -20,25 +21,45 @@ std::size_t EscapeLength(std::string_view text) {
   return text.size() > 1 && text[1] == 'u' ? kUnicode : 2;
 }
 
+/// The length of what joins two numbers at the start of a text; of the whole text if nothing does.
+std::size_t JointLength(std::string_view text) {
+  for (const std::string_view joint : {", ", " or "}) {
+    if (text.starts_with(joint)) return joint.size();
+  }
+  return text.size();
+}
+
+/// The length of the number or the list of numbers that a text begins with; 0 without one.
+std::size_t NumbersLength(std::string_view text) {
+  std::size_t end = 0;
+  for (std::size_t next = 0; next < text.size() && IsDigit(text[next]);) {
+    end = std::min(text.find_first_not_of(kDigits, next), text.size());
+    next = end + JointLength(text.substr(end));
+  }
+  return end;
+}
+
+/// Whether a number comes back from a double as it was written.
+bool IsPlain(std::string_view numbers) {
+  constexpr std::size_t kMostDigits = 15;
+  return numbers.size() == 1 || (numbers.front() != '0' && numbers.size() <= kMostDigits &&
+                                 std::all_of(numbers.begin(), numbers.end(), IsDigit));
+}
+
 /// Divides a token into the form and the values.
 void Divide(std::string_view token, std::string& form, std::string& values) {
-  constexpr std::ptrdiff_t kMostDigits = 15;
   while (!token.empty()) {
-    std::size_t length = token.front() == '\\' ? EscapeLength(token) : 1;
-    if (!IsDigit(token.front())) {
-      form += token.substr(0, length);
+    std::size_t length = NumbersLength(token);
+    if (length > 0) {
+      const std::string_view numbers = token.substr(0, length);
+      const char* quote = IsPlain(numbers) ? "" : "\"";
+      form += kLeftOut;
+      values.append(",").append(quote).append(numbers).append(quote);
     } else {
-      const auto digits = std::find_if_not(token.begin(), token.end(), IsDigit) - token.begin();
-      length = static_cast<std::size_t>(digits);
-      const std::string_view number = token.substr(0, length);
-      if (digits > kMostDigits || (digits > 1 && number.front() == '0')) {
-        form += number;
-      } else {
-        form += kLeftOut;
-        values.append(",").append(number);
-      }
+      length = token.front() == '\\' ? std::min(EscapeLength(token), token.size()) : 1;
+      form += token.substr(0, length);
     }
-    token.remove_prefix(std::min(length, token.size()));
+    token.remove_prefix(length);
   }
 }
 

@@ -82,14 +82,14 @@ PagePuzzle ReadPagePuzzle(const std::string& json, ObjectForms& forms) {
   return puzzle;
 }
 
-/// "Total 34, each missing number once. hard, 5 clues, code NP2..."
+/// "Total 34, each missing number once; hard, 5 clues, code NP2..."
 std::string Caption(const PagePuzzle& puzzle) {
   const Puzzle& clues = puzzle.Clues;
   const int count = clues.Cells.Size() - clues.Gaps();
   std::string text = "Total " + std::to_string(clues.Target);
   text +=
       clues.Asked == Rules::Normal ? ", each missing number once" : ", whole numbers of 1 or more";
-  text += ". " + (puzzle.Grade.empty() ? "" : puzzle.Grade + ", ") + std::to_string(count) +
+  text += "; " + (puzzle.Grade.empty() ? "" : puzzle.Grade + ", ") + std::to_string(count) +
           (count == 1 ? " clue" : " clues");
   return puzzle.Code.empty() ? text : text + ", code " + puzzle.Code;
 }

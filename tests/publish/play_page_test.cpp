@@ -44,10 +44,10 @@ TEST(PlayPageTest, HasASheetForEachPuzzle) {
   const std::string page =
       PlayPage("", {PuzzleWith(R"("grade": "easy", "code": "NP12")"), positive});
   EXPECT_EQ(CountOf(page,
-                    "<b>1.</b> <span>Total 15, each missing number once. easy, 8 clues, "
+                    "<b>1.</b> <span>Total 15, each missing number once; easy, 8 clues, "
                     "code NP12</span></caption>\n<tr><td><td>1<td>6<tr><td>3<td>5<td>7"),
             1);
-  EXPECT_EQ(CountOf(page, "<b>2.</b> <span>Total 6, whole numbers of 1 or more. 8 clues</span>"),
+  EXPECT_EQ(CountOf(page, "<b>2.</b> <span>Total 6, whole numbers of 1 or more; 8 clues</span>"),
             1);
   EXPECT_EQ(CountOf(page, "<table><caption>"), 2);
 }
@@ -70,13 +70,15 @@ TEST(PlayPageTest, EscapesWhatItEmbeds) {
 TEST(PlayPageTest, StepsOfOneFormShareIt) {
   const std::string steps = R"("solution": [[8, 1, 6], [3, 5, 7], [4, 9, 2]], "steps": [
       {"cell": [1, 2], "because": [{"says": "row 2 \u0031\" {"}, {"says": "row 13 \u0031\" {"}]},
-      {"cell": [3, 1], "because": [{"says": "row 4 \u0031\" {"}, {"says": "007"}]} ])";
-  EXPECT_EQ(DataOf(PlayPage("", {PuzzleWith(steps)})),
-            R"({"forms":["{\"says\":\"row \n \\u0031\\\" {\"}", )"
-            R"("{\"cell\":[\n,\n],\"because\":[\n,\n]}", "{\"says\":\"007\"}"],)"
-            "\n"
-            R"("puzzles":[{"total":15,"normal":true,"solution":[8,1,6,3,5,7,4,9,2],)"
-            R"("steps":[[1,1,2,[0,2],[0,13]],[1,3,1,[0,4],[2]]]}]})");
+      {"cell": [3, 1], "because": [{"says": "row 4, 5 or 007 \u0031\" {"}, {"says": "007, row"}]}
+      ])";
+  const std::string page = PlayPage("", {PuzzleWith(steps)});
+  EXPECT_EQ(DataOf(page), R"({"forms":["{\"says\":\"row \n \\u0031\\\" {\"}", )"
+                          R"("{\"cell\":[\n,\n],\"because\":[\n,\n]}", "{\"says\":\"\n, row\"}"],)"
+                          "\n"
+                          R"("puzzles":[{"total":15,"normal":true,)"
+                          R"("solution":[8,1,6,3,5,7,4,9,2],"steps":[[1,1,2,[0,2],[0,13]],)"
+                          R"([1,3,1,[0,"4, 5 or 007"],[2,"007"]]]}]})");
 }
 
 TEST(PlayPageTest, RefusesWhatIsNoPuzzle) {

@@ -21,6 +21,7 @@ let marked = [];         // cells marked as wrong
 const puzzle = () => puzzles[at];
 const board = () => boards[at];
 const placeOf = (cell) => [Math.floor(cell / puzzle().order) + 1, (cell % puzzle().order) + 1];
+const cellAt = (cell) => grid.querySelector(`[data-cell="${cell}"]`);
 const say = (text) => { byId('message').textContent = text; };
 
 function make(tag, attributes, parent) {
@@ -38,8 +39,11 @@ function stored(use) {
   }
 }
 
+// Keeps the boards if the reader wishes; false if that fails.
 function keep() {
-  return !byId('keep').checked || stored((storage) => storage.setItem(key, JSON.stringify({at, boards})));
+  const kept = !byId('keep').checked || stored((storage) => storage.setItem(key, JSON.stringify({at, boards})));
+  if (!kept) say(TEXT.cannotKeep);
+  return kept;
 }
 
 // Builds the table of the current puzzle. The total of a line stands where the line ends: the diagonals' in the corners.
@@ -105,6 +109,7 @@ function show() {
   [...byId('choice').options].forEach((option, i) => {
     option.textContent = TEXT.choice(i + 1, isSolved(puzzles[i], boards[i].numbers));
   });
+  if (grid.contains(document.activeElement)) cellAt(current).focus();
 }
 
 // Ends what was said about the board as it was.
@@ -114,7 +119,7 @@ function forget() {
   say('');
 }
 
-// A number changed: says so, shows it, and tells what the lines of its cell add up to.
+// A number changed: shows it, and tells what the lines of its cell add up to.
 function changed(text = '') {
   const {numbers} = board();
   const totals = totalsOf(puzzle(), numbers);
@@ -127,7 +132,7 @@ function changed(text = '') {
     say(totals.every(({verdict}) => verdict === 'right') ? TEXT.twice : text);
   }
   show();
-  if (!keep()) say(TEXT.cannotKeep);
+  keep();
 }
 
 function write(number) {
@@ -136,23 +141,24 @@ function write(number) {
   changed();
 }
 
+// Notes change no number, so a hint stays.
 function note(...numbers) {
-  forget();
   board().notes[current] = numbers.reduce(toggled, board().notes[current]);
-  changed();
+  show();
+  keep();
 }
 
-// A number for the current cell: written, or, while notes are taken, noted instead of what it was before its last digit.
-function enter(number, before) {
+// A number for the current cell: written, or, while notes are taken, noted in place of what it began with.
+function enter(number, beginning) {
   if (puzzle().clues[current] !== 0) return say(TEXT.isGiven);
   if (takingNotes && board().numbers[current] !== 0) return say(TEXT.gapsOnly);
   typing = number;
-  return takingNotes ? note(before, number) : write(number);
+  return takingNotes ? note(beginning, number) : write(number);
 }
 
 function press(digit) {
   const number = typed(typing, digit, puzzle().most);
-  if (number > 0) enter(number, number > typing && typing > 0 && number !== digit ? typing : 0);
+  if (number > 0) enter(number, number === digit ? 0 : typing);
 }
 
 function erase(all) {
@@ -170,7 +176,7 @@ function erase(all) {
 function moveTo(cell) {
   [current, typing] = [cell, 0];
   show();
-  grid.querySelector(`[data-cell="${cell}"]`).focus();
+  cellAt(cell).focus();
 }
 
 function moveBy(rows, columns) {
@@ -268,7 +274,7 @@ function start() {
     if (!target.closest('button')) return;
     enter(Number(target.textContent), 0);
     typing = 0;
-    grid.querySelector('.at').focus();
+    cellAt(current).focus();
   });
   listen('notes', 'click', toggleNotes);
   listen('hint', 'click', giveHint);
@@ -280,10 +286,7 @@ function start() {
   });
   listen('keep', 'change', ({target}) => {
     if (!target.checked) stored((storage) => storage.removeItem(key));
-    else if (!keep()) {
-      target.checked = false;
-      say(TEXT.cannotKeep);
-    }
+    else target.checked = keep();
   });
   document.documentElement.classList.add('live');
   byId('play').hidden = false;

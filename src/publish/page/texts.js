@@ -5,7 +5,6 @@ const cellName = (row, column) => `row ${row}, column ${column}`;
 
 const TEXT = {
   choice: (number, solved) => `${number}${solved ? ' (solved)' : ''}`,
-  noPuzzles: 'This page has no puzzles.',
   cell: (row, column, content, marks) => [`${cellName(row, column)}: ${content}`, ...marks].join(', '),
   empty: 'empty',
   notes: (numbers) => `notes ${numbers}`,
@@ -24,7 +23,7 @@ const TEXT = {
   sign: {open: '', right: ' ✓', wrong: ' ✗'},
   right: (gaps) => `No number is wrong, and ${counted(gaps, 'cell is', 'cells are')} empty.`,
   wrong: (count) => `${counted(count, 'number is', 'numbers are')} wrong.`,
-  wrongFirst: (count) => `${counted(count, 'number is', 'numbers are')} wrong: change that before a hint.`,
+  wrongFirst: (count) => `${TEXT.wrong(count)} Correct ${count === 1 ? 'it' : 'them'} first.`,
   marked: (names) => `Wrong: ${names.join('; ')}.`,
   noHint: 'There is no hint for this board.',
   look: (line, row, column) => `Look at ${line || cellName(row, column)}.`,
