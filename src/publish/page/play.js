@@ -11,12 +11,8 @@ const puzzles = sheets.map((sheet, i) => {
 });
 const key = `numorra-play:${fingerprintOf(puzzles)}`;
 let {at, boards} = restored(puzzles, null);
-let current = 0;         // the cell
-let typing = 0;          // the number being typed in it
-let takingNotes = false;
-let hint = null;         // the stages of a hint
-let stage = 0;           // of them, those shown
-let marked = [];         // cells marked as wrong
+// The current cell, the number being typed in it, the stages of a hint and how many are shown, the cells marked as wrong.
+let [current, typing, takingNotes, hint, stage, marked] = [0, 0, false, null, 0, []];
 
 const puzzle = () => puzzles[at];
 const board = () => boards[at];
@@ -227,7 +223,8 @@ function giveHint() {
     return changed(TEXT.placed(number, ...placeOf(cell)));
   }
   say(says ? TEXT.because(says, stage - 1, hint.length - 2) : TEXT.look(look, ...placeOf(cell)));
-  return show();
+  show();
+  return cellAt(cell).scrollIntoView({block: 'nearest', inline: 'nearest'});
 }
 
 function choose(number) {
