@@ -1,9 +1,11 @@
 #include "publish/json_tokens.h"
 
+#include <algorithm>
+
 namespace numorra {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view kBlanks = " \t\r\n\xEF\xBB\xBF";  // with the byte-order mark's bytes
 
 /// The length of the token at the start of a text.
 std::size_t TokenLength(std::string_view text) {
@@ -44,7 +46,7 @@ JsonSpan MemberOf(JsonSpan object, std::string_view name) {
     const std::string_view quoted = object.front();
     const JsonSpan value = FirstValue(object.subspan(kNameAndColon));
     if (quoted.substr(1, quoted.size() - 2) == name) return value;
-    object = object.subspan(kNameAndColon + value.size() + 1);
+    object = object.subspan(std::min(kNameAndColon + value.size() + 1, object.size()));
   }
   return {};
 }

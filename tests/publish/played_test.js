@@ -42,7 +42,7 @@ test('is solved by keys alone', async () => {
   await browser.key('Tab');
   assert.strictEqual(await browser.value('document.activeElement.id'), 'choice');
   await browser.key('Tab');
-  for (const {number, cell} of gapsOf(puzzles[0])) {
+  for (const {number, cell} of gapsOf(puzzles[0]).sort((a, b) => a.number - b.number)) {
     await moveTo(Math.floor(cell / 4) + 1, cell % 4 + 1);
     for (const digit of String(number)) await browser.key(digit);
   }
@@ -97,11 +97,21 @@ test('is solved by touch alone on a narrow screen, and kept only as long as the 
 
 test('takes notes, and says which numbers are wrong', async () => {
   const [{number, cell}] = gapsOf(puzzles[0]);
+  const is = async (content) => assert.strictEqual(
+    (await browser.value(`${cellAt(cell)}.getAttribute('aria-label')`)).split(': ')[1], content);
+  const type = async (...keys) => { for (const key of keys) await browser.key(key); };
   await browser.value(`${cellAt(cell)}.click()`);
-  for (const key of ['n', '1', '2', 'Enter', '3', 'Enter', '1', 'Enter', '1']) await browser.key(key);
-  assert.match(await browser.value(`${cellAt(cell)}.getAttribute('aria-label')`), /: notes 3 12$/);
-  await browser.key('n');
-  await browser.key(String(number === 8 ? 9 : 8));
+  await type('n', '1', '2', 'Enter', '3', 'Enter', '1', 'Enter', '1');
+  await is('notes 3 12');
+  await type('Enter', 'Backspace');
+  await is('empty');
+  const wrong = String(number === 8 ? 9 : 8);
+  await type('7', 'n', wrong);
+  await is(wrong);
+  assert.strictEqual(await browser.text(`[data-cell="${cell}"]`), wrong);
+  await type('Delete');
+  await is('notes 7');
+  await type(wrong);
   await browser.value('document.getElementById("check").click()');
   assert.strictEqual(await browser.text('#message'), '1 number is wrong.');
   assert.strictEqual(await browser.value('document.querySelectorAll("#grid .marked").length'), 0);
