@@ -51,4 +51,14 @@ JsonSpan MemberOf(JsonSpan object, std::string_view name) {
   return {};
 }
 
+std::vector<JsonSpan> ElementsOf(JsonSpan array) {
+  std::vector<JsonSpan> elements;
+  for (array = array.subspan(1); array.size() > 1;) {
+    elements.push_back(FirstValue(array));
+    array = array.subspan(elements.back().size());
+    if (array.front() == ",") array = array.subspan(1);
+  }
+  return elements;
+}
+
 }  // namespace numorra

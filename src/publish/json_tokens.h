@@ -20,4 +20,7 @@ JsonSpan FirstValue(JsonSpan tokens);
 /// its brace; `name` has no characters that JSON escapes.
 JsonSpan MemberOf(JsonSpan object, std::string_view name);
 
+/// The values in an array, which begins with its bracket.
+std::vector<JsonSpan> ElementsOf(JsonSpan array);
+
 }  // namespace numorra

@@ -65,18 +65,34 @@ void Divide(std::string_view token, std::string& form, std::string& values) {
 
 }  // namespace
 
-std::string ObjectForms::Packed(JsonSpan object, int level) {
-  std::string form = "{";
+bool AreObjects(JsonSpan value) {
+  if (value.front() != "[") return false;
+  const std::vector<JsonSpan> elements = ElementsOf(value);
+  return std::all_of(elements.begin(), elements.end(),
+                     [](JsonSpan element) { return element.front() == "{"; });
+}
+
+std::string ObjectForms::Packed(JsonSpan objects, int level) {
+  std::string packed;
+  for (const JsonSpan object : ElementsOf(objects))
+    packed.append(packed.empty() ? "" : ",").append(PackedObject(object, level));
+  return "[" + packed + "]";
+}
+
+std::string ObjectForms::PackedObject(JsonSpan object, int level) {
+  std::string form;
   std::string values;
-  for (std::size_t at = 1; at < object.size();) {
-    if (object[at] == "{" && level < kDeepest) {
-      const JsonSpan inner = FirstValue(object.subspan(at));
+  while (!object.empty()) {
+    JsonSpan next = object.first(1);
+    if (next.front() == "[" && level < kDeepest) next = FirstValue(object);
+    if (next.size() > 1 && AreObjects(next)) {
       form += kLeftOut;
-      values.append(",").append(Packed(inner, level + 1));
-      at += inner.size();
+      values.append(",").append(Packed(next, level + 1));
     } else {
-      Divide(object[at++], form, values);
+      for (const std::string_view token : next)
+        Divide(token, form, values);
     }
+    object = object.subspan(next.size());
   }
   return "[" + std::to_string(NumberOf(form)) + values + "]";
 }

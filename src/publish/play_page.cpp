@@ -19,7 +19,7 @@ struct PagePuzzle {
   std::optional<Puzzle> Solution = {};
   std::string Grade = {};  ///< empty if it is not known
   std::string Code = {};   ///< empty if there is none
-  std::string Steps = {};  ///< a JSON array of packed objects
+  std::string Steps = {};  ///< as ObjectForms writes them
 };
 
 /// Text as HTML, also within quotes.
@@ -59,16 +59,8 @@ std::optional<Puzzle> ReadSolution(JsonSpan rows, const Puzzle& clues) {
 
 std::string PackedSteps(JsonSpan steps, ObjectForms& forms) {
   if (steps.empty() || steps.front() == "null") return "[]";
-  if (steps.front() != "[") throw Unreadable{"\"steps\" must be an array of objects"};
-  std::string packed;
-  for (steps = steps.subspan(1); steps.front() != "]";) {
-    if (steps.front() == ",") steps = steps.subspan(1);
-    if (steps.front() != "{") throw Unreadable{"\"steps\" must be an array of objects"};
-    const JsonSpan step = FirstValue(steps);
-    packed.append(packed.empty() ? "" : ",").append(forms.Packed(step));
-    steps = steps.subspan(step.size());
-  }
-  return "[" + packed + "]";
+  if (!AreObjects(steps)) throw Unreadable{"\"steps\" must be an array of objects"};
+  return forms.Packed(steps);
 }
 
 PagePuzzle ReadPagePuzzle(const std::string& json, ObjectForms& forms) {
@@ -131,7 +123,7 @@ std::string Filled(std::string_view text, const std::map<std::string_view, std::
   constexpr std::string_view kBegin = "<!--";
   constexpr std::string_view kEnd = "-->";
   std::string filled;
-  for (std::size_t begin; (begin = text.find(kBegin)) != std::string_view::npos;) {
+  for (std::size_t begin = 0; (begin = text.find(kBegin)) != std::string_view::npos;) {
     filled += text.substr(0, begin);
     text.remove_prefix(begin + kBegin.size());
     const std::size_t end = text.find(kEnd);

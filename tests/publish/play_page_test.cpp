@@ -74,11 +74,11 @@ TEST(PlayPageTest, StepsOfOneFormShareIt) {
       ])";
   const std::string page = PlayPage("", {PuzzleWith(steps)});
   EXPECT_EQ(DataOf(page), R"({"forms":["{\"says\":\"row \n \\u0031\\\" {\"}", )"
-                          R"("{\"cell\":[\n,\n],\"because\":[\n,\n]}", "{\"says\":\"\n, row\"}"],)"
+                          R"("{\"cell\":[\n,\n],\"because\":\n}", "{\"says\":\"\n, row\"}"],)"
                           "\n"
                           R"("puzzles":[{"total":15,"normal":true,)"
-                          R"("solution":[8,1,6,3,5,7,4,9,2],"steps":[[1,1,2,[0,2],[0,13]],)"
-                          R"([1,3,1,[0,"4, 5 or 007"],[2,"007"]]]}]})");
+                          R"("solution":[8,1,6,3,5,7,4,9,2],"steps":[[1,1,2,[[0,2],[0,13]]],)"
+                          R"([1,3,1,[[0,"4, 5 or 007"],[2,"007"]]]]}]})");
 }
 
 TEST(PlayPageTest, RefusesWhatIsNoPuzzle) {

@@ -13,18 +13,19 @@ function linesOf(order) {
   ];
 }
 
-// A packed object as JSON: its form with the values put back in.
-function unpacked(forms, [form, ...values]) {
-  return forms[form].replace(/\n/g, () => {
+// Packed objects as JSON: the form of each with its values put back in.
+function unpacked(forms, objects) {
+  const text = ([form, ...values]) => forms[form].replace(/\n/g, () => {
     const value = values.shift();
     return Array.isArray(value) ? unpacked(forms, value) : value;
   });
+  return `[${objects.map(text)}]`;
 }
 
 // `clues`: the numbers of the sheet; `data`: the rest, as embedded.
 function puzzleOf(clues, data, forms) {
   const order = Math.sqrt(clues.length);
-  const steps = data.steps.map((step) => JSON.parse(unpacked(forms, step)));
+  const steps = JSON.parse(unpacked(forms, data.steps));
   const most = data.normal ? clues.length : data.total;
   return {...data, clues, order, steps, most, lines: linesOf(order)};
 }
