@@ -61,9 +61,9 @@ class Browser {
     await loaded;
   }
 
-  // The value of an expression in the page.
+  // The value of an expression in the page, or what it promises.
   async value(expression) {
-    const {result, exceptionDetails} = await this.send('Runtime.evaluate', {expression, returnByValue: true});
+    const {result, exceptionDetails} = await this.send('Runtime.evaluate', {expression, returnByValue: true, awaitPromise: true});
     if (exceptionDetails) throw new Error(`${expression}: ${exceptionDetails.exception.description}`);
     return result.value;
   }
@@ -80,22 +80,26 @@ class Browser {
     await this.send('Input.dispatchKeyEvent', {type: 'keyUp', key});
   }
 
-  // Taps the middle of an element, found by an expression, and waits for the click.
+  // Taps the middle of an element, found by an expression, once it has been painted where it is; waits for the click.
   async tap(element) {
-    const {x, y} = await this.value(`{
+    const {x, y} = await this.value(`new Promise((done) => {
       const tapped = ${element};
       tapped.scrollIntoView({block: 'center'});
-      document.addEventListener('click', () => { window.clicked = true; }, {once: true, capture: true});
-      window.clicked = false;
-      const {x, y, width, height} = tapped.getBoundingClientRect();
-      ({x: x + width / 2, y: y + height / 2});
-    }`);
+      window.clicked = null;
+      document.addEventListener('click', ({target}) => {
+        window.clicked = tapped.contains(target);
+      }, {once: true, capture: true});
+      requestAnimationFrame(() => requestAnimationFrame(() => {
+        const {x, y, width, height} = tapped.getBoundingClientRect();
+        done({x: x + width / 2, y: y + height / 2});
+      }));
+    })`);
     await this.send('Input.dispatchTouchEvent', {type: 'touchStart', touchPoints: [{x, y}]});
     await this.send('Input.dispatchTouchEvent', {type: 'touchEnd', touchPoints: []});
     const until = Date.now() + 10000;
-    while (!await this.value('window.clicked')) {
-      if (Date.now() > until) throw new Error(`a tap on ${element} is no click`);
-    }
+    let clicked = null;
+    while ((clicked = await this.value('window.clicked')) === null && Date.now() < until);
+    if (!clicked) throw new Error(`a tap on ${element} is no click on it`);
   }
 
   // The accessible nodes of a role, below a node or anywhere.
