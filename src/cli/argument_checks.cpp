@@ -21,8 +21,11 @@ std::string WhyTooLarge(const SquareRequest& request) {
 }
 
 std::string WhyNoPuzzle(const SquareRequest& request, const OptionsGiven& given) {
+  if (request.Steps && request.Format != SquareFormat::Json) {
+    return "steps are written in the format json only";
+  }
   if (request.Codes) {
-    return given.Wishes ? "a list of codes can be combined with a format only" : "";
+    return given.Wishes ? "a list of codes can be combined with a format and steps only" : "";
   }
   if (request.Size == 0) return "the size is missing";
   if (IsBroken(request.Sum)) return "the sum of a puzzle must be a whole number";
@@ -41,20 +44,23 @@ std::string WhyNoAnswer(const SquareRequest& request) {
 }
 
 std::string WhyNoFreshSquare(const SquareRequest& request) {
-  if (request.Top) return "a fresh square cannot be combined with a top row";
+  if (request.Top || request.TopRows) return "a fresh square cannot be combined with a top row";
   if (request.Corner) return "a fresh square cannot be combined with a corner";
   return IsBroken(request.Sum) ? "the sum of a fresh square must be a whole number" : "";
 }
 
 /// A relative of a square has its lines in another order.
 std::string WhyNotVaried(const SquareRequest& request) {
-  if (request.Top) return "a varied square does not keep its top row";
+  if (request.Top || request.TopRows) return "a varied square does not keep its top row";
   return request.Corner ? "a varied square does not keep its corner" : "";
 }
 
 std::string WhyNoSquare(const SquareRequest& request) {
+  if (request.Format == SquareFormat::Svg && request.Count > 1) {
+    return "a picture has room for one square, not several";
+  }
   const bool variable = request.Sum || request.LimitToNine || request.Corner;
-  if (request.Top) {
+  if (request.Top || request.TopRows) {
     if (request.Size != 0 || variable || request.Kind) {
       return "a top row cannot be combined with a size, sum, limit, corner or kind";
     }

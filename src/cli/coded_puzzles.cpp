@@ -1,12 +1,11 @@
 #include "cli/coded_puzzles.h"
 
 #include <ostream>
-#include <utility>
 
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
 #include "cli/input_file.h"
-#include "cli/write_puzzle.h"
+#include "cli/puzzle_writer.h"
 #include "files/square_text.h"
 #include "puzzle/code_list.h"
 #include "puzzle/only_solution.h"
@@ -34,7 +33,7 @@ bool WriteCodedPuzzles(const SquareRequest& request, const Streams& streams) {
   TickingClock clock(0);
   ClockSeededRandom random(clock);
   SilentStage stage;
-  bool any = false;
+  PuzzleWriter writer(request, streams);
   bool allRead = true;
   const auto tell = [&](const std::string& what) { streams.Err << kProgramName << what << "\n"; };
   const auto write = [&](const ListedPuzzle& listed) {
@@ -42,9 +41,7 @@ bool WriteCodedPuzzles(const SquareRequest& request, const Streams& streams) {
     if (const auto* cannot = std::get_if<CannotMake>(&solved)) {
       tell("line " + std::to_string(listed.Line) + ": " + cannot->Why);
     }
-    if (std::exchange(any, true) && request.Format != SquareFormat::Json) streams.Out << "\n";
-    WritePuzzle(listed.Clues, std::get_if<MadePuzzle>(&solved), request.Format, streams.Out);
-    streams.Out.flush();
+    writer.Write(listed.Clues, std::get_if<MadePuzzle>(&solved));
   };
   for (std::size_t number = 1; streams.Out; ++number) {
     const auto line = TakeLine(file.In(), number);
@@ -58,7 +55,7 @@ bool WriteCodedPuzzles(const SquareRequest& request, const Streams& streams) {
     }
   }
   if (streams.Out) file.CheckReadToEnd();
-  if (!any && allRead) throw Impossible{"there is no puzzle code to read"};
+  if (!writer.WroteAny() && allRead) throw Impossible{"there is no puzzle code to read"};
   return allRead;
 }
 

@@ -4,7 +4,7 @@
 
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
-#include "cli/write_puzzle.h"
+#include "cli/puzzle_writer.h"
 #include "puzzle/puzzle_set.h"
 
 namespace numorra {
@@ -16,16 +16,14 @@ bool MakePuzzles(const SquareRequest& request, const Streams& streams) {
   SquareWish square{request.Size, {}, request.LimitToNine};
   if (request.Sum) square.Total = static_cast<std::int64_t>(*request.Sum);
   PuzzleSet set({square, request.Grades, request.ClueCount, request.Symmetric}, random, stage);
-  bool any = false;
+  PuzzleWriter writer(request, streams);
   while (streams.Out) {
     const auto made = set.Next();
     if (!made) break;
-    if (any && request.Format != SquareFormat::Json) streams.Out << "\n";
-    WritePuzzle(made->Clues, &*made, request.Format, streams.Out);
-    any = true;
+    writer.Write(made->Clues, &*made);
   }
   const std::string shortfall = set.Shortfall();
-  if (!any && !shortfall.empty()) throw Impossible{shortfall};
+  if (!writer.WroteAny() && !shortfall.empty()) throw Impossible{shortfall};
   if (!shortfall.empty()) streams.Err << kProgramName << shortfall << "\n";
   return shortfall.empty();
 }

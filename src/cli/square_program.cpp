@@ -48,8 +48,7 @@ int Run(const SquareRequest& request, const Streams& streams) {
     case SquareCommand::Build:
       break;
   }
-  BuildSquares(request, streams);
-  return kDone;
+  return BuildSquares(request, streams) ? kDone : kFailed;
 }
 
 int Serve(const Arguments& arguments, const Streams& streams) {
@@ -58,6 +57,10 @@ int Serve(const Arguments& arguments, const Streams& streams) {
     return kBadArguments;
   }
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
+  if (const auto* completions = std::get_if<CompletionsRequest>(&arguments)) {
+    streams.Out << CompletionsFor(completions->Shell);
+    return kDone;
+  }
   const bool help = std::holds_alternative<HelpRequest>(arguments);
   streams.Out << (help ? Usage() : "numorra-square " NUMORRA_VERSION "\n");
   return kDone;

@@ -77,8 +77,9 @@ QString SquareKinds() {
 
 QString ReadableKinds() {
   QStringList names;
-  for (const Format& format : kFormats)
-    names.prepend(QString("*.%1").arg(format.Suffix));
+  for (const Format& format : kFormats) {
+    if (format.Read) names.prepend(QString("*.%1").arg(format.Suffix));
+  }
   return "Squares (" + names.join(' ') + ");;All files (*)";
 }
 
@@ -99,7 +100,7 @@ void SaveSquare(const QString& name, const StoredSquare& square) {
   const auto named = std::find_if(formats.begin(), formats.end(),
                                   [&](const Format& format) { return suffix == format.Suffix; });
   const Format& format = named == formats.end() ? formats.front() : *named;
-  WriteWholeFile(name, QByteArray::fromStdString(format.Write(square)));
+  WriteWholeFile(name, QByteArray::fromStdString(format.Write(square, {})));
 }
 
 void ExportBoard(const QString& name, GridView& view) {
