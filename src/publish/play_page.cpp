@@ -88,8 +88,8 @@ std::string Caption(const PagePuzzle& puzzle) {
 
 /// HTML needs no end tags for cells and rows.
 std::string Sheet(const PagePuzzle& puzzle, std::size_t number) {
-  std::string html = "<table><caption><b>" + std::to_string(number) + ".</b> <span>" +
-                     Html(Caption(puzzle)) + "</span></caption>\n";
+  std::string html = "<table><caption><b>" + std::to_string(number) + ".</b> " +
+                     Html(Caption(puzzle)) + "</caption>\n";
   const auto& cells = puzzle.Clues.Cells;
   for (int cell = 0; cell < cells.Size(); ++cell) {
     if (cell % cells.Order() == 0) html += "<tr>";

@@ -44,11 +44,10 @@ TEST(PlayPageTest, HasASheetForEachPuzzle) {
   const std::string page =
       PlayPage("", {PuzzleWith(R"("grade": "easy", "code": "NP12")"), positive});
   EXPECT_EQ(CountOf(page,
-                    "<b>1.</b> <span>Total 15, each missing number once; easy, 8 clues, "
-                    "code NP12</span></caption>\n<tr><td><td>1<td>6<tr><td>3<td>5<td>7"),
+                    "<b>1.</b> Total 15, each missing number once; easy, 8 clues, "
+                    "code NP12</caption>\n<tr><td><td>1<td>6<tr><td>3<td>5<td>7"),
             1);
-  EXPECT_EQ(CountOf(page, "<b>2.</b> <span>Total 6, whole numbers of 1 or more; 8 clues</span>"),
-            1);
+  EXPECT_EQ(CountOf(page, "<b>2.</b> Total 6, whole numbers of 1 or more; 8 clues</caption>"), 1);
   EXPECT_EQ(CountOf(page, "<table><caption>"), 2);
 }
 
@@ -62,7 +61,7 @@ TEST(PlayPageTest, EscapesWhatItEmbeds) {
   EXPECT_EQ(CountOf(page, "&lt;/title&gt;&lt;script&gt;&quot;&#39;&amp;&lt;!--data--&gt;"), 2);
   EXPECT_EQ(CountOf(page,
                     "code &lt;/script&gt;&lt;!--title--&gt;&lt;b a=&#39;1&#39; "
-                    "b=&quot;2&quot;&gt;&amp;amp;</span>"),
+                    "b=&quot;2&quot;&gt;&amp;amp;</caption>"),
             1);
   EXPECT_EQ(CountOf(DataOf(page), "<"), 0);
 }

@@ -8,8 +8,8 @@ function linesOf(order) {
   return [
     ...count.map((row) => line(`row ${row + 1}`, (i) => row * order + i)),
     ...count.map((column) => line(`column ${column + 1}`, (i) => i * order + column)),
-    line('main diagonal', (i) => i * (order + 1)),
-    line('other diagonal', (i) => (i + 1) * (order - 1)),
+    line('the main diagonal that falls', (i) => i * (order + 1)),
+    line('the main diagonal that rises', (i) => (i + 1) * (order - 1)),
   ];
 }
 
@@ -114,10 +114,4 @@ function restored(puzzles, text) {
     return board;
   });
   return {at, boards};
-}
-
-// For tests outside a page.
-if (typeof module !== 'undefined') {
-  module.exports = {linesOf, unpacked, puzzleOf, freshBoard, totalsOf, missingOn, isSolved, wrongOn, typed, toggled,
-    hintFor, fingerprintOf, restored};
 }

@@ -59,7 +59,7 @@ function build() {
   }
   const bottom = make('tr', {role: 'row'}, grid);
   for (let line = order; line <= 2 * order; ++line) total(bottom, 'columnheader', line);
-  byId('about').textContent = sheets[at].querySelector('caption span').textContent;
+  byId('about').textContent = sheets[at].caption.lastChild.textContent;
   byId('check').hidden = puzzle().solution.length === 0;
   byId('hint').hidden = puzzle().steps.length === 0;
   byId('missing').hidden = !puzzle().normal;
