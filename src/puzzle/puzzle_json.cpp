@@ -1,5 +1,6 @@
 #include "puzzle/puzzle_json.h"
 
+#include "files/square_json.h"
 #include "puzzle/code.h"
 #include "puzzle/deduction.h"
 #include "puzzle/step_words.h"
