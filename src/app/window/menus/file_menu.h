@@ -28,7 +28,6 @@ class FileMenu : public QObject {
  private:
   void ChooseAndOpen();
   void Save();
-  void Export();
   void OpenPrintForm();
   void OpenWorksheet();
   void ShowState();
