@@ -1,10 +1,10 @@
 #include "toolkit/picture_file.h"
 
 #include <QBuffer>
-#include <QPdfWriter>
 #include <QSvgGenerator>
 
 #include "app/board/runtime_error.h"
+#include "toolkit/pdf_file.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -12,14 +12,7 @@ namespace {
 
 constexpr int kVectorUnits = 4000;
 
-/// Paints on a device of another size than the units of `paint`.
-void PaintScaled(QPaintDevice& device, const std::function<void(QPainter&)>& paint) {
-  QPainter painter(&device);
-  painter.setWindow(0, 0, kVectorUnits, kVectorUnits);
-  paint(painter);
-}
-
-void WritePng(QBuffer& file, int pixels, const std::function<void(QPainter&)>& paint) {
+QByteArray PngOf(int pixels, const std::function<void(QPainter&)>& paint) {
   QImage picture(pixels, pixels, QImage::Format_RGB32);
   if (picture.isNull()) {
     const std::string side = std::to_string(pixels);
@@ -30,12 +23,17 @@ void WritePng(QBuffer& file, int pixels, const std::function<void(QPainter&)>& p
   QPainter painter(&picture);
   paint(painter);
   painter.end();
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
   picture.save(&file, "PNG");
+  return file.data();
 }
 
-void WriteSvg(QBuffer& file, int millimetres, const std::function<void(QPainter&)>& paint) {
+QByteArray SvgOf(int millimetres, const std::function<void(QPainter&)>& paint) {
   constexpr int kPerMillimetre = 10;
   constexpr int kPerInch = 254;
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
   QSvgGenerator generator;
   generator.setOutputDevice(&file);
   generator.setTitle("Magic square");
@@ -46,14 +44,19 @@ void WriteSvg(QBuffer& file, int millimetres, const std::function<void(QPainter&
   QPainter painter(&generator);
   painter.fillRect(QRect(0, 0, kVectorUnits, kVectorUnits), Qt::white);
   paint(painter);
+  painter.end();
+  return file.data();
 }
 
-void WritePdf(QBuffer& file, int millimetres, const std::function<void(QPainter&)>& paint) {
-  QPdfWriter writer(&file);
-  writer.setPageMargins({});
-  writer.setPageSize(QPageSize(QSizeF(millimetres, millimetres), QPageSize::Millimeter, QString(),
-                               QPageSize::ExactMatch));
-  PaintScaled(writer, paint);
+QByteArray PagePdfOf(int millimetres, const std::function<void(QPainter&)>& paint) {
+  return PdfOf([&](QPdfWriter& writer) {
+    writer.setPageMargins({});
+    writer.setPageSize(QPageSize(QSizeF(millimetres, millimetres), QPageSize::Millimeter, QString(),
+                                 QPageSize::ExactMatch));
+    QPainter painter(&writer);
+    painter.setWindow(0, 0, kVectorUnits, kVectorUnits);
+    paint(painter);
+  });
 }
 
 }  // namespace
@@ -68,20 +71,9 @@ void WritePicture(const QString& name, PictureKind kind, int size,
   if (!name.endsWith(suffix, Qt::CaseInsensitive)) {
     throw RuntimeError(Fault::FileError, (name + " is not a " + suffix + " file").toStdString());
   }
-  QBuffer file;
-  file.open(QIODevice::WriteOnly);
-  switch (kind) {
-    case PictureKind::Png:
-      WritePng(file, size, paint);
-      break;
-    case PictureKind::Svg:
-      WriteSvg(file, size, paint);
-      break;
-    case PictureKind::Pdf:
-      WritePdf(file, size, paint);
-      break;
-  }
-  WriteWholeFile(name, file.data());
+  WriteWholeFile(name, kind == PictureKind::Png   ? PngOf(size, paint)
+                       : kind == PictureKind::Svg ? SvgOf(size, paint)
+                                                  : PagePdfOf(size, paint));
 }
 
 }  // namespace numorra
