@@ -26,11 +26,12 @@ void PaintBoardPicture(QPainter& painter, const Grid& grid, const QFont& font,
   const QSize whole(cells.Edge(grid.Columns()), cells.Edge(grid.Rows()));
   cells.PaintCells(painter, {QPoint(), palette, width}, whole, area);
   painter.setClipping(false);
-  if (!totals) {  // the lines above and before the cells belong to the frame
-    const QColor line = palette.color(QPalette::Mid);
-    painter.fillRect(start - width, start - width, length + width, width, line);
-    painter.fillRect(start - width, start - width, width, length + width, line);
-  }
+  // The lines above and before the numbers, which belong to the frame and leave out its corner.
+  const QColor line = palette.color(QPalette::Mid);
+  const int corner = cells.Edge(1) - width;
+  const int numbers = cells.Edge(grid.Columns() - 1) - corner;
+  painter.fillRect(corner, corner, numbers, width, line);
+  painter.fillRect(corner, corner, width, numbers, line);
   painter.restore();
 }
 

@@ -78,7 +78,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
       orientation_(Named("Orientation", new QComboBox)),
       title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
       total_(Named("TotalGivenx", new QCheckBox("the &total is given"))),
-      options_(new SheetOptionsBox(choice.Layout.Options)),
+      options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
