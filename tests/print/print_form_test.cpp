@@ -181,5 +181,26 @@ TEST(PaperPrinters, FailWithARunTimeErrorAndKeepTheFileThatWasThere) {
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
 }
 
+/// A file that says when it was made differs from one made a second later.
+TEST(PaperPrinters, PutNoDateIntoFiles) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("sheet.pdf"));
+  QPrinter paper;
+  paper.setOutputFileName(file.fileName());
+  paper.setDocName("/CreationDate (D:1)");
+  PrintPages(paper, {"sheet", 2, {}, [](QPainter& painter, QSizeF, int page) {
+                       painter.drawText(9, 9, QString::number(page));
+                     }});
+  ASSERT_TRUE(file.open(QFile::ReadOnly));
+  const QByteArray written = file.readAll();
+  EXPECT_FALSE(written.contains("Date")) << written.left(300).toStdString();
+  QProcess reader;
+  reader.start("pdfinfo", {file.fileName()});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QByteArray info = reader.readAllStandardOutput();
+  EXPECT_TRUE(info.contains("/CreationDate (D:1)") && info.contains("Pages:           2\n"));
+  EXPECT_EQ(reader.readAllStandardError(), "");
+}
+
 }  // namespace
 }  // namespace numorra

@@ -17,9 +17,20 @@ QString Counted(int count, const char* what) {
 }
 
 /// "on 2 pages, with 2 pages of answers"
-QString PagesFor(int puzzles, int perPage) {
-  const QString pages = Counted((puzzles + perPage - 1) / perPage, "page");
-  return "on " + pages + ", with " + pages + " of answers";
+QString PagesFor(int puzzles, const WorksheetWish& layout) {
+  if (layout.Options.LargePrint) return "in large print, with answers";
+  const int shared = (puzzles + layout.PerPage - 1) / layout.PerPage;
+  return "on " + Counted(layout.Options.PageAPupil ? puzzles : shared, "page") + ", with " +
+         Counted(shared, "page") + " of answers";
+}
+
+/// The largest square of a set, as far as it is known before it is made, to see whether it fits.
+MadePuzzle LargestOf(const PuzzleSetWish& set) {
+  const int order = set.Square.Order;
+  MadePuzzle made;
+  const auto number = static_cast<std::int64_t>(set.Square.Total ? 1 : order * order);
+  made.Clues.Cells = made.Solution.Cells = SquareOf(order, [&](int) { return number; });
+  return made;
 }
 
 bool TakesLong(const PuzzleSetWish& set) {
@@ -67,6 +78,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
       orientation_(Named("Orientation", new QComboBox)),
       title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
       total_(Named("TotalGivenx", new QCheckBox("the &total is given"))),
+      options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
@@ -94,6 +106,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   layout->addRow("T&itle", title_);
   layout->addRow("", total_);
   column->addLayout(layout);
+  column->addWidget(options_);
   AlignLabels(*set_->Rows(), *layout);
   column->addWidget(told_, 1);
   auto* buttons = new QHBoxLayout;
@@ -111,6 +124,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   OnSignal(runner_, orientation_, &QComboBox::currentIndexChanged, this, take);
   OnSignal(runner_, title_, &QLineEdit::textChanged, this, take);
   OnSignal(runner_, total_, &QCheckBox::toggled, this, take);
+  OnSignal(runner_, options_, &SheetOptionsBox::Changed, this, take);
   OnClick(runner_, print_, this, [this] { Print(); });
   OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
   OnClick(runner_, close, this, [this] { this->close(); });
@@ -120,9 +134,10 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
 void WorksheetForm::TakeChoice() {
   const bool makes = !printsAtHand_->isChecked();
   set_->setEnabled(makes);
-  choice_ = {set_->Wish(),
-             {perPage_->currentData().toInt(), title_->text(), total_->isChecked()},
-             orientation_->currentIndex() == 1};
+  choice_ = {
+      set_->Wish(),
+      {perPage_->currentData().toInt(), title_->text(), total_->isChecked(), options_->Options()},
+      orientation_->currentIndex() == 1};
   const int puzzles = makes ? PuzzlesIn(choice_.Set) : static_cast<int>(atHand_.size());
   const bool making = stop_->isEnabled();
   print_->setEnabled(puzzles > 0 && !making);
@@ -133,7 +148,7 @@ void WorksheetForm::TakeChoice() {
     return;
   }
   if (makes) what = InWords(choice_.Set);
-  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout.PerPage) + ".";
+  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout) + ".";
   if (makes && TakesLong(choice_.Set)) told += " Puzzles as large take some seconds each.";
   told_->setText(told);
 }
@@ -166,11 +181,19 @@ std::vector<MadePuzzle> WorksheetForm::MakeSet(QString& shortfall) {
 void WorksheetForm::Print() {
   runner_.Run("Worksheet", [this] {
     const SheetChoice choice = choice_;
+    const auto fits = [&](const Worksheet& sheet) {
+      const std::string why = sheet.WhyTooLarge();
+      if (!why.empty()) told_->setText(QString::fromStdString(why));
+      return why.empty();
+    };
     QString shortfall;
-    const auto puzzles = printsAtHand_->isChecked() ? atHand_ : MakeSet(shortfall);
+    const bool makes = !printsAtHand_->isChecked();
+    if (makes && !fits({{LargestOf(choice.Set)}, choice.Layout, choice.Landscape})) return;
+    const auto puzzles = makes ? MakeSet(shortfall) : atHand_;
     if (!shortfall.isEmpty()) told_->setText(shortfall);
     if (puzzles.empty()) return;
-    const Worksheet sheet(puzzles, choice.Layout);
+    const Worksheet sheet(puzzles, choice.Layout, choice.Landscape);
+    if (!fits(sheet)) return;
     printer_.Preview(this, {choice.Layout.Title, sheet.Pages(),
                             choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
                             [&sheet](QPainter& painter, QSizeF size, int page) {

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "app/window/forms/fresh_set_box.h"
+#include "app/window/forms/sheet_options_box.h"
 #include "print/page_printer.h"
 #include "print/worksheet.h"
 #include "toolkit/command_form.h"
@@ -52,6 +53,7 @@ class WorksheetForm : public CommandForm {
   QComboBox* orientation_;
   QLineEdit* title_;
   QCheckBox* total_;
+  SheetOptionsBox* options_;
   QLabel* told_;
   QPushButton* print_;
   QPushButton* stop_;

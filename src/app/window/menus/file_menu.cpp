@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "app/play/lay_out.h"
+#include "app/window/menus/export_picture.h"
 #include "app/window/menus/square_files.h"
 #include "print/print_form.h"
 #include "print/sheet.h"
@@ -20,8 +21,8 @@ FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
                  desk_.Beside([this] { ChooseAndOpen(); })});
   save_ = AddItem(menu, {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
                          desk_.Beside([this] { Save(); })});
-  export_ = AddItem(
-      menu, {"ExportPicturex", "&Export Picture...", none, desk_.Beside([this] { Export(); })});
+  export_ = AddItem(menu, {"ExportPicturex", "&Export Picture...", none,
+                           desk_.Beside([this] { OpenExport(desk_, ports_.Files, window_); })});
   menu->addSeparator();
   AddItem(menu, {"PrintSol", "&Print Solution", QKeySequence::keyBindings(QKeySequence::Print),
                  desk_.Beside([this] { OpenPrintForm(); })});
@@ -69,16 +70,6 @@ void FileMenu::Show(const std::variant<StoredSquare, Unreadable>& read) {
 void FileMenu::Save() {
   const QString name = ports_.Files.ToSave(window_, "Save As", SquareKinds());
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(desk_.TheBoard()));
-}
-
-void FileMenu::Export() {
-  const QString name = ports_.Files.ToSave(window_, "Export Picture", kPictureKinds);
-  if (name.isEmpty()) return;
-  if (desk_.TheBoard().OverlayShown) {
-    ExportDrawing(name, *desk_.Place.Picture);
-  } else {
-    ExportBoard(name, *desk_.Place.View);
-  }
 }
 
 /// Opens the print form if there is a visible board that fits on a page.

@@ -35,7 +35,6 @@ class FileMenu : public QObject {
   void ChooseAndOpen();
   void Show(const std::variant<StoredSquare, Unreadable>& read);
   void Save();
-  void Export();
   void OpenPrintForm();
   void OpenWorksheet();
   void ShowState();
