@@ -57,6 +57,12 @@ test('digits make a number up to the largest', () => {
   assert.deepStrictEqual([12, 3, 12, 0].reduce(logic.toggled, [5]), [3, 5]);
 });
 
+test('notes are shown in gaps, and not of numbers on the board', () => {
+  const board = {numbers: CLUES, notes: CLUES.map(() => [1, 2, 3])};
+  assert.deepStrictEqual([0, 2].map((cell) => logic.notesOn(puzzle, board, cell)), [[], [1, 3]]);
+  assert.deepStrictEqual(logic.notesOn(puzzleWith({normal: false}), board, 2), [1, 2, 3]);
+});
+
 test('a hint goes from where to look over the reasons to the number', () => {
   assert.deepStrictEqual(logic.hintFor(puzzle, CLUES), [
     {look: 'row 1', cell: 2, cells: [0, 1, 2]}, {says: 'row 1 lacks 4 or 6', cell: 2, cells: [0, 1, 2]},

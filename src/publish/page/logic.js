@@ -69,6 +69,12 @@ function toggled(notes, number) {
   return notes.includes(number) ? notes.filter((noted) => noted !== number) : [...notes, number].sort((a, b) => a - b);
 }
 
+// The notes of a gap. By the normal rules, those of numbers on the board are kept, but not shown.
+function notesOn(puzzle, {numbers, notes}, cell) {
+  if (numbers[cell]) return [];
+  return notes[cell].filter((number) => !puzzle.normal || !numbers.includes(number));
+}
+
 // The stages of a hint: where to look, each reason, the number; each with its cells. It is the first step that is not
 // on the board: its reasons hold, since all steps before it are. Undefined if there is none.
 function hintFor(puzzle, numbers) {

@@ -69,7 +69,7 @@ function showCell(element) {
   const cell = Number(element.dataset.cell);
   const number = board().numbers[cell];
   const given = puzzle().clues[cell] !== 0;
-  const noted = number ? [] : notesShown(cell);
+  const noted = notesOn(puzzle(), board(), cell);
   const wrong = marked.includes(cell);
   const hinted = hint !== null && hint[stage - 1].cells.includes(cell);
   const content = number || (noted.length ? TEXT.notes(noted.join(' ')) : TEXT.empty);
@@ -82,12 +82,6 @@ function showCell(element) {
   element.tabIndex = cell === current ? 0 : -1;
   const classes = {given, hint: hinted, marked: wrong, at: cell === current};
   for (const [name, on] of Object.entries(classes)) element.classList.toggle(name, on);
-}
-
-// Notes of numbers on the board are kept, but not shown.
-function notesShown(cell) {
-  const missing = missingOn(puzzle(), board().numbers);
-  return board().notes[cell].filter((number) => !puzzle().normal || missing.includes(number));
 }
 
 function show() {
