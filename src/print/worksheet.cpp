@@ -10,8 +10,7 @@
 namespace numorra {
 namespace {
 
-constexpr double kMillimetresPerPoint = 25.4 / 72;
-constexpr double kLargeText = 18 * kMillimetresPerPoint;
+constexpr double kLargeText = 18 * 25.4 / 72;  // 18 pt in millimetres
 constexpr double kTitle = 7;
 constexpr double kNumberOfCell = 0.5;  // the height of a number, as a share of its cell
 constexpr double kWidthOfCell = 0.8;   // its greatest width
@@ -116,7 +115,7 @@ Worksheet::Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish, bool l
     : puzzles_(std::move(puzzles)), wish_(std::move(wish)), paper_(210, 279.4) {
   if (landscape) paper_.transpose();
   for (const bool answers : {false, true}) {
-    int& perPage = perPage_[answers];
+    int& perPage = perPage_[Of(answers)];
     perPage = wish_.Options.PageAPupil && !answers ? 1 : wish_.PerPage;
     const auto tooMany = [&] {
       return perPage > 1 && !WhyTooLargeOn(MakePlan(paper_, answers, perPage)).empty();
@@ -127,13 +126,12 @@ Worksheet::Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish, bool l
 }
 
 int Worksheet::PagesFor(bool answers) const {
-  const int perPage = perPage_[answers];
+  const int perPage = perPage_[Of(answers)];
   return (static_cast<int>(puzzles_.size()) + perPage - 1) / perPage;
 }
 
 SheetPlan Worksheet::MakePlan(QSizeF size, bool answers, int perPage) const {
-  constexpr double kNameLine = 9;
-  constexpr double kFooter = 6;
+  constexpr double kNameLine = 9, kFooter = 6;
   SheetPlan plan{.Paper = size, .Options = wish_.Options, .PerPage = perPage};
   if (wish_.Options.NameLines && !answers) plan.Name = kNameLine;
   if (wish_.Options.PageNumbers) plan.Footer = kFooter;
@@ -157,17 +155,17 @@ void Worksheet::MakeLarge(SheetPlan& plan, bool answers) const {
   plan.Caption = plan.Below = 0;
   const double slot = plan.SlotArea(0, 0).width();
   for (int number = 0; number < static_cast<int>(puzzles_.size()); ++number) {
-    const double caption = WrappedHeight(CaptionOf(number, answers), slot, {kLargeText, true});
     double below = kUnderBoard + WrappedHeight(CodeTextOf(Made(number)), slot, {kLargeText});
     if (!answers) below += WrappedHeight(Missing(Made(number).Clues), slot, {kLargeText});
-    plan.Caption = std::max(plan.Caption, caption);
+    plan.Caption =
+        std::max(plan.Caption, WrappedHeight(CaptionOf(number, answers), slot, {kLargeText, true}));
     plan.Below = std::max(plan.Below, below);
   }
 }
 
 const SheetPlan& Worksheet::PlanOn(QSizeF size, bool answers) const {
-  SheetPlan& plan = plans_[answers];
-  if (plan.Paper != size) plan = MakePlan(size, answers, perPage_[answers]);
+  SheetPlan& plan = plans_[Of(answers)];
+  if (plan.Paper != size) plan = MakePlan(size, answers, perPage_[Of(answers)]);
   return plan;
 }
 

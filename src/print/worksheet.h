@@ -49,6 +49,7 @@ class Worksheet {
     QRectF Area;
     int Number;
   };
+  static std::size_t Of(bool answers) { return answers ? 1 : 0; }
   int PagesFor(bool answers) const;
   const SheetPlan& PlanOn(QSizeF size, bool answers) const;
   SheetPlan MakePlan(QSizeF size, bool answers, int perPage) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QBuffer>
+#include <QHashSeed>
 
 namespace numorra {
 namespace {
@@ -15,12 +16,23 @@ void RemoveDate(QByteArray& pdf) {
   if (end >= 0) std::fill(pdf.begin() + start, pdf.begin() + end + 1, ' ');
 }
 
+/// Gives the hash tables that are made meanwhile the same order in every run: the toolkit keeps the
+/// fonts of a file in one.
+class SameOrder {
+ public:
+  SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
+  ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
+  SameOrder(const SameOrder&) = delete;
+  SameOrder& operator=(const SameOrder&) = delete;
+};
+
 }  // namespace
 
 QByteArray PdfOf(const std::function<void(QPdfWriter&)>& paint) {
   QBuffer file;
   file.open(QIODevice::WriteOnly);
   {
+    const SameOrder order;
     QPdfWriter writer(&file);
     paint(writer);
   }

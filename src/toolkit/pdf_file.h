@@ -7,8 +7,8 @@
 
 namespace numorra {
 
-/// The bytes of a PDF file with what `paint` paints. The file does not say when it was made, so
-/// that the same pages give the same bytes.
+/// The bytes of a PDF file with what `paint` paints. The same pages give the same
+/// bytes: the file does not say when it was made, and its fonts are always in the same order.
 QByteArray PdfOf(const std::function<void(QPdfWriter&)>& paint);
 
 }  // namespace numorra
