@@ -1,5 +1,7 @@
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <iostream>
 #include <optional>
 
 #include <QApplication>
@@ -7,9 +9,11 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "app/board/runtime_error.h"
 #include "app/program_arguments.h"
 #include "app/window/board/grid_accessible.h"
 #include "app/window/main_window.h"
+#include "app/write_sheets.h"
 #include "toolkit/program_icon.h"
 
 namespace {
@@ -64,6 +68,29 @@ std::optional<int> AnswerWithoutWindow(const numorra::ProgramRequest& request) {
   return std::nullopt;
 }
 
+int Fail(int status, const std::string& why) {
+  std::fprintf(stderr, "numorra: %s\n", why.c_str());
+  return status;
+}
+
+/// Writes worksheets; the statuses are the companion's.
+int WriteSheets(const std::vector<std::string>& words) {
+  constexpr int kBadArguments = 2;
+  constexpr int kFellShort = 6;
+  const auto parsed = numorra::ParseSheetsArguments(words);
+  if (const auto* why = std::get_if<std::string>(&parsed)) return Fail(kBadArguments, *why);
+  try {
+    const auto& request = std::get<numorra::SheetsRequest>(parsed);
+    return numorra::WriteSheets(request, {std::cin, std::cout, std::cerr, "numorra: "})
+               ? EXIT_SUCCESS
+               : kFellShort;
+  } catch (const numorra::Impossible& impossible) {
+    return Fail(EXIT_FAILURE, impossible.Why);
+  } catch (const std::exception& error) {
+    return Fail(EXIT_FAILURE, error.what());
+  }
+}
+
 void Begin(numorra::MainWindow& window, const numorra::ProgramRequest& request) {
   switch (request.Wanted) {
     case Wanted::Open:
@@ -87,12 +114,14 @@ int main(int argc, char** argv) {
   KeepNoSettings();
   const auto answered = AnswerWithoutWindow(numorra::ParseProgramArguments(WordsOf(argc, argv)));
   if (answered) return *answered;
+  const bool sheets = numorra::AsksForSheets(WordsOf(argc, argv));
+  if (sheets) qputenv("QT_QPA_PLATFORM", "offscreen");  // no window is opened
   const QApplication application(argc, argv);
+  if (sheets) return WriteSheets(WordsOf(argc, argv));
   const numorra::ProgramRequest request = numorra::ParseProgramArguments(WordsOf(argc, argv));
   if (request.Wanted == Wanted::Wrong) {
     constexpr int kBadArguments = 2;
-    std::fprintf(stderr, "numorra: %s\n", request.What.c_str());
-    return kBadArguments;
+    return Fail(kBadArguments, request.What);
   }
   QGuiApplication::setDesktopFileName("org.numorra.numorra");
   QApplication::setWindowIcon(numorra::ProgramIcon());

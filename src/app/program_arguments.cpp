@@ -38,6 +38,7 @@ const char* ProgramUsage() {
   return R"(usage: numorra [FILE|CODE]
        numorra --new-board
        numorra --new-puzzle
+       numorra --sheets FILE.pdf [options]
 
 Opens a window to build and study magic squares, with the square in a file or the
 puzzle of a code.
@@ -46,6 +47,21 @@ puzzle of a code.
   --new-puzzle  builds a square and asks which of its numbers to hide
   --help        this text
   --version     the program's version
+
+--sheets writes worksheets as a PDF file and opens no window. It takes the options of
+numorra-square puzzle, but for those of its output, and:
+
+  --answers FILE.pdf  the answers in a file of their own
+  --title TEXT        the title of the pages
+  --per-page K        1, 2, 4 or 6 puzzles on a page; 6 by default
+  --paper a4|letter   the paper; a4 by default
+  --landscape         on its side
+  --hide-totals       totals are left to be found, where they can be
+  --large-print       no text below 18 pt
+  --page-numbers      below every page
+  --names             a line for a name at every puzzle
+  --page-a-pupil      every puzzle alone on its page
+  --booklet           wider margins where pages are bound
 
 numorra-square does the same work without a window; see numorra-square --help.
 )";

@@ -52,7 +52,8 @@ class Reader {
       }
       if (attached_) Fail("'" + option_ + "' takes no value");
       if (error_.empty() && special_) return *special_;
-      wishes_ |= option_ != "--codes" && option_ != "--format" && option_ != "--steps";
+      wishes_ |= option_ != "--codes" && option_ != "--format" && option_ != "--steps" &&
+                 option_ != "--title";
     }
     CheckTogether();
     if (!error_.empty()) return BadArguments{error_ + "; try --help"};
@@ -117,6 +118,7 @@ class Reader {
         {"--clues", &Reader::Clues},
         {"--symmetric", &Reader::Symmetric},
         {"--steps", &Reader::Steps},
+        {"--title", &Reader::Title},
         {"--codes", &Reader::Codes},
         {"--rules", &Reader::RulesOption},
         {"--seconds", &Reader::Seconds},
@@ -221,6 +223,7 @@ class Reader {
 
   void Symmetric() { request_.Symmetric = true; }
   void Steps() { request_.Steps = true; }
+  void Title() { request_.Title = Value(); }
 
   void Clues() {
     request_.ClueCount = NumberIn<int>(Value());

@@ -39,7 +39,8 @@ struct SquareRequest {
   std::vector<GradeShare> Grades;
   std::optional<int> ClueCount;
   bool Symmetric = false;
-  bool Steps = false;  ///< with the way to solve each
+  bool Steps = false;                ///< with the way to solve each
+  std::optional<std::string> Title;  ///< of a page
 
   /// The file with the codes of puzzles to write instead of new ones; "-" is the standard input.
   std::optional<std::string> Codes;

@@ -123,7 +123,8 @@ class SquareWriter {
 
   void Write(const Result& result, const std::string& name) {
     if (!result.Remark.empty()) {
-      streams_.Err << kProgramName << name << (name.empty() ? "" : ": ") << result.Remark << "\n";
+      streams_.Err << streams_.Program << name << (name.empty() ? "" : ": ") << result.Remark
+                   << "\n";
     }
     const StoredSquare square{
         .Cells = StoredCells(result.Numbers), .Total = result.Total, .Asked = result.Asked};
@@ -161,7 +162,7 @@ bool BuildFromList(const SquareRequest& request, const Streams& streams, SquareB
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (Trim(line.substr(0, line.find('#'))).empty()) continue;
     const auto tell = [&](const std::string& why) {
-      streams.Err << kProgramName << "line " << number << ": " << why << "\n";
+      streams.Err << streams.Program << "line " << number << ": " << why << "\n";
       allBuilt = false;
     };
     const auto named = NamedTopRowIn(line);

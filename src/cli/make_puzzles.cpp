@@ -4,28 +4,34 @@
 
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
-#include "cli/puzzle_writer.h"
 #include "puzzle/puzzle_set.h"
 
 namespace numorra {
 
-bool MakePuzzles(const SquareRequest& request, const Streams& streams) {
+bool MakePuzzles(const SquareRequest& request, const Streams& streams, const PuzzleVisitor& visit) {
   const auto clock = ClockFrom(request.Seed);
   ClockSeededRandom random(*clock);
   SilentStage stage;
   SquareWish square{request.Size, {}, request.LimitToNine};
   if (request.Sum) square.Total = static_cast<std::int64_t>(*request.Sum);
   PuzzleSet set({square, request.Grades, request.ClueCount, request.Symmetric}, random, stage);
-  PuzzleWriter writer(request, streams);
+  bool any = false;
   while (streams.Out) {
     const auto made = set.Next();
     if (!made) break;
-    writer.Write(made->Clues, &*made);
+    any = true;
+    visit(made->Clues, &*made);
   }
   const std::string shortfall = set.Shortfall();
-  if (!writer.WroteAny() && !shortfall.empty()) throw Impossible{shortfall};
-  if (!shortfall.empty()) streams.Err << kProgramName << shortfall << "\n";
+  if (!any && !shortfall.empty()) throw Impossible{shortfall};
+  if (!shortfall.empty()) streams.Err << streams.Program << shortfall << "\n";
   return shortfall.empty();
+}
+
+bool VisitPuzzles(const SquareRequest& request, const Streams& streams,
+                  const PuzzleVisitor& visit) {
+  return request.Codes ? ReadCodedPuzzles(request, streams, visit)
+                       : MakePuzzles(request, streams, visit);
 }
 
 }  // namespace numorra

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "publish/play_page.h"
 #include "puzzle/code.h"
 #include "puzzle/puzzle_json.h"
 
@@ -20,16 +21,27 @@ std::string CaptionOf(const Puzzle& clues, const MadePuzzle* solved) {
 
 void PuzzleWriter::Write(const Puzzle& clues, const MadePuzzle* solved) {
   std::ostream& out = streams_.Out;
-  if (request_.Format == SquareFormat::Json) {
+  const bool page = request_.Format == SquareFormat::Html;
+  if (page || request_.Format == SquareFormat::Json) {
     JsonLine line = JsonOfPuzzle(clues, solved);
-    if (request_.Steps) line.Add("steps", solved ? JsonOfSteps(*solved, stage_) : "null");
-    out << line.Text() << "\n";
+    if (page || request_.Steps) line.Add("steps", solved ? JsonOfSteps(*solved, stage_) : "null");
+    if (page) {
+      page_.push_back(line.Text());
+    } else {
+      out << line.Text() << "\n";
+    }
+  } else if (any_ && request_.Format == SquareFormat::Svg) {
+    throw Impossible{"a picture has room for one square, not several"};
   } else {
     if (any_) out << "\n";
     out << Of(request_.Format).Write(StoredSquareOf(clues, true), CaptionOf(clues, solved));
   }
   any_ = true;
   out.flush();
+}
+
+void PuzzleWriter::Finish() {
+  if (!page_.empty()) streams_.Out << PlayPage(request_.Title.value_or("Magic squares"), page_);
 }
 
 }  // namespace numorra

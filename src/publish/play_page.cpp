@@ -9,6 +9,7 @@
 #include "publish/object_forms.h"
 #include "publish/page_template.h"
 #include "puzzle/puzzle.h"
+#include "puzzle/puzzle_json.h"
 
 namespace numorra {
 namespace {
@@ -151,6 +152,16 @@ std::string PlayPage(const std::string& title, const std::vector<std::string>& p
   const std::string json = "{\"forms\":" + forms.Table() + ",\n\"puzzles\":[" + data + "]}";
   return Filled(kPageTemplate,
                 {{"title", Html(title)}, {"sheets", sheets}, {"data", WithoutTags(json)}});
+}
+
+std::string PlayPage(const std::string& title, const std::vector<MadePuzzle>& puzzles,
+                     Yielding& yielding) {
+  std::vector<std::string> objects;
+  for (const MadePuzzle& made : puzzles) {
+    objects.push_back(
+        JsonOfPuzzle(made.Clues, &made).Add("steps", JsonOfSteps(made, yielding)).Text());
+  }
+  return PlayPage(title, objects);
 }
 
 }  // namespace numorra

@@ -3,6 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "app/ports/yielding.h"
+#include "puzzle/making.h"
+
 namespace numorra {
 
 /// One self-contained HTML page on which the puzzles of a set are solved. It needs no server and
@@ -15,5 +18,10 @@ namespace numorra {
 ///
 /// Throws Unreadable, with the number of the puzzle, if an object is not a puzzle.
 std::string PlayPage(const std::string& title, const std::vector<std::string>& puzzles);
+
+/// The page of puzzles with their solutions and steps. Yields between steps; an exception thrown by
+/// a yield ends it.
+std::string PlayPage(const std::string& title, const std::vector<MadePuzzle>& puzzles,
+                     Yielding& yielding);
 
 }  // namespace numorra

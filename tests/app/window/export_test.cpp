@@ -126,5 +126,20 @@ TEST_F(ExportTest, PicturesHaveTheirSizeAndEvenMarginsOnWhite) {
   QApplication::setPalette(before);
 }
 
+TEST_F(ExportTest, APageToPlayOnIsSavedFromTheWorksheetsDialog) {
+  Make("SolveAuto", "4");
+  dialogs_.Take();
+  Trigger("PrintWorksheetx", In("page.html"));
+  auto& form = Find<QDialog>("PrintWorksheet");
+  form.findChild<QLineEdit*>("SheetTitle")->setText("Class <5b>");
+  form.findChild<QAbstractButton*>("SavePagex")->click();
+  EXPECT_EQ(dialogs_.Take(), Messages{});
+  EXPECT_EQ(files_.Kinds, "Web pages (*.html)");
+  const QByteArray page = Read("page.html");
+  EXPECT_GE(page.count("<table"), 6);
+  EXPECT_TRUE(page.contains("<title>Class &lt;5b></title>") ||
+              page.contains("<title>Class &lt;5b&gt;</title>"));
+}
+
 }  // namespace
 }  // namespace numorra

@@ -6,8 +6,10 @@
 #include <QScopeGuard>
 #include <QVBoxLayout>
 
+#include "publish/play_page.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/whole_file.h"
 
 namespace numorra {
 namespace {
@@ -65,12 +67,12 @@ int PuzzlesIn(const PuzzleSetWish& set) {
 
 }  // namespace
 
-WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrinter& printer,
+WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Ports& ports,
                              Random& random, Dialogs& dialogs, QWidget* parent)
     : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
       atHand_(std::move(atHand.Puzzles)),
       choice_(choice),
-      printer_(printer),
+      ports_(ports),
       random_(random),
       printsAtHand_(Named("SheetFromBoardx", new QRadioButton(atHand.Caption))),
       set_(new FreshSetBox(choice.Set)),
@@ -81,6 +83,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
       options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
+      page_(Named("SavePagex", new QPushButton("Save Web Pa&ge..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
   for (const int number : {1, 2, 4, 6})
     perPage_->addItem(QString::number(number), number);
@@ -111,6 +114,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   column->addWidget(told_, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(print_);
+  buttons->addWidget(page_);
   buttons->addWidget(stop_);
   buttons->addStretch();
   buttons->addWidget(close);
@@ -126,6 +130,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   OnSignal(runner_, total_, &QCheckBox::toggled, this, take);
   OnSignal(runner_, options_, &SheetOptionsBox::Changed, this, take);
   OnClick(runner_, print_, this, [this] { Print(); });
+  OnClick(runner_, page_, this, [this] { SavePage(); });
   OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
   OnClick(runner_, close, this, [this] { this->close(); });
 }
@@ -140,7 +145,8 @@ void WorksheetForm::TakeChoice() {
       orientation_->currentIndex() == 1};
   const int puzzles = makes ? PuzzlesIn(choice_.Set) : static_cast<int>(atHand_.size());
   const bool making = stop_->isEnabled();
-  print_->setEnabled(puzzles > 0 && !making);
+  for (QPushButton* button : {print_, page_})
+    button->setEnabled(puzzles > 0 && !making);
   if (making) return;
   QString what = Counted(puzzles, "puzzle");
   if (puzzles == 0) {
@@ -155,13 +161,23 @@ void WorksheetForm::TakeChoice() {
 
 void WorksheetForm::ShowMaking(bool making) {
   stop_->setEnabled(making);
-  print_->setEnabled(!making);
+  for (QPushButton* button : {print_, page_})
+    button->setEnabled(!making);
   if (!making) TakeChoice();
 }
 
-std::vector<MadePuzzle> WorksheetForm::MakeSet(QString& shortfall) {
+/// Those at hand or a new set; says what could not be made.
+std::vector<MadePuzzle> WorksheetForm::Puzzles() {
+  return printsAtHand_->isChecked() ? atHand_ : MakeSet();
+}
+
+std::vector<MadePuzzle> WorksheetForm::MakeSet() {
   ShowMaking(true);
-  const auto done = qScopeGuard([this] { ShowMaking(false); });
+  QString shortfall;
+  const auto done = qScopeGuard([&] {
+    ShowMaking(false);
+    if (!shortfall.isEmpty()) told_->setText(shortfall);
+  });
   std::vector<MadePuzzle> puzzles;
   const int all = PuzzlesIn(choice_.Set);
   FormYielding stage(runner_, [&] {
@@ -186,19 +202,29 @@ void WorksheetForm::Print() {
       if (!why.empty()) told_->setText(QString::fromStdString(why));
       return why.empty();
     };
-    QString shortfall;
     const bool makes = !printsAtHand_->isChecked();
     if (makes && !fits({{LargestOf(choice.Set)}, choice.Layout, choice.Landscape})) return;
-    const auto puzzles = makes ? MakeSet(shortfall) : atHand_;
-    if (!shortfall.isEmpty()) told_->setText(shortfall);
+    const auto puzzles = Puzzles();
     if (puzzles.empty()) return;
     const Worksheet sheet(puzzles, choice.Layout, choice.Landscape);
     if (!fits(sheet)) return;
-    printer_.Preview(this, {choice.Layout.Title, sheet.Pages(),
-                            choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                            [&sheet](QPainter& painter, QSizeF size, int page) {
-                              sheet.PaintPage(painter, size, page);
-                            }});
+    ports_.Printer.Preview(this, {choice.Layout.Title, sheet.Pages(),
+                                  choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                  [&sheet](QPainter& painter, QSizeF size, int page) {
+                                    sheet.PaintPage(painter, size, page);
+                                  }});
+  });
+}
+
+void WorksheetForm::SavePage() {
+  runner_.Run("Web Page", [this] {
+    const QString title = choice_.Layout.Title;
+    const auto puzzles = Puzzles();
+    if (puzzles.empty()) return;
+    FormYielding stage(runner_, [] {});
+    const std::string page = PlayPage(title.toStdString(), puzzles, stage);
+    const QString name = ports_.Files.ToSave(this, "Save Web Page", "Web pages (*.html)");
+    if (!name.isEmpty()) WriteWholeFile(name, QByteArray::fromStdString(page));
   });
 }
 

@@ -43,7 +43,7 @@ class Desk {
 
   /// Opens the dialog that prints worksheets. At first it offers puzzles as the boxes describe
   /// them.
-  void OpenWorksheet(PuzzlesAtHand atHand, PagePrinter& printer, QWidget* window);
+  void OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports, QWidget* window);
 
   /// Shows the session's mode.
   void ShowMode();

@@ -90,7 +90,7 @@ void FileMenu::OpenWorksheet() {
   if (auto solved = desk_.TheSession.SolvedPuzzleOnBoard()) {
     onBoard.Puzzles.push_back(*std::move(solved));
   }
-  desk_.OpenWorksheet(std::move(onBoard), ports_.Pages, window_);
+  desk_.OpenWorksheet(std::move(onBoard), {ports_.Pages, ports_.Files}, window_);
 }
 
 }  // namespace numorra
