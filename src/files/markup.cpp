@@ -1,6 +1,7 @@
 #include "files/markup.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "app/board/numbers.h"
 
@@ -10,6 +11,19 @@ namespace {
 std::string CellText(const StoredSquare& square, int cell) {
   const auto& number = square.Cells[cell];
   return number ? Decimal(*number) : "";
+}
+
+/// The text in lines of at most `most` characters, broken after commas, or anywhere in long words.
+std::vector<std::string> LinesOf(std::string text, std::size_t most) {
+  std::vector<std::string> lines;
+  while (text.size() > most) {
+    const std::size_t comma = text.rfind(", ", most - 1);
+    const std::size_t end = comma == std::string::npos ? most : comma + 1;
+    lines.push_back(text.substr(0, end));
+    text.erase(0, text.find_first_not_of(' ', end));
+  }
+  if (!text.empty()) lines.push_back(text);
+  return lines;
 }
 
 }  // namespace
@@ -41,21 +55,25 @@ std::string SvgOf(const StoredSquare& square, const std::string& caption) {
   constexpr int kSide = 40;
   constexpr int kLetter = 18;  // height of the letters
   constexpr int kDigit = 11;   // width of a digit
+  constexpr int kSmall = 12;   // height of the caption's letters
+  constexpr int kCharacter = 9;
   const int order = square.Order();
   std::size_t digits = 0;
   for (int cell = 0; cell < square.Cells.Size(); ++cell)
     digits = std::max(digits, CellText(square, cell).size());
   const int width = std::max(kSide, static_cast<int>(digits + 1) * kDigit);
-  const std::string below = MarkupText(TotalAnd(caption, square));
   const int right = width * order;
+  const auto lines =
+      LinesOf(TotalAnd(caption, square), static_cast<std::size_t>(right / kCharacter));
+  const int below = lines.empty() ? 0 : (static_cast<int>(lines.size()) + 1) * kSmall * 3 / 2;
   const int bottom = kSide * order;
   const auto number = [](int value) { return std::to_string(value); };
   const auto size = [&](int margin) {
-    return number(right + 2 * margin) + " " +
-           number(bottom + 2 * margin + (below.empty() ? 0 : kSide));
+    return number(right + 2 * margin) + " " + number(bottom + 2 * margin + below);
   };
-  std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"-2 -2 " + size(2) +
-                     "\">\n<title>" + (below.empty() ? "magic square" : below) + "</title>\n";
+  std::string text =
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"-2 -2 " + size(2) + "\">\n<title>" +
+      MarkupText(lines.empty() ? "magic square" : TotalAnd(caption, square)) + "</title>\n";
   text += "<g stroke=\"black\" fill=\"white\">\n<rect width=\"" + number(right) + "\" height=\"" +
           number(bottom) + "\" stroke-width=\"3\"/>\n<path d=\"";
   for (int line = 1; line < order; ++line) {
@@ -64,16 +82,18 @@ std::string SvgOf(const StoredSquare& square, const std::string& caption) {
   }
   text += "\"/>\n</g>\n<g font-family=\"sans-serif\" font-size=\"" + number(kLetter) +
           "\" text-anchor=\"middle\">\n";
-  const auto write = [&](int x, int y, const std::string& what) {
+  const auto write = [&](int x, int y, const std::string& what, const char* more) {
     if (what.empty()) return;
-    text +=
-        "<text x=\"" + number(x) + "\" y=\"" + number(y + kLetter / 3) + "\">" + what + "</text>\n";
+    text += "<text x=\"" + number(x) + "\" y=\"" + number(y) + "\"" + more + ">" +
+            MarkupText(what) + "</text>\n";
   };
   for (int cell = 0; cell < square.Cells.Size(); ++cell) {
-    write(cell % order * width + width / 2, cell / order * kSide + kSide / 2,
-          CellText(square, cell));
+    write(cell % order * width + width / 2, cell / order * kSide + kSide / 2 + kLetter / 3,
+          CellText(square, cell), "");
   }
-  write(right / 2, bottom + kSide / 2, below);
+  int y = bottom;
+  for (const std::string& line : lines)
+    write(right / 2, y += kSmall * 3 / 2, line, " font-size=\"12\"");
   return text + "</g>\n</svg>\n";
 }
 
