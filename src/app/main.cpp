@@ -130,6 +130,7 @@ int main(int argc, char** argv) {
   numorra::Session session(clock);
   numorra::MainWindow window(session, {.Kept = FoldersAtHome()});
   window.show();
-  QTimer::singleShot(0, &window, [&] { Begin(window, request); });
+  constexpr int kPlaced = 100;  // milliseconds until the desktop has placed the window
+  QTimer::singleShot(kPlaced, &window, [&] { Begin(window, request); });
   return QApplication::exec();
 }
