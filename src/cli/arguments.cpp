@@ -9,6 +9,7 @@
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 #include "cli/argument_checks.h"
+#include "cli/count_arguments.h"
 
 namespace numorra {
 namespace {
@@ -294,6 +295,7 @@ class Reader {
 }  // namespace
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
+  if (ListsOrCounts(words)) return ParseCountArguments(words);
   return Reader(words).Read();
 }
 

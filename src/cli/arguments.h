@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/board/rules.h"
+#include "cli/count_request.h"
 #include "files/formats.h"
 #include "generate/top_row_square.h"
 #include "puzzle/kind_lines.h"
@@ -62,7 +63,7 @@ struct BadArguments {
   std::string Message;
 };
 
-using Arguments = std::variant<SquareRequest, HelpRequest, VersionRequest, BadArguments>;
+using Arguments = std::variant<SquareRequest, CountRequest, HelpRequest, VersionRequest, BadArguments>;
 
 /// Reads the words after the program's name. The value of an option is the next word, or follows an
 /// equals sign.

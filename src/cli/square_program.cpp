@@ -8,6 +8,7 @@
 #include "cli/build_squares.h"
 #include "cli/coded_puzzles.h"
 #include "cli/complete_squares.h"
+#include "cli/list_squares.h"
 #include "cli/make_puzzles.h"
 #include "cli/study_squares.h"
 
@@ -58,6 +59,10 @@ int Serve(const Arguments& arguments, const Streams& streams) {
     return kBadArguments;
   }
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
+  if (const auto* counting = std::get_if<CountRequest>(&arguments)) {
+    ListSquares(*counting, streams);
+    return kDone;
+  }
   const bool help = std::holds_alternative<HelpRequest>(arguments);
   streams.Out << (help ? Usage() : "numorra-square " NUMORRA_VERSION "\n");
   return kDone;
