@@ -61,13 +61,39 @@ class CountReader {
   }
 
   bool TakeCounting() {
-    if (!Is("--semi-magic")) return false;
-    request_.SemiMagic = true;
+    if (Is("--semi-magic")) {
+      request_.SemiMagic = true;
+      TakeName("semi-magic");
+    } else if (Is("--slice")) {
+      request_.Part = SliceNamed(words_.Value());
+      if (!request_.Part)
+        words_.Fail("the slice must be its number and their count, such as 17/512");
+    } else if (Is("--estimate")) {
+      request_.Estimates = true;
+    } else if (Is("--seconds")) {
+      request_.Seconds = WholeTextAs<double>(words_.Value());
+      constexpr double kMost = 1'000'000;
+      if (!(request_.Seconds.value_or(0) > 0 && *request_.Seconds <= kMost)) {
+        words_.Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
+      }
+    } else if (Is("--merge")) {
+      request_.Merges = true;
+    } else if (words_.IsFile() && request_.Merges) {
+      request_.Files.push_back(words_.Option());
+    } else {
+      return false;
+    }
     return true;
+  }
+
+  void TakeName(const std::string& name) {
+    const bool first = request_.KindNames == CountRequest().KindNames;
+    request_.KindNames = first ? name : request_.KindNames + "," + name;
   }
 
   /// The first kind that lines define is searched for by its lines; all others are judged.
   void TakeKind(const std::string& name) {
+    TakeName(name);
     const LineKind* const kind = FindLineKind(name);
     if (kind && request_.Kind == LineKind::Magic) {
       request_.Kind = *kind;
@@ -93,10 +119,20 @@ class CountReader {
   }
 
   std::string WhyNotTogether() const {
+    const bool conditions = request_.KindNames != CountRequest().KindNames || request_.Given;
+    if (request_.Merges) {
+      if (request_.Files.empty()) return "the files with the slices are missing";
+      const bool more = conditions || request_.Size != 0 || request_.Part || request_.Estimates;
+      return more ? "the slices to merge can be combined with a format only" : "";
+    }
     if (request_.Size == 0 && !request_.Given) return "the size is missing";
     if (request_.SemiMagic && request_.Kind != LineKind::Magic) {
       return "the diagonals cannot be left free for a kind, which needs them";
     }
+    if (request_.Part && (request_.Size != kSlicedOrder || conditions || request_.Estimates)) {
+      return "slices are cut from all magic squares of size 5, without conditions";
+    }
+    if (request_.Seconds && !request_.Estimates) return "only an estimate takes seconds";
     return {};
   }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "count/slice.h"
 #include "files/formats.h"
 #include "puzzle/kind_lines.h"
 #include "study/terms.h"
@@ -25,6 +26,17 @@ struct CountRequest {
   std::optional<std::string> Given = {};  ///< a file with given cells; "-" is the standard input
 
   std::optional<std::int64_t> Most = {};  ///< how many are listed
+
+  /// How they are counted: a slice of the magic squares of order 5 alone; an estimate from so many
+  /// seconds; or the slices in these files, added up.
+  std::optional<Slice> Part = {};
+  bool Estimates = false;
+  std::optional<double> Seconds = {};
+  bool Merges = false;
+  std::vector<std::string> Files = {};
+
+  /// The kind and the terms, separated by commas: "magic", "pandiagonal,compact".
+  std::string KindNames = "magic";
 };
 
 }  // namespace numorra

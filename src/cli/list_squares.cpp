@@ -42,6 +42,7 @@ void ListSquares(const CountRequest& request, const Streams& streams) {
   } catch (const Superseded&) {
     return;  // the caller sees that the output has failed
   }
+  if (listed == 0) throw Impossible{"there is no such square"};
 }
 
 }  // namespace numorra

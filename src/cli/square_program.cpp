@@ -8,6 +8,7 @@
 #include "cli/build_squares.h"
 #include "cli/coded_puzzles.h"
 #include "cli/complete_squares.h"
+#include "cli/count_squares.h"
 #include "cli/list_squares.h"
 #include "cli/make_puzzles.h"
 #include "cli/study_squares.h"
@@ -60,7 +61,7 @@ int Serve(const Arguments& arguments, const Streams& streams) {
   }
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
   if (const auto* counting = std::get_if<CountRequest>(&arguments)) {
-    ListSquares(*counting, streams);
+    counting->Lists ? ListSquares(*counting, streams) : CountSquares(*counting, streams);
     return kDone;
   }
   const bool help = std::holds_alternative<HelpRequest>(arguments);

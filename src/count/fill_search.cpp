@@ -35,27 +35,84 @@ void FillSearch::Run(const std::function<bool(const Square<int>&)>& visit) {
   if (plan_.Possible) Fill(0);
 }
 
-/// False if the search is to stop; the same in the functions below.
+FillSearch::Descent FillSearch::DescendAtRandom(QuickRandom& random) {
+  constexpr std::ptrdiff_t kChoicesTried = 3;
+  Descent descent;
+  if (!plan_.Possible) return descent;
+  auto choices = std::count_if(plan_.Steps.begin(), plan_.Steps.end(),
+                               [](const FillStep& step) { return !step.Follows; });
+  double weight = 1;
+  std::vector<int> ranks;
+  std::vector<int> taken;  // the rank of each step so far
+  while (choices > kChoicesTried) {
+    const FillStep& step = plan_.Steps[taken.size()];
+    ranks.clear();
+    if (step.Follows) {
+      if (const int rank = RankFollowing(step); rank >= 0) ranks.push_back(rank);
+    } else {
+      --choices;
+      ForEachChoice(step, [&](int rank) {
+        ranks.push_back(rank);
+        return true;
+      });
+    }
+    if (ranks.empty()) break;
+    const auto count = static_cast<int>(ranks.size());
+    const int rank = ranks[AtIndex(random.Below(count))];
+    weight *= count;
+    descent.Cells += weight;
+    Take(step, rank);
+    taken.push_back(rank);
+  }
+  if (choices <= kChoicesTried) {
+    std::int64_t found = 0;
+    const std::function<bool(const Square<int>&)> count = [&](const Square<int>&) {
+      ++found;
+      return true;
+    };
+    visit_ = &count;
+    const std::uint64_t before = filled_;
+    Fill(taken.size());
+    descent.Squares = weight * static_cast<double>(found);
+    descent.Cells += weight * static_cast<double>(filled_ - before);
+  }
+  for (; !taken.empty(); taken.pop_back())
+    TakeBack(plan_.Steps[taken.size() - 1], taken.back());
+  return descent;
+}
+
+/// False if the search is to stop.
 bool FillSearch::Fill(std::size_t step) {
   constexpr std::uint64_t kYieldEvery = 1U << 17U;
   if (++filled_ % kYieldEvery == 0) yielding_.Yield();
   if (step == plan_.Steps.size()) return !wish_.Meets(square_) || (*visit_)(square_);
   const FillStep& next = plan_.Steps[step];
-  if (!next.Follows) return Choose(next, step + 1);
-  std::int64_t number = next.Constant;
-  for (const auto& [cell, factor] : next.Terms)
-    number += factor * square_[cell];
-  if (next.Divisor != 1) {
-    if (number % next.Divisor != 0) return true;
-    number /= next.Divisor;
+  if (next.Follows) {
+    const int rank = RankFollowing(next);
+    return rank < 0 || Put(next, rank, step + 1);
   }
-  if (number < 1 || number > square_.Size()) return true;
-  const int rank = rankOf_[AtIndex(number)];
-  if (rank < 0 || (free_ >> rank & 1U) == 0) return true;
-  return !IsOrdered(next, static_cast<int>(number)) || Put(next, rank, step + 1);
+  return ForEachChoice(next, [&](int rank) { return Put(next, rank, step + 1); });
 }
 
-bool FillSearch::Choose(const FillStep& step, std::size_t next) {
+/// The number that follows for a cell, by its rank; -1 if it is not free.
+int FillSearch::RankFollowing(const FillStep& step) const {
+  std::int64_t number = step.Constant;
+  for (const auto& [cell, factor] : step.Terms)
+    number += factor * square_[cell];
+  if (step.Divisor != 1) {
+    if (number % step.Divisor != 0) return -1;
+    number /= step.Divisor;
+  }
+  if (number < 1 || number > square_.Size()) return -1;
+  const int rank = rankOf_[AtIndex(number)];
+  const bool fits =
+      rank >= 0 && (free_ >> rank & 1U) != 0 && IsOrdered(step, static_cast<int>(number));
+  return fits ? rank : -1;
+}
+
+/// Calls attempt(rank) for every number that the step can choose, until it returns false.
+template <class Try>
+bool FillSearch::ForEachChoice(const FillStep& step, Try attempt) const {
   std::int64_t low = 1;
   std::int64_t high = square_.Size();
   for (const OpenLine& limit : step.Limits) {
@@ -66,25 +123,31 @@ bool FillSearch::Choose(const FillStep& step, std::size_t next) {
     const int rank = std::countr_zero(left);
     const int number = plan_.Numbers[AtIndex(rank)];
     if (number < low || number > high || !IsOrdered(step, number)) continue;
-    if (!Put(step, rank, next)) return false;
+    if (!attempt(rank)) return false;
   }
   return true;
 }
 
 bool FillSearch::Put(const FillStep& step, int rank, std::size_t next) {
-  const int number = plan_.Numbers[AtIndex(rank)];
-  free_ ^= std::uint64_t{1} << rank;
-  Note(step.Cell, number, 1);
-  square_[step.Cell] = number;
+  Take(step, rank);
   const bool goesOn = Fill(next);
-  Note(step.Cell, number, -1);
-  free_ ^= std::uint64_t{1} << rank;
+  TakeBack(step, rank);
   return goesOn;
 }
 
-void FillSearch::Note(int cell, int number, int sign) {
-  for (const int line : plan_.LinesOf[AtIndex(cell)])
-    rests_[AtIndex(line)] -= sign * number;
+void FillSearch::Take(const FillStep& step, int rank) {
+  const int number = plan_.Numbers[AtIndex(rank)];
+  free_ ^= std::uint64_t{1} << rank;
+  for (const int line : plan_.LinesOf[AtIndex(step.Cell)])
+    rests_[AtIndex(line)] -= number;
+  square_[step.Cell] = number;
+}
+
+void FillSearch::TakeBack(const FillStep& step, int rank) {
+  const int number = plan_.Numbers[AtIndex(rank)];
+  free_ ^= std::uint64_t{1} << rank;
+  for (const int line : plan_.LinesOf[AtIndex(step.Cell)])
+    rests_[AtIndex(line)] += number;
 }
 
 bool FillSearch::IsOrdered(const FillStep& step, int number) const {

@@ -1,9 +1,10 @@
+#include "count/fill_search.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
 
 #include "app/ports/build_stage.h"
-#include "count/fill_search.h"
 #include "support/slow_checker.h"
 
 namespace numorra {
