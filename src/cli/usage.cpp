@@ -40,6 +40,9 @@ std::string Usage() {
        numorra-square puzzle --size N [options]
        numorra-square puzzle --codes FILE|- [--format )" +
          all + R"(]
+       numorra-square list --size N [options]
+       numorra-square count --size N [options]
+       numorra-square count --merge FILE...
 
 Prints magic squares and the total of their lines: squares of the numbers 1 to
 N x N, of any total, 4 x 4 with a top row of your choice, or of a special kind.
@@ -100,6 +103,28 @@ one turned or mirrored, as long as there are others. Their codes, up to size
   --codes FILE|-           the puzzles of these codes instead: a line has one or more,
                            with words around them
 )" + OptionText("--format " + all, "JSON is one object per line, with its solution") +
+         R"(
+list writes all squares of the numbers 1 to N x N, each as soon as it is found; count
+counts them. Of a square and those that are the same turned or mirrored, there is one,
+in standard form. A board with more than 64 gaps is refused.
+
+  --size N                 the number of cells on a side
+  --kind TERM, --term TERM
+                           only squares for which the term holds, such as pandiagonal;
+                           may be repeated; study knows the terms
+  --given FILE|-           only squares with these numbers in their cells: a square with
+                           gaps; turned and mirrored squares are the same only if they
+                           have them, too
+  --all-images             for list: turned and mirrored squares, too
+  --count M                for list: at most so many
+  --semi-magic             for count: the diagonals may have any sum
+  --slice I/M              for count: part I of M of all squares of size 5, on a line with
+                           a checksum; parts can be counted anywhere
+  --merge FILE...          for count: adds up the lines of all parts
+  --estimate               for count: estimates squares that are too many, with the
+                           standard error, from samples
+  --seconds S              how long to take samples; 10 by default
+)" + OptionText("--format " + all, "for count: " + ofAnswers) +
          R"(
 The exit status is 0 on success, 1 if there is no such square or something could not
 be read or written, 2 for bad arguments, 3 and 4 as described for complete, 5 if there
