@@ -46,7 +46,7 @@ class Planner {
         plan_.Rests[Slot(line)] -= number;
     }
     for (int number = 1; number <= cells; ++number) {
-      if (!used[Slot(number)]) plan_.Numbers.push_back(number);
+      if (used[Slot(number)] == 0) plan_.Numbers.push_back(number);
     }
     if (static_cast<int>(plan_.Numbers.size()) > FillPlan::kMostGaps) return;
     plan_.Possible =

@@ -36,35 +36,44 @@ void FillSearch::Run(const std::function<bool(const Square<int>&)>& visit) {
 }
 
 FillSearch::Descent FillSearch::DescendAtRandom(QuickRandom& random) {
-  constexpr std::ptrdiff_t kChoicesTried = 3;
+  constexpr std::ptrdiff_t kMostTried = 6;
+  constexpr std::ptrdiff_t kShareTried = 3;
   Descent descent;
   if (!plan_.Possible) return descent;
   auto choices = std::count_if(plan_.Steps.begin(), plan_.Steps.end(),
                                [](const FillStep& step) { return !step.Follows; });
+  const auto tried = std::min(kMostTried, choices / kShareTried);
+  if (ways_.empty()) CountWays();
   double weight = 1;
   std::vector<int> ranks;
-  std::vector<int> taken;  // the rank of each step so far
-  while (choices > kChoicesTried) {
+  std::vector<double> chances;  // of the ranks, up to each
+  std::vector<int> taken;       // the rank of each step so far
+  while (choices > tried) {
     const FillStep& step = plan_.Steps[taken.size()];
-    ranks.clear();
+    int rank = -1;
     if (step.Follows) {
-      if (const int rank = RankFollowing(step); rank >= 0) ranks.push_back(rank);
+      rank = RankFollowing(step);
     } else {
       --choices;
-      ForEachChoice(step, [&](int rank) {
-        ranks.push_back(rank);
+      ranks.clear();
+      chances.assign(1, 0);
+      ForEachChoice(step, [&](int choice) {
+        ranks.push_back(choice);
+        chances.push_back(chances.back() + WaysAfter(step, plan_.Numbers[AtIndex(choice)]));
         return true;
       });
+      const double all = chances.back();
+      if (all <= 0) break;
+      const auto drawn = std::upper_bound(chances.begin(), chances.end() - 1, random.Share() * all);
+      rank = ranks[AtIndex(drawn - chances.begin() - 1)];
+      weight *= all / (*drawn - *(drawn - 1));
     }
-    if (ranks.empty()) break;
-    const auto count = static_cast<int>(ranks.size());
-    const int rank = ranks[AtIndex(random.Below(count))];
-    weight *= count;
+    if (rank < 0) break;
     descent.Cells += weight;
     Take(step, rank);
     taken.push_back(rank);
   }
-  if (choices <= kChoicesTried) {
+  if (choices <= tried) {
     std::int64_t found = 0;
     const std::function<bool(const Square<int>&)> count = [&](const Square<int>&) {
       ++found;
@@ -148,6 +157,41 @@ void FillSearch::TakeBack(const FillStep& step, int rank) {
   free_ ^= std::uint64_t{1} << rank;
   for (const int line : plan_.LinesOf[AtIndex(step.Cell)])
     rests_[AtIndex(line)] += number;
+}
+
+/// The product, over the lines through the cell, of the ways to fill their other gaps, if the cell
+/// holds the number.
+double FillSearch::WaysAfter(const FillStep& step, int number) const {
+  double ways = 1;
+  for (const OpenLine& limit : step.Limits) {
+    const std::int64_t rest = rests_[AtIndex(limit.Line)] - number;
+    if (limit.OpenAfter == 1) {
+      const int rank = rest == number ? -1 : rankOf_[AtIndex(rest)];
+      if (rank < 0 || (free_ >> rank & 1U) == 0) return 0;
+    } else if (limit.OpenAfter > 1) {
+      ways *= ways_[AtIndex(limit.OpenAfter)][AtIndex(rest)];
+    }
+  }
+  return ways;
+}
+
+void FillSearch::CountWays() {
+  std::int64_t most = 0;
+  std::size_t longest = 0;
+  for (const FillStep& step : plan_.Steps) {
+    for (const OpenLine& limit : step.Limits)
+      longest = std::max(longest, AtIndex(limit.OpenAfter));
+  }
+  for (const std::int64_t rest : plan_.Rests)
+    most = std::max(most, rest);
+  ways_.assign(longest + 1, std::vector<double>(AtIndex(most) + 1));
+  ways_[0][0] = 1;
+  for (const int number : plan_.Numbers) {
+    for (std::size_t k = longest; k > 0; --k) {
+      for (std::int64_t sum = most; sum >= number; --sum)
+        ways_[k][AtIndex(sum)] += ways_[k - 1][AtIndex(sum - number)];
+    }
+  }
 }
 
 bool FillSearch::IsOrdered(const FillStep& step, int number) const {

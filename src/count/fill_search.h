@@ -30,9 +30,10 @@ class FillSearch {
     double Cells = 0;
   };
 
-  /// Descends along choices drawn at random; every choice among k counts k times (Knuth 1975,
-  /// "Estimating the efficiency of backtrack programs"). The last choices are all tried, which
-  /// makes the estimates scatter less.
+  /// Descends along choices drawn at random; a choice with probability p counts 1 / p times (Knuth
+  /// 1975, "Estimating the efficiency of backtrack programs"). Two things make the estimates
+  /// scatter less. A number is as probable as there are ways to complete the lines through its
+  /// cell, each taken by itself; and the last choices are all tried.
   Descent DescendAtRandom(QuickRandom& random);
 
  private:
@@ -43,6 +44,8 @@ class FillSearch {
   bool Put(const FillStep& step, int rank, std::size_t next);
   void Take(const FillStep& step, int rank);
   void TakeBack(const FillStep& step, int rank);
+  double WaysAfter(const FillStep& step, int number) const;
+  void CountWays();
   bool IsOrdered(const FillStep& step, int number) const;
 
   const CountWish& wish_;
@@ -53,6 +56,7 @@ class FillSearch {
   std::vector<int> rankOf_;          ///< by number: its place in plan_.Numbers; -1 for givens
   std::vector<std::int64_t> rests_;  ///< by line: what is left for its gaps
   std::vector<std::int64_t> least_, most_;  ///< by k: sums of the k smallest and largest numbers
+  std::vector<std::vector<double>> ways_;   ///< by k and sum: sets of k numbers; for descents
   std::uint64_t free_ = 0;                  ///< bit i: plan_.Numbers[i] is not used
   std::uint64_t filled_ = 0;                ///< cells, since the beginning
 };

@@ -62,7 +62,7 @@ int LineEquations::FollowersOf(int cell) const {
 int LineEquations::UnknownsOf(const LineEquation& equation, int& one) const {
   int unknowns = 0;
   for (std::size_t cell = 0; cell < known_.size(); ++cell) {
-    if (known_[cell] || equation.Factors[cell] == 0) continue;
+    if (known_[cell] != 0 || equation.Factors[cell] == 0) continue;
     ++unknowns;
     one = static_cast<int>(cell);
   }

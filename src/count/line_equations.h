@@ -20,7 +20,7 @@ class LineEquations {
   /// All cells are unknown at first.
   LineEquations(int cells, std::vector<LineEquation> equations);
 
-  bool IsKnown(int cell) const { return known_[At(cell)]; }
+  bool IsKnown(int cell) const { return known_[At(cell)] != 0; }
 
   /// Makes a cell known, and reduces the equations.
   void Know(int cell);

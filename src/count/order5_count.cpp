@@ -103,6 +103,7 @@ void Order5Count::SplitArrangements(const std::vector<Ascent>& ascents) {
                                kDiagonalCells.begin()));
   };
   std::vector<std::pair<std::size_t, std::size_t>> slots;
+  slots.reserve(ascents.size());
   for (const Ascent& ascent : ascents)
     slots.emplace_back(slotOf(ascent.Smaller), slotOf(ascent.Larger));
   Arrangement arrangement;

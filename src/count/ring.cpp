@@ -6,17 +6,17 @@ namespace numorra {
 
 CornerTriples::CornerTriples(std::span<const int, kRingNumbers> numbers, RankSet corners,
                              RankSet firsts, RankSet seconds) {
+  const auto bit = [](std::size_t rank) { return static_cast<RankSet>(1U << rank); };
   const auto forEach = [&](auto visit) {
-    for (int u = 0; u < kRingNumbers; ++u) {
-      if ((corners >> u & 1) == 0) continue;
-      for (int x = 0; x < kRingNumbers; ++x) {
-        if (x == u || (firsts >> x & 1) == 0) continue;
-        const int s = numbers[static_cast<std::size_t>(u)] + numbers[static_cast<std::size_t>(x)];
-        for (int y = 0; y < kRingNumbers; ++y) {
-          if (y == u || y == x || (seconds >> y & 1) == 0) continue;
-          const int t = numbers[static_cast<std::size_t>(u)] + numbers[static_cast<std::size_t>(y)];
-          visit(static_cast<std::size_t>(s * kSums + t),
-                static_cast<RankSet>(1 << u | 1 << x | 1 << y));
+    for (std::size_t u = 0; u < kRingNumbers; ++u) {
+      if ((corners & bit(u)) == 0) continue;
+      for (std::size_t x = 0; x < kRingNumbers; ++x) {
+        if (x == u || (firsts & bit(x)) == 0) continue;
+        const auto s = static_cast<std::size_t>(numbers[u] + numbers[x]);
+        for (std::size_t y = 0; y < kRingNumbers; ++y) {
+          if (y == u || y == x || (seconds & bit(y)) == 0) continue;
+          const auto t = static_cast<std::size_t>(numbers[u] + numbers[y]);
+          visit(s * kSums + t, static_cast<RankSet>(bit(u) | bit(x) | bit(y)));
         }
       }
     }

@@ -9,7 +9,7 @@ namespace numorra {
 
 /// A set of up to 16 numbers: bit i is the i-th of those that are to be placed.
 using RankSet = std::uint16_t;
-inline constexpr int kRingNumbers = 16;
+inline constexpr std::size_t kRingNumbers = 16;
 inline constexpr RankSet kAllRanks = 0xffff;
 
 /// For all s and t: the triples of different numbers u, s - u and t - u, as sets. In a ring, u is a
@@ -17,20 +17,20 @@ inline constexpr RankSet kAllRanks = 0xffff;
 class CornerTriples {
  public:
   /// Sums of two numbers are below it.
-  static constexpr int kSums = 64;
+  static constexpr std::size_t kSums = 64;
 
   /// `numbers` are ascending and below 32. Each of the three numbers must be in its set.
   explicit CornerTriples(std::span<const int, kRingNumbers> numbers, RankSet corners = kAllRanks,
                          RankSet firsts = kAllRanks, RankSet seconds = kAllRanks);
 
   std::span<const RankSet> Of(int s, int t) const {
-    const auto at = static_cast<std::size_t>(s * kSums + t);
+    const std::size_t at = static_cast<std::size_t>(s) * kSums + static_cast<std::size_t>(t);
     return {triples_.data() + starts_[at], triples_.data() + starts_[at + 1]};
   }
 
   /// The numbers q for which there are triples of s and sum - q, as bits; sum is below kSums.
   std::uint64_t Partners(int s, int sum) const {
-    return backwards_[static_cast<std::size_t>(s)] >> (kSums - 1 - sum);
+    return backwards_[static_cast<std::size_t>(s)] >> (kSums - 1 - static_cast<std::size_t>(sum));
   }
 
  private:

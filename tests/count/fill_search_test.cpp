@@ -5,6 +5,7 @@
 #include <set>
 
 #include "app/ports/build_stage.h"
+#include "count/count_estimate.h"
 #include "support/slow_checker.h"
 
 namespace numorra {
@@ -95,6 +96,27 @@ TEST(FillSearchTest, FindsEachSquareOfOrder4OnceInReadingOrder) {
     sizes.insert(count);
   EXPECT_EQ(sizes, (std::multiset<int>{8, 8, 48, 48, 48, 56, 56, 56, 56, 96, 96, 304}))
       << "Dudeney's twelve types";
+}
+
+TEST(CountEstimateTest, IsNearTheTrueCount) {
+  const struct {
+    int Order;
+    LineKind Kind;
+    std::int64_t Samples;
+    double Count;
+  } kKnown[] = {{3, LineKind::Magic, 1000, 1},
+                {4, LineKind::Magic, 50'000, 880},
+                {5, LineKind::Magic, 50'000, 275305224},
+                {5, LineKind::Associative, 20'000, 48544},
+                {6, LineKind::Magic, 50'000, 17753889197660635632.0}};
+  TickingClock clock(1);
+  ClockSeededRandom random(clock);
+  SilentStage stage;
+  for (const auto& [order, kind, samples, count] : kKnown) {
+    const auto estimate = EstimateCount({Square<int>(order), kind}, 1e6, samples, random, stage);
+    EXPECT_NEAR(estimate.Squares, count, 4 * estimate.Error) << order;
+    EXPECT_LT(estimate.Error, 0.2 * count) << order;
+  }
 }
 
 }  // namespace
