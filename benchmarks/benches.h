@@ -39,6 +39,9 @@ void PrintFreshVariety();
 /// Prints the share of boards with gaps that are settled in time, by order and share of clues.
 void PrintFilling();
 
+/// Prints how long the magic squares of order 5 take to count, and how evenly slices share this.
+void PrintCounting();
+
 /// A normal board with 70 % of its numbers and one solution.
 Puzzle UniqueBoardOfOrder8();
 

@@ -80,6 +80,10 @@ int main(int argc, char** argv) {
     PrintFilling();
     return 0;
   }
+  if (argc == 2 && std::strcmp(argv[1], "--counting") == 0) {
+    PrintCounting();
+    return 0;
+  }
   const QApplication application(argc, argv);
 
   std::vector<std::string> flags = {argv[0], "--benchmark_repetitions=9",

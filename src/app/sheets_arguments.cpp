@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/option_words.h"
+
 namespace numorra {
 namespace {
 
@@ -18,18 +20,14 @@ constexpr std::pair<const char*, bool SheetOptions::*> kOptions[] = {
 /// Takes the options of sheets, and leaves the other words.
 class SheetsReader {
  public:
-  explicit SheetsReader(const std::vector<std::string>& words) : words_(words) {}
+  explicit SheetsReader(const std::vector<std::string>& words) : words_(words, 0) {}
 
   std::variant<SheetsRequest, std::string> Read() {
-    while (next_ < words_.size()) {
-      const std::string& word = words_[next_++];
-      const std::size_t equals = word.find('=');
-      attached_.reset();
-      if (equals != std::string::npos) attached_ = word.substr(equals + 1);
-      if (!Take(word.substr(0, equals))) others_.push_back(word);
+    while (words_.Next()) {
+      if (!Take(words_.Option())) others_.push_back(words_.Whole());
     }
-    if (error_.empty() && request_.File.empty()) error_ = "the file for the sheets is missing";
-    if (!error_.empty()) return error_ + "; try --help";
+    if (request_.File.empty()) words_.Fail("the file for the sheets is missing");
+    if (!words_.Error().empty()) return words_.Error() + "; try --help";
     const Arguments puzzles = ParseArguments(others_);
     if (const auto* bad = std::get_if<BadArguments>(&puzzles)) return bad->Message;
     if (const auto* made = std::get_if<SquareRequest>(&puzzles)) request_.Puzzles = *made;
@@ -43,11 +41,11 @@ class SheetsReader {
     }
     if (option == "--landscape") return Set(request_.Landscape, true);
     if (option == "--hide-totals") return Set(request_.TotalGiven, false);
-    if (option == kSheets) return Set(request_.File, Value(option));
-    if (option == "--answers") return Set(request_.Answers, Value(option));
-    if (option == "--title") return Set(request_.Title, Value(option));
-    if (option == "--per-page") return TakePerPage(Value(option));
-    return option == "--paper" && TakePaper(Value(option));
+    if (option == kSheets) return Set(request_.File, words_.Value());
+    if (option == "--answers") return Set(request_.Answers, words_.Value());
+    if (option == "--title") return Set(request_.Title, words_.Value());
+    if (option == "--per-page") return TakePerPage(words_.Value());
+    return option == "--paper" && TakePaper(words_.Value());
   }
 
   template <class T, class Value>
@@ -59,7 +57,7 @@ class SheetsReader {
   bool TakePerPage(const std::string& value) {
     constexpr const char* kNumbers[] = {"1", "2", "4", "6"};
     if (std::find(std::begin(kNumbers), std::end(kNumbers), value) == std::end(kNumbers)) {
-      Fail("a page has 1, 2, 4 or 6 puzzles");
+      words_.Fail("a page has 1, 2, 4 or 6 puzzles");
     } else {
       request_.PerPage = std::stoi(value);
     }
@@ -67,28 +65,14 @@ class SheetsReader {
   }
 
   bool TakePaper(const std::string& value) {
-    if (value != "a4" && value != "letter") Fail("the paper must be a4 or letter");
+    if (value != "a4" && value != "letter") words_.Fail("the paper must be a4 or letter");
     request_.Letter = value == "letter";
     return true;
   }
 
-  std::string Value(const std::string& option) {
-    if (attached_) return *attached_;
-    if (next_ < words_.size()) return words_[next_++];
-    Fail("'" + option + "' needs a value");
-    return {};
-  }
-
-  void Fail(std::string why) {
-    if (error_.empty()) error_ = std::move(why);
-  }
-
-  const std::vector<std::string>& words_;
-  std::size_t next_ = 0;
-  std::optional<std::string> attached_;
+  OptionWords words_;
   std::vector<std::string> others_ = {"puzzle"};
   SheetsRequest request_;
-  std::string error_;
 };
 
 }  // namespace

@@ -101,8 +101,7 @@ std::string WhyNotTogether(const SquareRequest& request, const OptionsGiven& giv
       return WhyNoPuzzle(request, given);
     case SquareCommand::Build:
       return WhyNoSquare(request);
-    case SquareCommand::Study:
-    case SquareCommand::Complete:
+    default:
       break;
   }
   return WhyNoAnswer(request);

@@ -1,7 +1,6 @@
 #include "cli/arguments.h"
 
 #include <algorithm>
-#include <charconv>
 #include <string_view>
 #include <utility>
 
@@ -9,18 +8,11 @@
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 #include "cli/argument_checks.h"
+#include "cli/count_arguments.h"
+#include "cli/option_words.h"
 
 namespace numorra {
 namespace {
-
-template <class Number>
-std::optional<Number> NumberIn(const std::string& text) {
-  Number number{};
-  const char* end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return number;
-}
 
 /// A number as a cell may hold it.
 std::optional<double> DecimalIn(const std::string& text) {
@@ -35,28 +27,26 @@ std::optional<double> DecimalIn(const std::string& text) {
 /// Reads the words one by one and reports the first error.
 class Reader {
  public:
-  explicit Reader(const std::vector<std::string>& words) : words_(words) {}
+  explicit Reader(const std::vector<std::string>& words)
+      : request_{CommandIn(words)}, words_(words, *CommandOf(request_).Name == '\0' ? 0 : 1) {}
 
   Arguments Read() {
-    TakeCommand();
-    while (next_ < words_.size() && error_.empty()) {
-      if (IsFile(words_[next_])) {
+    while (words_.Next()) {
+      if (CommandOf(request_).ReadsFile && words_.IsFile()) {
         TakeFile();
         continue;
       }
-      TakeOption();
       if (const auto handler = Handler()) {
         (this->*handler)();
       } else {
-        Fail("unknown argument '" + option_ + "'");
+        Fail("unknown argument '" + words_.Option() + "'");
       }
-      if (attached_) Fail("'" + option_ + "' takes no value");
-      if (error_.empty() && special_) return *special_;
-      wishes_ |= option_ != "--codes" && option_ != "--format" && option_ != "--steps" &&
-                 option_ != "--title";
+      words_.CheckValueTaken();
+      if (words_.Error().empty() && special_) return *special_;
+      wishes_ |= !IsAboutOutput(words_.Option());
     }
     CheckTogether();
-    if (!error_.empty()) return BadArguments{error_ + "; try --help"};
+    if (!words_.Error().empty()) return BadArguments{words_.Error() + "; try --help"};
     return request_;
   }
 
@@ -65,23 +55,31 @@ class Reader {
   static constexpr int kMostCount = 1'000'000;
   using Command = SquareCommand;
 
-  void TakeCommand() {
+  /// The command in the first word.
+  static SquareRequest CommandIn(const std::vector<std::string>& words) {
+    SquareRequest request;
     for (const CommandEntry& command : Commands()) {
-      if (words_.empty() || words_[0].empty() || words_[0] != command.Name) continue;
-      request_.Command = command.Id;
-      ++next_;
+      if (!words.empty() && !words[0].empty() && words[0] == command.Name) {
+        request.Command = command.Id;
+      }
     }
+    return request;
   }
 
-  bool IsFile(const std::string& word) const {
-    const bool reads = Commands()[static_cast<std::size_t>(request_.Command)].ReadsFile;
-    return reads && (word == "-" || !word.starts_with("-"));
+  static const CommandEntry& CommandOf(const SquareRequest& request) {
+    return Commands()[static_cast<std::size_t>(request.Command)];
+  }
+
+  /// Not about what is to be made.
+  static bool IsAboutOutput(const std::string& option) {
+    static const std::string_view kOptions[] = {"--codes", "--format", "--steps", "--title"};
+    return std::find(std::begin(kOptions), std::end(kOptions), option) != std::end(kOptions);
   }
 
   void TakeFile() {
-    if (fileNamed_) Fail("only one file can be read, not '" + words_[next_] + "' too");
+    if (fileNamed_) Fail("only one file can be read, not '" + words_.Option() + "' too");
     fileNamed_ = true;
-    request_.File = words_[next_++];
+    request_.File = words_.Option();
   }
 
   void CheckTogether() {
@@ -90,14 +88,6 @@ class Reader {
       request_.Grades = {{wanted_.value_or(Grade::Easy), request_.Count}};
     }
     if (request_.LimitToNine) request_.RulesWanted = Rules::Positive;
-  }
-
-  void TakeOption() {
-    const std::string& word = words_[next_++];
-    const std::size_t equals = word.find('=');
-    option_ = word.substr(0, equals);
-    attached_.reset();
-    if (equals != std::string::npos) attached_ = word.substr(equals + 1);
   }
 
   /// The function that reads the option; null if the command does not have it.
@@ -127,22 +117,17 @@ class Reader {
         {"--help", &Reader::Help},
         {"--version", &Reader::Version},
     };
-    if (!OptionNamed(option_, request_.Command)) return nullptr;
+    if (!OptionNamed(words_.Option(), request_.Command)) return nullptr;
     for (const auto& [name, take] : kHandlers) {
-      if (option_ == name) return take;
+      if (words_.Option() == name) return take;
     }
     return nullptr;
   }
 
-  std::string Value() {
-    if (attached_) return *std::exchange(attached_, std::nullopt);
-    if (next_ < words_.size()) return words_[next_++];
-    Fail("'" + option_ + "' needs a value");
-    return {};
-  }
+  std::string Value() { return words_.Value(); }
 
   void Size() {
-    const auto size = NumberIn<int>(Value());
+    const auto size = WholeTextAs<int>(Value());
     if (!size || *size < kMinOrder || *size > kMaxOrder) {
       Fail("the size must be a whole number from 3 to 50");
     } else {
@@ -161,7 +146,7 @@ class Reader {
   void LimitToNine() { request_.LimitToNine = true; }
 
   void Corner() {
-    request_.Corner = NumberIn<int>(Value());
+    request_.Corner = WholeTextAs<int>(Value());
     if (!request_.Corner || *request_.Corner < 1)
       Fail("the corner must be a whole number of 1 or more");
   }
@@ -186,7 +171,7 @@ class Reader {
   }
 
   const std::vector<std::string>& Choices() const {
-    return OptionNamed(option_, request_.Command)->Choices;
+    return OptionNamed(words_.Option(), request_.Command)->Choices;
   }
 
   void LineKindOption() {
@@ -211,7 +196,7 @@ class Reader {
       const std::size_t colon = share.find(':');
       const auto grade = GradeNamed(share.substr(0, colon));
       const auto count =
-          colon == std::string::npos ? std::nullopt : NumberIn<int>(share.substr(colon + 1));
+          colon == std::string::npos ? std::nullopt : WholeTextAs<int>(share.substr(colon + 1));
       if (!grade || !count || *count < 1 || *count > kMostCount) {
         Fail("the grades must be grades with counts, such as easy:10,medium:5, not '" + share +
              "'");
@@ -226,7 +211,7 @@ class Reader {
   void Title() { request_.Title = Value(); }
 
   void Clues() {
-    request_.ClueCount = NumberIn<int>(Value());
+    request_.ClueCount = WholeTextAs<int>(Value());
     if (!request_.ClueCount || *request_.ClueCount < 0)
       Fail("the number of clues must be a whole number of 0 or more");
   }
@@ -243,7 +228,7 @@ class Reader {
 
   void Seconds() {
     constexpr double kMost = 1'000'000;
-    const auto seconds = NumberIn<double>(Value());
+    const auto seconds = WholeTextAs<double>(Value());
     if (seconds && *seconds > 0 && *seconds <= kMost) {
       request_.Seconds = *seconds;
     } else {
@@ -255,7 +240,7 @@ class Reader {
   void Fresh() { request_.Fresh = true; }
 
   void Count() {
-    const auto count = NumberIn<int>(Value());
+    const auto count = WholeTextAs<int>(Value());
     counted_ = true;
     if (!count || *count < 1 || *count > kMostCount)
       Fail("the count must be a whole number from 1 to 1000000");
@@ -269,7 +254,7 @@ class Reader {
   }
 
   void Seed() {
-    request_.Seed = NumberIn<std::uint64_t>(Value());
+    request_.Seed = WholeTextAs<std::uint64_t>(Value());
     if (!request_.Seed) Fail("the seed must be a whole number of 0 or more");
   }
 
@@ -282,26 +267,21 @@ class Reader {
   void Help() { special_ = HelpRequest{}; }
   void Version() { special_ = VersionRequest{}; }
 
-  void Fail(std::string message) {
-    if (error_.empty()) error_ = std::move(message);
-  }
+  void Fail(std::string message) { words_.Fail(std::move(message)); }
 
-  const std::vector<std::string>& words_;
-  std::size_t next_ = 0;
+  SquareRequest request_;
+  OptionWords words_;
   bool fileNamed_ = false;
   bool wishes_ = false;  ///< there are options that say what is to be made
   std::optional<Grade> wanted_;
   bool counted_ = false;
-  std::string option_;
-  std::optional<std::string> attached_;
-  SquareRequest request_;
   std::optional<Arguments> special_;
-  std::string error_;
 };
 
 }  // namespace
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
+  if (ListsOrCounts(words)) return ParseCountArguments(words);
   return Reader(words).Read();
 }
 

@@ -8,6 +8,7 @@
 
 #include "app/board/rules.h"
 #include "cli/commands.h"
+#include "cli/count_request.h"
 #include "files/formats.h"
 #include "generate/top_row_square.h"
 #include "puzzle/kind_lines.h"
@@ -67,8 +68,8 @@ struct BadArguments {
   std::string Message;
 };
 
-using Arguments =
-    std::variant<SquareRequest, HelpRequest, VersionRequest, CompletionsRequest, BadArguments>;
+using Arguments = std::variant<SquareRequest, CountRequest, HelpRequest, VersionRequest,
+                               CompletionsRequest, BadArguments>;
 
 /// Reads the words after the program's name. The value of an option is the next word, or follows an
 /// equals sign.

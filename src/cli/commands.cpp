@@ -6,6 +6,7 @@
 #include "puzzle/grade.h"
 #include "puzzle/kind_lines.h"
 #include "study/special.h"
+#include "study/terms.h"
 
 namespace numorra {
 namespace {
@@ -14,6 +15,8 @@ constexpr auto kBuild = SquareCommand::Build;
 constexpr auto kStudy = SquareCommand::Study;
 constexpr auto kComplete = SquareCommand::Complete;
 constexpr auto kPuzzle = SquareCommand::Puzzle;
+constexpr auto kList = SquareCommand::List;
+constexpr auto kCount = SquareCommand::Count;
 
 std::vector<std::string> Formats(bool answersAlone) {
   std::vector<std::string> names;
@@ -35,6 +38,13 @@ std::vector<std::string> SpecialTerms() {
   for (const SpecialKind& kind : kSpecialKinds)
     terms.emplace_back(kind.Term);
   return terms;
+}
+
+std::vector<std::string> TermNames() {
+  std::vector<std::string> names;
+  for (const Term& term : Terms())
+    names.emplace_back(term.Name);
+  return names;
 }
 
 std::vector<std::string> GradeNames() {
@@ -74,13 +84,25 @@ const std::vector<CommandEntry>& Commands() {
        "puzzle makes squares with gaps that have one solution; no puzzle of a run is another one "
        "turned or mirrored, as long as there are others. Their codes, up to size 20, are read by "
        "study, complete and the window. JSON is one object per line, with its solution.",
-       false}};
+       false},
+      {kList, "list", "--size N [options]",
+       "list writes all squares of the numbers 1 to N x N, each as soon as it is found. Of a "
+       "square "
+       "and those that are the same turned or mirrored, there is one, in standard form. A board "
+       "with "
+       "more than 64 gaps is refused.",
+       false},
+      {kCount, "count", "--size N [options]\n--merge FILE...",
+       "count counts the squares that list writes. Those of size 5 take less than a minute; larger "
+       "ones can be counted if a kind or given cells leave few enough, or else be estimated.",
+       true}};
   return kCommands;
 }
 
 const std::vector<OptionEntry>& Options() {
+  const std::vector<SquareCommand> kAll = {kBuild, kStudy, kComplete, kPuzzle, kList, kCount};
   static const std::vector<OptionEntry> kOptions = {
-      {"--size", "N", {kBuild, kPuzzle}, "the number of cells on a side, 3 to 50"},
+      {"--size", "N", {kBuild, kPuzzle, kList, kCount}, "the number of cells on a side, 3 to 50"},
       {"--sum", "T", {kBuild}, "the total, instead of that of 1 to N x N; below 32768 x N"},
       {"--limit-to-9", "", {kBuild}, "no number above 9; the total is then at most 5 x N"},
       {"--corner", "V", {kBuild}, "the number in the top left corner, for sizes from 4"},
@@ -127,6 +149,31 @@ const std::vector<OptionEntry>& Options() {
        "the puzzles of these codes instead: a line has one or more, with words around them"},
       {"--steps", "", {kPuzzle}, "with the steps that solve it, in JSON"},
       {"--format", "FORMAT", {kBuild}, FormatsTold(), Formats(false)},
+      {"--kind",
+       "TERM",
+       {kList, kCount},
+       "only squares for which this term of study holds; may be repeated",
+       TermNames()},
+      {"--term", "TERM", {kList, kCount}, "the same", TermNames()},
+      {"--given",
+       "FILE",
+       {kList, kCount},
+       "only squares with these numbers in their cells: a square with gaps; turned and mirrored "
+       "squares are the same only if they have them, too"},
+      {"--all-images", "", {kList}, "turned and mirrored squares, too"},
+      {"--count", "M", {kList}, "at most so many"},
+      {"--semi-magic", "", {kCount}, "the diagonals may have any sum"},
+      {"--slice",
+       "I/M",
+       {kCount},
+       "part I of M of all squares of size 5, on a line with a checksum; parts can be counted "
+       "anywhere"},
+      {"--merge", "FILE", {kCount}, "adds up the lines of all parts in one or several files"},
+      {"--estimate",
+       "",
+       {kCount},
+       "estimates squares that are too many, with the standard error, from samples"},
+      {"--seconds", "S", {kCount}, "how long to take samples; 10 by default"},
       {"--title", "TEXT", {kPuzzle}, "the title of the page, in HTML"},
       {"--format",
        "FORMAT",
@@ -134,15 +181,20 @@ const std::vector<OptionEntry>& Options() {
        "how they are written, as described above; html is one page on which all of them can be "
        "solved in a browser",
        Formats(false)},
-      {"--format", "FORMAT", {kStudy, kComplete}, "how the answers are written", Formats(true)},
+      {"--format", "FORMAT", {kList}, "how they are written, as described above", Formats(false)},
+      {"--format",
+       "FORMAT",
+       {kStudy, kComplete, kCount},
+       "how the answers are written",
+       Formats(true)},
       {"--seed", "N", {kBuild, kPuzzle}, "seed of the random numbers; the same seed repeats a run"},
       {"--completions",
        "SHELL",
        {kBuild},
        "prints the completions of this program for a shell",
        {"bash", "zsh", "fish"}},
-      {"--help", "", {kBuild, kStudy, kComplete, kPuzzle}, "this text"},
-      {"--version", "", {kBuild, kStudy, kComplete, kPuzzle}, "the program's version"}};
+      {"--help", "", kAll, "this text"},
+      {"--version", "", kAll, "the program's version"}};
   return kOptions;
 }
 

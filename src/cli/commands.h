@@ -8,7 +8,7 @@
 namespace numorra {
 
 /// The command in the first word; Build if the first word is not a command.
-enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle };
+enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle, List, Count };
 
 /// A command for the usage text and the shells' completions.
 struct CommandEntry {

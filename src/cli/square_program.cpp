@@ -7,6 +7,8 @@
 #include "cli/arguments.h"
 #include "cli/build_squares.h"
 #include "cli/complete_squares.h"
+#include "cli/count_squares.h"
+#include "cli/list_squares.h"
 #include "cli/make_puzzles.h"
 #include "cli/puzzle_writer.h"
 #include "cli/study_squares.h"
@@ -53,7 +55,7 @@ int Run(const SquareRequest& request, const Streams& streams) {
       return StatusOf(CompleteSquares(request, streams));
     case SquareCommand::Puzzle:
       return WritePuzzles(request, streams);
-    case SquareCommand::Build:
+    default:
       break;
   }
   return BuildSquares(request, streams) ? kDone : kFailed;
@@ -67,6 +69,10 @@ int Serve(const Arguments& arguments, const Streams& streams) {
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
   if (const auto* completions = std::get_if<CompletionsRequest>(&arguments)) {
     streams.Out << CompletionsFor(completions->Shell);
+    return kDone;
+  }
+  if (const auto* counting = std::get_if<CountRequest>(&arguments)) {
+    counting->Lists ? ListSquares(*counting, streams) : CountSquares(*counting, streams);
     return kDone;
   }
   const bool help = std::holds_alternative<HelpRequest>(arguments);

@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t kWidth = 80;
 constexpr std::size_t kSaysFrom = 27;
+constexpr std::size_t kMostChoices = 10;  // that are told
 
 /// The text in lines of at most kWidth characters, each with an indent but the first.
 std::string Wrapped(const std::string& text, std::size_t indent) {
@@ -41,7 +42,8 @@ std::string ValueOf(const OptionEntry& option) {
 std::string OptionText(const OptionEntry& option) {
   std::string line = "  " + std::string(option.Name) + " " + ValueOf(option);
   std::string says = option.Says;
-  if (option.Choices.size() > 3 && says.find('\n') == std::string::npos) {
+  const bool few = option.Choices.size() > 3 && option.Choices.size() <= kMostChoices;
+  if (few && says.find('\n') == std::string::npos) {
     says += ": " + Listed(option.Choices);
   }
   if (line.size() + 2 > kSaysFrom) {
