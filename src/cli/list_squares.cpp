@@ -5,7 +5,7 @@
 #include "app/board/orders.h"
 #include "app/ports/yielding.h"
 #include "cli/count_conditions.h"
-#include "count/fill_search.h"
+#include "count/all_squares.h"
 
 namespace numorra {
 namespace {
@@ -39,7 +39,7 @@ void ListSquares(const CountRequest& request, const Streams& streams) {
     return ++listed != request.Most && streams.Out.good();
   };
   try {
-    FillSearch(wish, yielding).Run(write);
+    ForEachSquare(wish, yielding, write);
   } catch (const Superseded&) {
     return;  // the caller sees that the output has failed
   }

@@ -12,9 +12,9 @@ namespace numorra {
 /// The number of squares of a wish with at most FillPlan::kMostGaps gaps; or, in a sentence, that
 /// they cannot be counted in a time that anyone would wait for.
 ///
-/// A few random descents say how long a search of all squares would take. If that is long, and they
-/// are magic squares of order 5 without more conditions than given cells, their diagonals are
-/// counted instead (order5_count.h). Both ways are exact.
+/// Magic squares of order 5 without more conditions than given cells are counted by their diagonals
+/// (order5_count.h), unless there are so few that they can be found quickly. All others are found
+/// one by one. Both ways are exact.
 std::variant<std::int64_t, std::string> CountAll(const CountWish& wish, Yielding& yielding);
 
 }  // namespace numorra

@@ -76,7 +76,9 @@ void LineEquations::Reduce() {
     equations_.pop_back();
     int own = -1;
     if (UnknownsOf(pivot, own) == 0) {
-      checks_.push_back(pivot);
+      const bool isEmpty = std::all_of(pivot.Factors.begin(), pivot.Factors.end(),
+                                       [](std::int64_t factor) { return factor == 0; });
+      if (isEmpty && pivot.Sum != 0) consistent_ = false;
       continue;
     }
     for (auto* const others : {&equations_, &reduced}) {

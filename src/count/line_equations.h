@@ -35,8 +35,8 @@ class LineEquations {
   /// The number of cells that would follow at once if `cell` was known, too.
   int FollowersOf(int cell) const;
 
-  /// Equations all of whose cells are known.
-  const std::vector<LineEquation>& Checks() const { return checks_; }
+  /// False if the equations contradict each other, whatever is in the cells.
+  bool AreConsistent() const { return consistent_; }
 
  private:
   static std::size_t At(int index) { return static_cast<std::size_t>(index); }
@@ -44,8 +44,8 @@ class LineEquations {
   void Reduce();
 
   std::vector<LineEquation> equations_;
-  std::vector<LineEquation> checks_;
   std::vector<char> known_;  ///< by cell
+  bool consistent_ = true;
 };
 
 }  // namespace numorra

@@ -4,19 +4,20 @@
 
 namespace numorra {
 
-CornerTriples::CornerTriples(std::span<const int, kRingNumbers> numbers, RankSet corners,
-                             RankSet firsts, RankSet seconds) {
+CornerTriples::CornerTriples(const RingNumbers& numbers, RankSet corners, RankSet firsts,
+                             RankSet seconds) {
   const auto bit = [](std::size_t rank) { return static_cast<RankSet>(1U << rank); };
   const auto forEach = [&](auto visit) {
     for (std::size_t u = 0; u < kRingNumbers; ++u) {
       if ((corners & bit(u)) == 0) continue;
       for (std::size_t x = 0; x < kRingNumbers; ++x) {
         if (x == u || (firsts & bit(x)) == 0) continue;
-        const auto s = static_cast<std::size_t>(numbers[u] + numbers[x]);
+        const int s = numbers[u] + numbers[x];
         for (std::size_t y = 0; y < kRingNumbers; ++y) {
           if (y == u || y == x || (seconds & bit(y)) == 0) continue;
-          const auto t = static_cast<std::size_t>(numbers[u] + numbers[y]);
-          visit(s * kSums + t, static_cast<RankSet>(bit(u) | bit(x) | bit(y)));
+          const int t = numbers[u] + numbers[y];
+          visit(static_cast<std::size_t>(s) * kSums + static_cast<std::size_t>(t),
+                static_cast<RankSet>(bit(u) | bit(x) | bit(y)));
         }
       }
     }
@@ -31,7 +32,7 @@ CornerTriples::CornerTriples(std::span<const int, kRingNumbers> numbers, RankSet
   forEach([&](std::size_t at, RankSet triple) { triples_[ends[at]++] = triple; });
 }
 
-RingFiller::RingFiller(std::span<const int, kRingNumbers> numbers, const RingCells& cells)
+RingFiller::RingFiller(const RingNumbers& numbers, const RingCells& cells)
     : topRight_(numbers, cells.TopRight, cells.Top, cells.Right),
       bottomLeft_(numbers, cells.BottomLeft, cells.Left, cells.Bottom) {
   for (std::size_t rank = 0; rank < numbers.size(); ++rank) {
@@ -68,6 +69,39 @@ std::size_t RingFiller::Fill(const RingSums& sums, Fillings& fillings) const {
     }
   }
   return count;
+}
+
+std::vector<Ring> RingsOf(const RingNumbers& numbers, RankSet eight, const RingSums& sums) {
+  std::uint64_t set = 0;
+  for (std::size_t rank = 0; rank < numbers.size(); ++rank)
+    set |= std::uint64_t{(eight >> rank) & 1U} << static_cast<unsigned>(numbers[rank]);
+  std::vector<Ring> rings;
+  Ring ring{};
+  // Takes the number for a cell, if it is free, and calls `then`.
+  const auto put = [&](std::size_t cell, int number, auto then) {
+    if (number < 1 || number >= 32 || (set >> static_cast<unsigned>(number) & 1U) == 0) return;
+    ring[cell] = number;
+    set ^= std::uint64_t{1} << static_cast<unsigned>(number);
+    then();
+    set ^= std::uint64_t{1} << static_cast<unsigned>(number);
+  };
+  // Fills a corner and the middle of the side from the corner before it.
+  const auto side = [&](std::size_t corner, int sum, auto then) {
+    for (const int number : numbers) {
+      put(corner, number, [&] { put(corner - 1, sum - ring[corner - 2] - number, then); });
+    }
+  };
+  for (const int number : numbers) {
+    put(0, number, [&] {
+      side(2, sums.Top, [&] {
+        side(4, sums.Right, [&] {
+          side(6, sums.Bottom,
+               [&] { put(7, sums.Left - ring[0] - ring[6], [&] { rings.push_back(ring); }); });
+        });
+      });
+    });
+  }
+  return rings;
 }
 
 }  // namespace numorra

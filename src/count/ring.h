@@ -12,6 +12,9 @@ using RankSet = std::uint16_t;
 inline constexpr std::size_t kRingNumbers = 16;
 inline constexpr RankSet kAllRanks = 0xffff;
 
+/// The numbers for two rings, ascending and below 32.
+using RingNumbers = std::array<int, kRingNumbers>;
+
 /// For all s and t: the triples of different numbers u, s - u and t - u, as sets. In a ring, u is a
 /// corner, and the others are the middles of the two sides that meet in it.
 class CornerTriples {
@@ -19,8 +22,8 @@ class CornerTriples {
   /// Sums of two numbers are below it.
   static constexpr std::size_t kSums = 64;
 
-  /// `numbers` are ascending and below 32. Each of the three numbers must be in its set.
-  explicit CornerTriples(std::span<const int, kRingNumbers> numbers, RankSet corners = kAllRanks,
+  /// Each of the three numbers must be in its set.
+  explicit CornerTriples(const RingNumbers& numbers, RankSet corners = kAllRanks,
                          RankSet firsts = kAllRanks, RankSet seconds = kAllRanks);
 
   std::span<const RankSet> Of(int s, int t) const {
@@ -51,6 +54,12 @@ struct RingCells {
           BottomRight = kAllRanks, Bottom = kAllRanks, BottomLeft = kAllRanks, Left = kAllRanks;
 };
 
+/// The numbers in a ring, clockwise from the top left.
+using Ring = std::array<int, 8>;
+
+/// The rings of a set of eight of the numbers whose sides have these sums.
+std::vector<Ring> RingsOf(const RingNumbers& numbers, RankSet eight, const RingSums& sums);
+
 /// Fills rings with eight of 16 numbers.
 ///
 /// Two opposite corners are chosen. Each of the other two corners then settles the middles of its
@@ -58,7 +67,7 @@ struct RingCells {
 /// the pairs of one triple of each corner that have no number in common.
 class RingFiller {
  public:
-  RingFiller(std::span<const int, kRingNumbers> numbers, const RingCells& cells);
+  RingFiller(const RingNumbers& numbers, const RingCells& cells);
 
   /// More fillings than a ring can have: after four corners, its sums leave no choice.
   static constexpr std::size_t kMostFillings = 16 * 15 * 14 * 13 + 1;

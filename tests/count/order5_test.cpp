@@ -1,10 +1,11 @@
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <map>
+#include <set>
 
 #include "app/ports/build_stage.h"
 #include "count/fill_search.h"
 #include "count/order5_count.h"
+#include "count/order5_squares.h"
 #include "count/slice.h"
 #include "support/soak.h"
 
@@ -40,10 +41,22 @@ TEST(Order5CountTest, AgreesWithASearch) {
     CountWish wish{Square<int>(5)};
     for (const int cell : given)
       wish.Givens[cell] = kSquare[cell];
-    std::int64_t found = 0;
-    FillSearch(wish, stage).Run([&](const Square<int>&) { return ++found > 0; });
-    EXPECT_GT(found, 0);
-    EXPECT_EQ(CountWith(wish.Givens), found) << "given cells from " << given[1];
+    for (const bool allImages : {false, true}) {
+      wish.AllImages = allImages;
+      std::multiset<Square<int>> searched, found;
+      const auto into = [](std::multiset<Square<int>>& squares) {
+        return [&](const Square<int>& square) {
+          squares.insert(square);
+          return true;
+        };
+      };
+      FillSearch(wish, stage).Run(into(searched));
+      ForEachSquareOfOrder5(wish, stage, into(found));
+      EXPECT_FALSE(found.empty());
+      EXPECT_EQ(found, searched) << "given cells from " << given[1];
+      if (allImages) continue;
+      EXPECT_EQ(CountWith(wish.Givens), static_cast<std::int64_t>(found.size()));
+    }
   }
 }
 
