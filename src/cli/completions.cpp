@@ -35,6 +35,15 @@ bool TakesFile(const OptionEntry& option) {
   return std::string(option.Value).find("FILE") != std::string::npos;
 }
 
+/// The words that the value can be, without those that shells would split or quote.
+std::string ChoicesOf(const OptionEntry& option) {
+  std::vector<std::string> plain;
+  for (const std::string& choice : option.Choices) {
+    if (choice.find_first_of(" '\"") == std::string::npos) plain.push_back(choice);
+  }
+  return Joined(plain);
+}
+
 std::string Bash() {
   std::string text =
       "# bash completion for numorra-square\n"
@@ -48,29 +57,19 @@ std::string Bash() {
   std::string words;
   for (const CommandEntry& command : Commands()) {
     const std::string name = command.Name;
-    std::vector<std::string> names;
+    std::vector<std::string> names = name.empty() ? CommandNames() : std::vector<std::string>();
     for (const OptionEntry* option : OptionsOf(command.Id)) {
       names.emplace_back(option->Name);
       if (*option->Value == '\0') continue;
       text += "  \"" + name + " " + option->Name + "\") ";
       text += TakesFile(*option)
                   ? "compopt -o default; COMPREPLY=()"
-                  : "COMPREPLY=($(compgen -W '" + Joined(option->Choices) + "' -- \"$current\"))";
+                  : "COMPREPLY=($(compgen -W '" + ChoicesOf(*option) + "' -- \"$current\"))";
       text += "; return ;;\n";
     }
-    words += "  " + (name.empty() ? "*" : name) + ") words='" + Joined(names) + "' ;;\n";
-    if (!name.empty()) continue;
-    words = "";  // the others come first, as * takes all
+    words += "  \"" + name + "\") words='" + Joined(names) + "' ;;\n";
   }
-  const auto build = OptionsOf(SquareCommand::Build);
-  std::vector<std::string> names = CommandNames();
-  for (const OptionEntry* option : build)
-    names.emplace_back(option->Name);
-  return text +
-         "  esac\n"
-         "  case $command in\n" +
-         words + "  *) words='" + Joined(names) +
-         "' ;;\n"
+  return text + "  esac\n  case \"$command\" in\n" + words +
          "  esac\n"
          "  COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
          "  if [ ${#COMPREPLY[@]} -eq 0 ]; then compopt -o default; fi\n"
@@ -100,7 +99,7 @@ std::string Zsh() {
       if (*option->Value != '\0') {
         specs += std::string(":") + option->Value + ":";
         if (TakesFile(*option)) specs += "_files";
-        if (!option->Choices.empty()) specs += "(" + Joined(option->Choices) + ")";
+        if (!option->Choices.empty()) specs += "(" + ChoicesOf(*option) + ")";
       }
       specs += "'";
     }
@@ -130,7 +129,7 @@ std::string Fish() {
     for (const OptionEntry* option : OptionsOf(command.Id)) {
       text += complete + when + " -l " + (option->Name + 2) + " -d '" + Told(*option) + "'";
       if (*option->Value != '\0') text += TakesFile(*option) ? " -r -F" : " -x";
-      if (!option->Choices.empty()) text += " -a '" + Joined(option->Choices) + "'";
+      if (!option->Choices.empty()) text += " -a '" + ChoicesOf(*option) + "'";
       text += "\n";
     }
   }
