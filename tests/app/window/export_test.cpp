@@ -48,6 +48,20 @@ class ExportTest : public FilesWindowTest {
     return inked;
   }
 
+  /// The largest difference of grey where squares of 20 pixels are blurred into one: more than the
+  /// smoothing of edges can make.
+  static int Difference(QImage one, QImage other) {
+    constexpr int kSquares = 50;
+    int largest = 0;
+    for (QImage* image : {&one, &other})
+      *image = image->scaled(kSquares, kSquares, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    for (int at = 0; at < kSquares * kSquares; ++at) {
+      const QPoint pixel(at % kSquares, at / kSquares);
+      largest = std::max(largest, std::abs(qGray(one.pixel(pixel)) - qGray(other.pixel(pixel))));
+    }
+    return largest;
+  }
+
   /// The margins around what is not white: left, top, right, bottom.
   static std::array<int, 4> Margins(const QImage& picture) {
     constexpr int kInk = 245;  // an edge may be blurred
@@ -110,7 +124,9 @@ TEST_F(ExportTest, PicturesHaveTheirSizeAndEvenMarginsOnWhite) {
       QImage rendered(1003, 1003, QImage::Format_RGB32);
       rendered.fill(Qt::red);
       QPainter painter(&rendered);
+      painter.setRenderHint(QPainter::Antialiasing);
       QSvgRenderer(written).render(&painter);
+      EXPECT_LE(Difference(picture, rendered), 24);
       const auto again = Margins(rendered);
       for (std::size_t side = 0; side < margins.size(); ++side)
         EXPECT_NEAR(again[side], margins[side], 2);
