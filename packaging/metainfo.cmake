@@ -2,8 +2,14 @@
 # sets their address.
 set(NUMORRA_PICTURES_URL "" CACHE STRING "public address of docs/pictures, for software centres")
 
-# Writes the metainfo to a file, with pictures if they have an address.
-function(numorra_metainfo pictures_url file)
+set(NUMORRA_HOMEPAGE_URL "" CACHE STRING "public address of the program's home page, for software centres")
+
+# Writes the metainfo to a file, with pictures and a home page if they have an address.
+function(numorra_metainfo pictures_url homepage_url file)
+  set(NUMORRA_HOMEPAGE "")
+  if(homepage_url)
+    set(NUMORRA_HOMEPAGE "  <url type=\"homepage\">${homepage_url}</url>\n")
+  endif()
   set(NUMORRA_SCREENSHOTS "")
   if(pictures_url)
     set(type " type=\"default\"")
@@ -21,5 +27,5 @@ function(numorra_metainfo pictures_url file)
     endforeach()
     set(NUMORRA_SCREENSHOTS "  <screenshots>\n${NUMORRA_SCREENSHOTS}  </screenshots>\n")
   endif()
-  configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/org.numorra.Numorra.metainfo.xml.in ${file} @ONLY)
+  configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/org.numorra.numorra.metainfo.xml.in ${file} @ONLY)
 endfunction()

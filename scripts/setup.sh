@@ -1,6 +1,6 @@
 # Sourced by the project's commands: installs missing packages, and builds with little output.
 
-kBuildPackages=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation)
+kBuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev nlohmann-json3-dev fonts-dejavu-core fonts-liberation)
 
 # need_packages NAME...: installs missing Debian packages; silent if there are none.
 need_packages() {
@@ -26,6 +26,11 @@ need_packages() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
       apt-get install -y --no-install-recommends "${missing[@]}"; } >build/install.log 2>&1 ||
     { tail -n 15 build/install.log >&2; echo "Installing failed: see build/install.log" >&2; return 1; }
+}
+
+# want_packages NAME...: installs what some tests need; they are skipped without it.
+want_packages() {
+  need_packages "$@" 2>/dev/null || echo "Not installed, so some tests are skipped: $*"
 }
 
 # build PRESET [TARGET...]: configures if needed and builds; details go to build/PRESET.log.

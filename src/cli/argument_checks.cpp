@@ -1,5 +1,6 @@
 #include "cli/argument_checks.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -8,6 +9,8 @@
 
 namespace numorra {
 namespace {
+
+constexpr const char* kOnePicture = "a picture has room for one square, not several";
 
 bool IsBroken(const std::optional<double>& sum) {
   return sum && *sum != std::floor(*sum);
@@ -20,9 +23,25 @@ std::string WhyTooLarge(const SquareRequest& request) {
   return "the sum for size " + std::to_string(request.Size) + " must be below " + Decimal(bound);
 }
 
+/// The number of puzzles wished for.
+int PuzzlesIn(const SquareRequest& request) {
+  int all = 0;
+  for (const GradeShare& share : request.Grades)
+    all += share.Count;
+  return std::max(all, request.Count);
+}
+
 std::string WhyNoPuzzle(const SquareRequest& request, const OptionsGiven& given) {
+  if (request.Title && request.Format != SquareFormat::Html) {
+    return "a title needs the format html";
+  }
+  if (request.Format == SquareFormat::Svg && PuzzlesIn(request) > 1) return kOnePicture;
+  if (request.Steps && request.Format != SquareFormat::Json) {
+    return "steps are written in the format json only";
+  }
   if (request.Codes) {
-    return given.Wishes ? "a list of codes can be combined with a format only" : "";
+    return given.Wishes ? "a list of codes can be combined with a format, a title and steps only"
+                        : "";
   }
   if (request.Size == 0) return "the size is missing";
   if (IsBroken(request.Sum)) return "the sum of a puzzle must be a whole number";
@@ -41,20 +60,23 @@ std::string WhyNoAnswer(const SquareRequest& request) {
 }
 
 std::string WhyNoFreshSquare(const SquareRequest& request) {
-  if (request.Top) return "a fresh square cannot be combined with a top row";
+  if (request.Top || request.TopRows) return "a fresh square cannot be combined with a top row";
   if (request.Corner) return "a fresh square cannot be combined with a corner";
   return IsBroken(request.Sum) ? "the sum of a fresh square must be a whole number" : "";
 }
 
 /// A relative of a square has its lines in another order.
 std::string WhyNotVaried(const SquareRequest& request) {
-  if (request.Top) return "a varied square does not keep its top row";
+  if (request.Top || request.TopRows) return "a varied square does not keep its top row";
   return request.Corner ? "a varied square does not keep its corner" : "";
 }
 
 std::string WhyNoSquare(const SquareRequest& request) {
+  if (request.Format == SquareFormat::Svg && request.Count > 1) {
+    return kOnePicture;
+  }
   const bool variable = request.Sum || request.LimitToNine || request.Corner;
-  if (request.Top) {
+  if (request.Top || request.TopRows) {
     if (request.Size != 0 || variable || request.Kind) {
       return "a top row cannot be combined with a size, sum, limit, corner or kind";
     }
@@ -81,6 +103,8 @@ std::string WhyNotTogether(const SquareRequest& request, const OptionsGiven& giv
       return WhyNoSquare(request);
     case SquareCommand::Study:
     case SquareCommand::Complete:
+    case SquareCommand::List:
+    case SquareCommand::Count:
       break;
   }
   return WhyNoAnswer(request);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
-#include <initializer_list>
+#include <string_view>
 #include <utility>
 
 #include "app/board/numbers.h"
@@ -53,7 +53,8 @@ class Reader {
       }
       if (attached_) Fail("'" + option_ + "' takes no value");
       if (error_.empty() && special_) return *special_;
-      wishes_ |= option_ != "--codes" && option_ != "--format";
+      wishes_ |= option_ != "--codes" && option_ != "--format" && option_ != "--steps" &&
+                 option_ != "--title";
     }
     CheckTogether();
     if (!error_.empty()) return BadArguments{error_ + "; try --help"};
@@ -66,17 +67,15 @@ class Reader {
   using Command = SquareCommand;
 
   void TakeCommand() {
-    static constexpr std::pair<const char*, Command> kCommands[] = {
-        {"study", Command::Study}, {"complete", Command::Complete}, {"puzzle", Command::Puzzle}};
-    for (const auto& [name, command] : kCommands) {
-      if (words_.empty() || words_[0] != name) continue;
-      request_.Command = command;
+    for (const CommandEntry& command : Commands()) {
+      if (words_.empty() || words_[0].empty() || words_[0] != command.Name) continue;
+      request_.Command = command.Id;
       ++next_;
     }
   }
 
   bool IsFile(const std::string& word) const {
-    const bool reads = request_.Command == Command::Study || request_.Command == Command::Complete;
+    const bool reads = Commands()[static_cast<std::size_t>(request_.Command)].ReadsFile;
     return reads && (word == "-" || !word.starts_with("-"));
   }
 
@@ -104,42 +103,34 @@ class Reader {
 
   /// The function that reads the option; null if the command does not have it.
   Member Handler() const {
-    struct Option {
-      const char* Name;
-      Member Take;
-      std::initializer_list<Command> Of;
+    static const std::pair<std::string_view, Member> kHandlers[] = {
+        {"--size", &Reader::Size},
+        {"--sum", &Reader::Sum},
+        {"--limit-to-9", &Reader::LimitToNine},
+        {"--corner", &Reader::Corner},
+        {"--top-row", &Reader::TopRowOption},
+        {"--kind", &Reader::Kind},
+        {"--vary", &Reader::Vary},
+        {"--fresh", &Reader::Fresh},
+        {"--count", &Reader::Count},
+        {"--seed", &Reader::Seed},
+        {"--grade", &Reader::GradeOption},
+        {"--grades", &Reader::GradesOption},
+        {"--clues", &Reader::Clues},
+        {"--symmetric", &Reader::Symmetric},
+        {"--steps", &Reader::Steps},
+        {"--title", &Reader::Title},
+        {"--codes", &Reader::Codes},
+        {"--rules", &Reader::RulesOption},
+        {"--seconds", &Reader::Seconds},
+        {"--format", &Reader::Format},
+        {"--completions", &Reader::Completions},
+        {"--help", &Reader::Help},
+        {"--version", &Reader::Version},
     };
-    constexpr auto kBuild = Command::Build;
-    constexpr auto kStudy = Command::Study;
-    constexpr auto kComplete = Command::Complete;
-    constexpr auto kPuzzle = Command::Puzzle;
-    static const Option kOptions[] = {
-        {"--size", &Reader::Size, {kBuild, kPuzzle}},
-        {"--sum", &Reader::Sum, {kBuild, kComplete, kPuzzle}},
-        {"--limit-to-9", &Reader::LimitToNine, {kBuild, kComplete, kPuzzle}},
-        {"--corner", &Reader::Corner, {kBuild}},
-        {"--top-row", &Reader::TopRowOption, {kBuild}},
-        {"--kind", &Reader::Kind, {kBuild}},
-        {"--kind", &Reader::LineKindOption, {kComplete}},
-        {"--vary", &Reader::Vary, {kBuild}},
-        {"--fresh", &Reader::Fresh, {kBuild}},
-        {"--count", &Reader::Count, {kBuild, kPuzzle}},
-        {"--seed", &Reader::Seed, {kBuild, kPuzzle}},
-        {"--grade", &Reader::GradeOption, {kPuzzle}},
-        {"--grades", &Reader::GradesOption, {kPuzzle}},
-        {"--clues", &Reader::Clues, {kPuzzle}},
-        {"--symmetric", &Reader::Symmetric, {kPuzzle}},
-        {"--codes", &Reader::Codes, {kPuzzle}},
-        {"--rules", &Reader::RulesOption, {kComplete}},
-        {"--seconds", &Reader::Seconds, {kComplete}},
-        {"--format", &Reader::Format, {kBuild, kStudy, kComplete, kPuzzle}},
-        {"--help", &Reader::Help, {kBuild, kStudy, kComplete, kPuzzle}},
-        {"--version", &Reader::Version, {kBuild, kStudy, kComplete, kPuzzle}},
-    };
-    for (const Option& option : kOptions) {
-      const bool has =
-          std::find(option.Of.begin(), option.Of.end(), request_.Command) != option.Of.end();
-      if (has && option_ == option.Name) return option.Take;
+    if (!OptionNamed(option_, request_.Command)) return nullptr;
+    for (const auto& [name, take] : kHandlers) {
+      if (option_ == name) return take;
     }
     return nullptr;
   }
@@ -176,25 +167,34 @@ class Reader {
       Fail("the corner must be a whole number of 1 or more");
   }
 
+  /// Four numbers, or a file with a top row on each line. What has digits and commas only is meant
+  /// for numbers.
   void TopRowOption() {
-    request_.Top = ParseTopRow(Value());
-    if (!request_.Top) Fail("the top row must be four whole numbers from 0 to 9999");
+    const std::string value = Value();
+    request_.Top = ParseTopRow(value);
+    if (request_.Top) return;
+    if (value.empty() || value.find_first_not_of("0123456789,. /-+") == std::string::npos) {
+      if (value != "-") return Fail("the top row must be four whole numbers from 0 to 9999");
+    }
+    request_.TopRows = value;
   }
 
   void Kind() {
+    if (request_.Command == Command::Complete) return LineKindOption();
     request_.Kind = FindSpecialKind(Value());
     if (request_.Kind) return;
-    std::string kinds;
-    for (const SpecialKind& kind : kSpecialKinds)
-      kinds += (kinds.empty() ? "" : ", ") + std::string(kind.Term);
-    Fail("the kind must be one of " + kinds);
+    Fail("the kind must be one of " + Listed(Choices()));
+  }
+
+  const std::vector<std::string>& Choices() const {
+    return OptionNamed(option_, request_.Command)->Choices;
   }
 
   void LineKindOption() {
     if (const LineKind* const kind = FindLineKind(Value())) {
       request_.LinesWanted = *kind;
     } else {
-      Fail("the kind is one of " + LineKindTerms());
+      Fail("the kind is one of " + Listed(Choices()));
     }
   }
 
@@ -223,6 +223,8 @@ class Reader {
   }
 
   void Symmetric() { request_.Symmetric = true; }
+  void Steps() { request_.Steps = true; }
+  void Title() { request_.Title = Value(); }
 
   void Clues() {
     request_.ClueCount = NumberIn<int>(Value());
@@ -270,6 +272,12 @@ class Reader {
   void Seed() {
     request_.Seed = NumberIn<std::uint64_t>(Value());
     if (!request_.Seed) Fail("the seed must be a whole number of 0 or more");
+  }
+
+  void Completions() {
+    const std::string shell = Value();
+    if (CompletionsFor(shell).empty()) Fail("the shell must be bash, zsh or fish");
+    special_ = CompletionsRequest{shell};
   }
 
   void Help() { special_ = HelpRequest{}; }

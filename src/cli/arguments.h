@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/board/rules.h"
+#include "cli/commands.h"
 #include "cli/count_request.h"
 #include "files/formats.h"
 #include "generate/top_row_square.h"
@@ -15,9 +16,6 @@
 #include "study/special.h"
 
 namespace numorra {
-
-/// The command in the first word; Build if the first word is not a command.
-enum class SquareCommand : std::uint8_t { Build, Study, Complete, Puzzle };
 
 /// The request of a command line. Which options apply depends on the command.
 struct SquareRequest {
@@ -31,6 +29,7 @@ struct SquareRequest {
   bool LimitToNine = false;
   std::optional<int> Corner;
   std::optional<TopRow> Top;
+  std::optional<std::string> TopRows;  ///< a file with a name and a top row on each line
   const SpecialKind* Kind = nullptr;
   bool Vary = false;
   bool Fresh = false;  ///< drawn from all squares, not made by a construction
@@ -41,6 +40,8 @@ struct SquareRequest {
   std::vector<GradeShare> Grades;
   std::optional<int> ClueCount;
   bool Symmetric = false;
+  bool Steps = false;                ///< with the way to solve each
+  std::optional<std::string> Title;  ///< of a page
 
   /// The file with the codes of puzzles to write instead of new ones; "-" is the standard input.
   std::optional<std::string> Codes;
@@ -58,18 +59,20 @@ struct SquareRequest {
 struct HelpRequest {};
 struct VersionRequest {};
 
+struct CompletionsRequest {
+  std::string Shell;
+};
+
 /// One line that says what is wrong with a command line.
 struct BadArguments {
   std::string Message;
 };
 
-using Arguments = std::variant<SquareRequest, CountRequest, HelpRequest, VersionRequest, BadArguments>;
+using Arguments = std::variant<SquareRequest, CountRequest, HelpRequest, VersionRequest,
+                               CompletionsRequest, BadArguments>;
 
 /// Reads the words after the program's name. The value of an option is the next word, or follows an
 /// equals sign.
 Arguments ParseArguments(const std::vector<std::string>& words);
-
-/// The text that --help prints.
-std::string Usage();
 
 }  // namespace numorra

@@ -1,11 +1,15 @@
 #include "cli/build_squares.h"
 
+#include <istream>
 #include <ostream>
+#include <utility>
 
 #include "app/board/board.h"
 #include "app/board/numbers.h"
 #include "app/board/random.h"
+#include "cli/input_file.h"
 #include "cli/streams.h"
+#include "cli/top_row_list.h"
 #include "generate/corner_choice.h"
 #include "generate/normal_square.h"
 #include "generate/proposal.h"
@@ -40,13 +44,13 @@ class SquareBuilder {
     return normal ? Normal() : Variable();
   }
 
- private:
   Result WithTopRow(const TopRow& top) {
     const auto found = FindTopRowSquare(top, random_, stage_);
     if (!found) throw Impossible{"no 4x4 square has this top row"};
     return {SquareOf(found->Square, 4), found->Total, RemarkOn(found->Quality)};
   }
 
+ private:
   Result Special(const SpecialKind& kind) {
     const int order = request_.Size;
     const std::string none = kind.WhyNone(order);
@@ -111,27 +115,84 @@ class SquareBuilder {
   VariableSquare variable_{random_, stage_};
 };
 
+/// Writes squares as they come.
+class SquareWriter {
+ public:
+  SquareWriter(const SquareRequest& request, const Streams& streams)
+      : request_(request), streams_(streams) {}
+
+  void Write(const Result& result, const std::string& name) {
+    if (!result.Remark.empty()) {
+      streams_.Err << streams_.Program << name << (name.empty() ? "" : ": ") << result.Remark
+                   << "\n";
+    }
+    const StoredSquare square{
+        .Cells = StoredCells(result.Numbers), .Total = result.Total, .Asked = result.Asked};
+    if (request_.Format == SquareFormat::Json) {
+      JsonLine line = JsonLineOf(square);
+      if (!name.empty()) line.Add("name", JsonString(name));
+      streams_.Out << line.Text() << "\n";
+    } else {
+      streams_.Out << std::exchange(between_, "\n") << Of(request_.Format).Write(square, name);
+    }
+  }
+
+ private:
+  const SquareRequest& request_;
+  const Streams& streams_;
+  const char* between_ = "";
+};
+
+Result Varied(Result result, const SquareRequest& request, Random& random) {
+  const auto varied =
+      request.Kind ? VariedWithinKind(result.Numbers, random) : Varied(result.Numbers, random);
+  if (!varied) throw Impossible{"all squares of this family look like this one"};
+  result.Numbers = *varied;
+  return result;
+}
+
+/// Builds a square for each line of the list. False if a line has no top row, or none that a square
+/// has.
+bool BuildFromList(const SquareRequest& request, const Streams& streams, SquareBuilder& builder) {
+  InputFile file(*request.TopRows, streams.In);
+  SquareWriter writer(request, streams);
+  bool allBuilt = true;
+  std::string line;
+  for (int number = 1; streams.Out && std::getline(file.In(), line); ++number) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (Trim(line.substr(0, line.find('#'))).empty()) continue;
+    const auto tell = [&](const std::string& why) {
+      streams.Err << streams.Program << "line " << number << ": " << why << "\n";
+      allBuilt = false;
+    };
+    const auto named = NamedTopRowIn(line);
+    if (!named) {
+      tell("there is no date or top row at its end");
+      continue;
+    }
+    try {
+      writer.Write(builder.WithTopRow(named->Row), named->Name);
+    } catch (const Impossible& impossible) {
+      tell(impossible.Why);
+    }
+  }
+  if (streams.Out) file.CheckReadToEnd();
+  return allBuilt;
+}
+
 }  // namespace
 
-void BuildSquares(const SquareRequest& request, const Streams& streams) {
+bool BuildSquares(const SquareRequest& request, const Streams& streams) {
   const auto clock = ClockFrom(request.Seed);
   ClockSeededRandom random(*clock);
   SquareBuilder builder(request, random);
+  if (request.TopRows) return BuildFromList(request, streams, builder);
+  SquareWriter writer(request, streams);
   for (int count = 0; count < request.Count && streams.Out; ++count) {
     Result result = builder.Next();
-    if (request.Vary) {
-      const auto varied =
-          request.Kind ? VariedWithinKind(result.Numbers, random) : Varied(result.Numbers, random);
-      if (!varied) throw Impossible{"all squares of this family look like this one"};
-      result.Numbers = *varied;
-    }
-    if (!result.Remark.empty()) streams.Err << kProgramName << result.Remark << "\n";
-    if (count > 0 && request.Format != SquareFormat::Json) streams.Out << "\n";
-    streams.Out << Of(request.Format)
-                       .Write({.Cells = StoredCells(result.Numbers),
-                               .Total = result.Total,
-                               .Asked = result.Asked});
+    writer.Write(request.Vary ? Varied(std::move(result), request, random) : result, {});
   }
+  return true;
 }
 
 }  // namespace numorra

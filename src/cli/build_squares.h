@@ -5,7 +5,8 @@
 
 namespace numorra {
 
-/// Builds and writes the requested squares. Throws Impossible if there is no such square.
-void BuildSquares(const SquareRequest& request, const Streams& streams);
+/// Builds and writes the requested squares. Throws Impossible if there is no such square. False if
+/// a line of a list of top rows gives none.
+bool BuildSquares(const SquareRequest& request, const Streams& streams);
 
 }  // namespace numorra

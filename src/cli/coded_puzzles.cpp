@@ -1,12 +1,9 @@
-#include "cli/coded_puzzles.h"
-
 #include <ostream>
-#include <utility>
 
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
 #include "cli/input_file.h"
-#include "cli/write_puzzle.h"
+#include "cli/make_puzzles.h"
 #include "files/square_text.h"
 #include "puzzle/code_list.h"
 #include "puzzle/only_solution.h"
@@ -29,29 +26,31 @@ std::optional<std::string> TakeLine(std::istream& in, std::size_t number) {
 
 }  // namespace
 
-bool WriteCodedPuzzles(const SquareRequest& request, const Streams& streams) {
+bool ReadCodedPuzzles(const SquareRequest& request, const Streams& streams,
+                      const PuzzleVisitor& visit) {
   InputFile file(*request.Codes, streams.In);
   TickingClock clock(0);
   ClockSeededRandom random(clock);
   SilentStage stage;
   bool any = false;
   bool allRead = true;
-  const auto tell = [&](const std::string& what) { streams.Err << kProgramName << what << "\n"; };
-  const auto write = [&](const ListedPuzzle& listed) {
+  const auto tell = [&](const std::string& what) {
+    streams.Err << streams.Program << what << "\n";
+  };
+  const auto pass = [&](const ListedPuzzle& listed) {
     const auto solved = WithOnlySolution(listed.Clues, {.Seconds = request.Seconds}, random, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&solved)) {
       tell("line " + std::to_string(listed.Line) + ": " + cannot->Why);
     }
-    if (std::exchange(any, true) && request.Format != SquareFormat::Json) streams.Out << "\n";
-    WritePuzzle(listed.Clues, std::get_if<MadePuzzle>(&solved), request.Format, streams.Out);
-    streams.Out.flush();
+    any = true;
+    visit(listed.Clues, std::get_if<MadePuzzle>(&solved));
   };
   for (std::size_t number = 1; streams.Out; ++number) {
     const auto line = TakeLine(file.In(), number);
     if (!line) break;
     const CodeList list = PuzzlesOfCodes(*line, number);
     for (const ListedPuzzle& listed : list.Puzzles)
-      write(listed);
+      pass(listed);
     for (const Unreadable& wrong : list.Wrong) {
       tell(wrong.Why);
       allRead = false;

@@ -59,10 +59,11 @@ std::string RowsOf(const std::optional<Puzzle>& puzzle) {
   return puzzle ? JsonRowsOf(StoredSquareOf(*puzzle, false).Cells) : "null";
 }
 
-void Write(const Completed& completed, SquareFormat format, std::ostream& out) {
+void Write(const Completed& completed, int order, SquareFormat format, std::ostream& out) {
   if (format == SquareFormat::Json) {
     out << JsonLine()
                .Add("answer", JsonString(completed.Answer))
+               .Add("order", std::to_string(order))
                .Add("why", completed.Why.empty() ? "null" : JsonString(completed.Why))
                .Add("rows", RowsOf(completed.First))
                .Add("second", RowsOf(completed.Second))
@@ -87,7 +88,7 @@ Completion CompleteSquares(const SquareRequest& request, const Streams& streams)
     const Completed completed = Complete(square, request, random);
     if (request.Format == SquareFormat::Text && !first) streams.Out << "\n";
     first = false;
-    Write(completed, request.Format, streams.Out);
+    Write(completed, square.Order(), request.Format, streams.Out);
     streams.Out.flush();
     worst = std::max(worst, completed.Status);
   });

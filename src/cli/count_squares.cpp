@@ -91,7 +91,7 @@ void WriteEstimate(const CountRequest& request, const CountWish& wish, const Str
   line.Add("standard-error", shown(estimate.Error, 2));
   line.Add("samples", std::to_string(estimate.Samples));
   streams.Out << line.Text();
-  streams.Err << kProgramName << kStandardError << "\n";
+  streams.Err << streams.Program << kStandardError << "\n";
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ void ListSquares(const CountRequest& request, const Streams& streams) {
     streams.Out << Of(request.Format)
                        .Write({.Cells = StoredCells(square),
                                .Total = NormalTotal(static_cast<double>(square.Order())),
-                               .Asked = Rules::Normal});
+                               .Asked = Rules::Normal},
+                              "");
     return ++listed != request.Most && streams.Out.good();
   };
   try {

@@ -4,12 +4,11 @@
 
 #include "app/board/random.h"
 #include "app/ports/build_stage.h"
-#include "cli/write_puzzle.h"
 #include "puzzle/puzzle_set.h"
 
 namespace numorra {
 
-bool MakePuzzles(const SquareRequest& request, const Streams& streams) {
+bool MakePuzzles(const SquareRequest& request, const Streams& streams, const PuzzleVisitor& visit) {
   const auto clock = ClockFrom(request.Seed);
   ClockSeededRandom random(*clock);
   SilentStage stage;
@@ -20,14 +19,19 @@ bool MakePuzzles(const SquareRequest& request, const Streams& streams) {
   while (streams.Out) {
     const auto made = set.Next();
     if (!made) break;
-    if (any && request.Format != SquareFormat::Json) streams.Out << "\n";
-    WritePuzzle(made->Clues, &*made, request.Format, streams.Out);
     any = true;
+    visit(made->Clues, &*made);
   }
   const std::string shortfall = set.Shortfall();
   if (!any && !shortfall.empty()) throw Impossible{shortfall};
-  if (!shortfall.empty()) streams.Err << kProgramName << shortfall << "\n";
+  if (!shortfall.empty()) streams.Err << streams.Program << shortfall << "\n";
   return shortfall.empty();
+}
+
+bool VisitPuzzles(const SquareRequest& request, const Streams& streams,
+                  const PuzzleVisitor& visit) {
+  return request.Codes ? ReadCodedPuzzles(request, streams, visit)
+                       : MakePuzzles(request, streams, visit);
 }
 
 }  // namespace numorra

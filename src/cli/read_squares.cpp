@@ -25,7 +25,7 @@ bool ReadSquares(const std::string& file, const Streams& streams,
   bool any = false;
   bool allRead = true;
   const auto tell = [&](const std::string& what) {
-    streams.Err << kProgramName << what << "\n";
+    streams.Err << streams.Program << what << "\n";
     allRead = false;
   };
   while (streams.Out) {

@@ -6,11 +6,11 @@
 #include "app/board/runtime_error.h"
 #include "cli/arguments.h"
 #include "cli/build_squares.h"
-#include "cli/coded_puzzles.h"
 #include "cli/complete_squares.h"
 #include "cli/count_squares.h"
 #include "cli/list_squares.h"
 #include "cli/make_puzzles.h"
+#include "cli/puzzle_writer.h"
 #include "cli/study_squares.h"
 
 namespace numorra {
@@ -38,6 +38,15 @@ int StatusOf(Completion completion) {
   return kNotSettled;
 }
 
+int WritePuzzles(const SquareRequest& request, const Streams& streams) {
+  PuzzleWriter writer(request, streams);
+  const bool all = VisitPuzzles(
+      request, streams,
+      [&](const Puzzle& clues, const MadePuzzle* solved) { writer.Write(clues, solved); });
+  writer.Finish();
+  return all ? kDone : request.Codes ? kFailed : kFellShort;
+}
+
 int Run(const SquareRequest& request, const Streams& streams) {
   switch (request.Command) {
     case SquareCommand::Study:
@@ -45,23 +54,27 @@ int Run(const SquareRequest& request, const Streams& streams) {
     case SquareCommand::Complete:
       return StatusOf(CompleteSquares(request, streams));
     case SquareCommand::Puzzle:
-      if (request.Codes) return WriteCodedPuzzles(request, streams) ? kDone : kFailed;
-      return MakePuzzles(request, streams) ? kDone : kFellShort;
+      return WritePuzzles(request, streams);
+    case SquareCommand::List:
+    case SquareCommand::Count:  // these have requests of their own
     case SquareCommand::Build:
       break;
   }
-  BuildSquares(request, streams);
-  return kDone;
+  return BuildSquares(request, streams) ? kDone : kFailed;
 }
 
 int Serve(const Arguments& arguments, const Streams& streams) {
   if (const auto* bad = std::get_if<BadArguments>(&arguments)) {
-    streams.Err << kProgramName << bad->Message << "\n";
+    streams.Err << streams.Program << bad->Message << "\n";
     return kBadArguments;
   }
   if (const auto* request = std::get_if<SquareRequest>(&arguments)) return Run(*request, streams);
   if (const auto* counting = std::get_if<CountRequest>(&arguments)) {
     counting->Lists ? ListSquares(*counting, streams) : CountSquares(*counting, streams);
+    return kDone;
+  }
+  if (const auto* completions = std::get_if<CompletionsRequest>(&arguments)) {
+    streams.Out << CompletionsFor(completions->Shell);
     return kDone;
   }
   const bool help = std::holds_alternative<HelpRequest>(arguments);
@@ -75,13 +88,13 @@ int RunSquareProgram(const std::vector<std::string>& words, const Streams& strea
   try {
     const int status = Serve(ParseArguments(words), streams);
     if (streams.Out.flush()) return status;
-    streams.Err << kProgramName << "the output cannot be written\n";
+    streams.Err << streams.Program << "the output cannot be written\n";
   } catch (const Impossible& impossible) {
-    streams.Err << kProgramName << impossible.Why << "\n";
+    streams.Err << streams.Program << impossible.Why << "\n";
   } catch (const RuntimeError& error) {
-    streams.Err << kProgramName << error.what() << "\n";
+    streams.Err << streams.Program << error.what() << "\n";
   } catch (const std::bad_alloc&) {
-    streams.Err << kProgramName << "there is not enough memory for this\n";
+    streams.Err << streams.Program << "there is not enough memory for this\n";
     return kNoMemory;
   }
   return kFailed;

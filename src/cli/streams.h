@@ -10,10 +10,8 @@ struct Streams {
   std::istream& In;
   std::ostream& Out;
   std::ostream& Err;
+  const char* Program = "numorra-square: ";  ///< the beginning of every remark
 };
-
-/// The beginning of every remark.
-inline constexpr const char* kProgramName = "numorra-square: ";
 
 /// A request that cannot be met, and why.
 struct Impossible {

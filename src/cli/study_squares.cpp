@@ -15,7 +15,7 @@ bool StudySquares(const SquareRequest& request, const Streams& streams) {
     const auto gap = std::find(square.Cells.begin(), square.Cells.end(), std::nullopt);
     if (gap != square.Cells.end()) {
       const Place place = square.Cells.PlaceOf(static_cast<int>(gap - square.Cells.begin()));
-      streams.Err << kProgramName << NameOf(place)
+      streams.Err << streams.Program << NameOf(place)
                   << " is empty: only full squares can be studied\n";
       allFull = false;
       return;

@@ -19,13 +19,14 @@ std::optional<TextBlock> BlockReader::Next() {
   while (bytesLeft_ > 0 && in_.peek() != kEnd) {
     const std::size_t number = number_;
     std::string line = TakeBlanks();
-    if (in_.peek() == '{') {
+    if (in_.peek() == '{' || in_.peek() == '[') {
       if (!block.Text.empty()) return block;
       block = {TakeObject(), number};
       break;
     }
     line += TakeLine();
-    const bool between = IsEmptyLine(line) || line.starts_with("total ");
+    const bool comment = block.Text.empty() && line.find_first_not_of(" \t") == line.find('#');
+    const bool between = comment || IsEmptyLine(line) || line.starts_with("total ");
     if (between && !block.Text.empty()) return block;
     if (between) continue;
     if (block.Text.empty()) block.FirstLine = number;
@@ -57,7 +58,7 @@ std::string BlockReader::TakeLine() {
   return line;
 }
 
-/// The text from an opening brace to the matching closing one.
+/// The text from an opening brace or bracket to the matching closing one.
 std::string BlockReader::TakeObject() {
   std::string object;
   int open = 0;
@@ -71,9 +72,9 @@ std::string BlockReader::TakeObject() {
       quoted = !quoted;
     } else if (quoted) {
       escaped = *byte == '\\';
-    } else if (*byte == '{') {
+    } else if (*byte == '{' || *byte == '[') {
       ++open;
-    } else if (*byte == '}' && --open == 0) {
+    } else if ((*byte == '}' || *byte == ']') && --open == 0) {
       break;
     }
   }

@@ -14,7 +14,8 @@ struct TextBlock {
 };
 
 /// Reads squares one by one from a text of any length, with empty lines between squares. A JSON
-/// object is a square of its own, on one line or many, and ends where its first brace is closed. A
+/// object or a list in brackets is a square of its own, on one line or many, and ends where its
+/// first brace or bracket is closed. Comments before a square are skipped. A
 /// line that begins with "total ", as in this program's own output, belongs to no square. Lines end
 /// with LF, CR or both.
 class BlockReader {

@@ -6,36 +6,49 @@
 #include <string_view>
 #include <variant>
 
+#include "files/latex.h"
+#include "files/markup.h"
+#include "files/nested_list.h"
 #include "files/square_json.h"
 #include "files/square_text.h"
 #include "files/stored_square.h"
 
 namespace numorra {
 
-enum class SquareFormat : std::uint8_t { Text, Csv, Json };
+enum class SquareFormat : std::uint8_t { Text, Csv, Tex, Python, Mathematica, Svg, Html, Json };
 
 /// A format for writing and reading squares.
 struct Format {
   SquareFormat Id;
   const char* Name;     ///< the name for the companion's --format
   const char* Suffix;   ///< of files, without the dot
-  const char* Caption;  ///< in file dialogs; empty if the window only reads the format
+  const char* Caption;  ///< in file dialogs; empty if the window does not write the format
   const char* Says;     ///< what is written
-  bool ForAnswers;      ///< whether the companion also writes its answers in it
-  std::string (*Write)(const StoredSquare&);
-  bool (*LooksLike)(const std::string& text);  ///< null: for all other texts
-  std::variant<StoredSquare, Unreadable> (*Read)(const std::string& text, std::size_t firstLine);
+  std::string (*Write)(const StoredSquare&, const std::string& caption);
+  /// Null for a format that is only written.
+  std::variant<StoredSquare, Unreadable> (*Read)(const std::string& text,
+                                                 std::size_t firstLine) = nullptr;
+  bool (*LooksLike)(const std::string& text) = nullptr;  ///< null for those without a mark
+  bool ForAnswers = false;  ///< whether the companion also writes its answers in it
 };
 
 /// All formats in the order of SquareFormat: from the plainest, the companion's default, to the one
 /// that keeps everything, which the window's dialogs show first.
 inline constexpr Format kFormats[] = {
-    {SquareFormat::Text, "text", "txt", "", "aligned columns and the total", true, TextOf, nullptr,
+    {SquareFormat::Text, "text", "txt", "", "aligned columns and the total", TextOf, ReadSquareText,
+     nullptr, true},
+    {SquareFormat::Csv, "csv", "csv", "Numbers alone", "rows of comma-separated numbers", CsvOf,
      ReadSquareText},
-    {SquareFormat::Csv, "csv", "csv", "Numbers alone", "rows of comma-separated numbers", false,
-     CsvOf, nullptr, ReadSquareText},
-    {SquareFormat::Json, "json", "json", "Squares", "an object on one line", true, JsonOf,
-     LooksLikeJson, ReadSquareJson}};
+    {SquareFormat::Tex, "tex", "tex", "LaTeX tables", "a LaTeX table", LatexOf, ReadLatex,
+     LooksLikeLatex},
+    {SquareFormat::Python, "python", "py", "", "a list of lists", PythonListOf, ReadNestedList,
+     LooksLikeNestedList},
+    {SquareFormat::Mathematica, "mathematica", "wl", "", "the same with braces", MathematicaListOf,
+     ReadNestedList, LooksLikeNestedList},
+    {SquareFormat::Svg, "svg", "svg", "", "a picture of one square", SvgOf},
+    {SquareFormat::Html, "html", "html", "", "a table for a web page", HtmlOf},
+    {SquareFormat::Json, "json", "json", "Squares", "an object on one line", JsonOf, ReadSquareJson,
+     LooksLikeJson, true}};
 
 const Format& Of(SquareFormat format);
 

@@ -190,7 +190,7 @@ class Reader {
 
 }  // namespace
 
-std::string JsonOf(const StoredSquare& square) {
+std::string JsonOf(const StoredSquare& square, const std::string&) {
   return JsonLineOf(square).Text() + "\n";
 }
 

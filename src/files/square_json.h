@@ -15,7 +15,8 @@ namespace numorra {
 ///  "notes": [["", "1-3 7", ""], ...]}
 /// with null for a gap, and "givens" and "notes" only if there are any. A range of notes covers
 /// numbers that are on the board, which are no notes.
-std::string JsonOf(const StoredSquare& square);
+/// It has no place for a caption.
+std::string JsonOf(const StoredSquare& square, const std::string& caption = {});
 
 /// The same object without a line end, so that members can be added.
 JsonLine JsonLineOf(const StoredSquare& square);

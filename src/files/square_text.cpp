@@ -6,8 +6,7 @@
 #include <utility>
 
 #include "app/board/numbers.h"
-#include "app/board/orders.h"
-#include "app/board/runtime_error.h"
+#include "files/field_rows.h"
 
 namespace numorra {
 namespace {
@@ -17,18 +16,6 @@ struct TextLine {
   std::size_t Number;
   std::string Text;
 };
-
-void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
-  std::size_t at = text.find(from);
-  if (at == std::string::npos) return;
-  std::string replaced;
-  std::size_t done = 0;
-  for (; at != std::string::npos; at = text.find(from, done)) {
-    replaced.append(text, done, at - done).append(to);
-    done = at + from.size();
-  }
-  text = replaced.append(text, done);
-}
 
 /// The text with one kind of line end, blank and minus, and without brackets.
 std::string Plain(std::string text) {
@@ -52,13 +39,15 @@ bool IsEmpty(const TextLine& line) {
   return IsEmptyLine(line.Text);
 }
 
-/// The lines from the first to the last that is not empty. The text's first line has the number
-/// `first`.
+/// The lines from the first to the last that is not empty, without comments and the lines that have
+/// nothing else. The text's first line has the number `first`.
 std::vector<TextLine> Lines(const std::string& text, std::size_t first) {
   std::vector<TextLine> lines;
   std::istringstream input(text);
-  for (std::string line; std::getline(input, line);)
-    lines.push_back({first++, line});
+  for (std::string line; std::getline(input, line); ++first) {
+    const std::string told = line.substr(0, line.find('#'));
+    if (told.size() == line.size() || !IsEmptyLine(told)) lines.push_back({first, told});
+  }
   const auto last = std::find_if_not(lines.rbegin(), lines.rend(), IsEmpty).base();
   lines.erase(last, lines.end());
   lines.erase(lines.begin(), std::find_if_not(lines.begin(), lines.end(), IsEmpty));
@@ -85,72 +74,51 @@ std::vector<std::string> Fields(const std::string& line) {
 }
 
 /// Removes the empty field at the end of every line if all lines end with a separator.
-void DropTrailingSeparators(std::vector<std::vector<std::string>>& rows) {
-  const auto tooLong = [&](const auto& fields) { return fields.size() > rows.size(); };
-  const auto endsEmpty = [](const auto& fields) {
-    return !fields.empty() && fields.back().empty();
+void DropTrailingSeparators(std::vector<FieldRow>& rows) {
+  const auto tooLong = [&](const FieldRow& row) { return row.Fields.size() > rows.size(); };
+  const auto endsEmpty = [](const FieldRow& row) {
+    return !row.Fields.empty() && row.Fields.back().empty();
   };
   if (!std::any_of(rows.begin(), rows.end(), tooLong) ||
       !std::all_of(rows.begin(), rows.end(), endsEmpty)) {
     return;
   }
-  for (auto& fields : rows)
-    fields.pop_back();
+  for (FieldRow& row : rows)
+    row.Fields.pop_back();
 }
 
-/// The number in a field; nothing for a gap.
-std::optional<double> CellIn(const std::string& field, std::size_t line) {
-  if (field.empty() || field == "-" || field == "." || field == "_") return std::nullopt;
-  const std::string where = "line " + std::to_string(line) + ": ";
-  constexpr std::size_t kMostShown = 20;
-  const std::string shown =
-      field.size() <= kMostShown ? field : field.substr(0, kMostShown) + "...";
-  try {
-    const double number = StrictVal(field);
-    if (DigitsOf(field) <= kMostCellDigits) return number;
-  } catch (const RuntimeError& error) {
-    if (error.Kind() == Fault::TypeMismatch) {
-      throw Unreadable{where + "\"" + shown + "\" is not a number"};
+/// Writes points for decimal commas, unless there is a doubt: 1,234 may be a large number too, and
+/// a square with points has no other decimals.
+void TakeDecimalCommas(std::vector<FieldRow>& rows) {
+  constexpr std::size_t kThousands = 3;
+  bool decimal = false;
+  for (const FieldRow& row : rows) {
+    for (const std::string& field : row.Fields) {
+      if (field.find('.') != std::string::npos && field != ".") return;
+      const std::size_t comma = field.find(',');
+      decimal |= comma != std::string::npos && field.size() - comma - 1 != kThousands;
     }
   }
-  throw Unreadable{where + shown + " has more than " + std::to_string(kMostCellDigits) + " digits"};
+  if (!decimal) return;
+  for (FieldRow& row : rows) {
+    for (std::string& field : row.Fields)
+      std::replace(field.begin(), field.end(), ',', '.');
+  }
 }
 
 /// The square in a text whose first line has the number `firstLine`.
 StoredSquare Read(const std::string& text, std::size_t firstLine) {
-  if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
-  if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
-    throw Unreadable{"this text is in UTF-16: save it as UTF-8"};
-  }
-  if (text.find('\0') != std::string::npos) {
-    throw Unreadable{"this is not UTF-8 text: it contains characters with code 0"};
-  }
+  CheckText(text);
+  std::vector<FieldRow> rows;
   const std::vector<TextLine> lines = Lines(Plain(text), firstLine);
-  const auto order = lines.size();
-  if (order < static_cast<std::size_t>(kMinOrder) || order > static_cast<std::size_t>(kMaxOrder)) {
-    throw Unreadable{
-        "this is not a square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text"};
-  }
-  std::vector<std::vector<std::string>> rows;
-  rows.reserve(order);
+  CheckOrder(lines.size());
   for (const TextLine& line : lines) {
     if (IsEmpty(line)) throw Unreadable{"line " + std::to_string(line.Number) + " is empty"};
-    rows.push_back(Fields(line.Text));
+    rows.push_back({line.Number, Fields(line.Text)});
   }
   DropTrailingSeparators(rows);
-  StoredCells cells(static_cast<int>(order));
-  auto cell = cells.begin();
-  for (std::size_t row = 0; row < order; ++row) {
-    if (rows[row].size() > order) {
-      throw Unreadable{"line " + std::to_string(lines[row].Number) + " has " +
-                       std::to_string(rows[row].size()) + " numbers, but there are " +
-                       std::to_string(order) + " lines"};
-    }
-    rows[row].resize(order);
-    for (const std::string& field : rows[row])
-      *cell++ = CellIn(field, lines[row].Number);
-  }
-  return {.Cells = std::move(cells)};
+  TakeDecimalCommas(rows);
+  return SquareOfFields(std::move(rows));
 }
 
 /// One line per row, each cell written by textOf(cell).
@@ -183,7 +151,7 @@ std::variant<StoredSquare, Unreadable> ReadSquareText(const std::string& text,
   }
 }
 
-std::string TextOf(const StoredSquare& square) {
+std::string TextOf(const StoredSquare& square, const std::string& caption) {
   std::size_t width = 0;
   for (const auto& cell : square.Cells)
     width = std::max(width, CellOf(cell, ".").size());
@@ -191,10 +159,11 @@ std::string TextOf(const StoredSquare& square) {
     const std::string number = CellOf(cell, ".");
     return std::string(width - number.size(), ' ') + number;
   });
-  return square.Total ? text + "\ntotal " + Decimal(*square.Total) + "\n" : text;
+  const std::string below = TotalAnd(caption, square);
+  return below.empty() ? text : text + "\n" + below + "\n";
 }
 
-std::string CsvOf(const StoredSquare& square) {
+std::string CsvOf(const StoredSquare& square, const std::string&) {
   return Written(square, ',', [](const auto& cell) { return CellOf(cell, ""); });
 }
 

@@ -32,6 +32,9 @@ struct Unreadable {
   std::string Why;
 };
 
+/// What stands below a square: "total 15, hard", "total 15", "hard", "".
+std::string TotalAnd(const std::string& caption, const StoredSquare& square);
+
 /// "normal", "positive".
 const char* NameOf(Rules rules);
 

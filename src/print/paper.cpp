@@ -1,9 +1,7 @@
 #include "print/paper.h"
 
-#include <QBuffer>
-#include <QPdfWriter>
-
 #include "app/board/runtime_error.h"
+#include "toolkit/pdf_file.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -16,16 +14,12 @@ void PrintOn(QPrinter& printer, const std::function<void(QPagedPaintDevice&)>& p
     }
     return;
   }
-  QBuffer file;
-  file.open(QIODevice::WriteOnly);
-  {
-    QPdfWriter writer(&file);
-    writer.setPageLayout(printer.pageLayout());
-    writer.setResolution(printer.resolution());
-    writer.setTitle(printer.docName());
-    paint(writer);
-  }
-  WriteWholeFile(printer.outputFileName(), file.data());
+  WriteWholeFile(printer.outputFileName(), PdfOf([&](QPdfWriter& writer) {
+                   writer.setPageLayout(printer.pageLayout());
+                   writer.setResolution(printer.resolution());
+                   writer.setTitle(printer.docName());
+                   paint(writer);
+                 }));
 }
 
 }  // namespace numorra

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "print/sheet_text.h"
 #include "puzzle/candidates.h"
 #include "puzzle/code.h"
 #include "puzzle/grade.h"
@@ -9,54 +10,17 @@
 namespace numorra {
 namespace {
 
-// Millimetres.
-constexpr double kMargin = 12;
-constexpr double kHeader = 24;  // title, name, rules
-constexpr double kCaption = 7;  // above a board
-constexpr double kBelow = 16;   // missing numbers and code
-constexpr double kBetween = 6;  // between puzzles
-constexpr double kLargestCell = 22;
-constexpr double kTextHeight = 4;
-constexpr double kSmallText = 3;
-constexpr double kReadable = 1;
-
-/// Texts are laid out in thousandths of a millimetre; otherwise font sizes are rounded to whole
-/// millimetres.
-constexpr double kUnits = 1000;
-
-/// Writes a line into `area`, smaller if it does not fit; writes nothing if it would be too small
-/// to read.
-void Write(QPainter& painter, const QRectF& area, int flags, const QString& text, double height,
-           bool bold = false) {
-  painter.save();
-  painter.scale(1 / kUnits, 1 / kUnits);
-  QFont font("DejaVu Sans");
-  font.setStyleHint(QFont::SansSerif);
-  font.setBold(bold);
-  font.setPixelSize(static_cast<int>(height * kUnits));
-  const double width = QFontMetricsF(font, painter.device()).horizontalAdvance(text);
-  const double room = area.width() * kUnits;
-  const double fits = width > room ? height * room / width : height;
-  font.setPixelSize(std::max(1, static_cast<int>(fits * kUnits)));
-  painter.setFont(font);
-  if (fits >= kReadable)
-    painter.drawText(QRectF(area.topLeft() * kUnits, area.size() * kUnits), flags, text);
-  painter.restore();
-}
-
-/// The place of a board in its slot: in the middle, with room above and below it.
-QRectF BoardIn(const QRectF& slot, double side, int order) {
-  QRectF board(0, 0, order * side, order * side);
-  board.moveCenter(slot.adjusted(0, kCaption, 0, -kBelow).center());
-  return board;
-}
+constexpr double kLargeText = 18 * 25.4 / 72;  // 18 pt in millimetres
+constexpr double kTitle = 7;
+constexpr double kNumberOfCell = 0.5;  // the height of a number, as a share of its cell
+constexpr double kWidthOfCell = 0.8;   // its greatest width
+constexpr double kUnderBoard = 2;      // millimetres between a board and what is below it
 
 /// Paints the board with the numbers of `puzzle`; those of `clues` in bold.
 void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzle& puzzle,
                 const Puzzle& clues) {
   constexpr double kThin = 0.2;
   constexpr double kThick = 0.6;
-  constexpr double kShareOfCell = 0.5;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(Qt::black, kThick));
   painter.drawRect(board);
@@ -67,8 +31,10 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
                       board.top() + (place.Row - 1) * side, side, side);
     painter.drawRect(here);
     if (puzzle.Cells[cell] == 0) continue;
-    Write(painter, here.adjusted(side / 10, 0, -side / 10, 0), Qt::AlignCenter,
-          QString::number(puzzle.Cells[cell]), side * kShareOfCell, clues.Cells[cell] != 0);
+    const double free = side * (1 - kWidthOfCell) / 2;
+    WriteFitted(painter, here.adjusted(free, 0, -free, 0), Qt::AlignCenter,
+                QString::number(puzzle.Cells[cell]),
+                {side * kNumberOfCell, clues.Cells[cell] != 0});
   }
 }
 
@@ -104,6 +70,36 @@ QString RulesText(const std::vector<MadePuzzle>& puzzles) {
          "so that all rows, columns and both diagonals add up to the same total.";
 }
 
+/// "Name:" and a line to write on, at the bottom of `area`.
+void PaintNameLine(QPainter& painter, const QRectF& area, double height) {
+  constexpr double kAbove = 2;  // the line, above the bottom
+  constexpr double kUsualText = 14;
+  WriteFitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, "Name:", {height});
+  painter.setPen(QPen(Qt::black, 0.2));
+  const double text = height < kLargeText ? kUsualText : LineWidth("Name: ", {height});
+  painter.drawLine(area.bottomLeft() + QPointF(text, -kAbove),
+                   area.bottomRight() + QPointF(0, -kAbove));
+}
+
+QString CodeTextOf(const MadePuzzle& made) {
+  return QString::fromStdString(CodeOf(made.Clues));
+}
+
+/// The side of a cell in which all numbers of a puzzle are in large print.
+double LargeCellOf(const MadePuzzle& made) {
+  constexpr double kReserve = 1.01;  // printers measure letters a little differently
+  const auto largest = *std::max_element(made.Solution.Cells.begin(), made.Solution.Cells.end());
+  const double width = LineWidth(QString::number(largest), {kLargeText, true});
+  return kReserve * std::max(kLargeText / kNumberOfCell, width / kWidthOfCell);
+}
+
+double CellSideOn(const SheetPlan& plan, const MadePuzzle& made) {
+  const double largest = plan.Options.LargePrint
+                             ? std::max(SheetPlan::kLargestCell, LargeCellOf(made))
+                             : SheetPlan::kLargestCell;
+  return plan.CellSide(made.Clues.Order(), largest);
+}
+
 }  // namespace
 
 bool TotalCanBeFound(const Puzzle& puzzle) {
@@ -115,110 +111,190 @@ bool TotalCanBeFound(const Puzzle& puzzle) {
   return false;
 }
 
-Worksheet::Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish)
-    : puzzles_(std::move(puzzles)), wish_(std::move(wish)) {}
-
-int Worksheet::PuzzlePages() const {
-  return (static_cast<int>(puzzles_.size()) + wish_.PerPage - 1) / wish_.PerPage;
+Worksheet::Worksheet(std::vector<MadePuzzle> puzzles, WorksheetWish wish, bool landscape)
+    : puzzles_(std::move(puzzles)), wish_(std::move(wish)), paper_(210, 279.4) {
+  if (landscape) paper_.transpose();
+  for (const bool answers : {false, true}) {
+    int& perPage = perPage_[Of(answers)];
+    perPage = wish_.Options.PageAPupil && !answers ? 1 : wish_.PerPage;
+    const auto tooMany = [&] {
+      return perPage > 1 && !WhyTooLargeOn(MakePlan(paper_, answers, perPage)).empty();
+    };
+    while (wish_.Options.LargePrint && tooMany())
+      perPage = perPage == 2 ? 1 : perPage - 2;
+  }
 }
 
-/// The number of puzzles side by side and one below another.
-QSize Worksheet::Slots(QSizeF size) const {
-  constexpr int kSix = 6;
-  const QSize tall = wish_.PerPage == 1      ? QSize(1, 1)
-                     : wish_.PerPage == 2    ? QSize(1, 2)
-                     : wish_.PerPage == kSix ? QSize(2, 3)
-                                             : QSize(2, 2);
-  return size.width() > size.height() ? tall.transposed() : tall;
+int Worksheet::PagesFor(bool answers) const {
+  const int perPage = perPage_[Of(answers)];
+  return (static_cast<int>(puzzles_.size()) + perPage - 1) / perPage;
 }
 
-QRectF Worksheet::SlotArea(QSizeF size, int place) const {
-  const QSize grid = Slots(size);
-  const double width = (size.width() - 2 * kMargin - (grid.width() - 1) * kBetween) / grid.width();
-  const double height =
-      (size.height() - 2 * kMargin - kHeader - (grid.height() - 1) * kBetween) / grid.height();
-  const int row = place / grid.width();
-  const int column = place % grid.width();
-  return {kMargin + column * (width + kBetween), kMargin + kHeader + row * (height + kBetween),
-          width, height};
+SheetPlan Worksheet::MakePlan(QSizeF size, bool answers, int perPage) const {
+  constexpr double kNameLine = 9, kFooter = 6;
+  SheetPlan plan{.Paper = size, .Options = wish_.Options, .PerPage = perPage};
+  if (wish_.Options.NameLines && !answers) plan.Name = kNameLine;
+  if (wish_.Options.PageNumbers) plan.Footer = kFooter;
+  if (wish_.Options.LargePrint) MakeLarge(plan, answers);
+  return plan;
 }
 
-double Worksheet::CellSide(QSizeF size, int order) const {
-  const QRectF area = SlotArea(size, 0);
-  return std::min(
-      {kLargestCell, area.width() / order, (area.height() - kCaption - kBelow) / order});
+/// Makes room for texts of 18 pt, as high as the highest of all puzzles.
+void Worksheet::MakeLarge(SheetPlan& plan, bool answers) const {
+  constexpr double kBetweenTexts = 4;
+  const double line = WrappedHeight("0", 1, {kLargeText});
+  plan.Text = plan.Small = kLargeText;
+  if (plan.Name > 0) plan.Name = line + kBetweenTexts;
+  if (plan.Footer > 0) plan.Footer = line + kBetweenTexts;
+  const double width = plan.Area(0).width();
+  plan.Header = WrappedHeight(TitleOf(answers), width, {kTitle, true}) + kBetweenTexts;
+  if (!answers) {
+    plan.Header += WrappedHeight(RulesText(puzzles_), width, {kLargeText});
+    if (!wish_.Options.NameLines) plan.Header += line + kBetweenTexts;
+  }
+  plan.Caption = plan.Below = 0;
+  const double slot = plan.SlotArea(0, 0).width();
+  for (int number = 0; number < static_cast<int>(puzzles_.size()); ++number) {
+    double below = kUnderBoard + WrappedHeight(CodeTextOf(Made(number)), slot, {kLargeText});
+    if (!answers) below += WrappedHeight(Missing(Made(number).Clues), slot, {kLargeText});
+    plan.Caption =
+        std::max(plan.Caption, WrappedHeight(CaptionOf(number, answers), slot, {kLargeText, true}));
+    plan.Below = std::max(plan.Below, below);
+  }
+}
+
+const SheetPlan& Worksheet::PlanOn(QSizeF size, bool answers) const {
+  SheetPlan& plan = plans_[Of(answers)];
+  if (plan.Paper != size) plan = MakePlan(size, answers, perPage_[Of(answers)]);
+  return plan;
+}
+
+std::string Worksheet::WhyTooLargeOn(const SheetPlan& plan) const {
+  if (!plan.Options.LargePrint) return {};
+  int order = 0;
+  for (const MadePuzzle& made : puzzles_) {
+    if (CellSideOn(plan, made) < LargeCellOf(made)) order = std::max(order, made.Clues.Order());
+  }
+  if (order == 0) return {};
+  return "a puzzle of size " + std::to_string(order) + " has no room for large print on this page";
+}
+
+std::string Worksheet::WhyTooLarge() const {
+  const std::string puzzles = WhyTooLargeOn(PlanOn(paper_, false));
+  return puzzles.empty() ? WhyTooLargeOn(PlanOn(paper_, true)) : puzzles;
 }
 
 void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
   const bool answers = page >= PuzzlePages();
-  const int first = page % PuzzlePages() * wish_.PerPage;
-  const double width = size.width() - 2 * kMargin;
-  const QRectF header(kMargin, kMargin, width, kHeader);
+  const SheetPlan& plan = PlanOn(size, answers);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::black);
-  constexpr double kTitle = 7;
-  const QRectF title(header.left(), header.top(), width * 0.55, kTitle * 1.4);
-  Write(painter, title, Qt::AlignLeft | Qt::AlignVCenter,
-        wish_.Title + (answers ? ": answers" : ""), kTitle, true);
-  if (!answers) {
-    const QRectF name(header.left() + width * 0.6, header.top(), width * 0.4, kTitle * 1.4);
-    Write(painter, name, Qt::AlignLeft | Qt::AlignVCenter, "Name:", kTextHeight);
-    painter.setPen(QPen(Qt::black, 0.2));
-    painter.drawLine(name.bottomLeft() + QPointF(14, -2), name.bottomRight() + QPointF(0, -2));
-    Write(painter, {header.left(), header.top() + 13, width, kTextHeight * 1.5}, Qt::AlignLeft,
-          RulesText(puzzles_), kTextHeight);
+  if (const std::string why = WhyTooLargeOn(plan); !why.empty()) {
+    WriteWrapped(painter, plan.Area(page), Qt::AlignLeft, QString::fromStdString(why), {plan.Text});
+    return;
   }
-  for (int place = 0; place < wish_.PerPage; ++place) {
+  PaintHeader(painter, plan, page);
+  if (plan.Footer > 0) PaintFooter(painter, plan, page);
+  const int first = (answers ? page - PuzzlePages() : page) * plan.PerPage;
+  for (int place = 0; place < plan.PerPage; ++place) {
     const int number = first + place;
     if (number >= static_cast<int>(puzzles_.size())) break;
-    const int order = puzzles_[static_cast<std::size_t>(number)].Clues.Order();
-    const Slot slot{SlotArea(size, place), number};
-    (answers ? PaintAnswer(painter, slot, CellSide(size, order))
-             : PaintPuzzle(painter, slot, CellSide(size, order)));
+    PaintPuzzle(painter, plan, {plan.SlotArea(page, place), number}, answers);
   }
 }
 
-void Worksheet::PaintPuzzle(QPainter& painter, const Slot& slot, double side) const {
-  const MadePuzzle& made = puzzles_[static_cast<std::size_t>(slot.Number)];
+QString Worksheet::TitleOf(bool answers) const {
+  return wish_.Title + (answers ? ": answers" : "");
+}
+
+void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, int page) const {
+  constexpr double kTitleLine = kTitle * 1.4;
+  constexpr double kRules = 13;  // below the top
+  const bool answers = page >= PuzzlePages();
+  const bool named = !answers && !wish_.Options.NameLines;
+  const QRectF area = plan.Area(page);
+  const double width = area.width();
+  if (!wish_.Options.LargePrint) {
+    WriteFitted(painter, {area.left(), area.top(), width * 0.55, kTitleLine},
+                Qt::AlignLeft | Qt::AlignVCenter, TitleOf(answers), {kTitle, true});
+    if (named) {
+      PaintNameLine(painter, {area.left() + width * 0.6, area.top(), width * 0.4, kTitleLine},
+                    plan.Text);
+    }
+    if (answers) return;
+    WriteFitted(painter, {area.left(), area.top() + kRules, width, plan.Text * 1.5}, Qt::AlignLeft,
+                RulesText(puzzles_), {plan.Text});
+    return;
+  }
+  WriteWrapped(painter, area, Qt::AlignLeft, TitleOf(answers), {kTitle, true});
+  double top = area.top() + WrappedHeight(TitleOf(answers), width, {kTitle, true});
+  if (named) {
+    const double line = WrappedHeight("0", 1, {plan.Text});
+    PaintNameLine(painter, {area.left(), top, width, line}, plan.Text);
+    top += line;
+  }
+  if (answers) return;
+  WriteWrapped(painter, {area.left(), top, width, 0}, Qt::AlignLeft, RulesText(puzzles_),
+               {plan.Text});
+}
+
+void Worksheet::PaintFooter(QPainter& painter, const SheetPlan& plan, int page) const {
+  const QRectF area = plan.Area(page);
+  WriteFitted(painter, {area.left(), area.bottom() - plan.Footer, area.width(), plan.Footer},
+              Qt::AlignHCenter | Qt::AlignBottom,
+              QString("Page %1 of %2").arg(page + 1).arg(Pages()), {plan.Small});
+}
+
+QString Worksheet::CaptionOf(int number, bool answer) const {
+  const MadePuzzle& made = Made(number);
   const Puzzle& clues = made.Clues;
+  if (answer) {
+    return QString("%1.   %2, total %3").arg(number + 1).arg(NameOf(made.Needed)).arg(clues.Target);
+  }
   const bool given = wish_.TotalGiven || !TotalCanBeFound(clues);
   const QString total = given ? QString::number(clues.Target) : "________";
   const QString numbers = AreMixed(puzzles_) ? "; " + Numbers(made) : QString();
-  PaintCaptioned(painter, slot, side, clues,
-                 QString("%1.   Total: %2%3").arg(slot.Number + 1).arg(total, numbers),
-                 Missing(clues));
+  return QString("%1.   Total: %2%3").arg(number + 1).arg(total, numbers);
 }
 
-void Worksheet::PaintAnswer(QPainter& painter, const Slot& slot, double side) const {
-  const MadePuzzle& made = puzzles_[static_cast<std::size_t>(slot.Number)];
-  PaintCaptioned(painter, slot, side, made.Solution,
-                 QString("%1.   %2, total %3")
-                     .arg(slot.Number + 1)
-                     .arg(NameOf(made.Needed))
-                     .arg(made.Clues.Target),
-                 {});
-}
-
-/// Paints a board with the text above it and, if there is one, the line below it; then its puzzle
+/// Paints a puzzle, or its answer, with the text above it, the missing numbers below it, and its
 /// code.
-void Worksheet::PaintCaptioned(QPainter& painter, const Slot& slot, double side,
-                               const Puzzle& shown, const QString& above,
-                               const QString& below) const {
-  const Puzzle& clues = puzzles_[static_cast<std::size_t>(slot.Number)].Clues;
-  const QRectF board = BoardIn(slot.Area, side, clues.Order());
+void Worksheet::PaintPuzzle(QPainter& painter, const SheetPlan& plan, const Slot& slot,
+                            bool answer) const {
+  constexpr double kLine = 7;
+  const MadePuzzle& made = Made(slot.Number);
+  const double side = CellSideOn(plan, made);
+  const QRectF board = plan.BoardIn(slot.Area, side * made.Clues.Order());
   const double left = slot.Area.left();
   const double width = slot.Area.width();
-  Write(painter, {left, board.top() - kCaption, width, kCaption}, Qt::AlignCenter, above,
-        kTextHeight, true);
-  PaintBoard(painter, board, side, shown, clues);
-  constexpr double kGap = 2;
-  constexpr double kLine = 7;
-  const double under = board.bottom() + kGap;
-  if (!below.isEmpty()) {
-    Write(painter, {left, under, width, kTextHeight * 1.4}, Qt::AlignCenter, below, kTextHeight);
+  const QString caption = CaptionOf(slot.Number, answer);
+  const QString missing = answer ? QString() : Missing(made.Clues);
+  const QString code = CodeTextOf(made);
+  double above = plan.Caption;
+  double under = board.bottom() + kUnderBoard;
+  if (wish_.Options.LargePrint) {
+    above = WrappedHeight(caption, width, {plan.Text, true});
+    WriteWrapped(painter, {left, board.top() - above, width, above}, Qt::AlignHCenter, caption,
+                 {plan.Text, true});
+  } else {
+    WriteFitted(painter, {left, board.top() - above, width, above}, Qt::AlignCenter, caption,
+                {plan.Text, true});
   }
-  Write(painter, {left, under + (below.isEmpty() ? 0 : kLine), width, kSmallText * 1.4},
-        Qt::AlignCenter, QString::fromStdString(CodeOf(clues)), kSmallText);
+  PaintBoard(painter, board, side, answer ? made.Solution : made.Clues, made.Clues);
+  if (wish_.Options.LargePrint) {
+    WriteWrapped(painter, {left, under, width, 0}, Qt::AlignHCenter, missing, {plan.Text});
+    if (!missing.isEmpty()) under += WrappedHeight(missing, width, {plan.Text});
+    WriteWrapped(painter, {left, under, width, 0}, Qt::AlignHCenter, code, {plan.Small});
+  } else {
+    WriteFitted(painter, {left, under, width, plan.Text * 1.4}, Qt::AlignCenter, missing,
+                {plan.Text});
+    if (!missing.isEmpty()) under += kLine;
+    WriteFitted(painter, {left, under, width, plan.Small * 1.4}, Qt::AlignCenter, code,
+                {plan.Small});
+  }
+  if (plan.Name > 0) {
+    PaintNameLine(painter, {left, board.top() - above - plan.Name, width, plan.Name}, plan.Text);
+  }
 }
 
 }  // namespace numorra

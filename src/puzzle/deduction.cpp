@@ -1,5 +1,7 @@
 #include "puzzle/deduction.h"
 
+#include <algorithm>
+
 #include "puzzle/chain.h"
 #include "puzzle/step_rules.h"
 #include "puzzle/trial_chain.h"
@@ -44,6 +46,22 @@ Deduction SearchedDeduction(int cell, std::int64_t number) {
   Step step{{StepRule::Search, -1, cell, number}};
   step.Left = {number, number, {number}};
   return {cell, number, Grade::Extreme, {step}};
+}
+
+Deduction NextNumber(const Puzzle& puzzle, const Puzzle& solved, Yielding& yielding) {
+  if (auto found = NextDeduction(puzzle, Grade::Expert, yielding)) return *found;
+  const auto gap = std::find(puzzle.Cells.begin(), puzzle.Cells.end(), 0);
+  const auto cell = static_cast<int>(gap - puzzle.Cells.begin());
+  return SearchedDeduction(cell, solved.Cells[cell]);
+}
+
+std::vector<Deduction> WayToSolve(Puzzle puzzle, const Puzzle& solved, Yielding& yielding) {
+  std::vector<Deduction> way;
+  while (puzzle.Gaps() > 0) {
+    way.push_back(NextNumber(puzzle, solved, yielding));
+    puzzle.Cells[way.back().Cell] = way.back().Number;
+  }
+  return way;
 }
 
 }  // namespace numorra

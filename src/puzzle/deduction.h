@@ -19,4 +19,10 @@ std::optional<Deduction> NextDeduction(const Puzzle& puzzle, Grade most, Yieldin
 /// A number that only a longer search has found.
 Deduction SearchedDeduction(int cell, std::int64_t number);
 
+/// The next number of a puzzle with gaps, by the rules or else by a search that has found `solved`.
+Deduction NextNumber(const Puzzle& puzzle, const Puzzle& solved, Yielding& yielding);
+
+/// All numbers of a puzzle in an order in which each follows from the clues and those before it.
+std::vector<Deduction> WayToSolve(Puzzle puzzle, const Puzzle& solved, Yielding& yielding);
+
 }  // namespace numorra

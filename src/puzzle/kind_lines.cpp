@@ -85,10 +85,10 @@ const LineKind* FindLineKind(const std::string& term) {
   return found == kKinds.end() ? nullptr : &found->Kind;
 }
 
-std::string LineKindTerms() {
-  std::string terms;
+std::vector<std::string> LineKindTerms() {
+  std::vector<std::string> terms;
   for (const NamedKind& kind : kKinds)
-    terms += (terms.empty() ? "" : ", ") + std::string(kind.Term);
+    terms.emplace_back(kind.Term);
   return terms;
 }
 

@@ -22,8 +22,8 @@ enum class LineKind { Magic, Associative, Pandiagonal, MostPerfect, Ultramagic }
 /// define.
 const LineKind* FindLineKind(const std::string& term);
 
-/// The terms of all kinds but Magic, separated by commas.
-std::string LineKindTerms();
+/// The terms of all kinds but Magic.
+std::vector<std::string> LineKindTerms();
 
 /// Why no normal square of the kind has this order; empty if one has.
 std::string WhyNoneOfKind(LineKind kind, int order);

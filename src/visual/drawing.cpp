@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 
+#include "toolkit/painted_text.h"
 #include "visual/outline.h"
 
 namespace numorra {
@@ -41,9 +42,9 @@ void DrawingArea::PaintNumber(QPainter& painter, const std::string& number, cons
   // The halo is the number painted four times around itself; outlining letters costs far more.
   const double around = std::max(1.0, font.pixelSize() * kHalo);
   for (const QPointF side : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
-    painter.drawText(place.translated(side * around), Qt::AlignCenter, text);
+    DrawCentred(painter, place.translated(side * around), text);
   painter.setPen(ink);
-  painter.drawText(place, Qt::AlignCenter, text);
+  DrawCentred(painter, place, text);
 }
 
 Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(board) {
@@ -72,18 +73,26 @@ void Drawing::SetNumbers(bool shown) {
 void Drawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().window());
-  Paint(painter, palette());
+  Paint(painter, palette(), Block());
 }
 
-void Drawing::Paint(QPainter& painter, const QPalette& palette) const {
+/// The square of all cells in the widget.
+QRectF Drawing::Block() const {
+  if (const std::optional<QRect> given = BlockIn(size())) {
+    QRectF block(0, 0, given->width(), given->width());
+    block.moveCenter(QRectF(*given).center());
+    return block;
+  }
+  const double side = std::max<double>(board_.GridSize, std::min(width(), height()) - 2 * kMargin);
+  QRectF block(0, 0, side, side);
+  block.moveCenter(QRectF(rect()).center());
+  return block;
+}
+
+void Drawing::Paint(QPainter& painter, const QPalette& palette, const QRectF& block) const {
   if (!kind_ || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
-  const int order = board_.GridSize;
-  const std::optional<QRect> given = BlockIn(size());
-  const double side = given ? static_cast<double>(given->width()) / order
-                            : std::max(1.0, (std::min(width(), height()) - 2 * kMargin) / order);
-  QRectF block(0, 0, order * side, order * side);
-  block.moveCenter(QRectF(given.value_or(rect())).center());
+  const double side = block.width() / board_.GridSize;
   kind_->Paint(painter, {board_, picked_, palette, numbers_, block, side});
   PaintOutline(painter, board_.grid.Outlined(), [&](Place place) {
     const QPointF corner = block.topLeft() + QPointF(place.Column - 1, place.Row - 1) * side;

@@ -31,14 +31,15 @@ class Drawing : public QWidget {
   /// possible.
   std::function<std::optional<QRect>(QSize)> BlockIn = [](QSize) { return std::nullopt; };
 
-  /// Paints the drawing in the colours of the palette over the painter's ground, which is as large
-  /// as the widget.
-  void Paint(QPainter& painter, const QPalette& palette) const;
+  /// Paints the drawing in the colours of the palette on the square `block`.
+  void Paint(QPainter& painter, const QPalette& palette, const QRectF& block) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QRectF Block() const;
+
   const Board& board_;
   const DrawingKind* kind_ = nullptr;
   Colour picked_;

@@ -100,19 +100,58 @@ TEST(SquareJson, ThatIsInvalidIsRefusedWithItsPlace) {
 }
 
 TEST(Formats, ReadWhatTheyWrite) {
+  const StoredSquare broken{.Cells = {4, std::vector<std::optional<double>>(16, -2.5)}};
   for (const Format& format : kFormats) {
     EXPECT_EQ(FormatNamed(format.Name), format.Id);
-    StoredSquare square = kStored;
-    if (format.Id != SquareFormat::Json) square = {.Cells = kStored.Cells};
-    const auto read = ReadSquare(format.Write(square));
-    ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << format.Name;
-    EXPECT_EQ(std::get<StoredSquare>(read), square) << format.Name;
+    if (!format.Read) continue;
+    for (const StoredSquare& stored : {kStored, broken}) {
+      StoredSquare square = stored;
+      if (format.Id != SquareFormat::Json) square = {.Cells = stored.Cells};
+      for (const char* caption : {"", "hard, 50 % & {more}"}) {
+        std::istringstream written(format.Write(square, caption));
+        const auto read = ReadSquare(BlockReader(written).Next().value().Text);
+        ASSERT_TRUE(std::holds_alternative<StoredSquare>(read)) << format.Name;
+        EXPECT_EQ(std::get<StoredSquare>(read), square) << format.Name;
+      }
+    }
   }
   EXPECT_EQ(FormatNamed("xml"), std::nullopt);
   EXPECT_EQ(TextOf({.Cells = {3, {8, {}, 16, 3, 5, 7, 4, 9, 2}}, .Total = 15}),
             " 8  . 16\n 3  5  7\n 4  9  2\n\ntotal 15\n");
   const auto large = ReadSquare(std::string(kMostTextBytes, ' ') + kPuzzle);
   EXPECT_EQ(std::get<Unreadable>(large).Why, kTooLongForASquare);
+}
+
+TEST(Formats, AreReadAsOthersWriteThem) {
+  const StoredCells loShu{3, {8, {}, 6, 3, 5, 7, 4, 9, 2}};
+  for (const char* text :
+       {"[[8, null, 6], [3, 5, 7], [4, 9, 2]]", " [ [8,None,6],\n  [3,5,7],\n  [4,9,2], ]\n",
+        "{{8, Null, 6}, {3, 5, 7}, {4, 9, 2}}", "((8,,6),(3,5,7),(4,9,2))",
+        "$\\begin{pmatrix}8 & & 6\\\\ 3 & 5 & 7\\\\[2pt]\n4 & 9 & 2\\end{pmatrix}$",
+        "% by hand\n\\begin{tabular}[t]{|c|c|c|}\\hline\n\\textbf{8} & & $6$ \\\\ \\cline{1-3} % 9 "
+        "& 9\n"
+        "3 & 5 & 7 \\\\\n4 & 9 & \\boxed{2} \\\\ \\hline\n\\end{tabular}"}) {
+    const auto read = ReadSquare(text);
+    ASSERT_TRUE(std::holds_alternative<StoredSquare>(read))
+        << text << ": " << std::get<Unreadable>(read).Why;
+    EXPECT_EQ(std::get<StoredSquare>(read).Cells, loShu) << text;
+  }
+  const std::pair<const char*, const char*> wrong[] = {
+      {"[[1, 2, 3], [4, 5, 6], [7, 8, 9]", "line 4: a bracket is not closed"},
+      {"[[1, 2, 3],\n[4, 5, 6),\n[7, 8, 9]]", "line 5: the brackets do not match"},
+      {"[[1, 2, 3],\n[4, [5], 6]]", "line 5: there are lists within the rows"},
+      {"[[1, 2, 3]] + 1", "line 4: there is more after the list"},
+      {"[[1, 2, 3], 4]", "line 4: there is something between the rows"},
+      {"[[1, 2, 3], [4, 5, x],\n[7, 8, 9]]", "line 4: \"x\" is not a number"},
+      {"\\begin{array}{ccc}\n1 & 2 & 3 \\\\\n4 & 5 & six \\\\\n7 & 8 & 9\\end{array}",
+       "line 6: \"six\" is not a number"},
+      {"\\begin{array}{ccc}\n1 & 2", "line 5: \\end is missing"},
+      {"\\begin{array}{cc", "line 4: \\end is missing"}};
+  for (const auto& [text, why] : wrong) {
+    const auto read = ReadSquare(text, 4);
+    ASSERT_TRUE(std::holds_alternative<Unreadable>(read)) << text;
+    EXPECT_EQ(std::get<Unreadable>(read).Why, why) << text;
+  }
 }
 
 TEST(Blocks, AreObjectsAndLinesInAnyOrder) {

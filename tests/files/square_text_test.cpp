@@ -25,6 +25,11 @@ TEST(SquareTexts, AreReadAsPeopleAndProgramsWriteThem) {
       "1 -2.5 3\n4 5 6\n7 8 00000000000000000.5000");
   EXPECT_EQ(std::get<StoredSquare>(signs).Cells,
             (StoredCells{3, {-1, -2.5, 3, 4, 5, 6, 7, 8, 0.5}}));
+  const StoredCells decimals{3, {1.5, 2, -3.25, 4, 5, 6, 7, 8, 9}};
+  for (const char* text : {"1,5;2;-3,25\n4;5;6\n7;8;9", "1,5\t2,0\t-3,25\n4\t5\t6\n7\t8\t9",
+                           "# from a table\n\n1.5 2 -3.25 # first\n4 5 6\n#\n7 8 9"}) {
+    EXPECT_EQ(std::get<StoredSquare>(ReadSquareText(text)).Cells, decimals) << text;
+  }
   const StoredCells gaps{3, {8, {}, 6, {}, 5, {}, 4, {}, {}}};
   for (const char* text : {"8 . 6\n- 5 _\n4", "8,,6\n,5,\n4,,", "8,,6\n,5\n4", "8\t\t6\n\t5\n4\n\n",
                            "8;-;6;\n;5;;\n4;_;;", "8 - 6\n\xE2\x88\x92 5\n4 . ."}) {
@@ -53,6 +58,8 @@ TEST(SquareTexts, ThatAreInvalidAreRefusedWithTheirLine) {
       {"\n\n1 2 3\n4 5 6 7\n7 8 9", "line 4 has 4 numbers, but there are 3 lines"},
       {"1 2 3\n\n4 5 6\n7 8 9", "line 2 is empty"},
       {"1,2,3,\n4,5,6\n7,8,9", "line 1 has 4 numbers, but there are 3 lines"},
+      {"1,234;2;3\n4;5;6\n7;8;9", "line 1: \"1,234\" is not a number"},
+      {"1,5;2.5;3\n4;5;6\n7;8;9", "line 1: \"1,5\" is not a number"},
       {"1 2 x\n4 5 6\n7 8 9", "line 1: \"x\" is not a number"},
       {"1 2 3\n4 5 6\n1.2.3 8 9", "line 3: \"1.2.3\" is not a number"},
       {"1 2 3\n4 5 6\n7 1e9 9", "line 3: \"1e9\" is not a number"},

@@ -181,5 +181,38 @@ TEST(PaperPrinters, FailWithARunTimeErrorAndKeepTheFileThatWasThere) {
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
 }
 
+/// Neither the time nor the random order of hash tables shows in a file.
+TEST(PaperPrinters, WriteTheSameFileAgain) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("sheet.pdf"));
+  QPrinter paper;
+  paper.setOutputFileName(file.fileName());
+  paper.setDocName("/CreationDate (D:1)");
+  const PaintedPages pages{"sheet", 2, {}, [](QPainter& painter, QSizeF, int page) {
+                             for (const bool bold : {false, true}) {
+                               QFont font;
+                               font.setBold(bold);
+                               painter.setFont(font);
+                               painter.drawText(9, 9, QString::number(page));
+                             }
+                           }};
+  QByteArray written;
+  for (int time = 0; time < 9; ++time) {
+    PrintPages(paper, pages);
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    const QByteArray again = file.readAll();
+    file.close();
+    EXPECT_TRUE(time == 0 || again == written);
+    written = again;
+  }
+  EXPECT_FALSE(written.contains("Date")) << written.left(300).toStdString();
+  QProcess reader;
+  reader.start("pdfinfo", {file.fileName()});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QByteArray info = reader.readAllStandardOutput();
+  EXPECT_TRUE(info.contains("/CreationDate (D:1)") && info.contains("Pages:           2\n"));
+  EXPECT_EQ(reader.readAllStandardError(), "");
+}
+
 }  // namespace
 }  // namespace numorra

@@ -37,7 +37,7 @@ class WorksheetTest : public testing::Test {
       made.push_back(std::get<MadePuzzle>(MakePuzzle(*square, {Grade::Easy}, random_, stage_)));
     }
     made_ = made;
-    sheet_ = std::make_unique<Worksheet>(made, wish);
+    sheet_ = std::make_unique<Worksheet>(made, wish, orientation == QPageLayout::Landscape);
     const QTemporaryDir folder;
     const QString name = folder.filePath("sheet.pdf");
     {
@@ -193,6 +193,47 @@ TEST_F(WorksheetTest, HasRoomForEverything) {
           EXPECT_FALSE(boards[i].intersects(boards[k]));
       }
     }
+  }
+}
+
+/// The title, at 7 mm, shows how high a word is for its font.
+TEST_F(WorksheetTest, InLargePrintHasNoTextBelow18Points) {
+  for (const auto orientation : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+    for (const bool all : {false, true}) {
+      const SheetOptions options{true, all, all, false, all};
+      Print(3, {6, "Monday", true, options}, orientation);
+      ExpectRoom();
+      const double millimetre = Find(0, "Monday").Box.height() / 7;
+      for (const auto& page : pages_) {
+        for (const Word& word : page)
+          EXPECT_GE(word.Box.height() / millimetre * 72 / 25.4, 17.95) << word.Text.toStdString();
+      }
+      int codes = 0, names = 0;
+      for (const auto& page : pages_) {
+        for (const Word& word : page) {
+          codes += word.Text.startsWith("NP2");
+          names += word.Text == "Name:";
+        }
+      }
+      EXPECT_EQ(codes, 6) << "all puzzles and answers";
+      EXPECT_EQ(names, all ? 3 : sheet_->PuzzlePages());
+      EXPECT_EQ(sheet_->WhyTooLarge(), "");
+    }
+  }
+  MadePuzzle large;
+  large.Clues.Cells = large.Solution.Cells = Square<std::int64_t>(20, 400);
+  EXPECT_EQ(Worksheet({made_[0], large}, {.Options = {.LargePrint = true}}).WhyTooLarge(),
+            "a puzzle of size 20 has no room for large print on this page");
+}
+
+TEST_F(WorksheetTest, GivesEveryPupilAPageAndEveryPageItsNumber) {
+  Print(3, {2, "Monday", true, {.PageNumbers = true, .PageAPupil = true, .Booklet = true}},
+        QPageLayout::Portrait);
+  ASSERT_EQ(pages_.size(), 5U) << "three of puzzles, two of answers";
+  ExpectRoom();
+  for (std::size_t page = 0; page < pages_.size(); ++page) {
+    EXPECT_EQ(Find(page, "Page").Text, "Page");
+    EXPECT_NEAR(Find(page, "Monday").Box.left(), page % 2 == 0 ? 21.6 : 12, 1);
   }
 }
 

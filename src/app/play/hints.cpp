@@ -86,14 +86,6 @@ Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say
   return say(puzzle, Solve(puzzle, kLimit, random, stage));
 }
 
-/// The next number by the rules, or else one that the search has found.
-Deduction FindDeduction(const Puzzle& puzzle, const Puzzle& solved, WorkStage& stage) {
-  if (auto found = NextDeduction(puzzle, Grade::Expert, stage)) return *found;
-  const auto gap = std::find(puzzle.Cells.begin(), puzzle.Cells.end(), 0);
-  const auto cell = static_cast<int>(gap - puzzle.Cells.begin());
-  return SearchedDeduction(cell, solved.Cells[cell]);
-}
-
 /// The steps as remarks; the first one holds them all if there are several.
 Remark Explained(const Deduction& deduction, const LineMap& map) {
   std::vector<Remark> steps;
@@ -143,7 +135,7 @@ Remark Hints::Begin() {
     }
     if (!board_.HasGaps()) return {"the board has no gaps"};
     if (const auto* one = std::get_if<OneSolution>(&result)) {
-      next_ = FindDeduction(puzzle, one->Solved, stage_);
+      next_ = NextNumber(puzzle, one->Solved, stage_);
       return {};
     }
     if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};

@@ -16,4 +16,8 @@ StoredSquare StoredSquareOf(const Board& board);
 /// Its target and rules come from AimOf, or else from the sum box.
 void LayOut(Board& board, SquareBoxes& boxes, const StoredSquare& square);
 
+/// Shows a stored square in the same way on a board of its own that no session plays, such as one
+/// for a picture.
+void ShowApart(Board& board, const StoredSquare& square);
+
 }  // namespace numorra

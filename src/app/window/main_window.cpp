@@ -68,6 +68,17 @@ MainWindow::~MainWindow() {
     panel->disconnect();
 }
 
+void MainWindow::BeginBoard() {
+  controls_->Solve->SolveAuto->click();
+}
+
+/// A square of order 4 whose numbers the player hides, as the menus have it.
+void MainWindow::BeginPuzzle() {
+  controls_->Square->SetSize("4");
+  BeginBoard();
+  findChild<QAction*>("HideNumbersx")->trigger();
+}
+
 void MainWindow::Arrange() {
   auto* centre = new QWidget;
   setCentralWidget(centre);
@@ -97,7 +108,7 @@ void MainWindow::AddMenus(const KeptFolders& folders) {
   view_ = new ViewMenu(this, desk_, state_, folders);
   new ControlsMenu(menuBar(), *controls_);
   new StudyMenu(this, desk_, view_->Room());
-  new PuzzleMenu(menuBar(), desk_, searchStage_, world_.Pages, state_);
+  new PuzzleMenu(menuBar(), desk_, searchStage_, {world_.Pages, world_.Files}, state_);
   QMenu* help = menuBar()->addMenu("&Help");
   AddItem(help, {"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents),
                  desk_.Beside([this] {

@@ -25,6 +25,11 @@ class MainWindow : public QMainWindow {
   const Board& TheBoard() const { return session_.TheBoard; }
   GridView& View() { return *place_->View; }
 
+  // What a player may want to begin with. Each is a command.
+  void OpenFileOrCode(const QString& name) { files_->OpenFileOrCode(name); }
+  void BeginBoard();
+  void BeginPuzzle();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;

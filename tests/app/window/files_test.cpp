@@ -8,52 +8,16 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QProcess>
-#include <QTemporaryDir>
 
-#include "app/board/position.h"
 #include "app/board/runtime_error.h"
 #include "app/window/menus/square_files.h"
+#include "support/files_fixture.h"
 #include "support/full_disk.h"
-#include "support/window_fixture.h"
 
 namespace numorra {
 namespace {
 
-/// Returns the given file names.
-struct ScriptedFiles : FileChooser {
-  QString ToOpen(QWidget*, const QString&, const QString&) override { return Name; }
-  QString ToSave(QWidget*, const QString&, const QString&) override { return Name; }
-  QString Name;
-};
-
-class FilesTest : public WindowTest {
- protected:
-  FilesTest() : WindowTest({.Files = &files_}) {}
-
-  QString In(const char* name) { return folder_.filePath(name); }
-
-  void Trigger(const char* action, const QString& name) {
-    files_.Name = name;
-    Find<QAction>(action).trigger();
-  }
-
-  QString Written(const char* name, const QByteArray& bytes) {
-    QFile file(In(name));
-    EXPECT_TRUE(file.open(QFile::WriteOnly));
-    file.write(bytes);
-    return file.fileName();
-  }
-
-  QByteArray Read(const char* name) {
-    QFile file(In(name));
-    return file.open(QFile::ReadOnly) ? file.readAll() : "no file";
-  }
-
-  Position Now() { return PositionOf(window_.TheBoard()); }
-
-  ScriptedFiles files_;
-  QTemporaryDir folder_;
-};
+using FilesTest = FilesWindowTest;
 
 constexpr const char* kPuzzle =
     "{\"format\": \"numorra-square\", \"version\": 1, \"order\": 3, \"total\": 15, "
@@ -159,12 +123,16 @@ TEST_F(FilesTest, UnreadableFilesAreReportedAndChangeNothing) {
 TEST_F(FilesTest, AFullDiskLosesNothing) {
   Make("SolveManual", "50", "5003");
   dialogs_.Take();
-  for (const auto& [action, name] :
-       {std::pair{"SaveAsx", "a.json"}, {"ExportPicturex", "a.png"}, {"ExportPicturex", "a.pdf"}}) {
+  const std::pair<const char*, std::function<void(const QString&)>> ways[] = {
+      {"a.json", [this](const QString& name) { Trigger("SaveAsx", name); }},
+      {"a.png", [this](const QString& name) { Export(name, 0); }},
+      {"a.svg", [this](const QString& name) { Export(name, 1); }},
+      {"a.pdf", [this](const QString& name) { Export(name, 2); }}};
+  for (const auto& [name, write] : ways) {
     Written(name, "what was there");
     {
       const FullDisk full(1000);
-      Trigger(action, In(name));
+      write(In(name));
     }
     const Messages said = dialogs_.Take();
     ASSERT_EQ(said.size(), 1U) << name;
@@ -173,9 +141,9 @@ TEST_F(FilesTest, AFullDiskLosesNothing) {
   }
   Trigger("SaveAsx", "/nowhere/at/all.json");
   EXPECT_EQ(dialogs_.Take().size(), 1U);
-  Trigger("ExportPicturex", "a.gif");
-  EXPECT_EQ(dialogs_.Take(), Messages{"File error: a.gif is neither a .png nor a .pdf file"});
-  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3) << "nothing is left beside them";
+  Export("a.pdf", 1);
+  EXPECT_EQ(dialogs_.Take(), Messages{"File error: a.pdf is not a .svg file"});
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 4) << "nothing is left beside them";
 }
 
 /// Something that is not a file, or has the name of another kind of file, is not replaced.
@@ -251,27 +219,6 @@ TEST_F(FilesTest, AFileDroppedOntoTheWindowOpens) {
   EXPECT_FALSE(drop({puzzle, puzzle}) || drop({}) || drop({QUrl("https://example.org/a.json")}));
   EXPECT_TRUE(drop({puzzle}));
   EXPECT_EQ(TheGrid().Text(3, 3), "2");
-}
-
-TEST_F(FilesTest, PicturesAreTwiceAsLargeAndOnWhite) {
-  Make("SolveAuto", "5");
-  QPalette dark;
-  dark.setColor(QPalette::Window, Qt::black);
-  window_.setPalette(dark);
-  Trigger("ExportPicturex", In("board.png"));
-  QImage picture(In("board.png"));
-  EXPECT_EQ(picture.size(), window_.View().Picture().size() * 2);
-  EXPECT_EQ(picture.pixelColor(picture.width() - 3, picture.height() - 3), QColor(Qt::white));
-  Click("Command2");
-  Trigger("ExportPicturex", In("drawing.png"));
-  picture.load(In("drawing.png"));
-  EXPECT_EQ(picture.size(), Find<Drawing>("Picture1").size() * 2);
-  EXPECT_EQ(picture.pixelColor(2, 2), QColor(Qt::white));
-  Trigger("ExportPicturex", In("drawing.pdf"));
-  QProcess reader;
-  reader.start("pdfinfo", {In("drawing.pdf")});
-  ASSERT_TRUE(reader.waitForFinished());
-  EXPECT_TRUE(reader.readAllStandardOutput().contains("Pages:           1\n"));
 }
 
 }  // namespace

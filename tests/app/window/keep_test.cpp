@@ -74,6 +74,8 @@ TEST_F(KeepTest, AnotherWindowShowsWhatWasChosenUntilItIsUnticked) {
   Find<QComboBox>("PerPage").setCurrentText("2");
   Find<QLineEdit>("SheetTitle").setText("R\u00e4tsel, @ \"7\"");
   Find<QSpinBox>("Sheet_hard").setValue(9);
+  for (const char* option : {"LargePrintx", "NameLinesx", "BookletMarginsx"})
+    Click(option);
   Find<QDialog>("PrintWorksheet").close();
   window_.close();
   {
@@ -89,6 +91,8 @@ TEST_F(KeepTest, AnotherWindowShowsWhatWasChosenUntilItIsUnticked) {
     EXPECT_EQ(next.Find<QComboBox>("PerPage").currentText(), "2");
     EXPECT_EQ(next.Find<QLineEdit>("SheetTitle").text(), "R\u00e4tsel, @ \"7\"");
     EXPECT_EQ(next.Find<QSpinBox>("Sheet_hard").value(), 9);
+    for (const auto* box : next.Find<QWidget>("SheetOptions").findChildren<QCheckBox*>())
+      EXPECT_EQ(box->isChecked(), !box->objectName().startsWith("Page"));
     next.Find<QAction>("KeepSettingsx").trigger();
   }
   EXPECT_EQ(Files(), QStringList());

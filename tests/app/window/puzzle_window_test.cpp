@@ -287,5 +287,21 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
       << "what was chosen is kept";
 }
 
+TEST_F(MakingWindowTest, ASheetThatHasNoRoomForLargePrintIsRefusedBeforeItIsMade) {
+  Type("Text1", "20");
+  Find<QAction>("PrintWorksheetx").trigger();
+  QCoreApplication::processEvents();
+  EXPECT_LT(Find<QDialog>("PrintWorksheet").height(), 680) << "fits on a low screen";
+  Find<QCheckBox>("LargePrintx").setChecked(true);
+  Find<QPushButton>("PreviewSheetx").click();
+  EXPECT_EQ(Find<QLabel>("SheetTold").text(),
+            "a puzzle of size 20 has no room for large print on this page");
+  EXPECT_TRUE(pages_.Pictures.empty());
+  Find<QSpinBox>("SheetSize").setValue(4);
+  Find<QCheckBox>("PageAPupilx").setChecked(true);
+  Find<QPushButton>("PreviewSheetx").click();
+  EXPECT_EQ(pages_.Pictures.size(), 7U) << "six pages of puzzles, one of answers";
+}
+
 }  // namespace
 }  // namespace numorra

@@ -4,12 +4,20 @@
 
 #include <QFontMetricsF>
 
+#include "toolkit/painted_text.h"
+
 namespace numorra {
 namespace {
 
 constexpr double kTextHeight = 0.45;  // of the cell's side
 constexpr int kNarrowPercent = 78;
 constexpr std::size_t kKeptTexts = 8192;
+constexpr int kSizesToHalf = 24;  // how many sizes are tried at least while a large text is halved
+
+/// The next smaller size to try: one pixel less, or more where cells are large.
+int SmallerThan(int pixels) {
+  return pixels - std::max(1, pixels / (2 * kSizesToHalf));
+}
 
 }  // namespace
 
@@ -18,7 +26,7 @@ CellText::CellText(const QFont& font, int side) : room_(side - 2) {
   QFont plain = font;
   plain.setPixelSize(wished);
   fonts_.emplace_back(plain);
-  for (int pixels = wished; pixels >= kSmallestPixels; --pixels) {
+  for (int pixels = wished; pixels >= kSmallestPixels; pixels = SmallerThan(pixels)) {
     QFont narrow = plain;
     narrow.setPixelSize(pixels);
     narrow.setStretch(kNarrowPercent);
@@ -46,7 +54,12 @@ void CellText::Draw(QPainter& painter, const QRect& cell, const std::string& tex
   if (painter.font() != font.Font) painter.setFont(font.Font);
   const qreal left = prepared.Fits ? (cell.width() - 1 - prepared.Width) / 2 : 1;
   const qreal top = (cell.height() - 1 - font.Metrics.height()) / 2;
-  painter.drawStaticText(QPointF(cell.left() + left, cell.top() + top), prepared.Text);
+  const QPointF corner(cell.left() + left, cell.top() + top);
+  if (DrawsOutlines(painter)) {
+    DrawLine(painter, corner + QPointF(0, font.Metrics.ascent()), prepared.Text.text());
+  } else {
+    painter.drawStaticText(corner, prepared.Text);
+  }
 }
 
 bool CellText::Readable(const std::string& text) {

@@ -116,16 +116,17 @@ void GridPainter::PaintBlock(QPainter& painter, const Look& look, const QRect& a
   for (int row = top; row < bottom; ++row) {
     for (int column = left; column < right; ++column) {
       const QRect place = CellRect(row, column, scrolled);
+      const QRect inside = place.adjusted(0, 0, -look.LineWidth, -look.LineWidth);
       const Grid::Cell& cell = grid_.At(row, column);
       const Colour background = cell.Background();
       if (!background.SeeThrough) {
         painter.fillRect(place, line);
-        painter.fillRect(place.adjusted(0, 0, -1, -1), ToQColor(background));
+        painter.fillRect(inside, ToQColor(background));
       } else {
         PaintBlockEdge(painter, look, place, row, column);
       }
       if (cell.Judged == Verdict::Wrong) PaintWrongMark(painter, place);
-      PaintText(painter, look, place, row, column);
+      PaintText(painter, look, inside.adjusted(0, 0, 1, 1), row, column);
     }
   }
 }
@@ -164,11 +165,12 @@ void GridPainter::PaintWrongMark(QPainter& painter, const QRect& cell) {
 /// The block's upper and left edges follow the cells of the fixed lines.
 void GridPainter::PaintBlockEdge(QPainter& painter, const Look& look, const QRect& cell, int row,
                                  int column) {
-  painter.setPen(look.Palette.color(QPalette::Mid));
+  const QColor line = look.Palette.color(QPalette::Mid);
+  const int width = look.LineWidth;
   const bool above = row == 0 && column > 0 && column < grid_.Columns() - 1;
   const bool before = column == 0 && row > 0 && row < grid_.Rows() - 1;
-  if (above) painter.drawLine(cell.bottomLeft(), cell.bottomRight());
-  if (before) painter.drawLine(cell.topRight(), cell.bottomRight());
+  if (above) painter.fillRect(cell.adjusted(0, cell.height() - width, 0, 0), line);
+  if (before) painter.fillRect(cell.adjusted(cell.width() - width, 0, 0, 0), line);
 }
 
 }  // namespace numorra

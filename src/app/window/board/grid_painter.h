@@ -41,10 +41,12 @@ class GridPainter {
   /// Whether the cell's text, or all its notes, are drawn uncut and large enough to read.
   bool Readable(int row, int column);
 
-  /// How a table is painted: its scroll position, and the palette for cells without colours.
+  /// How a table is painted: its scroll position, the palette for cells without colours, and the
+  /// pixels of the lines between cells.
   struct Look {
     QPoint Scrolled;
     QPalette Palette;
+    int LineWidth = 1;
   };
 
   /// Paints the cells within `dirty` in a viewport of `size`.

@@ -59,10 +59,6 @@ class GridView : public QAbstractScrollArea {
   /// Paints the whole table at 100 %, visible or not, without the marks of the current cell.
   QImage Picture() const;
 
-  /// Paints the same with any painter and palette; and the size of the result.
-  void PaintPicture(QPainter& painter, const QPalette& palette) const;
-  QSize PictureSize() const;
-
   QSize sizeHint() const override;
 
   /// The tool-tip of a cell; where it is empty, a cell shows what is not readable in it.

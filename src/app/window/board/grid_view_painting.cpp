@@ -73,22 +73,13 @@ void GridView::TellCurrentCell() {
 }
 
 QImage GridView::Picture() const {
-  QImage picture(PictureSize(), QImage::Format_RGB32);
+  GridPainter plain(grid_, font(), logicalDpiX());
+  const QRect whole(0, 0, plain.Edge(grid_.Columns()), plain.Edge(grid_.Rows()));
+  QImage picture(whole.size(), QImage::Format_RGB32);
   picture.fill(palette().color(QPalette::Window));
   QPainter painter(&picture);
-  PaintPicture(painter, palette());
+  plain.PaintCells(painter, {QPoint(), palette()}, whole.size(), whole);
   return picture;
-}
-
-QSize GridView::PictureSize() const {
-  const GridPainter plain(grid_, font(), logicalDpiX());
-  return {plain.Edge(grid_.Columns()), plain.Edge(grid_.Rows())};
-}
-
-void GridView::PaintPicture(QPainter& painter, const QPalette& palette) const {
-  GridPainter plain(grid_, font(), logicalDpiX());
-  const QSize size = PictureSize();
-  plain.PaintCells(painter, {QPoint(), palette}, size, QRect(QPoint(), size));
 }
 
 bool GridView::CurrentInBlock() const {

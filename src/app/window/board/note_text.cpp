@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 
 #include "app/window/board/cell_text.h"
+#include "toolkit/painted_text.h"
 
 namespace numorra {
 namespace {
@@ -72,7 +73,7 @@ void NoteText::Draw(QPainter& painter, const QRect& cell, const NoteSet& notes) 
     const qreal height = fitted->Used->Height;
     QPointF start(cell.left() + margin_, cell.top() + margin_ + height);
     for (const QString& line : fitted->Lines) {
-      painter.drawText(start, line);
+      DrawLine(painter, start, line);
       start.ry() += height * (1 + kBetweenLines);
     }
     return;
@@ -80,8 +81,8 @@ void NoteText::Draw(QPainter& painter, const QRect& cell, const NoteSet& notes) 
   const QString count = QString::number(notes.count());
   const auto& fitting = counts_[static_cast<std::size_t>(count.size())];
   painter.setFont(fitting.value_or(sizes_.back().Font));
-  painter.drawText(cell.adjusted(0, 0, -1, -1), Qt::AlignCenter,
-                   fitting ? kEllipsis + count : QString(kEllipsis));
+  DrawCentred(painter, cell.adjusted(0, 0, -1, -1),
+              fitting ? kEllipsis + count : QString(kEllipsis));
 }
 
 /// The largest font in which an ellipsis and so many digits fit the cell; none if none does.

@@ -6,8 +6,10 @@
 #include <QScopeGuard>
 #include <QVBoxLayout>
 
+#include "publish/play_page.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/whole_file.h"
 
 namespace numorra {
 namespace {
@@ -17,9 +19,20 @@ QString Counted(int count, const char* what) {
 }
 
 /// "on 2 pages, with 2 pages of answers"
-QString PagesFor(int puzzles, int perPage) {
-  const QString pages = Counted((puzzles + perPage - 1) / perPage, "page");
-  return "on " + pages + ", with " + pages + " of answers";
+QString PagesFor(int puzzles, const WorksheetWish& layout) {
+  if (layout.Options.LargePrint) return "in large print, with answers";
+  const int shared = (puzzles + layout.PerPage - 1) / layout.PerPage;
+  return "on " + Counted(layout.Options.PageAPupil ? puzzles : shared, "page") + ", with " +
+         Counted(shared, "page") + " of answers";
+}
+
+/// The largest square of a set, as far as it is known before it is made, to see whether it fits.
+MadePuzzle LargestOf(const PuzzleSetWish& set) {
+  const int order = set.Square.Order;
+  MadePuzzle made;
+  const auto number = static_cast<std::int64_t>(set.Square.Total ? 1 : order * order);
+  made.Clues.Cells = made.Solution.Cells = SquareOf(order, [&](int) { return number; });
+  return made;
 }
 
 bool TakesLong(const PuzzleSetWish& set) {
@@ -54,12 +67,12 @@ int PuzzlesIn(const PuzzleSetWish& set) {
 
 }  // namespace
 
-WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrinter& printer,
+WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Ports& ports,
                              Random& random, Dialogs& dialogs, QWidget* parent)
     : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
       atHand_(std::move(atHand.Puzzles)),
       choice_(choice),
-      printer_(printer),
+      ports_(ports),
       random_(random),
       printsAtHand_(Named("SheetFromBoardx", new QRadioButton(atHand.Caption))),
       set_(new FreshSetBox(choice.Set)),
@@ -67,8 +80,10 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
       orientation_(Named("Orientation", new QComboBox)),
       title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
       total_(Named("TotalGivenx", new QCheckBox("the &total is given"))),
+      options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
       told_(Named("SheetTold", new QLabel)),
       print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
+      page_(Named("SavePagex", new QPushButton("Save Web Pa&ge..."))),
       stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
   for (const int number : {1, 2, 4, 6})
     perPage_->addItem(QString::number(number), number);
@@ -94,10 +109,12 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   layout->addRow("T&itle", title_);
   layout->addRow("", total_);
   column->addLayout(layout);
+  column->addWidget(options_);
   AlignLabels(*set_->Rows(), *layout);
   column->addWidget(told_, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(print_);
+  buttons->addWidget(page_);
   buttons->addWidget(stop_);
   buttons->addStretch();
   buttons->addWidget(close);
@@ -111,7 +128,9 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
   OnSignal(runner_, orientation_, &QComboBox::currentIndexChanged, this, take);
   OnSignal(runner_, title_, &QLineEdit::textChanged, this, take);
   OnSignal(runner_, total_, &QCheckBox::toggled, this, take);
+  OnSignal(runner_, options_, &SheetOptionsBox::Changed, this, take);
   OnClick(runner_, print_, this, [this] { Print(); });
+  OnClick(runner_, page_, this, [this] { SavePage(); });
   OnClick(runner_, stop_, this, [this] { runner_.Run("Stop", [this] { ShowMaking(false); }); });
   OnClick(runner_, close, this, [this] { this->close(); });
 }
@@ -120,12 +139,14 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrin
 void WorksheetForm::TakeChoice() {
   const bool makes = !printsAtHand_->isChecked();
   set_->setEnabled(makes);
-  choice_ = {set_->Wish(),
-             {perPage_->currentData().toInt(), title_->text(), total_->isChecked()},
-             orientation_->currentIndex() == 1};
+  choice_ = {
+      set_->Wish(),
+      {perPage_->currentData().toInt(), title_->text(), total_->isChecked(), options_->Options()},
+      orientation_->currentIndex() == 1};
   const int puzzles = makes ? PuzzlesIn(choice_.Set) : static_cast<int>(atHand_.size());
   const bool making = stop_->isEnabled();
-  print_->setEnabled(puzzles > 0 && !making);
+  for (QPushButton* button : {print_, page_})
+    button->setEnabled(puzzles > 0 && !making);
   if (making) return;
   QString what = Counted(puzzles, "puzzle");
   if (puzzles == 0) {
@@ -133,20 +154,30 @@ void WorksheetForm::TakeChoice() {
     return;
   }
   if (makes) what = InWords(choice_.Set);
-  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout.PerPage) + ".";
+  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout) + ".";
   if (makes && TakesLong(choice_.Set)) told += " Puzzles as large take some seconds each.";
   told_->setText(told);
 }
 
 void WorksheetForm::ShowMaking(bool making) {
   stop_->setEnabled(making);
-  print_->setEnabled(!making);
+  for (QPushButton* button : {print_, page_})
+    button->setEnabled(!making);
   if (!making) TakeChoice();
 }
 
-std::vector<MadePuzzle> WorksheetForm::MakeSet(QString& shortfall) {
+/// Those at hand or a new set; says what could not be made.
+std::vector<MadePuzzle> WorksheetForm::Puzzles() {
+  return printsAtHand_->isChecked() ? atHand_ : MakeSet();
+}
+
+std::vector<MadePuzzle> WorksheetForm::MakeSet() {
   ShowMaking(true);
-  const auto done = qScopeGuard([this] { ShowMaking(false); });
+  QString shortfall;
+  const auto done = qScopeGuard([&] {
+    ShowMaking(false);
+    if (!shortfall.isEmpty()) told_->setText(shortfall);
+  });
   std::vector<MadePuzzle> puzzles;
   const int all = PuzzlesIn(choice_.Set);
   FormYielding stage(runner_, [&] {
@@ -166,16 +197,34 @@ std::vector<MadePuzzle> WorksheetForm::MakeSet(QString& shortfall) {
 void WorksheetForm::Print() {
   runner_.Run("Worksheet", [this] {
     const SheetChoice choice = choice_;
-    QString shortfall;
-    const auto puzzles = printsAtHand_->isChecked() ? atHand_ : MakeSet(shortfall);
-    if (!shortfall.isEmpty()) told_->setText(shortfall);
+    const auto fits = [&](const Worksheet& sheet) {
+      const std::string why = sheet.WhyTooLarge();
+      if (!why.empty()) told_->setText(QString::fromStdString(why));
+      return why.empty();
+    };
+    const bool makes = !printsAtHand_->isChecked();
+    if (makes && !fits({{LargestOf(choice.Set)}, choice.Layout, choice.Landscape})) return;
+    const auto puzzles = Puzzles();
     if (puzzles.empty()) return;
-    const Worksheet sheet(puzzles, choice.Layout);
-    printer_.Preview(this, {choice.Layout.Title, sheet.Pages(),
-                            choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                            [&sheet](QPainter& painter, QSizeF size, int page) {
-                              sheet.PaintPage(painter, size, page);
-                            }});
+    const Worksheet sheet(puzzles, choice.Layout, choice.Landscape);
+    if (!fits(sheet)) return;
+    ports_.Printer.Preview(this, {choice.Layout.Title, sheet.Pages(),
+                                  choice.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                  [&sheet](QPainter& painter, QSizeF size, int page) {
+                                    sheet.PaintPage(painter, size, page);
+                                  }});
+  });
+}
+
+void WorksheetForm::SavePage() {
+  runner_.Run("Web Page", [this] {
+    const QString title = choice_.Layout.Title;
+    const auto puzzles = Puzzles();
+    if (puzzles.empty()) return;
+    FormYielding stage(runner_, [] {});
+    const std::string page = PlayPage(title.toStdString(), puzzles, stage);
+    const QString name = ports_.Files.ToSave(this, "Save Web Page", "Web pages (*.html)");
+    if (!name.isEmpty()) WriteWholeFile(name, QByteArray::fromStdString(page));
   });
 }
 

@@ -6,9 +6,11 @@
 #include <QRadioButton>
 
 #include "app/window/forms/fresh_set_box.h"
+#include "app/window/forms/sheet_options_box.h"
 #include "print/page_printer.h"
 #include "print/worksheet.h"
 #include "toolkit/command_form.h"
+#include "toolkit/file_chooser.h"
 
 namespace numorra {
 
@@ -25,26 +27,34 @@ struct SheetChoice {
   bool Landscape = false;
 };
 
-/// The dialog (`PrintWorksheet`) that prints puzzles: those at hand, or a set of fresh ones. It
-/// says what it will print, and afterwards what could not be made; the player can stop the making
-/// of a set.
+/// The dialog (`PrintWorksheet`) that prints puzzles, or saves them as a page to play on: those at
+/// hand, or a set of fresh ones. It says what it will print, and afterwards what could not be made;
+/// the player can stop the making of a set.
 class WorksheetForm : public CommandForm {
   Q_OBJECT
 
  public:
+  /// Where its sheets and pages go.
+  struct Ports {
+    PagePrinter& Printer;
+    FileChooser& Files;
+  };
+
   /// `choice`: what the dialog starts with; it keeps what the player chooses.
-  WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, PagePrinter& printer, Random& random,
+  WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Ports& ports, Random& random,
                 Dialogs& dialogs, QWidget* parent);
 
  private:
   void TakeChoice();
   void Print();
-  std::vector<MadePuzzle> MakeSet(QString& shortfall);
+  void SavePage();
+  std::vector<MadePuzzle> Puzzles();
+  std::vector<MadePuzzle> MakeSet();
   void ShowMaking(bool making);
 
   std::vector<MadePuzzle> atHand_;
   SheetChoice& choice_;
-  PagePrinter& printer_;
+  Ports ports_;
   Random& random_;
   QRadioButton* printsAtHand_;
   FreshSetBox* set_;
@@ -52,8 +62,10 @@ class WorksheetForm : public CommandForm {
   QComboBox* orientation_;
   QLineEdit* title_;
   QCheckBox* total_;
+  SheetOptionsBox* options_;
   QLabel* told_;
   QPushButton* print_;
+  QPushButton* page_;
   QPushButton* stop_;
 };
 

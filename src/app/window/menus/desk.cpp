@@ -27,14 +27,14 @@ void Desk::BringCurrentCellIntoView() {
   Place.View->BringIntoView(TheBoard().grid.CurrentRow(), TheBoard().grid.CurrentColumn());
 }
 
-void Desk::OpenWorksheet(PuzzlesAtHand atHand, PagePrinter& printer, QWidget* window) {
+void Desk::OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports, QWidget* window) {
   if (!Sheet) {
     constexpr int kPuzzles = 6;
     const auto fresh = TheSession.WishForFreshSquares();
     if (!fresh) return;
     Sheet = SheetChoice{.Set = {*fresh, {{Grade::Easy, kPuzzles}}}};
   }
-  (new WorksheetForm(std::move(atHand), *Sheet, printer, TheSession.TheRandom, TheDialogs, window))
+  (new WorksheetForm(std::move(atHand), *Sheet, ports, TheSession.TheRandom, TheDialogs, window))
       ->open();
 }
 

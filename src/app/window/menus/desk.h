@@ -5,6 +5,7 @@
 
 #include "app/play/session.h"
 #include "app/window/board/board_place.h"
+#include "app/window/forms/export_form.h"
 #include "app/window/forms/worksheet_form.h"
 #include "app/window/frames/control_column.h"
 #include "app/window/menus/board_menu.h"
@@ -24,6 +25,7 @@ class Desk {
   BoardPlace& Place;
   BoardMenu& Menu;
   std::optional<SheetChoice> Sheet = {};  ///< what was last chosen for worksheets
+  PictureChoice Picture = {};             ///< and for pictures
 
   const Board& TheBoard() const { return TheSession.TheBoard; }
 
@@ -41,7 +43,7 @@ class Desk {
 
   /// Opens the dialog that prints worksheets. At first it offers puzzles as the boxes describe
   /// them.
-  void OpenWorksheet(PuzzlesAtHand atHand, PagePrinter& printer, QWidget* window);
+  void OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports, QWidget* window);
 
   /// Shows the session's mode.
   void ShowMode();

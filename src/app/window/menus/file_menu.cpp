@@ -1,11 +1,14 @@
 #include "app/window/menus/file_menu.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include "app/play/lay_out.h"
+#include "app/window/menus/export_picture.h"
 #include "app/window/menus/square_files.h"
 #include "print/print_form.h"
 #include "print/sheet.h"
+#include "puzzle/code.h"
 #include "toolkit/menus.h"
 
 namespace numorra {
@@ -18,8 +21,8 @@ FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
                  desk_.Beside([this] { ChooseAndOpen(); })});
   save_ = AddItem(menu, {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
                          desk_.Beside([this] { Save(); })});
-  export_ = AddItem(
-      menu, {"ExportPicturex", "&Export Picture...", none, desk_.Beside([this] { Export(); })});
+  export_ = AddItem(menu, {"ExportPicturex", "&Export Picture...", none,
+                           desk_.Beside([this] { OpenExport(desk_, ports_.Files, window_); })});
   menu->addSeparator();
   AddItem(menu, {"PrintSol", "&Print Solution", QKeySequence::keyBindings(QKeySequence::Print),
                  desk_.Beside([this] { OpenPrintForm(); })});
@@ -46,30 +49,27 @@ void FileMenu::ChooseAndOpen() {
 }
 
 void FileMenu::Open(const QString& name) {
-  desk_.Runner.Run("Open", [this, name] {
-    const auto read = OpenSquare(name);
-    if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
-      desk_.TheDialogs.Tell(unreadable->Why);
-      return;
-    }
-    desk_.TheSession.LayOut(std::get<StoredSquare>(read));
-    desk_.ShowLaidOut();
-  });
+  desk_.Runner.Run("Open", [this, name] { Show(OpenSquare(name)); });
+}
+
+void FileMenu::OpenFileOrCode(const QString& name) {
+  const std::string code = name.toStdString();
+  if (QFileInfo::exists(name) || !LooksLikeCode(code)) return Open(name);
+  desk_.Runner.Run("Open", [this, code] { Show(ReadSquareOrCode(code)); });
+}
+
+void FileMenu::Show(const std::variant<StoredSquare, Unreadable>& read) {
+  if (const auto* unreadable = std::get_if<Unreadable>(&read)) {
+    desk_.TheDialogs.Tell(unreadable->Why);
+    return;
+  }
+  desk_.TheSession.LayOut(std::get<StoredSquare>(read));
+  desk_.ShowLaidOut();
 }
 
 void FileMenu::Save() {
   const QString name = ports_.Files.ToSave(window_, "Save As", SquareKinds());
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(desk_.TheBoard()));
-}
-
-void FileMenu::Export() {
-  const QString name = ports_.Files.ToSave(window_, "Export Picture", kPictureKinds);
-  if (name.isEmpty()) return;
-  if (desk_.TheBoard().OverlayShown) {
-    ExportDrawing(name, *desk_.Place.Picture);
-  } else {
-    ExportBoard(name, *desk_.Place.View);
-  }
 }
 
 /// Opens the print form if there is a visible board that fits on a page.
@@ -90,7 +90,7 @@ void FileMenu::OpenWorksheet() {
   if (auto solved = desk_.TheSession.SolvedPuzzleOnBoard()) {
     onBoard.Puzzles.push_back(*std::move(solved));
   }
-  desk_.OpenWorksheet(std::move(onBoard), ports_.Pages, window_);
+  desk_.OpenWorksheet(std::move(onBoard), {ports_.Pages, ports_.Files}, window_);
 }
 
 }  // namespace numorra

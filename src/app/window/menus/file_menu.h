@@ -1,8 +1,11 @@
 #pragma once
 
+#include <variant>
+
 #include <QMenuBar>
 
 #include "app/window/menus/desk.h"
+#include "files/stored_square.h"
 #include "print/page_printer.h"
 #include "print/sheet_printer.h"
 #include "toolkit/file_chooser.h"
@@ -25,10 +28,13 @@ class FileMenu : public QObject {
 
   void Open(const QString& name);
 
+  /// Opens the file; without such a file, the puzzle of a code.
+  void OpenFileOrCode(const QString& name);
+
  private:
   void ChooseAndOpen();
+  void Show(const std::variant<StoredSquare, Unreadable>& read);
   void Save();
-  void Export();
   void OpenPrintForm();
   void OpenWorksheet();
   void ShowState();

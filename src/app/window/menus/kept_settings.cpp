@@ -16,6 +16,14 @@ constexpr int kMostOfAGrade = 1000;  // the dialog allows fewer
 constexpr qint64 kMostSettingsBytes = 1 << 16;
 constexpr int kLongestTitle = 200;
 
+/// The options of a worksheet by their names in the file.
+constexpr std::pair<const char*, bool SheetOptions::*> kKeptOptions[] = {
+    {"Worksheet/LargePrint", &SheetOptions::LargePrint},
+    {"Worksheet/PageNumbers", &SheetOptions::PageNumbers},
+    {"Worksheet/NameLines", &SheetOptions::NameLines},
+    {"Worksheet/PageAPupil", &SheetOptions::PageAPupil},
+    {"Worksheet/Booklet", &SheetOptions::Booklet}};
+
 QString CountName(Grade grade) {
   return QString("Worksheet/%1").arg(NameOf(grade));
 }
@@ -52,6 +60,8 @@ std::optional<SheetChoice> SheetFrom(const QVariantMap& values) {
   sheet.Layout.Title =
       values.value("Worksheet/Title", sheet.Layout.Title).toString().left(kLongestTitle);
   sheet.Layout.TotalGiven = values.value("Worksheet/TotalGiven", true).toBool();
+  for (const auto& [name, option] : kKeptOptions)
+    sheet.Layout.Options.*option = values.value(name).toBool();
   sheet.Landscape = values.value("Worksheet/Landscape").toBool();
   return sheet;
 }
@@ -68,6 +78,8 @@ void AddValuesOf(const SheetChoice& sheet, QVariantMap& values) {
   values["Worksheet/PerPage"] = sheet.Layout.PerPage;
   values["Worksheet/Title"] = sheet.Layout.Title;
   values["Worksheet/TotalGiven"] = sheet.Layout.TotalGiven;
+  for (const auto& [name, option] : kKeptOptions)
+    values[name] = sheet.Layout.Options.*option;
   values["Worksheet/Landscape"] = sheet.Landscape;
 }
 

@@ -15,9 +15,9 @@
 
 namespace numorra {
 
-PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinter& printer,
-                       QWidget* state)
-    : QObject(bar), window_(bar->window()), desk_(desk), stage_(stage), printer_(printer) {
+PuzzleMenu::PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage,
+                       const WorksheetForm::Ports& sheets, QWidget* state)
+    : QObject(bar), window_(bar->window()), desk_(desk), stage_(stage), sheets_(sheets) {
   QMenu* menu = bar->addMenu("&Puzzle");
   Session& session = desk_.TheSession;
   const auto remark = [this](const char* name, const char* doing, std::function<Remark()> find) {
@@ -141,7 +141,7 @@ void PuzzleMenu::OpenEnterCode() {
            [this](const std::vector<MadePuzzle>& puzzles) {
              desk_.Runner.Run("Print Worksheet", [this, puzzles] {
                desk_.OpenWorksheet(
-                   {QString("Puzzles &by their codes: %1").arg(puzzles.size()), puzzles}, printer_,
+                   {QString("Puzzles &by their codes: %1").arg(puzzles.size()), puzzles}, sheets_,
                    window_);
              });
            });

@@ -16,7 +16,8 @@ class PuzzleMenu : public QObject {
 
  public:
   /// `state`: the state line, which offers the puzzle's code.
-  PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, PagePrinter& printer, QWidget* state);
+  PuzzleMenu(QMenuBar* bar, Desk& desk, SearchStage& stage, const WorksheetForm::Ports& sheets,
+             QWidget* state);
 
  private:
   void OpenHideNumbers();
@@ -32,7 +33,7 @@ class PuzzleMenu : public QObject {
   QWidget* window_;
   Desk& desk_;
   SearchStage& stage_;
-  PagePrinter& printer_;
+  WorksheetForm::Ports sheets_;
   QList<QAction*> needBoard_;
 };
 

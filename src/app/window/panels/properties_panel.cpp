@@ -83,16 +83,10 @@ void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why)
 }  // namespace
 
 PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
-    : QDockWidget("Properties", parent), runner_(runner) {
+    : LazyPanel("Properties", parent), runner_(runner) {
   setObjectName("PropertiesPanel");
   setFeatures(DockWidgetClosable | DockWidgetMovable);
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-}
-
-/// Creates the controls when they are first needed, to keep the program's start fast.
-void PropertiesPanel::setVisible(bool visible) {
-  if (visible && !tree_) Furnish();
-  QDockWidget::setVisible(visible);
 }
 
 void PropertiesPanel::Furnish() {

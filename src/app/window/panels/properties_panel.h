@@ -3,11 +3,11 @@
 #include <optional>
 #include <vector>
 
-#include <QDockWidget>
 #include <QLabel>
 #include <QTreeWidget>
 
 #include "app/board/place.h"
+#include "app/window/panels/lazy_panel.h"
 #include "study/report.h"
 #include "toolkit/command_runner.h"
 
@@ -16,7 +16,7 @@ namespace numorra {
 /// The panel (`PropertiesPanel`) that shows the properties of the square on the board: facts and
 /// terms in groups, each with a mark and a word. The chosen entry is explained below, and its cells
 /// are outlined.
-class PropertiesPanel : public QDockWidget {
+class PropertiesPanel : public LazyPanel {
   Q_OBJECT
 
  public:
@@ -26,20 +26,18 @@ class PropertiesPanel : public QDockWidget {
   void Show(const Report& report);
   void ShowNone(const QString& why);
 
-  void setVisible(bool visible) override;
-
  Q_SIGNALS:
   /// The cells that the chosen entry is about; none when there is no such entry.
   void EvidenceChosen(const std::vector<Place>& cells);
 
  private:
-  void Furnish();
+  void Furnish() override;
   void AddEntries();
   void ShowChosen();
   void Copy();
 
   CommandRunner& runner_;
-  QTreeWidget* tree_ = nullptr;  ///< null until the panel is first opened
+  QTreeWidget* tree_ = nullptr;
   QLabel* explained_ = nullptr;
   std::vector<QTreeWidgetItem*> details_;
   std::vector<QTreeWidgetItem*> terms_;  ///< by Terms()

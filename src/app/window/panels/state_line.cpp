@@ -61,12 +61,12 @@ void StateLine::ShowText(const std::string& told, const QString& more) {
 QSize StateLine::sizeHint() const {
   int free = kWidth * fontMetrics().height();
   if (const auto* bar = qobject_cast<const QMenuBar*>(parentWidget())) {
-    int menus = PixelsOf(kAroundMenus);
-    for (const QAction* menu : bar->actions()) {
-      menus +=
-          bar->fontMetrics().horizontalAdvance(menu->text().remove('&')) + PixelsOf(kAroundMenu);
-    }
-    free = std::clamp(bar->width() - menus, 0, free);
+    QString titles;
+    for (const QAction* menu : bar->actions())
+      titles += menu->text().remove('&');
+    const auto menus = static_cast<int>(bar->actions().size()) * PixelsOf(kAroundMenu);
+    const int taken = PixelsOf(kAroundMenus) + menus + bar->fontMetrics().horizontalAdvance(titles);
+    free = std::clamp(bar->width() - taken, 0, free);
   }
   return {free, fontMetrics().height() + PixelsOf(kAroundMenus) / 2};
 }

@@ -23,20 +23,22 @@ QString Sentence(const std::string& text) {
 }  // namespace
 
 StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
-    : QDockWidget("Step by Step", parent),
-      view_(view),
-      choice_(Named("WalkChoice", new QComboBox)),
-      back_(Named("StepBackx", new QPushButton("Back"))),
-      next_(Named("StepNextx", new QPushButton("Next"))),
-      play_(Named("PlayStepsx", new QPushButton("Play"))),
-      speed_(Named("StepSpeed", new QSlider(Qt::Horizontal))),
-      steps_(Named("StepSlider", new QSlider(Qt::Horizontal))),
-      where_(new QLabel),
-      ask_(Named("AskMex", new QCheckBox("Ask me"))),
-      sentence_(Named("StepSentence", new QLabel)) {
+    : LazyPanel("Step by Step", parent), view_(view), runner_(runner) {
   setObjectName("StepPanel");
   setFeatures(DockWidgetClosable);
   setAllowedAreas(Qt::BottomDockWidgetArea);
+}
+
+void StepPanel::Furnish() {
+  choice_ = Named("WalkChoice", new QComboBox);
+  back_ = Named("StepBackx", new QPushButton("Back"));
+  next_ = Named("StepNextx", new QPushButton("Next"));
+  play_ = Named("PlayStepsx", new QPushButton("Play"));
+  speed_ = Named("StepSpeed", new QSlider(Qt::Horizontal));
+  steps_ = Named("StepSlider", new QSlider(Qt::Horizontal));
+  where_ = new QLabel;
+  ask_ = Named("AskMex", new QCheckBox("Ask me"));
+  sentence_ = Named("StepSentence", new QLabel);
   choice_->setAccessibleName("Square to walk through");
   choice_->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // full screen enlarges the letters
   speed_->setAccessibleName("Speed");
@@ -51,6 +53,12 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
   sentence_->setAlignment(Qt::AlignTop);
   sentence_->setMinimumHeight(2 * sentence_->fontMetrics().lineSpacing());
 
+  Arrange();
+  Connect();
+  ShowStep();
+}
+
+void StepPanel::Arrange() {
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);
   column->addWidget(sentence_);
@@ -65,13 +73,15 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
   row->addStretch();
   column->addLayout(row);
   setWidget(content);
+}
 
+void StepPanel::Connect() {
   const auto on = [&](const auto* sender, auto signal, auto act) {
-    OnSignal(runner, sender, signal, this, std::move(act));
+    OnSignal(runner_, sender, signal, this, std::move(act));
   };
   const auto goOn = [this] { GoTo(view_->TheWalk().At() + 1); };
-  OnClick(runner, back_, this, [this] { GoTo(view_->TheWalk().At() - 1); });
-  OnClick(runner, next_, this, goOn);
+  OnClick(runner_, back_, this, [this] { GoTo(view_->TheWalk().At() - 1); });
+  OnClick(runner_, next_, this, goOn);
   on(choice_, &QComboBox::activated, [this] { BeginChosen(); });
   on(play_, &QPushButton::toggled, [this](bool play) { Play(play); });
   on(steps_, &QSlider::valueChanged, [this](int step) { GoTo(step); });
@@ -96,7 +106,6 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
     if (character == U'\r') Answer(view_->Current());
   });
   timer_.setInterval(kSlowest / (speed_->value() * speed_->value()));
-  ShowStep();
 }
 
 void StepPanel::Begin(const Square<double>& square) {

@@ -2,20 +2,20 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDockWidget>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QTimer>
 
 #include "app/window/board/walk_view.h"
+#include "app/window/panels/lazy_panel.h"
 #include "toolkit/command_runner.h"
 
 namespace numorra {
 
 /// The panel (`StepPanel`) below the board that leads through a construction: next, back, play with
 /// a speed, a slider over all steps, a sentence for each; or it asks where numbers go.
-class StepPanel : public QDockWidget {
+class StepPanel : public LazyPanel {
   Q_OBJECT
 
  public:
@@ -26,6 +26,9 @@ class StepPanel : public QDockWidget {
   void Begin(const Square<double>& square);
 
  private:
+  void Furnish() override;
+  void Arrange();
+  void Connect();
   void BeginChosen();
   void GoTo(int step);
   void ShowStep();
@@ -34,15 +37,16 @@ class StepPanel : public QDockWidget {
   bool Asking() const;
 
   WalkView* view_;
-  QComboBox* choice_;
-  QPushButton* back_;
-  QPushButton* next_;
-  QPushButton* play_;
-  QSlider* speed_;
-  QSlider* steps_;
-  QLabel* where_;
-  QCheckBox* ask_;
-  QLabel* sentence_;
+  CommandRunner& runner_;
+  QComboBox* choice_ = nullptr;
+  QPushButton* back_ = nullptr;
+  QPushButton* next_ = nullptr;
+  QPushButton* play_ = nullptr;
+  QSlider* speed_ = nullptr;
+  QSlider* steps_ = nullptr;
+  QLabel* where_ = nullptr;
+  QCheckBox* ask_ = nullptr;
+  QLabel* sentence_ = nullptr;
   QTimer timer_;
   Square<double> square_;
   int asked_ = 0;

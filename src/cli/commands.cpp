@@ -1,0 +1,213 @@
+#include "cli/commands.h"
+
+#include <algorithm>
+
+#include "files/formats.h"
+#include "puzzle/grade.h"
+#include "puzzle/kind_lines.h"
+#include "study/special.h"
+#include "study/terms.h"
+
+namespace numorra {
+namespace {
+
+constexpr auto kBuild = SquareCommand::Build;
+constexpr auto kStudy = SquareCommand::Study;
+constexpr auto kComplete = SquareCommand::Complete;
+constexpr auto kPuzzle = SquareCommand::Puzzle;
+constexpr auto kList = SquareCommand::List;
+constexpr auto kCount = SquareCommand::Count;
+
+std::vector<std::string> Formats(bool answersAlone) {
+  std::vector<std::string> names;
+  for (const Format& format : kFormats) {
+    if (format.ForAnswers || !answersAlone) names.emplace_back(format.Name);
+  }
+  return names;
+}
+
+std::string FormatsTold() {
+  std::string told = "how squares are written:";
+  for (const Format& format : kFormats)
+    told += std::string("\n") + format.Name + ": " + format.Says;
+  return told + "\nText is the default.";
+}
+
+std::vector<std::string> SpecialTerms() {
+  std::vector<std::string> terms;
+  for (const SpecialKind& kind : kSpecialKinds)
+    terms.emplace_back(kind.Term);
+  return terms;
+}
+
+std::vector<std::string> TermNames() {
+  std::vector<std::string> names;
+  for (const Term& term : Terms())
+    names.emplace_back(term.Name);
+  return names;
+}
+
+std::vector<std::string> GradeNames() {
+  std::vector<std::string> names;
+  for (const Grade grade : {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert, Grade::Extreme})
+    names.emplace_back(NameOf(grade));
+  return names;
+}
+
+}  // namespace
+
+const std::vector<CommandEntry>& Commands() {
+  static const std::vector<CommandEntry> kCommands = {
+      {kBuild, "",
+       "--size N [options]\n--top-row A,B,C,D|FILE [options]\n--kind TERM --size N [options]",
+       "Prints magic squares and the total of their lines: squares of the numbers 1 to N x N, of "
+       "any "
+       "total, 4 x 4 with a top row of your choice, or of a special kind.",
+       false},
+      {kStudy, "study", "[FILE|-] [options]",
+       "study says what kinds of squares they are, and why. It reads rows of numbers from a file "
+       "or "
+       "from the standard input, with an empty line between squares, and every form that this "
+       "program writes, except pictures and tables for web pages. It answers each square as soon "
+       "as "
+       "it is read, in an input of any length; it stops at a square of more than a megabyte. In "
+       "JSON, the answers are one object per line.",
+       true},
+      {kComplete, "complete", "[FILE|-] [options]",
+       "complete reads squares in the same way and fills their gaps (nothing, or one of - . _ "
+       "between "
+       "separators). It says whether there is one solution, several or none. Its exit status is 3 "
+       "for none and 4 if the search did not finish in time. JSON is one object per line, with a "
+       "reason, if any, as \"why\".",
+       true},
+      {kPuzzle, "puzzle", "--size N [options]\n--codes FILE|- [options]",
+       "puzzle makes squares with gaps that have one solution; no puzzle of a run is another one "
+       "turned or mirrored, as long as there are others. Their codes, up to size 20, are read by "
+       "study, complete and the window. JSON is one object per line, with its solution.",
+       false},
+      {kList, "list", "--size N [options]\n--given FILE|- [options]",
+       "list writes all squares of the numbers 1 to N x N, each as soon as it is found: one of "
+       "those that are the same turned or mirrored, in standard form. A board with more than 64 "
+       "gaps is refused.",
+       false},
+      {kCount, "count", "--size N [options]\n--given FILE|- [options]\n--merge FILE...",
+       "count counts the same squares. Size 5 takes less than a minute; squares that are too many "
+       "to count can be estimated.",
+       true}};
+  return kCommands;
+}
+
+const std::vector<OptionEntry>& Options() {
+  static const std::vector<OptionEntry> kOptions = {
+      {"--size", "N", {kBuild, kPuzzle, kList, kCount}, "the number of cells on a side, 3 to 50"},
+      {"--sum", "T", {kBuild}, "the total, instead of that of 1 to N x N; below 32768 x N"},
+      {"--limit-to-9", "", {kBuild}, "no number above 9; the total is then at most 5 x N"},
+      {"--corner", "V", {kBuild}, "the number in the top left corner, for sizes from 4"},
+      {"--top-row",
+       "A,B,C,D",
+       {kBuild},
+       "the top row of a 4 x 4 square, such as a date; or a file, or - for the standard input, "
+       "with "
+       "a name and a date on each line, for a square of each"},
+      {"--kind", "TERM", {kBuild}, "a special kind; drawn at random", SpecialTerms()},
+      {"--fresh",
+       "",
+       {kBuild},
+       "a square drawn at random from all squares, not one that a construction makes; not with a "
+       "corner or top row"},
+      {"--vary",
+       "",
+       {kBuild},
+       "another square of the same family or kind instead; not with a corner or top row, which it "
+       "would not keep"},
+      {"--count", "M", {kBuild, kPuzzle}, "the number of squares, 1 to 1000000"},
+      {"--rules",
+       "RULES",
+       {kComplete},
+       "normal: each number from 1 to N x N once; positive: any whole numbers of 1 or more; by "
+       "default the square decides",
+       {"normal", "positive"}},
+      {"--sum", "T", {kComplete}, "the total, instead of the square's own"},
+      {"--limit-to-9", "", {kComplete}, "no number above 9, by the positive rules"},
+      {"--kind", "TERM", {kComplete}, "the filled square must be of that kind", LineKindTerms()},
+      {"--seconds", "S", {kComplete}, "how long to search for each square; 3 by default"},
+      {"--grade", "GRADE", {kPuzzle}, "the hardest rule that it needs", GradeNames()},
+      {"--grades",
+       "G:K,G:K...",
+       {kPuzzle},
+       "so many puzzles of each grade, such as easy:10,medium:5; easy ones come first"},
+      {"--clues", "K", {kPuzzle}, "how many numbers are given; by default as few as possible"},
+      {"--sum", "T", {kPuzzle}, "squares of this total, of any whole numbers of 1 or more"},
+      {"--limit-to-9", "", {kPuzzle}, "no number above 9; the total is then at most 5 x N"},
+      {"--symmetric", "", {kPuzzle}, "a cell is a gap if the opposite one is"},
+      {"--codes",
+       "FILE",
+       {kPuzzle},
+       "the puzzles of these codes instead: a line has one or more, with words around them"},
+      {"--steps", "", {kPuzzle}, "with the steps that solve it, in JSON"},
+      {"--format", "FORMAT", {kBuild}, FormatsTold(), Formats(false)},
+      {"--title", "TEXT", {kPuzzle}, "the title of the page, in HTML"},
+      {"--format",
+       "FORMAT",
+       {kPuzzle},
+       "how they are written, as described above; html is one page on which all of them can be "
+       "solved in a browser",
+       Formats(false)},
+      {"--format", "FORMAT", {kStudy, kComplete}, "how the answers are written", Formats(true)},
+      {"--kind", "TERM", {kList, kCount}, "only squares for which the term holds", TermNames()},
+      {"--term", "TERM", {kList, kCount}, "the same; both may be repeated"},
+      {"--given",
+       "FILE",
+       {kList, kCount},
+       "only squares with these numbers in their cells: a square with gaps from a file, or - for "
+       "the standard input; turned and mirrored squares are the same only if they have them, too"},
+      {"--all-images", "", {kList}, "turned and mirrored squares, too"},
+      {"--count", "M", {kList}, "at most so many squares"},
+      {"--format", "FORMAT", {kList}, "how they are written, as described above", Formats(false)},
+      {"--semi-magic", "", {kCount}, "the diagonals may have any sum"},
+      {"--slice",
+       "I/M",
+       {kCount},
+       "part I of M of all squares of size 5, on a line with a checksum; the parts can be counted "
+       "on any machine"},
+      {"--merge",
+       "",
+       {kCount},
+       "adds up the lines of all parts, from files, or - for the standard input"},
+      {"--estimate",
+       "",
+       {kCount},
+       "estimates the number from samples; two of three estimates are at most the standard error "
+       "away from the true number"},
+      {"--seconds", "S", {kCount}, "how long to take samples; 10 by default"},
+      {"--format", "FORMAT", {kCount}, "how the count is written", Formats(true)},
+      {"--seed", "N", {kBuild, kPuzzle}, "seed of the random numbers; the same seed repeats a run"},
+      {"--completions",
+       "SHELL",
+       {kBuild},
+       "prints the completions of this program for a shell",
+       {"bash", "zsh", "fish"}},
+      {"--help", "", {kBuild, kStudy, kComplete, kPuzzle, kList, kCount}, "this text"},
+      {"--version",
+       "",
+       {kBuild, kStudy, kComplete, kPuzzle, kList, kCount},
+       "the program's version"}};
+  return kOptions;
+}
+
+std::string Listed(const std::vector<std::string>& words) {
+  std::string list;
+  for (const std::string& word : words)
+    list += (list.empty() ? "" : ", ") + word;
+  return list;
+}
+
+const OptionEntry* OptionNamed(std::string_view name, SquareCommand command) {
+  for (const OptionEntry& option : Options()) {
+    const bool has = std::find(option.Of.begin(), option.Of.end(), command) != option.Of.end();
+    if (has && option.Name == name) return &option;
+  }
+  return nullptr;
+}
+
+}  // namespace numorra
