@@ -10,15 +10,22 @@ namespace {
 
 class CountReader {
  public:
-  explicit CountReader(const std::vector<std::string>& words) : words_(words, 1) {
-    request_.Lists = words[0] == "list";
+  explicit CountReader(const std::vector<std::string>& words)
+      : words_(words, 1),
+        command_(words[0] == "list" ? SquareCommand::List : SquareCommand::Count) {
+    request_.Lists = command_ == SquareCommand::List;
   }
 
   Arguments Read() {
     while (words_.Next()) {
       if (Is("--help")) return HelpRequest{};
       if (Is("--version")) return VersionRequest{};
-      if (!TakeShared() && !(request_.Lists ? TakeListing() : TakeCounting())) {
+      const bool isFile = words_.IsFile() && request_.Merges;
+      if (isFile) {
+        request_.Files.push_back(words_.Option());
+      } else if (OptionNamed(words_.Option(), command_)) {
+        Take();
+      } else {
         words_.Fail("unknown argument '" + words_.Option() + "'");
       }
     }
@@ -30,7 +37,7 @@ class CountReader {
  private:
   bool Is(const char* option) const { return words_.Option() == option; }
 
-  bool TakeShared() {
+  void Take() {
     if (Is("--size")) {
       request_.Size = WholeTextAs<int>(words_.Value()).value_or(0);
       if (WhyNoBoardHas(request_.Size)) words_.Fail("the size must be a whole number from 3 to 50");
@@ -40,50 +47,36 @@ class CountReader {
       request_.Given = words_.Value();
     } else if (Is("--format")) {
       TakeFormat(words_.Value());
-    } else {
-      return false;
-    }
-    return true;
-  }
-
-  bool TakeListing() {
-    if (Is("--all-images")) {
+    } else if (Is("--all-images")) {
       request_.AllImages = true;
     } else if (Is("--count")) {
       request_.Most = WholeTextAs<std::int64_t>(words_.Value());
       if (request_.Most.value_or(0) < 1) {
         words_.Fail("the count must be a whole number of 1 or more");
       }
-    } else {
-      return false;
-    }
-    return true;
-  }
-
-  bool TakeCounting() {
-    if (Is("--semi-magic")) {
+    } else if (Is("--semi-magic")) {
       request_.SemiMagic = true;
       TakeName("semi-magic");
     } else if (Is("--slice")) {
       request_.Part = SliceNamed(words_.Value());
-      if (!request_.Part)
+      if (!request_.Part) {
         words_.Fail("the slice must be its number and their count, such as 17/512");
+      }
     } else if (Is("--estimate")) {
       request_.Estimates = true;
     } else if (Is("--seconds")) {
-      request_.Seconds = WholeTextAs<double>(words_.Value());
-      constexpr double kMost = 1'000'000;
-      if (!(request_.Seconds.value_or(0) > 0 && *request_.Seconds <= kMost)) {
-        words_.Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
-      }
+      TakeSeconds();
     } else if (Is("--merge")) {
       request_.Merges = true;
-    } else if (words_.IsFile() && request_.Merges) {
-      request_.Files.push_back(words_.Option());
-    } else {
-      return false;
     }
-    return true;
+  }
+
+  void TakeSeconds() {
+    constexpr double kMost = 1'000'000;
+    request_.Seconds = WholeTextAs<double>(words_.Value());
+    if (!(request_.Seconds.value_or(0) > 0 && *request_.Seconds <= kMost)) {
+      words_.Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
+    }
   }
 
   void TakeName(const std::string& name) {
@@ -140,6 +133,7 @@ class CountReader {
   }
 
   OptionWords words_;
+  SquareCommand command_;
   CountRequest request_;
 };
 

@@ -20,7 +20,7 @@ std::int64_t CountWith(const Square<int>& givens) {
   return count;
 }
 
-/// The squares by their centre from 1 to 13, in fours.
+/// The squares by their centre from 1 to 13, in fours; 26 - c is in the centre of as many as c.
 constexpr std::int64_t kFoursByCentre[] = {1091448, 1366179, 1914984, 1958837, 2431806,
                                            2600879, 3016881, 3112161, 3472540, 3344034,
                                            3933818, 3784618, 4769936};
@@ -62,14 +62,15 @@ TEST(Order5CountTest, AgreesWithASearch) {
 
 TEST(Order5CountTest, SquaresAreAsManyAsKnownByCentre) {
   const bool all = Soak().Minutes > 0;
-  for (int centre = 1; centre <= (all ? 25 : 1); ++centre) {
+  std::int64_t whole = 0;
+  for (int centre = 1; centre <= (all ? 13 : 1); ++centre) {
     Square<int> givens(5);
     givens[12] = centre;
-    EXPECT_EQ(CountWith(givens), 4 * kFoursByCentre[std::min(centre, 26 - centre) - 1]) << centre;
+    const std::int64_t count = CountWith(givens);
+    EXPECT_EQ(count, 4 * kFoursByCentre[centre - 1]) << centre;
+    whole += centre < 13 ? 2 * count : count;
   }
-  if (!all) return;
-  SilentStage stage;
-  EXPECT_EQ(CountSlice({1, 1}, stage).Count, 275305224);
+  EXPECT_TRUE(!all || whole == 275305224) << whole;
 }
 
 TEST(SliceTest, HalvesOfASliceAddUpToIt) {
