@@ -42,7 +42,10 @@ class SheetsReader {
     if (option == "--landscape") return Set(request_.Landscape, true);
     if (option == "--hide-totals") return Set(request_.TotalGiven, false);
     if (option == kSheets) return Set(request_.File, words_.Value());
-    if (option == "--answers") return Set(request_.Answers, words_.Value());
+    if (option == "--answers") {
+      request_.Options.AnswersApart = true;
+      return Set(request_.Answers, words_.Value());
+    }
     if (option == "--title") return Set(request_.Title, words_.Value());
     if (option == "--per-page") return TakePerPage(words_.Value());
     return option == "--paper" && TakePaper(words_.Value());

@@ -185,34 +185,41 @@ std::string Worksheet::WhyTooLarge() const {
 }
 
 void Worksheet::PaintPage(QPainter& painter, QSizeF size, int page) const {
-  const bool answers = page >= PuzzlePages();
-  const SheetPlan& plan = PlanOn(size, answers);
+  const Leaf leaf = LeafOf(page);
+  const SheetPlan& plan = PlanOn(size, leaf.Answers);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::black);
   if (const std::string why = WhyTooLargeOn(plan); !why.empty()) {
-    WriteWrapped(painter, plan.Area(page), Qt::AlignLeft, QString::fromStdString(why), {plan.Text});
+    WriteWrapped(painter, plan.Area(leaf.Number), Qt::AlignLeft, QString::fromStdString(why),
+                 {plan.Text});
     return;
   }
-  PaintHeader(painter, plan, page);
-  if (plan.Footer > 0) PaintFooter(painter, plan, page);
-  const int first = (answers ? page - PuzzlePages() : page) * plan.PerPage;
+  PaintHeader(painter, plan, leaf);
+  if (plan.Footer > 0) PaintFooter(painter, plan, leaf);
+  const int first = (leaf.Answers ? page - PuzzlePages() : page) * plan.PerPage;
   for (int place = 0; place < plan.PerPage; ++place) {
     const int number = first + place;
     if (number >= static_cast<int>(puzzles_.size())) break;
-    PaintPuzzle(painter, plan, {plan.SlotArea(page, place), number}, answers);
+    PaintPuzzle(painter, plan, {plan.SlotArea(leaf.Number, place), number}, leaf.Answers);
   }
+}
+
+Worksheet::Leaf Worksheet::LeafOf(int page) const {
+  const bool answers = page >= PuzzlePages();
+  if (!wish_.Options.AnswersApart) return {page, Pages(), answers};
+  return {answers ? page - PuzzlePages() : page, PagesFor(answers), answers};
 }
 
 QString Worksheet::TitleOf(bool answers) const {
   return wish_.Title + (answers ? ": answers" : "");
 }
 
-void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, int page) const {
+void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) const {
   constexpr double kTitleLine = kTitle * 1.4;
   constexpr double kRules = 13;  // below the top
-  const bool answers = page >= PuzzlePages();
+  const bool answers = leaf.Answers;
   const bool named = !answers && !wish_.Options.NameLines;
-  const QRectF area = plan.Area(page);
+  const QRectF area = plan.Area(leaf.Number);
   const double width = area.width();
   if (!wish_.Options.LargePrint) {
     WriteFitted(painter, {area.left(), area.top(), width * 0.55, kTitleLine},
@@ -238,11 +245,11 @@ void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, int page) 
                {plan.Text});
 }
 
-void Worksheet::PaintFooter(QPainter& painter, const SheetPlan& plan, int page) const {
-  const QRectF area = plan.Area(page);
+void Worksheet::PaintFooter(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) {
+  const QRectF area = plan.Area(leaf.Number);
   WriteFitted(painter, {area.left(), area.bottom() - plan.Footer, area.width(), plan.Footer},
               Qt::AlignHCenter | Qt::AlignBottom,
-              QString("Page %1 of %2").arg(page + 1).arg(Pages()), {plan.Small});
+              QString("Page %1 of %2").arg(leaf.Number + 1).arg(leaf.Count), {plan.Small});
 }
 
 QString Worksheet::CaptionOf(int number, bool answer) const {

@@ -45,6 +45,12 @@ class Worksheet {
   void PaintPage(QPainter& painter, QSizeF size, int page) const;
 
  private:
+  /// A page as it is numbered: from 0, of so many.
+  struct Leaf {
+    int Number;
+    int Count;
+    bool Answers;
+  };
   struct Slot {
     QRectF Area;
     int Number;
@@ -55,8 +61,9 @@ class Worksheet {
   SheetPlan MakePlan(QSizeF size, bool answers, int perPage) const;
   void MakeLarge(SheetPlan& plan, bool answers) const;
   std::string WhyTooLargeOn(const SheetPlan& plan) const;
-  void PaintHeader(QPainter& painter, const SheetPlan& plan, int page) const;
-  void PaintFooter(QPainter& painter, const SheetPlan& plan, int page) const;
+  Leaf LeafOf(int page) const;
+  void PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) const;
+  static void PaintFooter(QPainter& painter, const SheetPlan& plan, const Leaf& leaf);
   void PaintPuzzle(QPainter& painter, const SheetPlan& plan, const Slot& slot, bool answer) const;
 
   QString TitleOf(bool answers) const;
