@@ -26,10 +26,10 @@ const Cooling& CoolingAt(int index) {
 
 LocalSearch::LocalSearch(const Candidates& board, Random& random)
     : numbering_(board), random_(random) {
-  constexpr std::int64_t kLeast = 20'000;
-  constexpr std::int64_t kMost = 500'000;
+  constexpr std::int64_t kLeastSteps = 20'000;
+  constexpr std::int64_t kMostSteps = 500'000;
   constexpr std::int64_t kOfGap = 2000;
-  runSteps_ = std::clamp(kOfGap * numbering_.Gaps(), kLeast, kMost);
+  runSteps_ = std::clamp(kOfGap * numbering_.Gaps(), kLeastSteps, kMostSteps);
   if (CanRun()) StartRun();
 }
 

@@ -177,7 +177,7 @@ Judgement JudgeBordered(const Facts& facts) {
   for (int ring = (n - kSmallestMiddle) / 2; ring > 0; --ring) {
     const int* before = nullptr;
     for (const int& cell : facts.Ascending) {
-      if (rings[cell] < ring) continue;
+      if (rings[static_cast<std::size_t>(cell)] < ring) continue;
       const int* const last = std::exchange(before, &cell);
       if (!last || units[cell] - units[*last] == facts.Square.One()) continue;
       const std::string side = std::to_string(n - 2 * ring);

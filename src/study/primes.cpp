@@ -43,7 +43,7 @@ bool IsPrime(double number) {
   int twos = 0;
   for (; odd % 2 == 0; odd /= 2)
     ++twos;
-  for (const std::uint64_t base : {2, 3, 5, 7, 11, 13, 17}) {
+  for (const std::uint64_t base : {2U, 3U, 5U, 7U, 11U, 13U, 17U}) {
     if (p == base) return true;
     if (p % base == 0 || !PassesStrongTest(p, base, odd, twos)) return false;
   }
