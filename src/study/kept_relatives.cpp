@@ -40,7 +40,8 @@ std::vector<const Term*> KindOf(const Facts& facts) {
   std::vector<const Term*> kind;
   for (const Term& term : Terms()) {
     const std::string group = term.Group;
-    const bool counts = group != "Numbers" && group != "Other squares";
+    const bool counts =
+        group != "Numbers" && group != "Digits and moves" && group != "Other squares";
     if (counts && term.Judge(facts)) kind.push_back(&term);
   }
   return kind;

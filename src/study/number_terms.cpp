@@ -77,6 +77,27 @@ Judgement JudgeConsecutive(const Facts& facts) {
                facts.Run(units[facts.Ascending.front()], units[facts.Ascending.back()]));
 }
 
+Judgement JudgeArithmeticProgression(const Facts& facts) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  if (Judgement distinct = NothingRepeated(facts); !distinct) return distinct;
+  const auto& units = facts.Square.Units();
+  const auto& cells = facts.Ascending;
+  if (cells.size() == 1) return DoesNotApply("a single number has no step to a next one");
+  const std::int64_t step = units[cells[1]] - units[cells[0]];
+  for (std::size_t i = 2; i < cells.size(); ++i) {
+    const std::int64_t found = units[cells[i]] - units[cells[i - 1]];
+    if (found == step) continue;
+    return Fails("the step from " + facts.NumberIn(cells[i - 1]) + " to " +
+                     facts.NumberIn(cells[i]) + " is " + facts.Shown(found) + ", that from " +
+                     facts.NumberIn(cells[0]) + " to " + facts.NumberIn(cells[1]) + " is " +
+                     facts.Shown(step),
+                 {facts.Square.PlaceOf(cells[i - 1]), facts.Square.PlaceOf(cells[i])});
+  }
+  return Holds("its numbers are those from " + facts.NumberIn(cells.front()) + " to " +
+               facts.NumberIn(cells.back()) + " in steps of " + facts.Shown(step) +
+               (step == facts.Square.One() ? ", so they are consecutive" : ""));
+}
+
 /// Numbers are replaced by their ranks, so that a table can hold what has been seen in a line.
 Judgement JudgeLatin(const Facts& facts) {
   const int n = facts.N();

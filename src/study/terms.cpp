@@ -23,6 +23,7 @@ const std::vector<Term>& Terms() {
   constexpr const char* kPowers = "Powers";
   constexpr const char* kRings = "Rings";
   constexpr const char* kNumbers = "Numbers";
+  constexpr const char* kPlaces = "Digits and moves";
   constexpr const char* kOthers = "Other squares";
   static const std::vector<Term> terms = {
       {"semi-magic", kLines, "all rows and columns add up to one total", JudgeSemiMagic},
@@ -63,6 +64,16 @@ const std::vector<Term>& Terms() {
       {"antimagic", kOthers, "a heterosquare whose sums are consecutive", JudgeAntimagic},
       {"latin", kOthers, "n different numbers, each once in every row and column", JudgeLatin},
       {"prime", kNumbers, "all numbers are primes", JudgePrime},
+      {"arithmetic progression", kNumbers,
+       "distinct, and in ascending order each number is more than the last by one step",
+       JudgeArithmeticProgression},
+      {"Franklin", kPairs,
+       "of an order from 8 on that is a multiple of 4, semi-magic and compact; half rows and half "
+       "columns add up to half of the total, and all 4n wrapped bent rows to the total",
+       JudgeFranklin},
+      {"knight's tour", kPlaces,
+       "consecutive, and in ascending order each number is a knight's move from the last",
+       JudgeKnightsTour},
   };
   return terms;
 }

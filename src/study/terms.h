@@ -32,6 +32,7 @@ Judgement JudgeAntimagic(const Facts& facts);
 Judgement JudgeNormal(const Facts& facts);
 Judgement JudgeDistinct(const Facts& facts);
 Judgement JudgeConsecutive(const Facts& facts);
+Judgement JudgeArithmeticProgression(const Facts& facts);
 Judgement JudgeLatin(const Facts& facts);
 Judgement JudgePrime(const Facts& facts);
 
@@ -44,6 +45,8 @@ Judgement JudgeMostPerfect(const Facts& facts);
 Judgement JudgeUltramagic(const Facts& facts);
 Judgement JudgeConcentric(const Facts& facts);
 Judgement JudgeBordered(const Facts& facts);
+Judgement JudgeFranklin(const Facts& facts);
+Judgement JudgeKnightsTour(const Facts& facts);
 
 /// The judgement of a square whose sums are too large to be exact.
 Judgement SumsTooLarge();

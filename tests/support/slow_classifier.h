@@ -73,8 +73,14 @@ class Classifier {
                                                  static_cast<long long>(sums.size());
     is["latin"] = Latin();
     is["prime"] = std::all_of(all.begin(), all.end(), Prime);
-    for (const char* term :
-         {"semi-pandiagonal", "compact", "complete", "most-perfect", "concentric", "bordered"})
+    if (n_ >= 8 && n_ % 4 == 0) is["Franklin"] = *is["semi-magic"] && *is["compact"] && Bent(total);
+    is["arithmetic progression"] = Distinct(all);
+    for (std::size_t i = 2; i < all.size(); ++i) {
+      if (all[i] - all[i - 1] != all[1] - all[0]) is["arithmetic progression"] = false;
+    }
+    is["knight's tour"] = *is["consecutive"] && Tour(all);
+    for (const char* term : {"semi-pandiagonal", "compact", "complete", "most-perfect",
+                             "concentric", "bordered", "Franklin"})
       is[term];
     return is;
   }
@@ -165,6 +171,35 @@ class Classifier {
     if (n_ != 4) return std::nullopt;
     return A(0, 2) + A(1, 3) + A(2, 0) + A(3, 1) == total &&
            A(0, 1) + A(1, 0) + A(2, 3) + A(3, 2) == total;
+  }
+  /// Halves of rows and columns, and bent rows: each from line k at one edge towards the middle and
+  /// back to line k at the other edge.
+  bool Bent(long long total) const {
+    for (int k = 0; k < n_; ++k) {
+      long long halfRow = 0, halfColumn = 0, down = 0, up = 0, right = 0, left = 0;
+      for (int i = 0; i < n_ / 2; ++i) {
+        const int opposite = n_ - 1 - i;
+        halfRow += A(k, i);
+        halfColumn += A(i, k);
+        down += A(k + i, i) + A(k + i, opposite);
+        up += A(k - i, i) + A(k - i, opposite);
+        right += A(i, k + i) + A(opposite, k + i);
+        left += A(i, k - i) + A(opposite, k - i);
+      }
+      if (2 * halfRow != total || 2 * halfColumn != total) return false;
+      if (down != total || up != total || right != total || left != total) return false;
+    }
+    return true;
+  }
+  bool Tour(const std::vector<long long>& sorted) const {
+    std::map<long long, std::pair<int, int>> at;
+    Each([&](int i, int j) { at[A(i, j)] = {i, j}; });
+    for (std::size_t k = 1; k < sorted.size(); ++k) {
+      const auto [i, j] = at[sorted[k - 1]];
+      const auto [r, c] = at[sorted[k]];
+      if ((i - r) * (i - r) + (j - c) * (j - c) != 5) return false;
+    }
+    return true;
   }
   bool SelfComplementary(long long pair) const {
     Ints complement = a_;
