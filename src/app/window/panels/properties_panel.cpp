@@ -16,8 +16,8 @@ namespace numorra {
 namespace {
 
 constexpr const char* kSquareGroup = "The square";
-constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",     "largest",
-                                    "repeated", "standard form", "census number"};
+constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",      "largest",
+                                    "repeated", "standard form", "census number", "Dudeney type"};
 
 char16_t MarkFor(Answer answer) {
   switch (answer) {
