@@ -49,7 +49,7 @@ Judgement PowersAreMagic(const Facts& facts, int exponent) {
       return number * number * (exponent == 2 ? 1 : number);
     });
   };
-  const auto shown = [&](Wide sum) { return facts.Square.Shown(Digits(sum), exponent); };
+  const auto shown = [&](Wide sum) { return facts.Square.Shown(DecimalOf(sum), exponent); };
   const Wide first = sumOf(facts.Lines.front());
   for (const Line line : facts.Lines) {
     const Wide sum = sumOf(line);

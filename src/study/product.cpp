@@ -22,7 +22,7 @@ void Product::MultiplyBy(std::int64_t factor) {
     limbs_.push_back(static_cast<std::uint64_t>(carry % kBase));
 }
 
-std::string Product::Digits() const {
+std::string Product::AsDecimal() const {
   constexpr std::size_t kDigitsOfLimb = 9;
   std::string digits = negative_ ? "-" : "";
   digits += std::to_string(limbs_.back());

@@ -12,7 +12,7 @@ class Product {
   void MultiplyBy(std::int64_t factor);
 
   /// Its decimal, with a minus sign if it is negative.
-  std::string Digits() const;
+  std::string AsDecimal() const;
 
   bool operator==(const Product&) const = default;
 

@@ -17,7 +17,7 @@ Product ProductOf(Line line, const NumberSquare& square) {
 /// The product of a line as it is shown; only its length if it is long.
 std::string ShownProduct(const Product& product, const Facts& facts) {
   constexpr std::ptrdiff_t kMostDigits = 30;
-  const std::string shown = facts.Square.Shown(product.Digits(), facts.N());
+  const std::string shown = facts.Square.Shown(product.AsDecimal(), facts.N());
   const auto digits = std::count_if(shown.begin(), shown.end(),
                                     [](unsigned char c) { return std::isdigit(c) != 0; });
   return digits <= kMostDigits ? shown : "a number of " + std::to_string(digits) + " digits";

@@ -5,7 +5,7 @@
 
 namespace numorra {
 
-std::string Digits(Wide number) {
+std::string DecimalOf(Wide number) {
   std::string digits;
   const bool negative = number < 0;
   do {

@@ -8,6 +8,6 @@ namespace numorra {
 __extension__ using Wide = __int128;
 
 /// Its decimal, with a minus sign if it is negative.
-std::string Digits(Wide number);
+std::string DecimalOf(Wide number);
 
 }  // namespace numorra
