@@ -2,6 +2,7 @@
 #include <numeric>
 
 #include "study/terms.h"
+#include "study/wide.h"
 
 namespace numorra {
 namespace {
@@ -29,29 +30,29 @@ Judgement DiagonalsReachTotal(const Facts& facts, const std::vector<Line>& diago
   return Holds({});
 }
 
-/// The largest numbers, in units, for which a sum of 50 such powers fits into 64 bits.
-constexpr std::int64_t kMostSquared = 400'000'000;
-constexpr std::int64_t kMostCubed = 500'000;
+/// The largest number, in units, whose cube may be added 50 times in 128 bits. The squares of all
+/// numbers that have units may be.
+constexpr std::int64_t kMostCubed = 1'000'000'000'000;
 
 /// Whether the `exponent`-th powers have the same sum in every line.
 Judgement PowersAreMagic(const Facts& facts, int exponent) {
-  const std::int64_t most = exponent == 2 ? kMostSquared : kMostCubed;
   const std::string powers = exponent == 2 ? "squares" : "cubes";
   const auto& units = facts.Square.Units();
   for (const int cell : {facts.Ascending.front(), facts.Ascending.back()}) {
-    if (std::abs(units[cell]) <= most) continue;
+    if (exponent == 2 || std::abs(units[cell]) <= kMostCubed) continue;
     return TooLarge("the " + powers + " of numbers like " + facts.NumberIn(cell) +
                     " are too large to be added exactly");
   }
   const auto sumOf = [&](Line line) {
-    return SumOf(line, facts.N(), [&](int cell) {
-      return units[cell] * units[cell] * (exponent == 2 ? 1 : units[cell]);
+    return SumOf<Wide>(line, facts.N(), [&](int cell) {
+      const Wide number = units[cell];
+      return number * number * (exponent == 2 ? 1 : number);
     });
   };
-  const auto shown = [&](std::int64_t sum) { return facts.Square.Shown(sum, exponent); };
-  const std::int64_t first = sumOf(facts.Lines.front());
+  const auto shown = [&](Wide sum) { return facts.Square.Shown(DecimalOf(sum), exponent); };
+  const Wide first = sumOf(facts.Lines.front());
   for (const Line line : facts.Lines) {
-    const std::int64_t sum = sumOf(line);
+    const Wide sum = sumOf(line);
     if (sum == first) continue;
     return Fails("the " + powers + " in " + NameOf(line, facts.N()) + " add up to " + shown(sum) +
                      ", those in row 1 to " + shown(first),

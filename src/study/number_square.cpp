@@ -36,8 +36,9 @@ NumberSquare::NumberSquare(Square<double> numbers)
   }
 }
 
-std::string NumberSquare::Shown(std::int64_t units, int factors) const {
-  std::string digits = std::to_string(std::abs(units));
+std::string NumberSquare::Shown(const std::string& units, int factors) const {
+  const bool negative = units.front() == '-';
+  std::string digits = units.substr(negative ? 1 : 0);
   const auto decimals = static_cast<std::size_t>(decimals_) * static_cast<std::size_t>(factors);
   if (decimals > 0) {
     if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
@@ -45,7 +46,7 @@ std::string NumberSquare::Shown(std::int64_t units, int factors) const {
     digits.erase(digits.find_last_not_of('0') + 1);
     if (digits.back() == '.') digits.pop_back();
   }
-  return units < 0 ? "-" + digits : digits;
+  return negative ? "-" + digits : digits;
 }
 
 }  // namespace numorra

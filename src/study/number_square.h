@@ -29,8 +29,10 @@ class NumberSquare {
   /// The number of units in 1.
   std::int64_t One() const { return one_; }
 
-  /// The decimal for `units` units; with `factors` above 1, for products of that many units.
-  std::string Shown(std::int64_t units, int factors = 1) const;
+  /// The decimal for a number of units, or for the decimal digits of one; with `factors` above 1,
+  /// for products of that many units.
+  std::string Shown(std::int64_t units) const { return Shown(std::to_string(units), 1); }
+  std::string Shown(const std::string& units, int factors) const;
 
   int Index(int i, int j) const { return i * Order() + j; }
   Place PlaceOf(int cell) const { return numbers_.PlaceOf(cell); }

@@ -77,34 +77,43 @@ Judgement JudgeConsecutive(const Facts& facts) {
                facts.Run(units[facts.Ascending.front()], units[facts.Ascending.back()]));
 }
 
-/// Numbers are replaced by their ranks, so that a table can hold what has been seen in a line.
-Judgement JudgeLatin(const Facts& facts) {
-  const int n = facts.N();
-  Square<int> rank(n);
-  int ranks = 0;
-  ForEachNumber(facts, [&](auto begin, auto end) {
-    std::for_each(begin, end, [&](int cell) { rank[cell] = ranks; });
-    ++ranks;
-    return false;
-  });
-  if (ranks != n) {
-    return Fails("it holds " + std::to_string(ranks) + " different numbers, not " +
-                 std::to_string(n));
+Judgement JudgeArithmeticProgression(const Facts& facts) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  if (Judgement distinct = NothingRepeated(facts); !distinct) return distinct;
+  const auto& units = facts.Square.Units();
+  const auto& cells = facts.Ascending;
+  if (cells.size() == 1) return DoesNotApply("a single number has no step to a next one");
+  const std::int64_t step = units[cells[1]] - units[cells[0]];
+  for (std::size_t i = 2; i < cells.size(); ++i) {
+    const std::int64_t found = units[cells[i]] - units[cells[i - 1]];
+    if (found == step) continue;
+    return Fails("the step from " + facts.NumberIn(cells[i - 1]) + " to " +
+                     facts.NumberIn(cells[i]) + " is " + facts.Shown(found) + ", that from " +
+                     facts.NumberIn(cells[0]) + " to " + facts.NumberIn(cells[1]) + " is " +
+                     facts.Shown(step),
+                 {facts.Square.PlaceOf(cells[i - 1]), facts.Square.PlaceOf(cells[i])});
   }
-  for (const Line line : facts.Lines) {
-    if (line.Way != Line::Row && line.Way != Line::Column) continue;
-    std::vector<int> seenAt(static_cast<std::size_t>(n), -1);
-    for (int i = 0; i < n; ++i) {
-      const int cell = line.Cell(i, n);
-      int& seen = seenAt[static_cast<std::size_t>(rank[cell])];
-      if (seen >= 0) {
-        return Fails(facts.NumberIn(cell) + " occurs twice in " + NameOf(line, n),
-                     {facts.Square.PlaceOf(line.Cell(seen, n)), facts.Square.PlaceOf(cell)});
-      }
-      seen = i;
-    }
+  return Holds("its numbers are those from " + facts.NumberIn(cells.front()) + " to " +
+               facts.NumberIn(cells.back()) + " in steps of " + facts.Shown(step) +
+               (step == facts.Square.One() ? ", so they are consecutive" : ""));
+}
+
+/// Compares the smallest with the largest, and so on inwards. At the first two that do not add up
+/// to 0, all numbers left are too close to 0 for the negative of the one that is farther from it.
+Judgement JudgeZeroCentred(const Facts& facts) {
+  if (!facts.Square.HasUnits()) return SumsTooLarge();
+  const auto& units = facts.Square.Units();
+  const auto& cells = facts.Ascending;
+  for (std::size_t rank = 0; rank < cells.size(); ++rank) {
+    const int low = cells[rank];
+    const int high = cells[cells.size() - 1 - rank];
+    if (units[low] + units[high] == 0) continue;
+    const int cell = units[low] + units[high] > 0 ? high : low;
+    return Fails(facts.NumberIn(cell) + " occurs more often than " + facts.Shown(-units[cell]),
+                 {facts.Square.PlaceOf(cell)});
   }
-  return Holds("each of its " + std::to_string(n) + " numbers occurs once in every row and column");
+  return Holds("its numbers, from " + facts.NumberIn(cells.front()) + " to " +
+               facts.NumberIn(cells.back()) + ", are symmetric about 0");
 }
 
 Judgement JudgePrime(const Facts& facts) {
@@ -112,7 +121,8 @@ Judgement JudgePrime(const Facts& facts) {
     if (IsPrime(facts.Square.Numbers()[cell])) continue;
     return Fails(facts.NumberAndPlace(cell) + " is not a prime", {facts.Square.PlaceOf(cell)});
   }
-  return Holds("all its numbers are primes");
+  return Holds("all its numbers are primes" +
+               (JudgeMagic(facts) ? ", with the magic constant " + facts.Shown(facts.Total) : ""));
 }
 
 }  // namespace numorra

@@ -58,6 +58,9 @@ std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   }
   if (report.Census > 0) {
     details.emplace_back("census number", std::to_string(report.Census) + " of the 880 of order 4");
+    details.emplace_back("Dudeney type", report.Complements.Type +
+                                             ", the pairs that add up to 17 stand at " +
+                                             report.Complements.Pairs);
   }
   return details;
 }
@@ -88,6 +91,7 @@ Report Study(NumberSquare square) {
   for (const Term& term : Terms())
     report.Properties.push_back({&term, term.Judge(facts)});
   report.Census = CensusNumber(report.StandardForm).value_or(0);
+  if (report.Census > 0) report.Complements = ComplementPairsOf(report.Numbers);
   report.Details = DetailsOf(facts, report);
   return report;
 }
@@ -126,7 +130,11 @@ std::string JsonOf(const Report& report) {
            JsonByTerm(report, [](const Judgement& found) { return JsonString(found.Why); }));
   json.Add("rows", JsonRowsOf(StoredCells(report.Numbers)));
   json.Add("standard-form", JsonRowsOf(StoredCells(report.StandardForm)));
-  if (report.Census > 0) json.Add("census", std::to_string(report.Census));
+  if (report.Census > 0) {
+    json.Add("census", std::to_string(report.Census));
+    json.Add("dudeney-type", JsonString(report.Complements.Type));
+    json.Add("complements", JsonString(report.Complements.Pairs));
+  }
   return json.Text() + "\n";
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "study/dudeney.h"
 #include "study/terms.h"
 
 namespace numorra {
@@ -21,10 +22,11 @@ using Detail = std::pair<std::string, std::string>;
 struct Report {
   Square<double> Numbers;
   std::string Total;                 ///< shared by most lines; empty if too large to say
-  std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, fame
+  std::vector<Detail> Details;       ///< sum, numbers, standard form, census number, type, fame
   std::vector<Property> Properties;  ///< one for each of Terms()
   Square<double> StandardForm;
-  int Census = 0;  ///< its census number of order 4; 0 for all others
+  int Census = 0;               ///< its census number of order 4; 0 for all others
+  ComplementPairs Complements;  ///< of a square with a census number
 };
 
 /// Studies the square: one pass over all terms.
@@ -36,7 +38,8 @@ const char* WordFor(Answer answer);
 /// The report as lines of text, and as one JSON object on one line:
 /// {"order": 4, "total": 34, "properties": {"magic": true, "compact": null, ...},
 ///  "evidence": {"magic": "...", ...}, "rows": [[16, ...], ...],
-///  "standard-form": [[1, ...], ...], "census": 175}
+///  "standard-form": [[1, ...], ...], "census": 175, "dudeney-type": "III",
+///  "complements": "ABCD / EFGH / HGFE / DCBA"}
 /// A property is null if it does not apply or is too large to say.
 std::string TextOf(const Report& report);
 std::string JsonOf(const Report& report);

@@ -23,6 +23,8 @@ const std::vector<Term>& Terms() {
   constexpr const char* kPowers = "Powers";
   constexpr const char* kRings = "Rings";
   constexpr const char* kNumbers = "Numbers";
+  constexpr const char* kProducts = "Products";
+  constexpr const char* kPlaces = "Digits and moves";
   constexpr const char* kOthers = "Other squares";
   static const std::vector<Term> terms = {
       {"semi-magic", kLines, "all rows and columns add up to one total", JudgeSemiMagic},
@@ -63,6 +65,28 @@ const std::vector<Term>& Terms() {
       {"antimagic", kOthers, "a heterosquare whose sums are consecutive", JudgeAntimagic},
       {"latin", kOthers, "n different numbers, each once in every row and column", JudgeLatin},
       {"prime", kNumbers, "all numbers are primes", JudgePrime},
+      {"arithmetic progression", kNumbers,
+       "distinct, and in ascending order each number is more than the last by one step",
+       JudgeArithmeticProgression},
+      {"zero-centred", kNumbers,
+       "the negative of every number occurs as often as the number, so all of them add up to 0",
+       JudgeZeroCentred},
+      {"Franklin", kPairs,
+       "of an order from 8 on that is a multiple of 4, semi-magic and compact; half rows and half "
+       "columns add up to half of the total, and all 4n wrapped bent rows to the total",
+       JudgeFranklin},
+      {"knight's tour", kPlaces,
+       "consecutive, and in ascending order each number is a knight's move from the last",
+       JudgeKnightsTour},
+      {"regular", kPlaces,
+       "normal, and each of the two digits, to the base n, of the numbers less 1 makes a latin "
+       "square",
+       JudgeRegular},
+      {"multiplicative", kProducts,
+       "all rows, columns and both main diagonals have one product, which is not 0",
+       JudgeMultiplicative},
+      {"addition-multiplication", kProducts, "magic and multiplicative",
+       JudgeAdditionMultiplication},
   };
   return terms;
 }

@@ -32,6 +32,8 @@ Judgement JudgeAntimagic(const Facts& facts);
 Judgement JudgeNormal(const Facts& facts);
 Judgement JudgeDistinct(const Facts& facts);
 Judgement JudgeConsecutive(const Facts& facts);
+Judgement JudgeArithmeticProgression(const Facts& facts);
+Judgement JudgeZeroCentred(const Facts& facts);
 Judgement JudgeLatin(const Facts& facts);
 Judgement JudgePrime(const Facts& facts);
 
@@ -44,6 +46,13 @@ Judgement JudgeMostPerfect(const Facts& facts);
 Judgement JudgeUltramagic(const Facts& facts);
 Judgement JudgeConcentric(const Facts& facts);
 Judgement JudgeBordered(const Facts& facts);
+Judgement JudgeFranklin(const Facts& facts);
+Judgement JudgeKnightsTour(const Facts& facts);
+Judgement JudgeRegular(const Facts& facts);
+
+// Terms of the lines' products.
+Judgement JudgeMultiplicative(const Facts& facts);
+Judgement JudgeAdditionMultiplication(const Facts& facts);
 
 /// The judgement of a square whose sums are too large to be exact.
 Judgement SumsTooLarge();

@@ -13,6 +13,14 @@ namespace {
 constexpr double kMargin = 8;         // pixels around the drawing
 constexpr int kSmallestReadable = 6;  // pixels: smaller numbers are unreadable
 constexpr double kHalo = 0.07;        // its width, as a share of a number's height
+constexpr double kGap = 0.06;         // between boards, as a share of the drawing's width
+
+/// The place of one of several boards beside each other in the middle of `block`.
+QRectF BlockOf(int which, int boards, const QRectF& block) {
+  const double gap = block.width() * kGap;
+  const double side = (block.width() - gap * (boards - 1)) / boards;
+  return {block.left() + which * (side + gap), block.center().y() - side / 2, side, side};
+}
 
 }  // namespace
 
@@ -92,12 +100,22 @@ QRectF Drawing::Block() const {
 void Drawing::Paint(QPainter& painter, const QPalette& palette, const QRectF& block) const {
   if (!kind_ || !board_.Shown()) return;
   painter.setRenderHint(QPainter::Antialiasing);
-  const double side = block.width() / board_.GridSize;
-  kind_->Paint(painter, {board_, picked_, palette, numbers_, block, side});
-  PaintOutline(painter, board_.grid.Outlined(), [&](Place place) {
-    const QPointF corner = block.topLeft() + QPointF(place.Column - 1, place.Row - 1) * side;
-    return QRectF(corner, QSizeF(side, side));
-  });
+  if (const std::string why = kind_->WhyNone(board_); !why.empty()) {
+    constexpr double kSentence = 24;  // pixels, at most
+    QRectF line(0, 0, block.width(), kSentence);
+    line.moveCenter(block.center());
+    return DrawingArea::PaintNumber(painter, why, line, palette.color(QPalette::WindowText),
+                                    palette.color(QPalette::Window));
+  }
+  for (int which = 0; which < kind_->Boards; ++which) {
+    const QRectF own = BlockOf(which, kind_->Boards, block);
+    const double side = own.width() / board_.GridSize;
+    kind_->Paint(painter, {board_, picked_, palette, numbers_, own, side, which});
+    PaintOutline(painter, board_.grid.Outlined(), [&](Place place) {
+      const QPointF corner = own.topLeft() + QPointF(place.Column - 1, place.Row - 1) * side;
+      return QRectF(corner, QSizeF(side, side));
+    });
+  }
 }
 
 }  // namespace numorra

@@ -48,10 +48,20 @@ TEST(Relatives, AreOtherSquaresOfTheFamily) {
 std::set<std::string> KindOf(const slow::Rows& rows) {
   std::set<std::string> kind;
   for (const auto& [term, holds] : slow::Classify(rows)) {
-    const bool ofNumbers =
-        std::set<std::string>{"normal",       "distinct",  "consecutive", "prime",
-                              "heterosquare", "antimagic", "latin"}
-            .contains(term);
+    const bool ofNumbers = std::set<std::string>{"normal",
+                                                 "distinct",
+                                                 "consecutive",
+                                                 "prime",
+                                                 "heterosquare",
+                                                 "antimagic",
+                                                 "latin",
+                                                 "arithmetic progression",
+                                                 "zero-centred",
+                                                 "knight's tour",
+                                                 "regular",
+                                                 "multiplicative",
+                                                 "addition-multiplication"}
+                               .contains(term);
     if (holds == true && !ofNumbers) kind.insert(term);
   }
   return kind;

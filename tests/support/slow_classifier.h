@@ -71,10 +71,23 @@ class Classifier {
     is["heterosquare"] = different.size() == sums.size();
     is["antimagic"] = *is["heterosquare"] && *different.rbegin() - *different.begin() + 1 ==
                                                  static_cast<long long>(sums.size());
-    is["latin"] = Latin();
+    is["latin"] = Latin(a_);
     is["prime"] = std::all_of(all.begin(), all.end(), Prime);
-    for (const char* term :
-         {"semi-pandiagonal", "compact", "complete", "most-perfect", "concentric", "bordered"})
+    if (n_ >= 8 && n_ % 4 == 0) is["Franklin"] = *is["semi-magic"] && *is["compact"] && Bent(total);
+    is["arithmetic progression"] = Distinct(all);
+    for (std::size_t i = 2; i < all.size(); ++i) {
+      if (all[i] - all[i - 1] != all[1] - all[0]) is["arithmetic progression"] = false;
+    }
+    is["knight's tour"] = *is["consecutive"] && Tour(all);
+    is["zero-centred"] = true;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      if (all[i] != -all[all.size() - 1 - i]) is["zero-centred"] = false;
+    }
+    is["regular"] = *is["normal"] && Regular();
+    is["multiplicative"] = Multiplicative();
+    is["addition-multiplication"] = *is["magic"] && *is["multiplicative"];
+    for (const char* term : {"semi-pandiagonal", "compact", "complete", "most-perfect",
+                             "concentric", "bordered", "Franklin"})
       is[term];
     return is;
   }
@@ -166,6 +179,35 @@ class Classifier {
     return A(0, 2) + A(1, 3) + A(2, 0) + A(3, 1) == total &&
            A(0, 1) + A(1, 0) + A(2, 3) + A(3, 2) == total;
   }
+  /// Halves of rows and columns, and bent rows: each from line k at one edge towards the middle and
+  /// back to line k at the other edge.
+  bool Bent(long long total) const {
+    for (int k = 0; k < n_; ++k) {
+      long long halfRow = 0, halfColumn = 0, down = 0, up = 0, right = 0, left = 0;
+      for (int i = 0; i < n_ / 2; ++i) {
+        const int opposite = n_ - 1 - i;
+        halfRow += A(k, i);
+        halfColumn += A(i, k);
+        down += A(k + i, i) + A(k + i, opposite);
+        up += A(k - i, i) + A(k - i, opposite);
+        right += A(i, k + i) + A(opposite, k + i);
+        left += A(i, k - i) + A(opposite, k - i);
+      }
+      if (2 * halfRow != total || 2 * halfColumn != total) return false;
+      if (down != total || up != total || right != total || left != total) return false;
+    }
+    return true;
+  }
+  bool Tour(const std::vector<long long>& sorted) const {
+    std::map<long long, std::pair<int, int>> at;
+    Each([&](int i, int j) { at[A(i, j)] = {i, j}; });
+    for (std::size_t k = 1; k < sorted.size(); ++k) {
+      const auto [i, j] = at[sorted[k - 1]];
+      const auto [r, c] = at[sorted[k]];
+      if ((i - r) * (i - r) + (j - c) * (j - c) != 5) return false;
+    }
+    return true;
+  }
   bool SelfComplementary(long long pair) const {
     Ints complement = a_;
     Each([&](int i, int j) {
@@ -184,18 +226,63 @@ class Classifier {
     }
     return false;
   }
-  bool Latin() const {
-    const auto all = Numbers(a_);
+  static bool Latin(const Ints& square) {
+    const auto all = Numbers(square);
     const std::set<long long> symbols(all.begin(), all.end());
-    for (int i = 0; i < n_; ++i) {
+    for (std::size_t i = 0; i < square.size(); ++i) {
       std::set<long long> row, column;
-      for (int j = 0; j < n_; ++j) {
-        row.insert(A(i, j));
-        column.insert(A(j, i));
+      for (std::size_t j = 0; j < square.size(); ++j) {
+        row.insert(square[i][j]);
+        column.insert(square[j][i]);
       }
       if (row != symbols || column != symbols) return false;
     }
-    return static_cast<int>(symbols.size()) == n_;
+    return symbols.size() == square.size();
+  }
+  bool Regular() const {
+    Ints high = a_, low = a_;
+    for (std::size_t i = 0; i < a_.size(); ++i) {
+      for (std::size_t j = 0; j < a_.size(); ++j) {
+        high[i][j] = (a_[i][j] - 1) / n_;
+        low[i][j] = (a_[i][j] - 1) % n_;
+      }
+    }
+    return Latin(high) && Latin(low);
+  }
+  /// Whether every line has the same prime factors equally often, and the same sign.
+  bool Multiplicative() const {
+    std::set<long long> primes;
+    for (long long number : Numbers(a_)) {
+      if (number == 0) return false;
+      number = std::abs(number);
+      for (long long prime = 2; number > 1; ++prime) {
+        if (prime * prime > number) prime = number;
+        if (number % prime != 0) continue;
+        primes.insert(prime);
+        while (number % prime == 0)
+          number /= prime;
+      }
+    }
+    for (const long long prime : primes) {
+      Ints exponents = a_;  // of the prime
+      for (auto& row : exponents) {
+        for (auto& number : row) {
+          long long power = 0;
+          for (; number % prime == 0; ++power)
+            number /= prime;
+          number = power;
+        }
+      }
+      if (!IsMagic(exponents)) return false;
+    }
+    Ints negatives = a_;
+    for (auto& row : negatives) {
+      for (auto& number : row)
+        number = number < 0 ? 1 : 0;
+    }
+    const auto signs = LineSums(negatives);
+    return std::all_of(signs.begin(), signs.end(),
+                       [&](long long sign) { return sign % 2 == signs.front() % 2; });
   }
   static bool Prime(long long number) {
     for (long long divisor = 2; divisor * divisor <= number; ++divisor) {

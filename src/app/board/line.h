@@ -36,9 +36,9 @@ std::string NameOf(Line line, int order);
 std::vector<Place> PlacesOf(Line line, int order);
 
 /// The sum of valueOf(index) over its cells.
-template <class ValueOf>
-std::int64_t SumOf(Line line, int order, ValueOf valueOf) {
-  std::int64_t sum = 0;
+template <class Sum = std::int64_t, class ValueOf>
+Sum SumOf(Line line, int order, ValueOf valueOf) {
+  Sum sum = 0;
   for (int i = 0; i < order; ++i)
     sum += valueOf(line.Cell(i, order));
   return sum;

@@ -86,6 +86,13 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   for (const Term& term : Terms())
     EXPECT_EQ(Entry(term.Name)->parent()->text(0), term.Group);
   EXPECT_EQ(Entry("sum")->parent()->text(0), "The square");
+  EXPECT_EQ(Entry("Lines")->text(1), "semi-magic, magic");
+  EXPECT_EQ(Entry("Powers")->text(1), "none");
+  auto& tree = Find<QTreeWidget>("PropertyTree");
+  for (const char* group : {"Lines", "Digits and moves"})
+    EXPECT_FALSE(Entry(group)->isExpanded());
+  tree.setCurrentItem(Entry("Lines"));
+  QTest::keyClick(&tree, Qt::Key_Right);
 
   Find<QTreeWidget>("PropertyTree").setCurrentItem(Entry("magic"));
   EXPECT_TRUE(TheGrid().Outlined().empty());
@@ -105,6 +112,10 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
 
   QTest::keyClick(&window_.View(), Qt::Key_Backspace);
   EXPECT_EQ(TheGrid().Outlined().size(), 0U);
+  panel.close();
+  Open();
+  EXPECT_TRUE(Entry("Lines")->isExpanded()) << "what the reader opened stays open";
+  EXPECT_FALSE(Entry("Digits and moves")->isExpanded());
   panel.close();
   EXPECT_FALSE(Find<QAction>("Propertiesx").isChecked());
   EXPECT_EQ(window_.size(), before);

@@ -90,15 +90,8 @@ void ControlCommands::ConnectColours() {
     Board& board = desk_.TheSession.TheBoard;
     if (board.HasTotal()) board.SetOverlayShown(false);
   });
-  OnSignal(desk_.Runner, controls.Draw, &DrawFrame::Chosen, this, [this](const DrawingKind* kind) {
-    desk_.Runner.Run("Draw", [this, kind] {
-      Board& board = desk_.TheSession.TheBoard;
-      if (!board.HasTotal()) return;
-      desk_.Place.Picture->SetKind(kind);
-      desk_.Place.Picture->SetColour(desk_.Controls.Colours->Picked());
-      board.SetOverlayShown(true);
-    });
-  });
+  OnSignal(desk_.Runner, controls.Draw, &DrawFrame::Chosen, this,
+           [this](const DrawingKind* kind) { desk_.Draw(*kind); });
 }
 
 void ControlCommands::ShowState() {

@@ -38,6 +38,16 @@ void Desk::OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports
       ->open();
 }
 
+void Desk::Draw(const DrawingKind& kind) {
+  Runner.Run("Draw", [this, &kind] {
+    Board& board = TheSession.TheBoard;
+    if (!board.HasTotal()) return;
+    Place.Picture->SetKind(&kind);
+    Place.Picture->SetColour(Controls.Colours->Picked());
+    board.SetOverlayShown(true);
+  });
+}
+
 void Desk::ShowMode() {
   const bool variable = TheBoard().SolveMode == ModeVariable;
   Controls.ShowMode(variable);

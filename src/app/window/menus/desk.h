@@ -45,6 +45,9 @@ class Desk {
   /// them.
   void OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports, QWidget* window);
 
+  /// Draws the board, in place of it. Does nothing without a board.
+  void Draw(const DrawingKind& kind);
+
   /// Shows the session's mode.
   void ShowMode();
 

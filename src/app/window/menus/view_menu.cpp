@@ -32,6 +32,7 @@ ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state, const KeptFo
                    window->showMaximized();
                  })});
   menu->addSeparator();
+  AddItem(menu, {kDigits.Item, kDigits.Caption, none, [this] { desk_.Draw(kDigits); }});
   numbers_ = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
   OnSignal(desk_.Runner, numbers_, &QAction::toggled, this,
            [this](bool on) { desk_.Place.Picture->SetNumbers(on); });

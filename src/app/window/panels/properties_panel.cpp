@@ -16,8 +16,8 @@ namespace numorra {
 namespace {
 
 constexpr const char* kSquareGroup = "The square";
-constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",     "largest",
-                                    "repeated", "standard form", "census number"};
+constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",      "largest",
+                                    "repeated", "standard form", "census number", "Dudeney type"};
 
 char16_t MarkFor(Answer answer) {
   switch (answer) {
@@ -127,15 +127,28 @@ void PropertiesPanel::AddEntries() {
   for (const Term& term : Terms())
     terms_.push_back(new QTreeWidgetItem(GroupNamed(groups, term.Group), {term.Name}));
   tree_->addTopLevelItems(groups);
-  for (const auto& entries : {details_, terms_}) {
+  groups_.assign(groups.begin(), groups.end());
+  for (const auto& entries : {groups_, details_, terms_}) {
     for (QTreeWidgetItem* entry : entries) {
       for (const int column : {0, 1})
         entry->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
     }
   }
-  for (QTreeWidgetItem* group : groups)
-    group->setFirstColumnSpanned(true);
-  tree_->expandAll();
+  groups_.front()->setFirstColumnSpanned(true);
+  groups_.front()->setExpanded(true);
+}
+
+/// Beside each group of terms, those that hold.
+void PropertiesPanel::ShowGroups() {
+  for (std::size_t group = 1; group < groups_.size(); ++group) {
+    QStringList held;
+    for (std::size_t i = 0; i < terms_.size(); ++i) {
+      const bool within = terms_[i]->parent() == groups_[group];
+      if (within && report_ && report_->Properties[i].Found) held << terms_[i]->text(0);
+    }
+    const QString value = !report_ ? "" : held.isEmpty() ? "none" : held.join(", ");
+    ShowEntry(groups_[group], value, value);
+  }
 }
 
 void PropertiesPanel::Show(const Report& report) {
@@ -154,6 +167,7 @@ void PropertiesPanel::Show(const Report& report) {
     ShowEntry(terms_[i], QChar(MarkFor(found.Says)) + QString(" ") + word,
               word + ", " + QString::fromStdString(found.Why));
   }
+  ShowGroups();
   tree_->setEnabled(true);
   ShowChosen();
 }
@@ -164,6 +178,7 @@ void PropertiesPanel::ShowNone(const QString& why) {
     for (QTreeWidgetItem* entry : entries)
       ShowEntry(entry, "", why);
   }
+  ShowGroups();
   tree_->setEnabled(false);
   ShowChosen();
   explained_->setText(why);

@@ -14,8 +14,8 @@
 namespace numorra {
 
 /// The panel (`PropertiesPanel`) that shows the properties of the square on the board: facts and
-/// terms in groups, each with a mark and a word. The chosen entry is explained below, and its cells
-/// are outlined.
+/// terms in groups, each with a mark and a word. Groups of terms are closed at first, and name
+/// those that hold. The chosen entry is explained below, and its cells are outlined.
 class PropertiesPanel : public LazyPanel {
   Q_OBJECT
 
@@ -33,12 +33,14 @@ class PropertiesPanel : public LazyPanel {
  private:
   void Furnish() override;
   void AddEntries();
+  void ShowGroups();
   void ShowChosen();
   void Copy();
 
   CommandRunner& runner_;
   QTreeWidget* tree_ = nullptr;
   QLabel* explained_ = nullptr;
+  std::vector<QTreeWidgetItem*> groups_;  ///< that of the details, and those of the terms
   std::vector<QTreeWidgetItem*> details_;
   std::vector<QTreeWidgetItem*> terms_;  ///< by Terms()
   std::optional<Report> report_;
