@@ -114,7 +114,7 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
   const PlacedNumbers blocks = OddSquareUnder(square);
   if (!blocks.IsNormal()) return {};
   const auto moves = MovesOf(blocks);
-  if (!moves) return {};
+  if (!moves || !AreSteppings(*moves)) return {};
   const int m = blocks.Order();
   std::vector<WalkStep> walk{LettersByRow(m), ExchangeInTheMiddle(m)};
   for (int number = 1; number <= m * m; ++number) {
@@ -139,7 +139,16 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kLuxConstruction = {"LUX", [](int order) { return order > 0 && order % 4 == 2; },
-                                       BuildLux, StepsOfLux};
+const Construction kLuxConstruction = {"lux",
+                                       "BuildLuxx",
+                                       "L&UX",
+                                       "John Conway",
+                                       [](int order) -> std::string {
+                                         if (order > 0 && order % 4 == 2) return {};
+                                         return MakesOther("LUX", "the orders 6, 10, 14 and so on",
+                                                           order);
+                                       },
+                                       BuildLux,
+                                       StepsOfLux};
 
 }  // namespace numorra

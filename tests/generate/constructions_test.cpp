@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+
+#include "generate/construction.h"
+#include "support/boards.h"
+#include "support/slow_classifier.h"
+#include "support/stand_ins.h"
+
+namespace numorra {
+namespace {
+
+using Texts = std::map<std::pair<int, int>, std::string>;
+
+/// A sentence says where the number after `From` goes: so many rows down and columns to the right.
+struct SaidMove {
+  int Rows = 0;
+  int Columns = 0;
+};
+
+SaidMove MoveIn(const std::smatch& words) {
+  const auto far = [](const std::string& count) { return count == "two " ? 2 : 1; };
+  SaidMove move;
+  if (words[2].matched) move.Rows = far(words[1]) * (words[2] == "up" ? -1 : 1);
+  if (words[4].matched) move.Columns = far(words[3]) * (words[4] == "left" ? -1 : 1);
+  return move;
+}
+
+/// Holds each move of a sentence about a number against the arrow, the cells and the edges.
+void ExpectSaidMove(const WalkStep& step, const Texts& before, int n) {
+  static const std::regex kSlanted("(two |one |)(up|down) and (two |one |)to the (left|right)");
+  static const std::regex kStraight("goes (?:(two |)(above|below)|(two |)to the (left|right) of) ");
+  const std::string& said = step.Sentence;
+  std::smatch words;
+  if (!step.Arrow || !std::regex_search(said, words, kSlanted)) return;
+  const auto [from, to] = *step.Arrow;
+  const auto wrapped = [n](int line) { return (line + n - 1) % n + 1; };
+  const auto after = [&](Place place, SaidMove move) {
+    return Place{wrapped(place.Row + move.Rows), wrapped(place.Column + move.Columns)};
+  };
+  SaidMove move = MoveIn(words);
+  const std::size_t run = step.Written.size();
+  for (std::size_t i = 1; i < run; ++i)
+    EXPECT_EQ(step.Written[i].first, after(step.Written[i - 1].first, move)) << said;
+  if (from == step.Written.front().first) {
+    EXPECT_EQ(to, step.Written.back().first) << said;
+    return;
+  }
+  EXPECT_EQ(to, step.Written.front().first);
+  if (std::smatch beside; std::regex_search(said, beside, kStraight)) {
+    const Place taken = after(from, move);
+    EXPECT_EQ(said.find("finds " + before.at({taken.Row, taken.Column}) + " in its way"),
+              said.find("finds "));
+    move = MoveIn(beside);
+    if (beside[2].matched) move.Rows = std::abs(move.Rows) * (beside[2] == "above" ? -1 : 1);
+  }
+  EXPECT_EQ(to, after(from, move)) << said;
+  if (said.find("what leaves the board") < said.size()) return;
+  const std::pair<const char*, bool> edges[] = {
+      {"at the top, so in at the bottom", from.Row + move.Rows < 1},
+      {"at the bottom, so in at the top", from.Row + move.Rows > n},
+      {"on the left, so in on the right", from.Column + move.Columns < 1},
+      {"on the right, so in on the left", from.Column + move.Columns > n}};
+  for (const auto& [leaving, leaves] : edges)
+    EXPECT_EQ(said.find(leaving) != std::string::npos, leaves) << said;
+}
+
+/// Plays the walk of a square: its sentences are true, and its last board is the square.
+void ExpectTrueWalk(const Square<double>& square, const std::vector<WalkStep>& steps) {
+  const int n = square.Order();
+  Texts board;
+  for (const WalkStep& step : steps) {
+    EXPECT_FALSE(step.Sentence.empty());
+    if (!step.Sentence.starts_with("block")) ExpectSaidMove(step, board, n);
+    for (const auto& [place, text] : step.Written)
+      board[{place.Row, place.Column}] = text;
+    if (step.Number > 0) {
+      EXPECT_EQ(step.Written[0].second, std::to_string(step.Number));
+      EXPECT_NE(step.Sentence.find(std::to_string(step.Number)), std::string::npos);
+    }
+  }
+  ASSERT_EQ(static_cast<int>(board.size()), square.Size()) << "order " << n;
+  for (int cell = 0; cell < square.Size(); ++cell) {
+    const Place place = square.PlaceOf(cell);
+    ASSERT_EQ((board[{place.Row, place.Column}]), std::to_string(static_cast<int>(square[cell])));
+  }
+}
+
+TEST(Constructions, MakeMagicSquaresOfEveryOrderTheyClaim) {
+  const std::map<std::string, bool (*)(int)> claims = {
+      {"stepping", [](int n) { return n % 2 == 1; }},
+      {"lozenge", [](int n) { return n % 2 == 1; }},
+      {"knight", [](int n) { return n % 2 == 1 && n > 3; }},
+      {"lux", [](int n) { return n % 4 == 2; }},
+      {"marks", [](int n) { return n % 4 == 0; }}};
+  SeededRandom random(3);
+  for (const Construction* const construction : kConstructions) {
+    ASSERT_EQ(FindConstruction(construction->Term), construction);
+    for (int n = 3; n <= 50; ++n) {
+      SCOPED_TRACE(construction->Term + std::string(" of order ") + std::to_string(n));
+      const std::string why = construction->WhyNone(n);
+      ASSERT_EQ(why.empty(), claims.at(construction->Term)(n)) << why;
+      if (!why.empty()) {
+        EXPECT_TRUE(why.ends_with(", not " + std::to_string(n))) << why;
+        continue;
+      }
+      for (const auto& square : {ExampleOf(*construction, n), SquareBy(*construction, n, random)}) {
+        ASSERT_EQ(slow::WhyNotNormal(RowsOf(square)), "");
+        ExpectTrueWalk(square, construction->StepsOf(PlacedNumbers(square)));
+        EXPECT_FALSE(WalkOf(square).empty());
+      }
+    }
+  }
+  EXPECT_EQ(FindConstruction("no such"), nullptr);
+}
+
+TEST(Constructions, MakeTheKnightsSquarePandiagonalWithoutAFactor3) {
+  for (int n = 5; n < 26; n += 2) {
+    const auto is =
+        slow::Classifier(slow::IntsOf(RowsOf(ExampleOf(*FindConstruction("knight"), n)))).Run();
+    EXPECT_EQ(is.at("pandiagonal"), n % 3 != 0) << n;
+    EXPECT_EQ(is.at("associative"), true) << n;
+  }
+}
+
+TEST(Constructions, SayWhatAClassNeedsToHear) {
+  struct Case {
+    const char* Term;
+    int Order;
+    std::size_t Step;
+    const char* Sentence;
+  };
+  const Case cases[] = {
+      {"lozenge", 5, 0, "the odd numbers 1 to 5 go up and to the right from row 3, column 1"},
+      {"lozenge", 5, 6,
+       "the even numbers 6 to 10 go on up and to the right from 9; what leaves the board comes in "
+       "again on the opposite side"},
+      {"lozenge", 3, 1, "the odd number 5 goes to row 2, column 2"},
+      {"knight", 5, 3, "4 goes two up and one to the right"},
+      {"knight", 5, 5,
+       "6 finds 1 in its way two up and one to the right, so it goes two to the "
+       "right of 5"}};
+  for (const Case& c : cases) {
+    const Construction& construction = *FindConstruction(c.Term);
+    const auto steps = construction.StepsOf(PlacedNumbers(ExampleOf(construction, c.Order)));
+    EXPECT_EQ(steps.at(c.Step).Sentence, c.Sentence);
+  }
+}
+
+}  // namespace
+}  // namespace numorra
