@@ -61,6 +61,14 @@ Square<double> ExampleToWalk(int order) {
   return ExampleOf(ConstructionFor(order), order);
 }
 
+CellTable TableOf(const Square<double>& square) {
+  CellTable cells;
+  ForEachCell(square.Order(), [&](int row, int column) {
+    cells(row, column) = square[Place{row, column}];
+  });
+  return cells;
+}
+
 std::string MakesOther(const char* construction, const char* orders, int order) {
   return std::string(construction) + " makes " + orders + ", not " + std::to_string(order);
 }

@@ -55,11 +55,12 @@ extern const Construction kLuxConstruction;       ///< orders 4k + 2
 extern const Construction kDiagonalConstruction;  ///< orders 4m
 extern const Construction kLozengeConstruction;   ///< odd orders
 extern const Construction kKnightConstruction;    ///< odd orders from 5
+extern const Construction kQuadrantConstruction;  ///< orders 4k + 2 from 6
 
 /// All constructions. If several make an order, NormalSquare uses the first one.
 inline constexpr std::array kConstructions = {&kSteppingConstruction, &kLuxConstruction,
                                               &kDiagonalConstruction, &kLozengeConstruction,
-                                              &kKnightConstruction};
+                                              &kKnightConstruction,   &kQuadrantConstruction};
 
 /// The first construction that makes the order. Throws InvalidPropertyValue for orders below 1.
 const Construction& ConstructionFor(int order);
@@ -72,6 +73,9 @@ Square<double> SquareBy(const Construction& construction, int order, Random& ran
 
 /// The same with the first choice each time: a good first example to walk through.
 Square<double> ExampleOf(const Construction& construction, int order);
+
+/// The square as a value block.
+CellTable TableOf(const Square<double>& square);
 
 /// "LUX makes orders 6, 10, 14, ..., not 8".
 std::string MakesOther(const char* construction, const char* orders, int order);
