@@ -56,11 +56,12 @@ extern const Construction kDiagonalConstruction;  ///< orders 4m
 extern const Construction kLozengeConstruction;   ///< odd orders
 extern const Construction kKnightConstruction;    ///< odd orders from 5
 extern const Construction kQuadrantConstruction;  ///< orders 4k + 2 from 6
+extern const Construction kBorderConstruction;    ///< orders from 5
 
 /// All constructions. If several make an order, NormalSquare uses the first one.
-inline constexpr std::array kConstructions = {&kSteppingConstruction, &kLuxConstruction,
-                                              &kDiagonalConstruction, &kLozengeConstruction,
-                                              &kKnightConstruction,   &kQuadrantConstruction};
+inline constexpr std::array kConstructions = {
+    &kSteppingConstruction, &kLuxConstruction,      &kDiagonalConstruction, &kLozengeConstruction,
+    &kKnightConstruction,   &kQuadrantConstruction, &kBorderConstruction};
 
 /// The first construction that makes the order. Throws InvalidPropertyValue for orders below 1.
 const Construction& ConstructionFor(int order);

@@ -65,6 +65,21 @@ void ExpectSaidMove(const WalkStep& step, const Texts& before, int n) {
     EXPECT_EQ(said.find(leaving) != std::string::npos, leaves) << said;
 }
 
+/// Holds a line that a sentence names against the cells that are written.
+void ExpectSaidLine(const WalkStep& step) {
+  static const std::regex kLine(
+      "to (row|column) (\\d+), (?:column|row)(s?) (\\d+)(?: to (\\d+))?$");
+  std::smatch words;
+  if (!std::regex_search(step.Sentence, words, kLine)) return;
+  const int line = std::stoi(words[2]);
+  int at = std::stoi(words[4]);
+  for (const auto& [place, text] : step.Written) {
+    EXPECT_EQ(place, words[1] == "row" ? (Place{line, at}) : (Place{at, line})) << step.Sentence;
+    ++at;
+  }
+  EXPECT_EQ(at - 1, std::stoi(words[words[5].matched ? 5 : 4])) << step.Sentence;
+}
+
 /// Plays the walk of a square: its sentences are true, and its last board is the square.
 void ExpectTrueWalk(const Square<double>& square, const std::vector<WalkStep>& steps) {
   const int n = square.Order();
@@ -73,6 +88,7 @@ void ExpectTrueWalk(const Square<double>& square, const std::vector<WalkStep>& s
     EXPECT_FALSE(step.Sentence.empty());
     const bool quarter = step.Sentence.starts_with("in the upper left quarter");
     if (!step.Sentence.starts_with("block")) ExpectSaidMove(step, board, quarter ? n / 2 : n);
+    ExpectSaidLine(step);
     for (const auto& [place, text] : step.Written)
       board[{place.Row, place.Column}] = text;
     if (step.Number > 0) {
@@ -93,6 +109,7 @@ TEST(Constructions, MakeMagicSquaresOfEveryOrderTheyClaim) {
       {"lozenge", [](int n) { return n % 2 == 1; }},
       {"knight", [](int n) { return n % 2 == 1 && n > 3; }},
       {"quadrants", [](int n) { return n % 4 == 2; }},
+      {"borders", [](int n) { return n > 4; }},
       {"lux", [](int n) { return n % 4 == 2; }},
       {"marks", [](int n) { return n % 4 == 0; }}};
   SeededRandom random(3);
@@ -125,6 +142,13 @@ TEST(Constructions, MakeTheKnightsSquarePandiagonalWithoutAFactor3) {
   }
 }
 
+TEST(Constructions, PutBordersAroundMagicSquares) {
+  for (int n = 5; n <= 12; ++n) {
+    const auto square = RowsOf(ExampleOf(*FindConstruction("borders"), n));
+    EXPECT_EQ(slow::Classifier(slow::IntsOf(square)).Run().at("bordered"), true) << n;
+  }
+}
+
 TEST(Constructions, SayWhatAClassNeedsToHear) {
   struct Case {
     const char* Term;
@@ -144,6 +168,13 @@ TEST(Constructions, SayWhatAClassNeedsToHear) {
       {"quadrants", 6, 13,
        "rows 2 and 5 exchange their numbers in column 2, further right as these are the middle "
        "rows"},
+      {"borders", 8, 2, "in the ring of order 8, 3 to 6 go to row 8, columns 2 to 5"},
+      {"borders", 8, 8,
+       "in the ring of order 8, opposite each number, at corners along the diagonal, goes 65 minus "
+       "it"},
+      {"borders", 8, 17,
+       "the middle takes 25 to 40 in reading order, but on its two diagonals counted back from 40"},
+      {"borders", 7, 1, "in the ring of order 7, 4 to 5 go to column 1, rows 2 to 3"},
       {"lozenge", 3, 1, "the odd number 5 goes to row 2, column 2"},
       {"knight", 5, 3, "4 goes two up and one to the right"},
       {"knight", 5, 5,
