@@ -57,11 +57,12 @@ extern const Construction kLozengeConstruction;   ///< odd orders
 extern const Construction kKnightConstruction;    ///< odd orders from 5
 extern const Construction kQuadrantConstruction;  ///< orders 4k + 2 from 6
 extern const Construction kBorderConstruction;    ///< orders from 5
+extern const Construction kLatinConstruction;     ///< odd orders and orders 4m
 
 /// All constructions. If several make an order, NormalSquare uses the first one.
 inline constexpr std::array kConstructions = {
-    &kSteppingConstruction, &kLuxConstruction,      &kDiagonalConstruction, &kLozengeConstruction,
-    &kKnightConstruction,   &kQuadrantConstruction, &kBorderConstruction};
+    &kSteppingConstruction, &kLuxConstruction,   &kDiagonalConstruction, &kLozengeConstruction,
+    &kKnightConstruction,   &kLatinConstruction, &kQuadrantConstruction, &kBorderConstruction};
 
 /// The first construction that makes the order. Throws InvalidPropertyValue for orders below 1.
 const Construction& ConstructionFor(int order);

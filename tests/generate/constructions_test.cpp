@@ -80,15 +80,51 @@ void ExpectSaidLine(const WalkStep& step) {
   EXPECT_EQ(at - 1, std::stoi(words[words[5].matched ? 5 : 4])) << step.Sentence;
 }
 
+/// Changes the first row as a sentence about another row says.
+std::vector<int> ChangedRow(std::vector<int> row, const std::string& said) {
+  static const std::regex kExchange("neighbouring (?:numbers|groups of (\\d+)) exchanged");
+  static const std::regex kMove(
+      "(all|each group of (\\d+)) ?(?:numbers)? moved (\\d+) to the (l|r)");
+  for (std::sregex_iterator it(said.begin(), said.end(), kExchange), end; it != end; ++it) {
+    const int size = (*it)[1].matched ? std::stoi((*it)[1]) : 1;
+    for (auto at = row.begin(); at != row.end(); at += 2 * size)
+      std::rotate(at, at + size, at + 2 * size);
+  }
+  std::smatch move;
+  if (!std::regex_search(said, move, kMove)) return row;
+  const int size = move[2].matched ? std::stoi(move[2]) : static_cast<int>(row.size());
+  const int by = std::stoi(move[3]);
+  for (auto at = row.begin(); at != row.end(); at += size)
+    std::rotate(at, at + (move[4] == "l" ? by : size - by), at + size);
+  return row;
+}
+
+/// Holds "row 3 is row 1 with ..." and "row 3 adds what row 1 adds, with ..." against the numbers.
+void ExpectSaidRow(const WalkStep& step, const Texts& before, std::vector<int>& firstRow) {
+  std::vector<int> row;
+  for (const auto& [place, text] : step.Written) {
+    const auto had = before.find({place.Row, place.Column});
+    row.push_back(std::stoi(text) - (had == before.end() ? 0 : std::stoi(had->second)));
+  }
+  if (step.Written[0].first.Row == 1) {
+    firstRow = row;
+  } else {
+    EXPECT_EQ(row, ChangedRow(firstRow, step.Sentence)) << step.Sentence;
+  }
+}
+
 /// Plays the walk of a square: its sentences are true, and its last board is the square.
-void ExpectTrueWalk(const Square<double>& square, const std::vector<WalkStep>& steps) {
+void ExpectTrueWalk(const std::string& construction, const Square<double>& square,
+                    const std::vector<WalkStep>& steps) {
   const int n = square.Order();
   Texts board;
+  std::vector<int> firstRow;
   for (const WalkStep& step : steps) {
     EXPECT_FALSE(step.Sentence.empty());
     const bool quarter = step.Sentence.starts_with("in the upper left quarter");
     if (!step.Sentence.starts_with("block")) ExpectSaidMove(step, board, quarter ? n / 2 : n);
     ExpectSaidLine(step);
+    if (construction == "latin") ExpectSaidRow(step, board, firstRow);
     for (const auto& [place, text] : step.Written)
       board[{place.Row, place.Column}] = text;
     if (step.Number > 0) {
@@ -110,6 +146,7 @@ TEST(Constructions, MakeMagicSquaresOfEveryOrderTheyClaim) {
       {"knight", [](int n) { return n % 2 == 1 && n > 3; }},
       {"quadrants", [](int n) { return n % 4 == 2; }},
       {"borders", [](int n) { return n > 4; }},
+      {"latin", [](int n) { return n % 4 != 2; }},
       {"lux", [](int n) { return n % 4 == 2; }},
       {"marks", [](int n) { return n % 4 == 0; }}};
   SeededRandom random(3);
@@ -125,7 +162,7 @@ TEST(Constructions, MakeMagicSquaresOfEveryOrderTheyClaim) {
       }
       for (const auto& square : {ExampleOf(*construction, n), SquareBy(*construction, n, random)}) {
         ASSERT_EQ(slow::WhyNotNormal(RowsOf(square)), "");
-        ExpectTrueWalk(square, construction->StepsOf(PlacedNumbers(square)));
+        ExpectTrueWalk(construction->Term, square, construction->StepsOf(PlacedNumbers(square)));
         EXPECT_FALSE(WalkOf(square).empty());
       }
     }
@@ -175,6 +212,18 @@ TEST(Constructions, SayWhatAClassNeedsToHear) {
       {"borders", 8, 17,
        "the middle takes 25 to 40 in reading order, but on its two diagonals counted back from 40"},
       {"borders", 7, 1, "in the ring of order 7, 4 to 5 go to column 1, rows 2 to 3"},
+      {"latin", 5, 0,
+       "row 1 takes the multiples of 5 from 0 to 20, each once, with the middle one, 10, last"},
+      {"latin", 5, 7,
+       "row 3 adds what row 1 adds, with all numbers moved 2 to the right, in again at the "
+       "other end"},
+      {"latin", 8, 8, "row 1 adds 1 to 8, each once, in any order"},
+      {"latin", 12, 0,
+       "row 1 takes the multiples of 12 from 0 to 132, each once, so that the last ones of its "
+       "groups of 3 add up to 264"},
+      {"latin", 12, 10,
+       "row 11 is row 1 with neighbouring groups of 3 exchanged and the numbers of each group of 3 "
+       "moved 1 to the left, in again at the other end"},
       {"lozenge", 3, 1, "the odd number 5 goes to row 2, column 2"},
       {"knight", 5, 3, "4 goes two up and one to the right"},
       {"knight", 5, 5,
