@@ -61,6 +61,24 @@ Square<double> ExampleToWalk(int order) {
   return ExampleOf(ConstructionFor(order), order);
 }
 
+std::vector<WalkExample> WalkExamples() {
+  std::vector<WalkExample> examples;
+  for (const int order : {5, 8, 6})
+    examples.push_back({"an example of size " + std::to_string(order), ExampleToWalk(order)});
+  constexpr int kLeastOrder = 5;
+  for (const Construction* const construction : kConstructions) {
+    int order = kLeastOrder;
+    while (!construction->WhyNone(order).empty())
+      ++order;
+    if (&ConstructionFor(order) == construction) continue;
+    std::string caption = construction->Caption;
+    std::erase(caption, '&');
+    examples.push_back(
+        {caption + ", size " + std::to_string(order), ExampleOf(*construction, order)});
+  }
+  return examples;
+}
+
 CellTable TableOf(const Square<double>& square) {
   CellTable cells;
   ForEachCell(square.Order(), [&](int row, int column) {

@@ -50,19 +50,21 @@ struct Construction {
   std::vector<WalkStep> (*StepsOf)(const PlacedNumbers& square);
 };
 
-extern const Construction kSteppingConstruction;  ///< odd orders
-extern const Construction kLuxConstruction;       ///< orders 4k + 2
-extern const Construction kDiagonalConstruction;  ///< orders 4m
-extern const Construction kLozengeConstruction;   ///< odd orders
-extern const Construction kKnightConstruction;    ///< odd orders from 5
-extern const Construction kQuadrantConstruction;  ///< orders 4k + 2 from 6
-extern const Construction kBorderConstruction;    ///< orders from 5
-extern const Construction kLatinConstruction;     ///< odd orders and orders 4m
+extern const Construction kSteppingConstruction;   ///< odd orders
+extern const Construction kLuxConstruction;        ///< orders 4k + 2
+extern const Construction kDiagonalConstruction;   ///< orders 4m
+extern const Construction kLozengeConstruction;    ///< odd orders
+extern const Construction kKnightConstruction;     ///< odd orders from 5
+extern const Construction kQuadrantConstruction;   ///< orders 4k + 2 from 6
+extern const Construction kBorderConstruction;     ///< orders from 5
+extern const Construction kLatinConstruction;      ///< odd orders and orders 4m
+extern const Construction kCompositeConstruction;  ///< orders m k with m and k from 3
 
 /// All constructions. If several make an order, NormalSquare uses the first one.
 inline constexpr std::array kConstructions = {
-    &kSteppingConstruction, &kLuxConstruction,   &kDiagonalConstruction, &kLozengeConstruction,
-    &kKnightConstruction,   &kLatinConstruction, &kQuadrantConstruction, &kBorderConstruction};
+    &kSteppingConstruction, &kLuxConstruction,    &kDiagonalConstruction,
+    &kLozengeConstruction,  &kKnightConstruction, &kLatinConstruction,
+    &kQuadrantConstruction, &kBorderConstruction, &kCompositeConstruction};
 
 /// The first construction that makes the order. Throws InvalidPropertyValue for orders below 1.
 const Construction& ConstructionFor(int order);
