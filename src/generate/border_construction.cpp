@@ -20,13 +20,13 @@
 namespace numorra {
 namespace {
 
-enum class RingPart { Top, Left, Bottom, Right, TopLeft, TopRight, BottomLeft, BottomRight };
+enum class BorderPart { Top, Left, Bottom, Right, TopLeft, TopRight, BottomLeft, BottomRight };
 
 /// The parts of a ring that its small numbers go to, in ascending order.
-std::vector<RingPart> PartsOfRing(int m) {
-  using enum RingPart;
-  std::vector<RingPart> parts;
-  const auto add = [&](int count, RingPart part) {
+std::vector<BorderPart> PartsOfRing(int m) {
+  using enum BorderPart;
+  std::vector<BorderPart> parts;
+  const auto add = [&](int count, BorderPart part) {
     parts.insert(parts.end(), static_cast<std::size_t>(count), part);
   };
   if (m % 2 == 1) {
@@ -54,30 +54,30 @@ std::vector<Place> PlacesInRing(int m) {
   std::vector<Place> places;
   int column = 2;
   int row = 2;
-  for (const RingPart part : PartsOfRing(m)) {
+  for (const BorderPart part : PartsOfRing(m)) {
     switch (part) {
-      case RingPart::Top:
+      case BorderPart::Top:
         places.push_back({1, column++});
         break;
-      case RingPart::Bottom:
+      case BorderPart::Bottom:
         places.push_back({m, column++});
         break;
-      case RingPart::Left:
+      case BorderPart::Left:
         places.push_back({row++, 1});
         break;
-      case RingPart::Right:
+      case BorderPart::Right:
         places.push_back({row++, m});
         break;
-      case RingPart::TopLeft:
+      case BorderPart::TopLeft:
         places.push_back({1, 1});
         break;
-      case RingPart::TopRight:
+      case BorderPart::TopRight:
         places.push_back({1, m});
         break;
-      case RingPart::BottomLeft:
+      case BorderPart::BottomLeft:
         places.push_back({m, 1});
         break;
-      case RingPart::BottomRight:
+      case BorderPart::BottomRight:
         places.push_back({m, m});
         break;
     }
@@ -96,14 +96,14 @@ Place OppositeInRing(Place place, int m) {
 
 /// A ring of a square of order n, or its middle: the order of what it encloses, itself included,
 /// and the number below its smallest.
-struct Ring {
+struct Border {
   int Order;
   int Below;
 };
 
 /// The rings from the outside, and the middle, of order 1 or 4, as the last.
-std::vector<Ring> RingsOf(int n) {
-  std::vector<Ring> rings;
+std::vector<Border> RingsOf(int n) {
+  std::vector<Border> rings;
   int below = 0;
   for (int m = n; m > 0 && m != 2; m -= 2) {
     rings.push_back({m, below});
@@ -118,7 +118,7 @@ Place InSquare(Place place, int m, int n) {
 }
 
 /// The number of a cell of the middle: in reading order, and counted from the end on the diagonals.
-int NumberInMiddle(Place place, const Ring& middle) {
+int NumberInMiddle(Place place, const Border& middle) {
   const int m = middle.Order;
   const int number = (place.Row - 1) * m + place.Column;
   const bool marked = place.Row == place.Column || place.Row + place.Column == m + 1;
@@ -127,10 +127,10 @@ int NumberInMiddle(Place place, const Ring& middle) {
 
 CellTable BuildByBorders(int order, BuildChoices& /*choices*/) {
   Square<double> square(order);
-  std::vector<Ring> rings = RingsOf(order);
-  const Ring middle = rings.back();
+  std::vector<Border> rings = RingsOf(order);
+  const Border middle = rings.back();
   rings.pop_back();
-  for (const Ring& ring : rings) {
+  for (const Border& ring : rings) {
     int number = ring.Below;
     for (const Place place : PlacesInRing(ring.Order)) {
       square[InSquare(place, ring.Order, order)] = ++number;
@@ -161,9 +161,9 @@ std::string NameOfRun(Place first, Place last) {
 }
 
 /// Writes the small numbers, a run on one side per step, and then their complements.
-void AddRing(std::vector<WalkStep>& walk, const Ring& ring, int n) {
+void AddRing(std::vector<WalkStep>& walk, const Border& ring, int n) {
   const std::string where = "in the ring of order " + std::to_string(ring.Order) + ", ";
-  const std::vector<RingPart> parts = PartsOfRing(ring.Order);
+  const std::vector<BorderPart> parts = PartsOfRing(ring.Order);
   const std::vector<Place> places = PlacesInRing(ring.Order);
   const int complements = n * n + 1;
   WalkStep opposite;
@@ -173,7 +173,7 @@ void AddRing(std::vector<WalkStep>& walk, const Ring& ring, int n) {
     const int first = ring.Below + static_cast<int>(i) + 1;
     int number = first;
     WalkStep run{{}, {}, {}, {}, first};
-    for (const RingPart part = parts[i]; i < parts.size() && parts[i] == part; ++i, ++number) {
+    for (const BorderPart part = parts[i]; i < parts.size() && parts[i] == part; ++i, ++number) {
       WriteInRing(run, InSquare(places[i], ring.Order, n), number);
       WriteInRing(opposite, InSquare(OppositeInRing(places[i], ring.Order), ring.Order, n),
                   complements - number);
@@ -188,7 +188,7 @@ void AddRing(std::vector<WalkStep>& walk, const Ring& ring, int n) {
   walk.push_back(std::move(opposite));
 }
 
-WalkStep MiddleStep(const Ring& middle, int n) {
+WalkStep MiddleStep(const Border& middle, int n) {
   const int m = middle.Order;
   WalkStep step{{}, {}, {}, {}, 0};
   for (int cell = 0; cell < m * m; ++cell) {
@@ -207,10 +207,10 @@ std::vector<WalkStep> StepsOfBorders(const PlacedNumbers& square) {
   const int n = square.Order();
   if (ExampleOf(kBorderConstruction, n) != square.Numbers()) return {};
   std::vector<WalkStep> walk;
-  std::vector<Ring> rings = RingsOf(n);
+  std::vector<Border> rings = RingsOf(n);
   const WalkStep middle = MiddleStep(rings.back(), n);
   rings.pop_back();
-  for (const Ring& ring : rings)
+  for (const Border& ring : rings)
     AddRing(walk, ring, n);
   walk.push_back(middle);
   return walk;

@@ -81,7 +81,7 @@ Square<double> ExampleOf(const Construction& construction, int order);
 /// The square as a value block.
 CellTable TableOf(const Square<double>& square);
 
-/// "LUX makes orders 6, 10, 14, ..., not 8".
+/// The refusal of another order: "LUX makes the orders 6, 10, 14 and so on, not 8".
 std::string MakesOther(const char* construction, const char* orders, int order);
 
 }  // namespace numorra
