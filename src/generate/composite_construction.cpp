@@ -58,7 +58,7 @@ std::vector<WalkStep> StepsOfParts(const PlacedNumbers& square, int m) {
   }));
   const auto inner = SquareOf(
       k, [&](int cell) -> double { return (square.At(PlaceAt(cell, k)) - 1) % (k * k) + 1; });
-  if (!outer.IsNormal() || CompositeOf(outer.Numbers(), inner) != square.Numbers()) return {};
+  if (CompositeOf(outer.Numbers(), inner) != square.Numbers()) return {};
   const std::vector<WalkStep> outerSteps = WalkOf(outer.Numbers());
   const std::vector<WalkStep> innerSteps = WalkOf(inner);
   if (outerSteps.empty() || innerSteps.empty()) return {};

@@ -1,5 +1,3 @@
-#include <cstdlib>
-
 #include "generate/construction.h"
 #include "generate/stepping_moves.h"
 
@@ -32,15 +30,11 @@ CellTable BuildByKnight(int order, BuildChoices& /*choices*/) {
   return cells;
 }
 
-/// One number per step. Recognises any knight's move and a break by two cells along a line, and so
-/// turned and mirrored squares, too.
+/// One number per step. Recognises any knight's move and a break along a line, and so turned and
+/// mirrored squares, too.
 std::vector<WalkStep> StepsOfKnight(const PlacedNumbers& square) {
   const auto moves = MovesOf(square);
-  if (!moves) return {};
-  const bool knight = std::abs(moves->Usual.Rows * moves->Usual.Columns) == 2;
-  const bool straight = moves->Break.Rows * moves->Break.Columns == 0 &&
-                        std::abs(moves->Break.Rows + moves->Break.Columns) == 2;
-  return knight && straight ? StepsByMoves(square, *moves) : std::vector<WalkStep>();
+  return moves && !IsDiagonal(*moves) ? StepsByMoves(square, *moves) : std::vector<WalkStep>();
 }
 
 }  // namespace

@@ -114,7 +114,7 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
   const PlacedNumbers blocks = OddSquareUnder(square);
   if (!blocks.IsNormal()) return {};
   const auto moves = MovesOf(blocks);
-  if (!moves || !AreSteppings(*moves)) return {};
+  if (!moves) return {};
   const int m = blocks.Order();
   std::vector<WalkStep> walk{LettersByRow(m), ExchangeInTheMiddle(m)};
   for (int number = 1; number <= m * m; ++number) {

@@ -23,7 +23,7 @@ CellTable BuildByStepping(int order, BuildChoices& choices) {
 /// One number per step. Recognises turned and mirrored squares, too.
 std::vector<WalkStep> StepsOfStepping(const PlacedNumbers& square) {
   const auto moves = MovesOf(square);
-  return moves && AreSteppings(*moves) ? StepsByMoves(square, *moves) : std::vector<WalkStep>();
+  return moves && IsDiagonal(*moves) ? StepsByMoves(square, *moves) : std::vector<WalkStep>();
 }
 
 }  // namespace

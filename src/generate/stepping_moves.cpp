@@ -17,6 +17,15 @@ int StepBetween(int from, int to, int n) {
   return forward > n / 2 ? forward - n : forward;
 }
 
+/// Whether the moves are of the kinds that the sentences have words for.
+bool AreNamed(const SteppingMoves& moves) {
+  const int area = std::abs(moves.Usual.Rows * moves.Usual.Columns);
+  const int straight = moves.Break.Rows * moves.Break.Columns == 0
+                           ? std::abs(moves.Break.Rows + moves.Break.Columns)
+                           : 0;
+  return (area == 1 || area == 2) && (straight == 1 || straight == 2);
+}
+
 /// The direction of a move that is no line's, in words: "up and to the right", "two up and one to
 /// the right".
 std::string Direction(Move move) {
@@ -56,6 +65,7 @@ std::optional<SteppingMoves> MovesOf(const PlacedNumbers& square) {
     return Move{StepBetween(from.Row, to.Row, n), StepBetween(from.Column, to.Column, n)};
   };
   const SteppingMoves moves{between(1, 2), between(n, n + 1)};
+  if (!AreNamed(moves)) return std::nullopt;
   for (int number = 1; number < n * n; ++number) {
     if (between(number, number + 1) != (number % n == 0 ? moves.Break : moves.Usual)) {
       return std::nullopt;
@@ -64,9 +74,8 @@ std::optional<SteppingMoves> MovesOf(const PlacedNumbers& square) {
   return moves;
 }
 
-bool AreSteppings(const SteppingMoves& moves) {
-  return std::abs(moves.Usual.Rows) == 1 && std::abs(moves.Usual.Columns) == 1 &&
-         std::abs(moves.Break.Rows) + std::abs(moves.Break.Columns) == 1;
+bool IsDiagonal(const SteppingMoves& moves) {
+  return std::abs(moves.Usual.Rows * moves.Usual.Columns) == 1;
 }
 
 std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number) {

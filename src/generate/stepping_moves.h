@@ -18,19 +18,17 @@ struct Move {
 };
 
 /// The moves from number to number in a square of odd order that is made by steps with wrap-around,
-/// such as those of the stepping construction (generate/stepping.h), or in an image of one. They
-/// are at most half of the order long.
+/// such as those of the stepping construction (generate/stepping.h), or in an image of one.
 struct SteppingMoves {
-  Move Usual;
-  Move Break;  ///< after each multiple of the order
+  Move Usual;  ///< one cell along a diagonal, or a knight's move
+  Move Break;  ///< one or two cells along a row or a column, after each multiple of the order
 };
 
-/// The moves of a normal square of odd order; nothing if they change.
+/// The moves of a normal square of odd order; nothing if it has none.
 std::optional<SteppingMoves> MovesOf(const PlacedNumbers& square);
 
-/// Whether they are those of the stepping construction: one cell along a diagonal, and one along a
-/// row or a column.
-bool AreSteppings(const SteppingMoves& moves);
+/// Whether the usual move is one cell along a diagonal.
+bool IsDiagonal(const SteppingMoves& moves);
 
 /// Where a number goes, and why: "3 goes up and to the right".
 std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number);

@@ -190,6 +190,37 @@ TEST(Constructions, MakeTheKnightsSquarePandiagonalWithoutAFactor3) {
   }
 }
 
+/// All moves of up to three cells: those that sentences name are told truly, and no others are.
+TEST(Constructions, TellStepsOfEveryDirection) {
+  int told = 0;
+  for (int code = 0; code < 2 * 7 * 7 * 7 * 7; ++code) {
+    const int n = code % 2 == 0 ? 7 : 9;
+    const auto digit = [&](int place) { return code / 2 / place % 7 - 3; };
+    const SaidMove usual{digit(1), digit(7)};
+    const SaidMove other{digit(49), digit(343)};
+    Square<double> square(n);
+    int row = 0;
+    int column = 0;
+    for (int number = 1; number <= n * n; ++number) {
+      square[row * n + column] = number;
+      const SaidMove& move = number % n == 0 ? other : usual;
+      row = (row + move.Rows + n) % n;
+      column = (column + move.Columns + n) % n;
+    }
+    const PlacedNumbers placed(square);
+    if (!placed.IsNormal()) continue;
+    const int area = std::abs(usual.Rows * usual.Columns);
+    const int straight = other.Rows * other.Columns == 0 ? std::abs(other.Rows + other.Columns) : 0;
+    const bool named = area > 0 && area < 3 && straight > 0 && straight < 3;
+    const char* const term = area == 1 ? "stepping" : "knight";
+    const auto steps = FindConstruction(term)->StepsOf(placed);
+    ASSERT_EQ(!steps.empty(), named) << code;
+    if (named) ExpectTrueWalk(term, square, steps);
+    told += named ? 1 : 0;
+  }
+  EXPECT_GT(told, 50);
+}
+
 TEST(Constructions, PutBordersAroundMagicSquares) {
   for (int n = 5; n <= 12; ++n) {
     const auto square = RowsOf(ExampleOf(*FindConstruction("borders"), n));
@@ -222,6 +253,7 @@ TEST(Constructions, SayWhatAClassNeedsToHear) {
        "it"},
       {"borders", 8, 17,
        "the middle takes 25 to 40 in reading order, but on its two diagonals counted back from 40"},
+      {"borders", 7, 3, "in the ring of order 7, 8 goes to row 7, column 1"},
       {"borders", 7, 1, "in the ring of order 7, 4 to 5 go to column 1, rows 2 to 3"},
       {"latin", 5, 0,
        "row 1 takes the multiples of 5 from 0 to 20, each once, with the middle one, 10, last"},
