@@ -86,6 +86,9 @@ std::string WhyNoSquare(const SquareRequest& request) {
     return why;
   }
   if (request.Kind && variable) return "a kind cannot be combined with a sum, limit or corner";
+  if (request.By && (request.Top || request.TopRows || request.Kind || request.Fresh || variable)) {
+    return "a construction cannot be combined with a top row, kind, fresh, sum, limit or corner";
+  }
   if (request.Fresh) {
     if (std::string why = WhyNoFreshSquare(request); !why.empty()) return why;
   }

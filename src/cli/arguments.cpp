@@ -99,6 +99,7 @@ class Reader {
         {"--corner", &Reader::Corner},
         {"--top-row", &Reader::TopRowOption},
         {"--kind", &Reader::Kind},
+        {"--construction", &Reader::ConstructionOption},
         {"--vary", &Reader::Vary},
         {"--fresh", &Reader::Fresh},
         {"--count", &Reader::Count},
@@ -168,6 +169,11 @@ class Reader {
     request_.Kind = FindSpecialKind(Value());
     if (request_.Kind) return;
     Fail("the kind must be one of " + Listed(Choices()));
+  }
+
+  void ConstructionOption() {
+    request_.By = FindConstruction(Value());
+    if (!request_.By) Fail("the construction must be one of " + Listed(Choices()));
   }
 
   const std::vector<std::string>& Choices() const {

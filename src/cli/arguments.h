@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/count_request.h"
 #include "files/formats.h"
+#include "generate/construction.h"
 #include "generate/top_row_square.h"
 #include "puzzle/kind_lines.h"
 #include "puzzle/puzzle_set.h"
@@ -23,7 +24,7 @@ struct SquareRequest {
   SquareFormat Format = SquareFormat::Text;
 
   /// Squares to build: normal ones, ones of any total if a sum, the limit or a corner is given, 4 x
-  /// 4 ones with a top row, or ones of a special kind.
+  /// 4 ones with a top row, ones of a special kind, or ones of a named construction.
   int Size = 0;
   std::optional<double> Sum;
   bool LimitToNine = false;
@@ -31,6 +32,7 @@ struct SquareRequest {
   std::optional<TopRow> Top;
   std::optional<std::string> TopRows;  ///< a file with a name and a top row on each line
   const SpecialKind* Kind = nullptr;
+  const Construction* By = nullptr;  ///< the construction to build with, if one is named
   bool Vary = false;
   bool Fresh = false;  ///< drawn from all squares, not made by a construction
   int Count = 1;

@@ -39,6 +39,7 @@ class SquareBuilder {
   Result Next() {
     if (request_.Top) return WithTopRow(*request_.Top);
     if (request_.Kind) return Special(*request_.Kind);
+    if (request_.By) return By(*request_.By);
     if (request_.Fresh) return Fresh();
     const bool normal = !request_.Sum && !request_.LimitToNine && !request_.Corner;
     return normal ? Normal() : Variable();
@@ -56,6 +57,12 @@ class SquareBuilder {
     const std::string none = kind.WhyNone(order);
     if (!none.empty()) throw Impossible{none};
     return OfNormalNumbers(kind.Build(order, random_));
+  }
+
+  Result By(const Construction& construction) {
+    const std::string none = construction.WhyNone(request_.Size);
+    if (!none.empty()) throw Impossible{none};
+    return OfNormalNumbers(SquareBy(construction, request_.Size, random_));
   }
 
   Result Fresh() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "files/formats.h"
+#include "generate/construction.h"
 #include "puzzle/grade.h"
 #include "puzzle/kind_lines.h"
 #include "study/special.h"
@@ -45,6 +46,13 @@ std::vector<std::string> TermNames() {
   for (const Term& term : Terms())
     names.emplace_back(term.Name);
   return names;
+}
+
+std::vector<std::string> ConstructionTerms() {
+  std::vector<std::string> terms;
+  for (const Construction* const construction : kConstructions)
+    terms.emplace_back(construction->Term);
+  return terms;
 }
 
 std::vector<std::string> GradeNames() {
@@ -113,6 +121,11 @@ const std::vector<OptionEntry>& Options() {
        "with "
        "a name and a date on each line, for a square of each"},
       {"--kind", "TERM", {kBuild}, "a special kind; drawn at random", SpecialTerms()},
+      {"--construction",
+       "NAME",
+       {kBuild},
+       "made by that construction; some take their choices at random",
+       ConstructionTerms()},
       {"--fresh",
        "",
        {kBuild},

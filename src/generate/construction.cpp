@@ -7,10 +7,25 @@
 #include "app/board/runtime_error.h"
 
 namespace numorra {
+namespace {
+
+class ChoicesAtRandom : public BuildChoices {
+ public:
+  explicit ChoicesAtRandom(Random& random) : random_(random) {}
+
+  int PickOf(int kept) override { return random_.Between(0, kept - 1); }
+  int QuarterTurns() override { return random_.Between(0, 3); }
+
+ private:
+  Random& random_;
+};
+
+}  // namespace
 
 const Construction& ConstructionFor(int order) {
-  const auto* const found = std::find_if(kConstructions.begin(), kConstructions.end(),
-                                         [&](const auto* one) { return one->Makes(order); });
+  const auto* const found =
+      std::find_if(kConstructions.begin(), kConstructions.end(),
+                   [&](const auto* one) { return one->WhyNone(order).empty(); });
   if (found == kConstructions.end()) throw RuntimeError(Fault::InvalidPropertyValue);
   return **found;
 }
@@ -20,15 +35,60 @@ std::vector<WalkStep> WalkOf(const Square<double>& square) {
   const PlacedNumbers placed(square);
   if (!placed.IsNormal()) return {};
   for (const Construction* const construction : kConstructions) {
-    if (!construction->Makes(square.Order())) continue;
+    if (!construction->WhyNone(square.Order()).empty()) continue;
     if (std::vector<WalkStep> steps = construction->StepsOf(placed); !steps.empty()) return steps;
   }
   return {};
 }
 
-Square<double> ExampleToWalk(int order) {
+const Construction* FindConstruction(const std::string& term) {
+  const auto* const found = std::find_if(kConstructions.begin(), kConstructions.end(),
+                                         [&](const auto* one) { return one->Term == term; });
+  return found == kConstructions.end() ? nullptr : *found;
+}
+
+Square<double> SquareBy(const Construction& construction, int order, Random& random) {
+  ChoicesAtRandom choices(random);
+  return SquareOf(construction.Build(order, choices), order);
+}
+
+Square<double> ExampleOf(const Construction& construction, int order) {
   BuildChoices firstOfAll;
-  return SquareOf(ConstructionFor(order).Build(order, firstOfAll), order);
+  return SquareOf(construction.Build(order, firstOfAll), order);
+}
+
+Square<double> ExampleToWalk(int order) {
+  return ExampleOf(ConstructionFor(order), order);
+}
+
+std::vector<WalkExample> WalkExamples() {
+  std::vector<WalkExample> examples;
+  for (const int order : {5, 8, 6})
+    examples.push_back({"an example of size " + std::to_string(order), ExampleToWalk(order)});
+  constexpr int kLeastOrder = 5;
+  for (const Construction* const construction : kConstructions) {
+    int order = kLeastOrder;
+    while (!construction->WhyNone(order).empty())
+      ++order;
+    if (&ConstructionFor(order) == construction) continue;
+    std::string caption = construction->Caption;
+    std::erase(caption, '&');
+    examples.push_back(
+        {caption + ", size " + std::to_string(order), ExampleOf(*construction, order)});
+  }
+  return examples;
+}
+
+CellTable TableOf(const Square<double>& square) {
+  CellTable cells;
+  ForEachCell(square.Order(), [&](int row, int column) {
+    cells(row, column) = square[Place{row, column}];
+  });
+  return cells;
+}
+
+std::string MakesOther(const char* construction, const char* orders, int order) {
+  return std::string(construction) + " makes " + orders + ", not " + std::to_string(order);
 }
 
 }  // namespace numorra

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <vector>
 
 #include "app/board/cell_table.h"
+#include "app/board/random.h"
+#include "app/board/square.h"
 #include "generate/construction_steps.h"
 #include "generate/placed_numbers.h"
 
@@ -31,9 +34,13 @@ class BuildChoices {
 /// A way to make normal magic squares: how it builds them, and how it explains those that it can
 /// build. Each has a file of its own.
 struct Construction {
-  const char* Name;
+  const char* Term;     ///< its word on the command line
+  const char* Name;     ///< of its menu item
+  const char* Caption;  ///< what the item says
+  const char* Source;   ///< who described it, and when, if that is known
 
-  bool (*Makes)(int order);
+  /// Why it makes no square of an order; empty if it makes one. Boards have the orders 3 to 50.
+  std::string (*WhyNone)(int order);
 
   /// Builds a square of an order that it makes, in the value block.
   CellTable (*Build)(int order, BuildChoices& choices);
@@ -43,15 +50,38 @@ struct Construction {
   std::vector<WalkStep> (*StepsOf)(const PlacedNumbers& square);
 };
 
-extern const Construction kSteppingConstruction;  ///< odd orders
-extern const Construction kLuxConstruction;       ///< orders 4k + 2
-extern const Construction kDiagonalConstruction;  ///< orders 4m
+extern const Construction kSteppingConstruction;   ///< odd orders
+extern const Construction kLuxConstruction;        ///< orders 4k + 2
+extern const Construction kDiagonalConstruction;   ///< orders 4m
+extern const Construction kLozengeConstruction;    ///< odd orders
+extern const Construction kKnightConstruction;     ///< odd orders from 5
+extern const Construction kQuadrantConstruction;   ///< orders 4k + 2 from 6
+extern const Construction kBorderConstruction;     ///< orders from 5
+extern const Construction kLatinConstruction;      ///< odd orders and orders 4m
+extern const Construction kCompositeConstruction;  ///< orders m k with m and k from 3
 
-/// All constructions. If several make an order, the first one builds it.
-inline constexpr std::array kConstructions = {&kSteppingConstruction, &kLuxConstruction,
-                                              &kDiagonalConstruction};
+/// All constructions. If several make an order, NormalSquare uses the first one.
+inline constexpr std::array kConstructions = {
+    &kSteppingConstruction, &kLuxConstruction,    &kDiagonalConstruction,
+    &kLozengeConstruction,  &kKnightConstruction, &kLatinConstruction,
+    &kQuadrantConstruction, &kBorderConstruction, &kCompositeConstruction};
 
-/// The construction that builds the order. Throws InvalidPropertyValue for orders below 1.
+/// The first construction that makes the order. Throws InvalidPropertyValue for orders below 1.
 const Construction& ConstructionFor(int order);
+
+/// The construction with this term; null if there is none.
+const Construction* FindConstruction(const std::string& term);
+
+/// A square by the construction, of an order that it makes, with its choices taken at random.
+Square<double> SquareBy(const Construction& construction, int order, Random& random);
+
+/// The same with the first choice each time: a good first example to walk through.
+Square<double> ExampleOf(const Construction& construction, int order);
+
+/// The square as a value block.
+CellTable TableOf(const Square<double>& square);
+
+/// The refusal of another order: "LUX makes the orders 6, 10, 14 and so on, not 8".
+std::string MakesOther(const char* construction, const char* orders, int order);
 
 }  // namespace numorra

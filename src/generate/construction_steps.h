@@ -23,6 +23,15 @@ struct WalkStep {
 /// Empty if no construction makes it.
 std::vector<WalkStep> WalkOf(const Square<double>& square);
 
+/// A square to walk through, and how a list of choices names it.
+struct WalkExample {
+  std::string Caption;
+  Square<double> Numbers;
+};
+
+/// One for each construction: those of Auto first, then the others in the order of the menu.
+std::vector<WalkExample> WalkExamples();
+
 /// A square of the order, 3 to 50, that is a good first example to walk through, in reading order.
 Square<double> ExampleToWalk(int order);
 

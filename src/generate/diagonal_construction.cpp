@@ -94,8 +94,16 @@ std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kDiagonalConstruction = {"block diagonals",
-                                            [](int order) { return order > 0 && order % 4 == 0; },
-                                            BuildByDiagonals, StepsOfDiagonals};
+const Construction kDiagonalConstruction = {"marks",
+                                            "BuildMarksx",
+                                            "&Marks on Diagonals",
+                                            "an old method",
+                                            [](int order) -> std::string {
+                                              if (order > 0 && order % 4 == 0) return {};
+                                              return MakesOther("the method of marks on diagonals",
+                                                                "multiples of 4", order);
+                                            },
+                                            BuildByDiagonals,
+                                            StepsOfDiagonals};
 
 }  // namespace numorra

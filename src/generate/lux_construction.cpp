@@ -139,7 +139,16 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kLuxConstruction = {"LUX", [](int order) { return order > 0 && order % 4 == 2; },
-                                       BuildLux, StepsOfLux};
+const Construction kLuxConstruction = {"lux",
+                                       "BuildLuxx",
+                                       "L&UX",
+                                       "John Conway",
+                                       [](int order) -> std::string {
+                                         if (order > 0 && order % 4 == 2) return {};
+                                         return MakesOther("LUX", "the orders 6, 10, 14 and so on",
+                                                           order);
+                                       },
+                                       BuildLux,
+                                       StepsOfLux};
 
 }  // namespace numorra

@@ -7,7 +7,7 @@
 
 namespace numorra {
 
-/// The stepping construction of odd magic squares (de la Loubère 1693): put 1 somewhere, continue
+/// The stepping construction of odd magic squares (de la Loubère 1691): put 1 somewhere, continue
 /// by a fixed step with wrap-around, and if the cell is taken, make the break step from the last
 /// cell instead.
 ///

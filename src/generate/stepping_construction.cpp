@@ -1,5 +1,4 @@
 #include <string>
-#include <utility>
 
 #include "app/board/orders.h"
 #include "generate/construction.h"
@@ -24,23 +23,20 @@ CellTable BuildByStepping(int order, BuildChoices& choices) {
 /// One number per step. Recognises turned and mirrored squares, too.
 std::vector<WalkStep> StepsOfStepping(const PlacedNumbers& square) {
   const auto moves = MovesOf(square);
-  if (!moves) return {};
-  const int n = square.Order();
-  std::vector<WalkStep> walk;
-  for (int number = 1; number <= n * n; ++number) {
-    const Place here = square.PlaceOf(number);
-    WalkStep step{{{here, std::to_string(number)}}, {here}, {}, {}, number};
-    if (number > 1) step.Arrow = {square.PlaceOf(number - 1), here};
-    step.Sentence = MoveSentence(square, *moves, number);
-    walk.push_back(std::move(step));
-  }
-  return walk;
+  return moves && IsDiagonal(*moves) ? StepsByMoves(square, *moves) : std::vector<WalkStep>();
 }
 
 }  // namespace
 
 const Construction kSteppingConstruction = {"stepping",
-                                            [](int order) { return order > 0 && order % 2 == 1; },
-                                            BuildByStepping, StepsOfStepping};
+                                            "BuildSteppingx",
+                                            "&Stepping",
+                                            "Simon de la Loubère, 1691, who had seen it in Siam",
+                                            [](int order) -> std::string {
+                                              if (order > 0 && order % 2 == 1) return {};
+                                              return MakesOther("stepping", "odd orders", order);
+                                            },
+                                            BuildByStepping,
+                                            StepsOfStepping};
 
 }  // namespace numorra

@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 
+#include "generate/construction.h"
 #include "help/about_window.h"
 #include "help/help_page.h"
 #include "help/help_window.h"
@@ -96,6 +98,14 @@ TEST(HelpPage, IsComplete) {
       "Space|green|red|LUX";
   for (const QString& word : words.split('|'))
     EXPECT_TRUE(page.contains(word)) << word.toStdString();
+  const QString text = QTextDocumentFragment::fromHtml(page).toPlainText();
+  for (const Construction* const construction : kConstructions) {
+    const QString row = QString(construction->Caption).remove('&') + '\n';
+    const qsizetype at = text.indexOf('\n' + row);
+    EXPECT_GE(at, 0) << construction->Term;
+    EXPECT_GT(text.indexOf(QString('\n') + construction->Source + '\n', at), 0)
+        << construction->Term;
+  }
 }
 
 TEST(About, ClosesByButtonTextAndEsc) {

@@ -126,6 +126,10 @@ std::vector<const Relative*> Session::RelativesOfBoard() const {
   return square ? RelativesOf(square->Numbers()) : std::vector<const Relative*>();
 }
 
+bool Session::LayOutConstruction(const Construction& construction) {
+  return numorra::LayOutConstruction(construction, Context());
+}
+
 bool Session::LayOutSpecial(const SpecialKind& kind) {
   return numorra::LayOutSpecial(kind, Context());
 }

@@ -95,6 +95,7 @@ class Session {
   void ShowRelative(const Relative& relative);
   std::vector<const Relative*> RelativesOfBoard() const;
   bool LayOutSpecial(const SpecialKind& kind);
+  bool LayOutConstruction(const Construction& construction);
   void LayOutFamous(const FamousSquare& famous);
 
   Remark Hint();

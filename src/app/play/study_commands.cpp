@@ -59,6 +59,25 @@ double FirstRowTotal(const Square<double>& square) {
   return sum.Total();
 }
 
+/// Lays out the normal square that `maker` builds for the order in the size box, or says why it
+/// makes none.
+template <class Maker, class Build>
+bool LayOutNormal(const Maker& maker, const CommandContext& context, Build build) {
+  const int order = ToInt16(Val(context.Boxes.Size()));
+  const char* const none = WhyNoBoardHas(order);
+  const std::string why = none ? none : maker.WhyNone(order);
+  if (!why.empty()) {
+    context.TheDialogs.Tell(why);
+    return false;
+  }
+  context.TheRandom.Reseed();
+  LayOut(context.TheBoard, context.Boxes,
+         {.Cells = StoredCells(build(order, context.TheRandom)),
+          .Total = static_cast<double>(NormalTotal(order)),
+          .Asked = Rules::Normal});
+  return true;
+}
+
 }  // namespace
 
 std::optional<NumberSquare> SquareOn(const Board& board) {
@@ -131,19 +150,13 @@ void ShowRelative(const Relative& relative, const CommandContext& context) {
 }
 
 bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context) {
-  const int order = ToInt16(Val(context.Boxes.Size()));
-  const char* const none = WhyNoBoardHas(order);
-  const std::string why = none ? none : kind.WhyNone(order);
-  if (!why.empty()) {
-    context.TheDialogs.Tell(why);
-    return false;
-  }
-  context.TheRandom.Reseed();
-  LayOut(context.TheBoard, context.Boxes,
-         {.Cells = StoredCells(kind.Build(order, context.TheRandom)),
-          .Total = static_cast<double>(NormalTotal(order)),
-          .Asked = Rules::Normal});
-  return true;
+  return LayOutNormal(kind, context, kind.Build);
+}
+
+bool LayOutConstruction(const Construction& construction, const CommandContext& context) {
+  return LayOutNormal(construction, context, [&](int order, Random& random) {
+    return SquareBy(construction, order, random);
+  });
 }
 
 void LayOutFamous(const FamousSquare& famous, const CommandContext& context) {

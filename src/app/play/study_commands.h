@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "app/board/command_context.h"
+#include "generate/construction.h"
 #include "study/famous.h"
 #include "study/kept_relatives.h"
 #include "study/number_square.h"
@@ -33,6 +34,9 @@ void ShowRelative(const Relative& relative, const CommandContext& context);
 /// A random square of that kind, of the order in the size box, as a new board by the normal rules.
 /// Returns false, with the reason, if there is none.
 bool LayOutSpecial(const SpecialKind& kind, const CommandContext& context);
+
+/// The same with a square that the construction makes.
+bool LayOutConstruction(const Construction& construction, const CommandContext& context);
 
 void LayOutFamous(const FamousSquare& famous, const CommandContext& context);
 

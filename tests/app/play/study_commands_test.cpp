@@ -105,6 +105,12 @@ TEST_F(StudyCommands, LayOutSquaresOfTheSizeBox) {
   EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
   EXPECT_EQ(board_.Asked, Rules::Normal);
   EXPECT_EQ(boxes_.SumText, "175");
+  EXPECT_FALSE(LayOutConstruction(*FindConstruction("quadrants"), context_));
+  EXPECT_EQ(dialogs_.Take(),
+            Messages{"the method of quadrants makes the orders 6, 10, 14 and so on, not 7"});
+  EXPECT_TRUE(LayOutConstruction(*FindConstruction("knight"), context_));
+  EXPECT_EQ(slow::WhyNotNormal(ShownRows(board_.grid)), "");
+  EXPECT_EQ(WalkOf(SquareOn(board_)->Numbers()).size(), 49U);
   LayOutFamous(FamousSquares().front(), context_);
   EXPECT_EQ(ShownRows(board_.grid), ParseRows("4 9 2 / 3 5 7 / 8 1 6"));
   EXPECT_EQ(boxes_.SizeText, "3");

@@ -89,7 +89,7 @@ TEST_F(StepPanelTest, ShowsEveryStepWhole) {
 
 TEST_F(StepPanelTest, PlaysExamplesAndEndsWithAChangeOfTheBoard) {
   Toggle();
-  EXPECT_EQ(Find<QComboBox>("WalkChoice").count(), 3);
+  EXPECT_EQ(Find<QComboBox>("WalkChoice").count(), 9);
   Find<QComboBox>("WalkChoice").setCurrentIndex(2);
   Q_EMIT Find<QComboBox>("WalkChoice").activated(2);
   EXPECT_EQ(View().TheWalk().Steps(), 11);

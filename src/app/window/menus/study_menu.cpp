@@ -89,6 +89,13 @@ void StudyMenu::AddSquares(QMenu* menu) {
     add(special, kind,
         [this](const SpecialKind& chosen) { return desk_.TheSession.LayOutSpecial(chosen); });
   }
+  QMenu* construct = Named("Constructx", menu->addMenu("C&onstruct"));
+  construct->setToolTipsVisible(true);
+  for (const Construction* const construction : kConstructions) {
+    add(construct, *construction, [this](const Construction& chosen) {
+      return desk_.TheSession.LayOutConstruction(chosen);
+    })->setToolTip(construction->Source);
+  }
   QMenu* famous = Named("Famousx", menu->addMenu("&Famous"));
   famous->setToolTipsVisible(true);
   for (const FamousSquare& square : FamousSquares()) {

@@ -10,7 +10,7 @@
 namespace numorra {
 namespace {
 
-constexpr int kExamples[] = {5, 8, 6};
+constexpr int kOnBoard = -1;  // the choice that is no example
 constexpr int kSpeeds = 10;
 constexpr int kSlowest = 2000;  // milliseconds per step
 
@@ -112,10 +112,11 @@ void StepPanel::Begin(const Square<double>& square) {
   square_ = square;
   choice_->clear();
   if (!WalkOf(square).empty()) {
-    choice_->addItem("the square on the board", 0);
+    choice_->addItem("the square on the board", kOnBoard);
   }
-  for (const int example : kExamples)
-    choice_->addItem(QString("an example of size %1").arg(example), example);
+  examples_ = WalkExamples();
+  for (std::size_t i = 0; i < examples_.size(); ++i)
+    choice_->addItem(QString::fromStdString(examples_[i].Caption), static_cast<int>(i));
   BeginChosen();
   next_->setFocus();
 }
@@ -124,7 +125,8 @@ void StepPanel::BeginChosen() {
   if (choice_->count() == 0) return;
   Play(false);
   const int example = choice_->currentData().toInt();
-  const Square<double> square = example == 0 ? square_ : ExampleToWalk(example);
+  const Square<double>& square =
+      example == kOnBoard ? square_ : examples_[static_cast<std::size_t>(example)].Numbers;
   view_->Begin(square.Order(), WalkOf(square));
   asked_ = right_ = 0;
   steps_->setRange(0, view_->TheWalk().Steps());

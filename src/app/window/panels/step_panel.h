@@ -49,6 +49,7 @@ class StepPanel : public LazyPanel {
   QLabel* sentence_ = nullptr;
   QTimer timer_;
   Square<double> square_;
+  std::vector<WalkExample> examples_;
   int asked_ = 0;
   int right_ = 0;
 };

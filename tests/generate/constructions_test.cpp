@@ -1,0 +1,286 @@
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+
+#include "generate/construction.h"
+#include "support/boards.h"
+#include "support/slow_classifier.h"
+#include "support/stand_ins.h"
+
+namespace numorra {
+namespace {
+
+using Texts = std::map<std::pair<int, int>, std::string>;
+
+/// A sentence says where the number after `From` goes: so many rows down and columns to the right.
+struct SaidMove {
+  int Rows = 0;
+  int Columns = 0;
+};
+
+SaidMove MoveIn(const std::smatch& words) {
+  const auto far = [](const std::string& count) { return count == "two " ? 2 : 1; };
+  SaidMove move;
+  if (words[2].matched) move.Rows = far(words[1]) * (words[2] == "up" ? -1 : 1);
+  if (words[4].matched) move.Columns = far(words[3]) * (words[4] == "left" ? -1 : 1);
+  return move;
+}
+
+/// Holds each move of a sentence about a number against the arrow, the cells and the edges.
+void ExpectSaidMove(const WalkStep& step, const Texts& before, int n) {
+  static const std::regex kSlanted("(two |one |)(up|down) and (two |one |)to the (left|right)");
+  static const std::regex kStraight("goes (?:(two |)(above|below)|(two |)to the (left|right) of) ");
+  const std::string& said = step.Sentence;
+  std::smatch words;
+  if (!step.Arrow || !std::regex_search(said, words, kSlanted)) return;
+  const auto [from, to] = *step.Arrow;
+  const auto wrapped = [n](int line) { return (line + n - 1) % n + 1; };
+  const auto after = [&](Place place, SaidMove move) {
+    return Place{wrapped(place.Row + move.Rows), wrapped(place.Column + move.Columns)};
+  };
+  SaidMove move = MoveIn(words);
+  const std::size_t run = step.Written.size();
+  for (std::size_t i = 1; i < run; ++i)
+    EXPECT_EQ(step.Written[i].first, after(step.Written[i - 1].first, move)) << said;
+  if (from == step.Written.front().first) {
+    EXPECT_EQ(to, step.Written.back().first) << said;
+    return;
+  }
+  EXPECT_EQ(to, step.Written.front().first);
+  if (std::smatch beside; std::regex_search(said, beside, kStraight)) {
+    const Place taken = after(from, move);
+    EXPECT_EQ(said.find("finds " + before.at({taken.Row, taken.Column}) + " in its way"),
+              said.find("finds "));
+    move = MoveIn(beside);
+    if (beside[2].matched) move.Rows = std::abs(move.Rows) * (beside[2] == "above" ? -1 : 1);
+  }
+  EXPECT_EQ(to, after(from, move)) << said;
+  if (said.find("what leaves the board") < said.size()) return;
+  const std::pair<const char*, bool> edges[] = {
+      {"at the top, so in at the bottom", from.Row + move.Rows < 1},
+      {"at the bottom, so in at the top", from.Row + move.Rows > n},
+      {"on the left, so in on the right", from.Column + move.Columns < 1},
+      {"on the right, so in on the left", from.Column + move.Columns > n}};
+  for (const auto& [leaving, leaves] : edges)
+    EXPECT_EQ(said.find(leaving) != std::string::npos, leaves) << said;
+}
+
+/// Holds a line that a sentence names against the cells that are written.
+void ExpectSaidLine(const WalkStep& step) {
+  static const std::regex kLine(
+      "to (row|column) (\\d+), (?:column|row)(s?) (\\d+)(?: to (\\d+))?$");
+  std::smatch words;
+  if (!std::regex_search(step.Sentence, words, kLine)) return;
+  const int line = std::stoi(words[2]);
+  int at = std::stoi(words[4]);
+  for (const auto& [place, text] : step.Written) {
+    EXPECT_EQ(place, words[1] == "row" ? (Place{line, at}) : (Place{at, line})) << step.Sentence;
+    ++at;
+  }
+  EXPECT_EQ(at - 1, std::stoi(words[words[5].matched ? 5 : 4])) << step.Sentence;
+}
+
+/// Changes the first row as a sentence about another row says.
+std::vector<int> ChangedRow(std::vector<int> row, const std::string& said) {
+  static const std::regex kExchange("neighbouring (?:numbers|groups of (\\d+)) exchanged");
+  static const std::regex kMove(
+      "(all|each group of (\\d+)) ?(?:numbers)? moved (\\d+) to the (l|r)");
+  for (std::sregex_iterator it(said.begin(), said.end(), kExchange), end; it != end; ++it) {
+    const int size = (*it)[1].matched ? std::stoi((*it)[1]) : 1;
+    for (auto at = row.begin(); at != row.end(); at += 2 * size)
+      std::rotate(at, at + size, at + 2 * size);
+  }
+  std::smatch move;
+  if (!std::regex_search(said, move, kMove)) return row;
+  const int size = move[2].matched ? std::stoi(move[2]) : static_cast<int>(row.size());
+  const int by = std::stoi(move[3]);
+  for (auto at = row.begin(); at != row.end(); at += size)
+    std::rotate(at, at + (move[4] == "l" ? by : size - by), at + size);
+  return row;
+}
+
+/// Holds "row 3 is row 1 with ..." and "row 3 adds what row 1 adds, with ..." against the numbers.
+void ExpectSaidRow(const WalkStep& step, const Texts& before, std::vector<int>& firstRow) {
+  std::vector<int> row;
+  for (const auto& [place, text] : step.Written) {
+    const auto had = before.find({place.Row, place.Column});
+    row.push_back(std::stoi(text) - (had == before.end() ? 0 : std::stoi(had->second)));
+  }
+  if (step.Written[0].first.Row == 1) {
+    firstRow = row;
+  } else {
+    EXPECT_EQ(row, ChangedRow(firstRow, step.Sentence)) << step.Sentence;
+  }
+}
+
+/// Plays the walk of a square: its sentences are true, and its last board is the square.
+void ExpectTrueWalk(const std::string& construction, const Square<double>& square,
+                    const std::vector<WalkStep>& steps) {
+  const int n = square.Order();
+  Texts board;
+  std::vector<int> firstRow;
+  for (const WalkStep& step : steps) {
+    EXPECT_FALSE(step.Sentence.empty());
+    EXPECT_TRUE(!step.Arrow || step.Marked.empty() ||
+                std::count(step.Marked.begin(), step.Marked.end(), step.Arrow->second) == 1)
+        << step.Sentence;
+    const bool quarter = step.Sentence.starts_with("in the upper left quarter");
+    const bool whole = construction != "composite" && construction != "lux";
+    if (whole) ExpectSaidMove(step, board, quarter ? n / 2 : n);
+    if (whole) ExpectSaidLine(step);
+    if (construction == "latin") ExpectSaidRow(step, board, firstRow);
+    for (const auto& [place, text] : step.Written)
+      board[{place.Row, place.Column}] = text;
+    if (step.Number > 0) {
+      EXPECT_EQ(step.Written[0].second, std::to_string(step.Number));
+      EXPECT_NE(step.Sentence.find(std::to_string(step.Number)), std::string::npos);
+    }
+  }
+  ASSERT_EQ(static_cast<int>(board.size()), square.Size()) << "order " << n;
+  for (int cell = 0; cell < square.Size(); ++cell) {
+    const Place place = square.PlaceOf(cell);
+    ASSERT_EQ((board[{place.Row, place.Column}]), std::to_string(static_cast<int>(square[cell])));
+  }
+}
+
+TEST(Constructions, MakeMagicSquaresOfEveryOrderTheyClaim) {
+  const std::map<std::string, bool (*)(int)> claims = {
+      {"stepping", [](int n) { return n % 2 == 1; }},
+      {"lozenge", [](int n) { return n % 2 == 1; }},
+      {"knight", [](int n) { return n % 2 == 1 && n > 3; }},
+      {"quadrants", [](int n) { return n % 4 == 2; }},
+      {"borders", [](int n) { return n > 4; }},
+      {"latin", [](int n) { return n % 4 != 2; }},
+      {"composite",
+       [](int n) {
+         int products = 0;
+         for (int m = 3; m < n; ++m)
+           products += n % m == 0 && n / m > 2 ? 1 : 0;
+         return products > 0;
+       }},
+      {"lux", [](int n) { return n % 4 == 2; }},
+      {"marks", [](int n) { return n % 4 == 0; }}};
+  SeededRandom random(3);
+  for (const Construction* const construction : kConstructions) {
+    ASSERT_EQ(FindConstruction(construction->Term), construction);
+    for (int n = 3; n <= 50; ++n) {
+      SCOPED_TRACE(construction->Term + std::string(" of order ") + std::to_string(n));
+      const std::string why = construction->WhyNone(n);
+      ASSERT_EQ(why.empty(), claims.at(construction->Term)(n)) << why;
+      if (!why.empty()) {
+        EXPECT_TRUE(why.ends_with(", not " + std::to_string(n))) << why;
+        continue;
+      }
+      for (const auto& square : {ExampleOf(*construction, n), SquareBy(*construction, n, random)}) {
+        ASSERT_EQ(slow::WhyNotNormal(RowsOf(square)), "");
+        ExpectTrueWalk(construction->Term, square, construction->StepsOf(PlacedNumbers(square)));
+        EXPECT_FALSE(WalkOf(square).empty());
+      }
+    }
+  }
+  EXPECT_EQ(FindConstruction("no such"), nullptr);
+}
+
+TEST(Constructions, MakeTheKnightsSquarePandiagonalWithoutAFactor3) {
+  for (int n = 5; n < 26; n += 2) {
+    const auto is =
+        slow::Classifier(slow::IntsOf(RowsOf(ExampleOf(*FindConstruction("knight"), n)))).Run();
+    EXPECT_EQ(is.at("pandiagonal"), n % 3 != 0) << n;
+    EXPECT_EQ(is.at("associative"), true) << n;
+  }
+}
+
+/// All moves of up to three cells: those that sentences name are told truly, and no others are.
+TEST(Constructions, TellStepsOfEveryDirection) {
+  int told = 0;
+  for (int code = 0; code < 2 * 7 * 7 * 7 * 7; ++code) {
+    const int n = code % 2 == 0 ? 7 : 9;
+    const auto digit = [&](int place) { return code / 2 / place % 7 - 3; };
+    const SaidMove usual{digit(1), digit(7)};
+    const SaidMove other{digit(49), digit(343)};
+    Square<double> square(n);
+    int row = 0;
+    int column = 0;
+    for (int number = 1; number <= n * n; ++number) {
+      square[row * n + column] = number;
+      const SaidMove& move = number % n == 0 ? other : usual;
+      row = (row + move.Rows + n) % n;
+      column = (column + move.Columns + n) % n;
+    }
+    const PlacedNumbers placed(square);
+    if (!placed.IsNormal()) continue;
+    const int area = std::abs(usual.Rows * usual.Columns);
+    const int straight = other.Rows * other.Columns == 0 ? std::abs(other.Rows + other.Columns) : 0;
+    const bool named = area > 0 && area < 3 && straight > 0 && straight < 3;
+    const char* const term = area == 1 ? "stepping" : "knight";
+    const auto steps = FindConstruction(term)->StepsOf(placed);
+    ASSERT_EQ(!steps.empty(), named) << code;
+    if (named) ExpectTrueWalk(term, square, steps);
+    told += named ? 1 : 0;
+  }
+  EXPECT_GT(told, 50);
+}
+
+TEST(Constructions, PutBordersAroundMagicSquares) {
+  for (int n = 5; n <= 12; ++n) {
+    const auto square = RowsOf(ExampleOf(*FindConstruction("borders"), n));
+    EXPECT_EQ(slow::Classifier(slow::IntsOf(square)).Run().at("bordered"), true) << n;
+  }
+}
+
+TEST(Constructions, SayWhatAClassNeedsToHear) {
+  struct Case {
+    const char* Term;
+    int Order;
+    std::size_t Step;
+    const char* Sentence;
+  };
+  const Case cases[] = {
+      {"lozenge", 5, 0, "the odd numbers 1 to 5 go up and to the right from row 3, column 1"},
+      {"lozenge", 5, 6,
+       "the even numbers 6 to 10 go on up and to the right from 9; what leaves the board comes in "
+       "again on the opposite side"},
+      {"quadrants", 6, 0, "in the upper left quarter, 1 goes to row 1, column 2"},
+      {"quadrants", 10, 25,
+       "the lower right quarter takes the numbers of the upper left one, each raised by 25"},
+      {"quadrants", 10, 29, "rows 2 and 7 exchange their numbers in columns 1 to 2 and 10"},
+      {"quadrants", 6, 13,
+       "rows 2 and 5 exchange their numbers in column 2, further right as these are the middle "
+       "rows"},
+      {"borders", 8, 2, "in the ring of order 8, 3 to 6 go to row 8, columns 2 to 5"},
+      {"borders", 8, 8,
+       "in the ring of order 8, opposite each number, at corners along the diagonal, goes 65 minus "
+       "it"},
+      {"borders", 8, 17,
+       "the middle takes 25 to 40 in reading order, but on its two diagonals counted back from 40"},
+      {"borders", 7, 3, "in the ring of order 7, 8 goes to row 7, column 1"},
+      {"borders", 7, 1, "in the ring of order 7, 4 to 5 go to column 1, rows 2 to 3"},
+      {"latin", 5, 0,
+       "row 1 takes the multiples of 5 from 0 to 20, each once, with the middle one, 10, last"},
+      {"latin", 5, 7,
+       "row 3 adds what row 1 adds, with all numbers moved 2 to the right, in again at the "
+       "other end"},
+      {"latin", 8, 8, "row 1 adds 1 to 8, each once, in any order"},
+      {"latin", 12, 0,
+       "row 1 takes the multiples of 12 from 0 to 132, each once, so that the last ones of its "
+       "groups of 3 add up to 264"},
+      {"latin", 12, 10,
+       "row 11 is row 1 with neighbouring groups of 3 exchanged and the numbers of each group of 3 "
+       "moved 1 to the left, in again at the other end"},
+      {"composite", 15, 4, "numbering the parts: 5 goes up and to the right"},
+      {"composite", 12, 9, "in part 1, row 1 takes 1 to 4, from the left"},
+      {"composite", 9, 18, "part 2 takes the numbers of part 1, each raised by 9"},
+      {"lozenge", 3, 1, "the odd number 5 goes to row 2, column 2"},
+      {"knight", 5, 3, "4 goes two up and one to the right"},
+      {"knight", 5, 5,
+       "6 finds 1 in its way two up and one to the right, so it goes two to the "
+       "right of 5"}};
+  for (const Case& c : cases) {
+    const Construction& construction = *FindConstruction(c.Term);
+    const auto steps = construction.StepsOf(PlacedNumbers(ExampleOf(construction, c.Order)));
+    EXPECT_EQ(steps.at(c.Step).Sentence, c.Sentence);
+  }
+}
+
+}  // namespace
+}  // namespace numorra
