@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
+#include <set>
 
 #include "generate/construction.h"
 #include "support/boards.h"
@@ -219,6 +220,26 @@ TEST(Constructions, TellStepsOfEveryDirection) {
     told += named ? 1 : 0;
   }
   EXPECT_GT(told, 50);
+}
+
+TEST(Constructions, TakeTheirChoicesAtRandom) {
+  struct Case {
+    const char* Term;
+    int Order;
+    std::size_t Least;
+  };
+  const Case cases[] = {{"stepping", 9, 5},
+                        {"marks", 8, 4},
+                        {"latin", 8, 30},
+                        {"latin", 9, 30},
+                        {"composite", 12, 8}};
+  SeededRandom random(5);
+  for (const Case& c : cases) {
+    std::set<Square<double>> drawn;
+    for (int draw = 0; draw < 30; ++draw)
+      drawn.insert(SquareBy(*FindConstruction(c.Term), c.Order, random));
+    EXPECT_GE(drawn.size(), c.Least) << c.Term;
+  }
 }
 
 TEST(Constructions, PutBordersAroundMagicSquares) {
