@@ -67,10 +67,12 @@ std::vector<std::string> GradeNames() {
 const std::vector<CommandEntry>& Commands() {
   static const std::vector<CommandEntry> kCommands = {
       {kBuild, "",
-       "--size N [options]\n--top-row A,B,C,D|FILE [options]\n--kind TERM --size N [options]",
+       "--size N [options]\n--top-row A,B,C,D|FILE [options]\n--kind TERM --size N [options]\n"
+       "--construction NAME --size N [options]",
        "Prints magic squares and the total of their lines: squares of the numbers 1 to N x N, of "
        "any "
-       "total, 4 x 4 with a top row of your choice, or of a special kind.",
+       "total, 4 x 4 with a top row of your choice, of a special kind, or made by a construction "
+       "of your choice.",
        false},
       {kStudy, "study", "[FILE|-] [options]",
        "study says what kinds of squares they are, and why. It reads rows of numbers from a file "

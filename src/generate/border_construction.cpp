@@ -178,11 +178,10 @@ void AddRing(std::vector<WalkStep>& walk, const Border& ring, int n) {
       WriteInRing(opposite, InSquare(OppositeInRing(places[i], ring.Order), ring.Order, n),
                   complements - number);
     }
-    const std::string name = NameOfRun(run.Marked.front(), run.Marked.back());
-    run.Sentence =
-        where + std::to_string(first) +
-        (number == first + 1 ? " goes to " : " to " + std::to_string(number - 1) + " go to ") +
-        name;
+    run.Sentence = where + std::to_string(first);
+    if (number > first + 1) run.Sentence += " to " + std::to_string(number - 1);
+    run.Sentence += number == first + 1 ? " goes to " : " go to ";
+    run.Sentence += NameOfRun(run.Marked.front(), run.Marked.back());
     walk.push_back(std::move(run));
   }
   walk.push_back(std::move(opposite));

@@ -54,7 +54,8 @@ std::vector<Place> CellsOfPart(Place part, int k) {
 std::vector<WalkStep> StepsOfParts(const PlacedNumbers& square, int m) {
   const int k = square.Order() / m;
   const PlacedNumbers outer(SquareOf(m, [&](int cell) -> double {
-    return (square.At(CellsOfPart(PlaceAt(cell, m), k).front()) - 1) / (k * k) + 1;
+    const int raised = (square.At(CellsOfPart(PlaceAt(cell, m), k).front()) - 1) / (k * k);
+    return raised + 1;
   }));
   const auto inner = SquareOf(
       k, [&](int cell) -> double { return (square.At(PlaceAt(cell, k)) - 1) % (k * k) + 1; });

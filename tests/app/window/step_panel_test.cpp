@@ -1,5 +1,6 @@
 #include "app/window/panels/step_panel.h"
 
+#include "generate/construction.h"
 #include "support/window_fixture.h"
 
 namespace numorra {
@@ -56,7 +57,7 @@ TEST_F(StepPanelTest, WalksTheSquareOnTheBoardByKeys) {
 /// A step repaints only what it changes; the screen equals a full repaint.
 TEST_F(StepPanelTest, ShowsEveryStepWhole) {
   Toggle();
-  for (const int example : {0, 1, 2}) {
+  for (const int example : {0, 1, 2, 3, 8}) {
     Find<QComboBox>("WalkChoice").setCurrentIndex(example);
     Q_EMIT Find<QComboBox>("WalkChoice").activated(example);
     for (const int step : {1, 2, 3, 4, 6, 7, 5, 2, 1, 0}) {
@@ -84,6 +85,22 @@ TEST_F(StepPanelTest, ShowsEveryStepWhole) {
       EXPECT_GT(ink(1 - 0.36 * side / way.length()), ink(0.36 * side / way.length()))
           << "its head is where the step leads";
     }
+  }
+}
+
+TEST_F(StepPanelTest, WalksSquaresOfTheConstructMenu) {
+  for (const Construction* const construction : kConstructions) {
+    const int order = construction->WhyNone(9).empty()    ? 9
+                      : construction->WhyNone(10).empty() ? 10
+                                                          : 8;
+    Type("Text1", std::to_string(order).c_str());
+    Find<QAction>(construction->Name).trigger();
+    EXPECT_EQ(static_cast<int>(Rows().size()), order) << construction->Name;
+    Toggle();
+    EXPECT_EQ(Find<QComboBox>("WalkChoice").currentText(), "the square on the board");
+    Find<QSlider>("StepSlider").setValue(View().TheWalk().Steps());
+    EXPECT_EQ(ShownRows(View().Cells()), Rows());
+    Toggle();
   }
 }
 
