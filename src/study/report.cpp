@@ -58,9 +58,8 @@ std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   }
   if (report.Census > 0) {
     details.emplace_back("census number", std::to_string(report.Census) + " of the 880 of order 4");
-    details.emplace_back("Dudeney type", report.Complements.Type +
-                                             ", the pairs that add up to 17 stand at " +
-                                             report.Complements.Pairs);
+    details.emplace_back("Dudeney type", report.Complements.Type);
+    details.emplace_back("pairs of 17", report.Complements.Pairs);
   }
   return details;
 }

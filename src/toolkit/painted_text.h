@@ -22,7 +22,8 @@ inline void DrawLine(QPainter& painter, QPointF start, const QString& text) {
 
 /// Draws a line of text in the middle of `place`.
 inline void DrawCentred(QPainter& painter, const QRectF& place, const QString& text) {
-  if (!DrawsOutlines(painter)) return painter.drawText(place, Qt::AlignCenter, text);
+  if (!DrawsOutlines(painter))
+    return painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, text);
   const QFontMetricsF metrics(painter.font());
   const QPointF middle = place.center();
   DrawLine(painter,

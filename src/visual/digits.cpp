@@ -43,7 +43,7 @@ QColor ColourOf(double share) {
 /// Neighbouring cells meet without a seam, as their edges are not blended with what is behind.
 void PaintDigits(QPainter& painter, const DrawingArea& area) {
   constexpr double kLargest = 0.6;  // of a digit, as a share of its cell
-  constexpr double kTitle = 0.05;   // its height, as a share of the width: both titles fit
+  constexpr double kTitle = 0.055;  // its height, as a share of the board's width
   const auto digits = DigitsOn(area.TheBoard);
   if (!digits) return;
   const int n = area.TheBoard.GridSize;

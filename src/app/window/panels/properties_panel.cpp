@@ -16,8 +16,9 @@ namespace numorra {
 namespace {
 
 constexpr const char* kSquareGroup = "The square";
-constexpr const char* kDetails[] = {"famous",   "sum",           "smallest",      "largest",
-                                    "repeated", "standard form", "census number", "Dudeney type"};
+constexpr const char* kDetails[] = {"famous",        "sum",          "smallest",
+                                    "largest",       "repeated",     "standard form",
+                                    "census number", "Dudeney type", "pairs of 17"};
 
 char16_t MarkFor(Answer answer) {
   switch (answer) {
@@ -196,7 +197,7 @@ void PropertiesPanel::ShowChosen() {
     text = QString("%1: %2.\n\nIt %3: %4.")
                .arg(property.What->Name, property.What->Definition, WordFor(property.Found.Says),
                     QString::fromStdString(property.Found.Why));
-  } else if (report_ && chosen && chosen->parent()) {
+  } else if (report_ && chosen && chosen->parent() && !chosen->isHidden()) {
     text = chosen->text(0) + ": " + chosen->text(1);
     text.replace(" / ", "\n");
   }
