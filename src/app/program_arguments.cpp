@@ -1,15 +1,20 @@
 #include "app/program_arguments.h"
 
+#include <algorithm>
+
 namespace numorra {
 
 using Kind = ProgramRequest::Kind;
 
 ProgramRequest ParseProgramArguments(const std::vector<std::string>& words) {
   constexpr std::pair<const char*, Kind> kOptions[] = {{"--new-board", Kind::NewBoard},
-                                                       {"--new-puzzle", Kind::NewPuzzle},
-                                                       {"--help", Kind::Help},
-                                                       {"--version", Kind::Version}};
+                                                       {"--new-puzzle", Kind::NewPuzzle}};
   ProgramRequest request;
+  const auto ended = std::find(words.begin(), words.end(), "--");
+  for (auto word = words.begin(); word != ended; ++word) {
+    if (*word == "--help") return {Kind::Help, *word};
+    if (*word == "--version") return {Kind::Version, *word};
+  }
   bool optionsEnded = false;
   for (const std::string& word : words) {
     if (!optionsEnded && word == "--") {
@@ -23,8 +28,7 @@ ProgramRequest ParseProgramArguments(const std::vector<std::string>& words) {
         if (word == name) next = {kind, word};
       }
     }
-    const bool tells = next.Wanted == Kind::Help || next.Wanted == Kind::Version;
-    if (tells || next.Wanted == Kind::Wrong) return next;
+    if (next.Wanted == Kind::Wrong) return next;
     if (request.Wanted != Kind::Window) {
       return {Kind::Wrong,
               "only one window can be opened, not one with '" + word + "' too; try --help"};

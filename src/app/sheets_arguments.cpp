@@ -30,7 +30,7 @@ class SheetsReader {
     if (!words_.Error().empty()) return words_.Error() + "; try --help";
     const Arguments puzzles = ParseArguments(others_);
     if (const auto* bad = std::get_if<BadArguments>(&puzzles)) return bad->Message;
-    if (const auto* made = std::get_if<SquareRequest>(&puzzles)) request_.Puzzles = *made;
+    request_.Puzzles = std::get<SquareRequest>(puzzles);
     return request_;
   }
 
@@ -48,6 +48,9 @@ class SheetsReader {
     }
     if (option == "--title") return Set(request_.Title, words_.Value());
     if (option == "--per-page") return TakePerPage(words_.Value());
+    for (const char* other : {"--format", "--steps", "--help", "--version"}) {
+      if (option == other) words_.Fail("'" + option + "' does not go with '--sheets'");
+    }
     return option == "--paper" && TakePaper(words_.Value());
   }
 

@@ -22,6 +22,8 @@ TEST(ProgramArguments, SayWithWhatToBegin) {
                         {{"--", "-1.json"}, Kind::Open, "-1.json"},
                         {{"--new-puzzle"}, Kind::NewPuzzle, "--new-puzzle"},
                         {{"a.json", "--help"}, Kind::Help, "--help"},
+                        {{"--sheets", "a.pdf", "--help"}, Kind::Help, "--help"},
+                        {{"--", "--help"}, Kind::Open, "--help"},
                         {{"--bogus"}, Kind::Wrong, "unknown argument '--bogus'; try --help"},
                         {{"a", "b"},
                          Kind::Wrong,
@@ -44,6 +46,9 @@ TEST(SheetsArguments, AreRefusedWithASentence) {
       {"--sheets a.pdf", "the size is missing; try --help"},
       {"--sheets a.pdf --size 4 --per-page 3", "a page has 1, 2, 4 or 6 puzzles; try --help"},
       {"--sheets a.pdf --size 4 --paper a5", "the paper must be a4 or letter; try --help"},
+      {"--sheets a.pdf --help", "'--help' does not go with '--sheets'; try --help"},
+      {"--sheets a.pdf --size 4 --format=json",
+       "'--format' does not go with '--sheets'; try --help"},
       {"--sheets a.pdf --size 4 --large", "unknown argument '--large'; try --help"},
       {"--sheets a.pdf --codes b --grade hard",
        "a list of codes can be combined with a format, a title and steps only; try --help"}};
