@@ -15,6 +15,7 @@
 #include "app/window/main_window.h"
 #include "app/write_sheets.h"
 #include "toolkit/program_icon.h"
+#include "words/language.h"
 
 namespace {
 
@@ -112,6 +113,7 @@ void Begin(numorra::MainWindow& window, const numorra::ProgramRequest& request) 
 int main(int argc, char** argv) {
   qInstallMessageHandler(ReportFatally);
   KeepNoSettings();
+  numorra::SpeakLanguageOfDesktop();
   const auto answered = AnswerWithoutWindow(numorra::ParseProgramArguments(WordsOf(argc, argv)));
   if (answered) return *answered;
   const bool sheets = numorra::AsksForSheets(WordsOf(argc, argv));

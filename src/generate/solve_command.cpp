@@ -55,7 +55,7 @@ void SolveCommand::Auto() {
   ports_.Stage.ShowCount("");
   if (ports_.TheBoard.SolveMode == ModeNormal) {
     if (Val(ports_.Boxes.Size()) >= kMaxOrder + 1) {
-      ports_.TheDialogs.Tell(kOrderTooLarge);
+      ports_.TheDialogs.Tell(Say(kOrderTooLarge));
     } else {
       BuildNormalSquare();
     }
@@ -106,7 +106,7 @@ bool SolveCommand::ReadPlan() {
   const double size = Val(ports_.Boxes.Size());
   const double sum = Val(ports_.Boxes.Sum());
   if (ToInt16(size) < 1) {
-    ports_.TheDialogs.Tell(kOrderTooSmall);
+    ports_.TheDialogs.Tell(Say(kOrderTooSmall));
     return false;
   }
   const VariablePlan plan = PlanVariableSquare(size, sum, ports_.Options.LimitToNine(),

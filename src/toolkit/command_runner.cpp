@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include "app/board/runtime_error.h"
+#include "words/say.h"
 #include "app/board/scoped_flag.h"
 #include "app/ports/build_stage.h"
 
@@ -34,11 +35,11 @@ void CommandRunner::RunBeside(const Command& command) {
   } catch (const Superseded&) {
     // The newer command follows.
   } catch (const std::bad_alloc&) {
-    dialogs_.Tell(Describe(Fault::OutOfMemory));
+    dialogs_.Tell(Say(Describe(Fault::OutOfMemory)));
   } catch (const std::exception& error) {
     dialogs_.Tell(error.what());
   } catch (...) {
-    dialogs_.Tell("Unknown error");
+    dialogs_.Tell(Say("Unknown error"));
   }
 }
 

@@ -1,5 +1,7 @@
 #include "app/board/line.h"
 
+#include "words/say.h"
+
 namespace numorra {
 
 int Line::Cell(int i, int n) const {
@@ -44,20 +46,20 @@ std::vector<Line> BrokenDiagonals(int order) {
 }
 
 std::string NameOf(Line line, int order) {
-  const std::string number = std::to_string(line.K + 1);
+  const int number = line.K + 1;
   switch (line.Way) {
     case Line::Row:
-      return "row " + number;
+      return Say("row %1", number);
     case Line::Column:
-      return "column " + number;
+      return Say("column %1", number);
     case Line::Falling:
-      if (line.K == 0) return "the main diagonal that falls";
-      return "the broken diagonal that falls from row 1, column " + number;
+      if (line.K == 0) return Say("the main diagonal that falls");
+      return Say("the broken diagonal that falls from row 1, column %1", number);
     case Line::Rising:
       break;
   }
-  if (line.K == order - 1) return "the main diagonal that rises";
-  return "the broken diagonal that rises to row 1, column " + number;
+  if (line.K == order - 1) return Say("the main diagonal that rises");
+  return Say("the broken diagonal that rises to row 1, column %1", number);
 }
 
 std::vector<Place> PlacesOf(Line line, int order) {

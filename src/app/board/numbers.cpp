@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "app/board/runtime_error.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -101,6 +102,10 @@ std::string Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
   return std::string(text.substr(first, text.find_last_not_of(kBlanks) - first + 1));
+}
+
+std::string Written(double value) {
+  return Written(std::string_view(Decimal(value)));
 }
 
 std::string Decimal(double value) {

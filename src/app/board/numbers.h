@@ -31,6 +31,9 @@ std::string Trim(std::string_view text);
 /// Str without its leading blank: the form of numbers on the board.
 std::string Decimal(double value);
 
+/// Decimal(value) as the reader's language writes it in a sentence.
+std::string Written(double value);
+
 /// The most digits of a number in a cell; the totals of 50 such whole numbers are exact.
 inline constexpr int kMostCellDigits = 14;
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "app/board/numbers.h"
+#include "words/say.h"
 
 /// The sizes of boards, defined once for all commands.
 namespace numorra {
@@ -12,10 +13,10 @@ namespace numorra {
 inline constexpr int kMinOrder = 3;
 inline constexpr int kMaxOrder = 50;
 
-inline constexpr const char* kOrderTooSmall = "grid size should be 3x3 or bigger";
-inline constexpr const char* kOrderTooLarge = "grid size should be 50x50 or smaller";
+inline constexpr const char* kOrderTooSmall = Mark("grid size should be 3x3 or bigger");
+inline constexpr const char* kOrderTooLarge = Mark("grid size should be 50x50 or smaller");
 
-/// Why no board has this order, in a sentence for the player; null for valid orders.
+/// Why no board has this order, in a sentence to be said to the player; null for valid orders.
 inline const char* WhyNoBoardHas(int order) {
   if (order < kMinOrder) return kOrderTooSmall;
   return order > kMaxOrder ? kOrderTooLarge : nullptr;

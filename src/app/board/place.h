@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "words/say.h"
+
 namespace numorra {
 
 /// A cell of the value block, its row and column counted from 1.
@@ -27,7 +29,7 @@ inline std::size_t IndexOf(Place place, int order) {
 
 /// The name of a cell in messages: "row 1, column 2".
 inline std::string NameOf(Place place) {
-  return "row " + std::to_string(place.Row) + ", column " + std::to_string(place.Column);
+  return Say("row %1, column %2", place.Row, place.Column);
 }
 
 }  // namespace numorra

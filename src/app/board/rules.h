@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "words/say.h"
+
 namespace numorra {
 
 /// The numbers allowed in a board's gaps: each of 1 to n x n once, or any whole numbers of 1 or
@@ -11,9 +13,8 @@ enum class Rules { Normal, Positive };
 /// The rules for a board of an order in words: "the numbers 1 to 16, each once", or "any whole
 /// numbers".
 inline std::string InWords(Rules rules, int order) {
-  return rules == Rules::Positive
-             ? "any whole numbers"
-             : "the numbers 1 to " + std::to_string(order * order) + ", each once";
+  return rules == Rules::Positive ? Say("any whole numbers")
+                                  : Say("the numbers 1 to %1, each once", order * order);
 }
 
 }  // namespace numorra

@@ -2,31 +2,33 @@
 
 #include <string>
 
+#include "words/say.h"
+
 namespace numorra {
 
 const char* Describe(Fault fault) {
   switch (fault) {
     case Fault::InvalidPropertyValue:
-      return "Invalid property value";
+      return Mark("Invalid property value");
     case Fault::Overflow:
-      return "Overflow";
+      return Mark("Overflow");
     case Fault::SubscriptOutOfRange:
-      return "Subscript out of range";
+      return Mark("Subscript out of range");
     case Fault::TypeMismatch:
-      return "Type mismatch";
+      return Mark("Type mismatch");
     case Fault::OutOfMemory:
-      return "Out of memory";
+      return Mark("Out of memory");
     case Fault::FileError:
-      return "File error";
+      return Mark("File error");
     case Fault::PrinterError:
-      return "Printer error";
+      return Mark("Printer error");
   }
-  return "Unknown error";
+  return Mark("Unknown error");
 }
 
-RuntimeError::RuntimeError(Fault fault) : std::runtime_error(Describe(fault)), fault_(fault) {}
+RuntimeError::RuntimeError(Fault fault) : std::runtime_error(Say(Describe(fault))), fault_(fault) {}
 
 RuntimeError::RuntimeError(Fault fault, const std::string& detail)
-    : std::runtime_error(std::string(Describe(fault)) + ": " + detail), fault_(fault) {}
+    : std::runtime_error(Say("%1: %2", Say(Describe(fault)), detail)), fault_(fault) {}
 
 }  // namespace numorra

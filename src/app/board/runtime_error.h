@@ -15,7 +15,7 @@ enum class Fault {
   PrinterError,
 };
 
-/// The words for a fault, such as "Overflow" or "Type mismatch".
+/// The words for a fault, such as "Overflow" or "Type mismatch", to be said where they are shown.
 const char* Describe(Fault fault);
 
 /// Ends the running command, never the program: only the command runner catches it and shows its

@@ -84,7 +84,7 @@ Finding CheckTotals(Board& board, Dialogs& dialogs) {
   const Finding finding = Recount(board);
   if (finding == Finding::Right && !board.WinTold) {
     board.WinTold = true;
-    dialogs.Tell("WELL DONE, YOU GOT IT");
+    dialogs.Tell(Say("WELL DONE, YOU GOT IT"));
   }
   return finding;
 }
