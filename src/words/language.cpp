@@ -1,11 +1,10 @@
 #include "words/language.h"
 
-#include <libintl.h>
-
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <libintl.h>
 #include <system_error>
 
 namespace numorra {

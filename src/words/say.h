@@ -7,10 +7,11 @@
 
 #include "words/language.h"
 
-/// Everything that the program tells is a whole phrase with places, `%1` to `%9`, and what stands in
-/// them: Say("%1 adds up to %2, not %3", line, sum, total). A phrase is never glued together, since
-/// other languages order and bend words in other ways. Texts in boards, files and codes are not said.
-/// scripts/update-words collects the phrases from the calls of these functions for the catalogues.
+/// Everything that the program tells is a whole phrase with places, `%1` to `%9`, and what stands
+/// in them: Say("%1 adds up to %2, not %3", line, sum, total). A phrase is never glued together,
+/// since other languages order and bend words in other ways. Texts in boards, files and codes are
+/// not said. scripts/update-words collects the phrases from the calls of these functions for the
+/// catalogues.
 namespace numorra {
 
 /// The plain decimal number, such as "-12345.6", as the reader's language writes it in a sentence.
@@ -23,8 +24,8 @@ class Filling {
   Filling(std::string_view text) : Text(text) {}
   Filling(const char* text) : Text(text) {}
   template <std::integral Number>
-    requires(!std::same_as<Number, bool> && !std::same_as<Number, char>)
-  Filling(Number number) : Text(Written(std::to_string(number))) {}
+  requires(!std::same_as<Number, bool> && !std::same_as<Number, char>) Filling(Number number)
+      : Text(Written(std::to_string(number))) {}
 
   std::string Text;
 };
