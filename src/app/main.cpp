@@ -15,6 +15,7 @@
 #include "app/window/main_window.h"
 #include "app/write_sheets.h"
 #include "toolkit/program_icon.h"
+#include "toolkit/reader_language.h"
 #include "words/language.h"
 
 namespace {
@@ -119,6 +120,7 @@ int main(int argc, char** argv) {
   const bool sheets = numorra::AsksForSheets(WordsOf(argc, argv));
   if (sheets) qputenv("QT_QPA_PLATFORM", "offscreen");  // no window is opened
   const QApplication application(argc, argv);
+  numorra::FollowLanguage();
   if (sheets) return WriteSheets(WordsOf(argc, argv));
   const numorra::ProgramRequest request = numorra::ParseProgramArguments(WordsOf(argc, argv));
   if (request.Wanted == Wanted::Wrong) {

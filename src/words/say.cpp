@@ -1,6 +1,5 @@
 #include "words/say.h"
 
-#include <array>
 #include <cctype>
 #include <cstddef>
 
@@ -10,43 +9,26 @@ namespace {
 constexpr std::size_t kGroup = 3;
 constexpr std::size_t kMostUngrouped = 4;  // digits that stand without a separator in any language
 
-/// How a language writes numbers in sentences.
-struct NumberStyle {
-  std::string Minus;
-  std::string Separator;
-  std::string Point;
-};
-
 bool IsDigit(char c) {
   return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-/// Catalogues show the style by an example, from which its signs are read.
-NumberStyle StyleOfLanguage() {
-  // Translators: write this number as your language does, with the same digits. Without a separator
-  // between groups of digits, none is used.
-  const std::string example = SayIn("example of a number", "-1234567.5");
-  std::array<std::string, 4> signs;  // before the first of the digits 1, 2, 5 and 5
-  std::string sign;
-  std::size_t digits = 0;
-  for (const char c : example) {
-    if (!IsDigit(c)) {
-      sign += c;
-      continue;
-    }
-    if (digits == 0) signs[0] = sign;
-    if (digits == 1) signs[1] = sign;
-    if (digits == 7) signs[2] = sign;
-    sign.clear();
-    ++digits;
-  }
-  return {signs[0], signs[1], signs[2]};
-}
-
 }  // namespace
 
-std::string Written(std::string_view number) {
-  const NumberStyle style = StyleOfLanguage();
+NumberStyle StyleIn(std::string_view example) {
+  // The signs stand before the first and second digit, and before the last one.
+  const auto digit = [&](std::size_t from) { return example.find_first_of("0123456789", from); };
+  const std::size_t first = digit(0);
+  const std::size_t second = digit(first + 1);
+  const std::size_t last = example.find_last_of("0123456789");
+  if (second == std::string_view::npos || last < second + 2) return {"-", "", "."};
+  const std::size_t point = example.find_last_of("0123456789", last - 1) + 1;
+  return {std::string(example.substr(0, first)),
+          std::string(example.substr(first + 1, second - first - 1)),
+          std::string(example.substr(point, last - point))};
+}
+
+std::string Written(std::string_view number, const NumberStyle& style) {
   std::string text;
   if (number.starts_with('-')) {
     text = style.Minus;
@@ -59,6 +41,12 @@ std::string Written(std::string_view number) {
   }
   if (point < number.size()) text.append(style.Point).append(number.substr(point + 1));
   return text;
+}
+
+std::string Written(std::string_view number) {
+  // Translators: write this number as your language does, with the same digits. If your language
+  // separates groups of digits only in long numbers, do so here: short ones stay without.
+  return Written(number, StyleIn(SayIn("example of a number", "-1234567.5")));
 }
 
 std::string Filled(std::string_view phrase, std::initializer_list<Filling> fillings) {

@@ -14,7 +14,20 @@
 /// catalogues.
 namespace numorra {
 
-/// The plain decimal number, such as "-12345.6", as the reader's language writes it in a sentence.
+/// How a language writes numbers in sentences.
+struct NumberStyle {
+  std::string Minus;
+  std::string Separator;  ///< between groups of three digits, in numbers of five digits or more
+  std::string Point;
+};
+
+/// The style of an example: the number -1234567.5 as the language writes it. That of English if it
+/// is no number.
+NumberStyle StyleIn(std::string_view example);
+
+/// The plain decimal number, such as "-12345.6", in that style, or as the reader's language writes
+/// it.
+std::string Written(std::string_view number, const NumberStyle& style);
 std::string Written(std::string_view number);
 
 /// What stands in a place: a text as it is, or a whole number as the reader's language writes it.

@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "app/window/board/grid_accessible.h"
+#include "words/language.h"
 
 namespace {
 
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(LetRealWarningsThrough);
   QStandardPaths::setTestModeEnabled(true);
   testing::InitGoogleTest(&argc, argv);
+  numorra::SpeakLanguageOfDesktop();
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   numorra::InstallGridAccessibility();
