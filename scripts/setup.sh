@@ -1,6 +1,6 @@
 # Sourced by the project's commands: installs missing packages, and builds with little output.
 
-kBuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev nlohmann-json3-dev gettext fonts-dejavu-core fonts-liberation)
+kBuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n nlohmann-json3-dev gettext fonts-dejavu-core fonts-liberation)
 
 # need_packages NAME...: installs missing Debian packages; silent if there are none.
 need_packages() {

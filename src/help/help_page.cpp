@@ -6,10 +6,14 @@
 #include <QRegularExpression>
 #include <QStringDecoder>
 
+#include "words/language.h"
+
 namespace numorra {
 
 QString HelpPageIn(const QString& folder) {
-  return folder + (folder.endsWith('/') ? "" : "/") + "nrhelp.htm";
+  const QString page = folder + (folder.endsWith('/') ? "nrhelp." : "/nrhelp.");
+  const QString language = QString::fromStdString(Language()) + ".";
+  return QFileInfo::exists(page + language + "htm") ? page + language + "htm" : page + "htm";
 }
 
 bool StandsIn(const QString& folder, const QUrl& link) {

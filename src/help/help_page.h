@@ -6,7 +6,8 @@
 
 namespace numorra {
 
-/// The path of the help page in the program's folder. `folder` may end with a separator.
+/// The path of the help page in the program's folder, in the language that the program speaks if
+/// there is such a page: "nrhelp.de.htm", or else "nrhelp.htm". `folder` may end with a separator.
 QString HelpPageIn(const QString& folder);
 
 /// Whether `link`, resolved, is a file in or below `folder`, however its path is written.

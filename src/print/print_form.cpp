@@ -26,6 +26,7 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
       printer_(printer),
       dialogs_(dialogs) {
   Text1->setObjectName("preview");
+  Text1->setLayoutDirection(Qt::LeftToRight);
   Text1->setAccessibleName("Preview");
   Text1->setReadOnly(true);
   Text1->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QPointer>
@@ -9,10 +11,12 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include "app/window/main_window.h"
 #include "generate/construction.h"
 #include "help/about_window.h"
 #include "help/help_page.h"
 #include "help/help_window.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -71,13 +75,34 @@ TEST_F(HelpTest, ShowsItsOwnFolderAndNothingElse) {
   EXPECT_EQ(form.wb1->toPlainText(), "more");
 }
 
-/// The program's help page: every picture and link leads somewhere, and every name exists.
+QString PageText(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QFile::ReadOnly)) << path.toStdString();
+  return QString::fromUtf8(file.readAll()).simplified();
+}
+
+/// The texts of all menu items and buttons of a window, by their object names.
+std::map<QString, QString> Captions() {
+  TickingClock clock(1);
+  Session session(clock);
+  const MainWindow window(session);
+  std::map<QString, QString> captions;
+  for (const QObject* object : window.findChildren<QObject*>()) {
+    const QString text = object->property("text").toString().remove('&').remove("...");
+    const bool named = !object->objectName().isEmpty() && text.size() > 3;
+    const bool pressed =
+        qobject_cast<const QAction*>(object) || qobject_cast<const QAbstractButton*>(object);
+    if (named && pressed) captions[object->objectName()] = text;
+  }
+  return captions;
+}
+
+/// The help page in the language of the run: every picture and link leads somewhere, every name
+/// exists, and it tells of the constructions.
 TEST(HelpPage, IsComplete) {
   const QString folder = QCoreApplication::applicationDirPath();
-  QFile file(HelpPageIn(folder));
-  ASSERT_TRUE(file.open(QFile::ReadOnly));
-  const QString page = QString::fromUtf8(file.readAll()).simplified();
-  HelpForm form(folder, nullptr);
+  const QString page = PageText(HelpPageIn(folder));
+  EXPECT_EQ(HelpPageIn(folder) == folder + "/nrhelp.htm", Language().empty());
   int links = 0;
   QRegularExpression reference("(?:src|href)=\"([^\"]+)\"");
   for (const auto& match : reference.globalMatch(page)) {
@@ -91,6 +116,18 @@ TEST(HelpPage, IsComplete) {
     }
   }
   EXPECT_GT(links, 10);
+  const QString text = QTextDocumentFragment::fromHtml(page).toPlainText();
+  for (const Construction* const construction : kConstructions) {
+    const QString row = Tr(construction->Caption).remove('&') + '\n';
+    const qsizetype at = text.indexOf('\n' + row);
+    EXPECT_GE(at, 0) << construction->Term;
+    EXPECT_GT(text.indexOf('\n' + Tr(construction->Source) + '\n', at), 0) << construction->Term;
+  }
+}
+
+TEST(HelpPage, NamesWhatEnglishPlayersSee) {
+  if (!Language().empty()) GTEST_SKIP() << "for the English page";
+  const QString page = PageText(HelpPageIn(QCoreApplication::applicationDirPath()));
   const QString words =
       "Auto|Manual|Solve Again|4x4Set|Random|Limit to 9|Corners|Diagonals|Edges|Show|Cricles|"
       "Vectors|Clear|Print Solution|Set value to|mimimum value in grid|correct diagnonal|"
@@ -98,13 +135,30 @@ TEST(HelpPage, IsComplete) {
       "Space|green|red|LUX";
   for (const QString& word : words.split('|'))
     EXPECT_TRUE(page.contains(word)) << word.toStdString();
-  const QString text = QTextDocumentFragment::fromHtml(page).toPlainText();
-  for (const Construction* const construction : kConstructions) {
-    const QString row = QString(construction->Caption).remove('&') + '\n';
-    const qsizetype at = text.indexOf('\n' + row);
-    EXPECT_GE(at, 0) << construction->Term;
-    EXPECT_GT(text.indexOf(QString('\n') + construction->Source + '\n', at), 0)
-        << construction->Term;
+}
+
+/// A page in another language has the parts of the English one, and calls what the window shows by
+/// the names that the window has.
+TEST(HelpPage, SaysInEveryLanguageWhatItSaysInEnglish) {
+  if (Language().empty()) GTEST_SKIP() << "for pages in other languages";
+  const QString folder = QCoreApplication::applicationDirPath();
+  const QString english = PageText(folder + "/nrhelp.htm");
+  const QString page = PageText(HelpPageIn(folder));
+  const auto parts = [](const QString& html) {
+    QStringList found;
+    QRegularExpression part(
+        "</?(?:h\\d|p|ul|ol|li|dl|dt|dd|table|tr|td|th)\\b|(?:name|src|href)=\"[^\"]*\"");
+    for (const auto& match : part.globalMatch(html))
+      found << match.captured();
+    return found;
+  };
+  EXPECT_EQ(parts(page), parts(english));
+  const auto translated = Captions();
+  const InEnglish scope;
+  for (const auto& [name, caption] : Captions()) {
+    if (!english.contains(">" + caption + "<")) continue;
+    EXPECT_TRUE(page.contains(translated.at(name), Qt::CaseInsensitive))
+        << translated.at(name).toStdString() << " for " << caption.toStdString();
   }
 }
 

@@ -5,10 +5,12 @@
 #include <QApplication>
 #include <QScrollBar>
 
-#include "support/boards.h"
+#include "support/window_fixture.h"
 
 namespace numorra {
 namespace {
+
+using MirrorTest = WindowTest;
 
 class GridViewTest : public testing::Test {
  protected:
@@ -48,6 +50,26 @@ TEST_F(GridViewTest, BringsCellsIntoViewBesideTheFixedLines) {
     EXPECT_TRUE(view_.viewport()->rect().contains(cell)) << row << "," << column;
     EXPECT_EQ(view_.CellAt(cell.center()), QPoint(column, row));
   }
+}
+
+/// On a desktop that is read from right to left, the window is mirrored and the board is not.
+TEST_F(MirrorTest, MirrorsAllButTheBoard) {
+  Make("SolveAuto", "4");
+  const auto isLeft = [this] {
+    const QPoint board = window_.View().mapToGlobal(QPoint());
+    return Find<QWidget>("SolveAuto").mapToGlobal(QPoint()).x() < board.x();
+  };
+  const QImage board = window_.View().Picture();
+  EXPECT_TRUE(isLeft());
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(isLeft());
+  EXPECT_EQ(window_.View().Picture(), board);
+  const QPoint first = window_.View().CellRect(1, 1).topLeft();
+  QTest::keyClick(&window_.View(), Qt::Key_Right);
+  EXPECT_EQ(TheGrid().CurrentColumn(), 2);
+  EXPECT_GT(window_.View().CellRect(1, 2).left(), first.x());
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(CellTexts, ShrinkUntilTheyFitAndSayWhenTheyCannotBeRead) {

@@ -29,6 +29,7 @@ GridView::GridView(Grid& grid, QWidget* parent)
   setObjectName("grid");
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
+  setLayoutDirection(Qt::LeftToRight);  // squares run to the right in every language
   viewport()->setBackgroundRole(QPalette::Window);
   setAutoFillBackground(true);  // a fitted board leaves room around the viewport
   grid_.OnRepaint = [this] {

@@ -132,6 +132,7 @@ MissingNumbers::MissingNumbers(QWidget* parent)
   setObjectName("MissingNumbers");
   setFrameShape(QFrame::StyledPanel);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  strip_->setLayoutDirection(Qt::LeftToRight);
   told_->setTextFormat(Qt::PlainText);
   told_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   auto* column = new QVBoxLayout(this);

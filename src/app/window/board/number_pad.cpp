@@ -28,6 +28,7 @@ NumberPad::NumberPad(QWidget* window) : QFrame(window) {
   constexpr double kTextHeight = 0.4;  // of a key
   constexpr char32_t kBackspace = 8;
   setObjectName("NumberPad");
+  setLayoutDirection(Qt::LeftToRight);
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   const int side = KeySideOn(*window->screen());
