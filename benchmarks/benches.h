@@ -53,7 +53,7 @@ struct Probe {
 
 /// Our window, a bare window of the toolkit, and one with a word in it: the first text of a process
 /// loads the fonts.
-inline constexpr const char* kProbeKinds[] = {"ours", "bare", "word"};
+inline constexpr const char* kProbeKinds[] = {"ours", "bare", "word", "german"};
 
 /// Runs `program --probe KIND` repeatedly for each kind in turn.
 std::map<std::string, Probe> RunProbes(const char* program, int runs);

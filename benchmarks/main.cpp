@@ -132,5 +132,7 @@ int main(int argc, char** argv) {
     PrintLine(("peak memory, order 50" + other).c_str(),
               Between(probes["ours"].Kilobytes, probes[kind].Kilobytes), "goal: at most 1.25");
   }
+  PrintLine("start to first paint, in German / in English",
+            Between(probes["german"].Seconds, probes["ours"].Seconds), "");
   return 0;
 }

@@ -10,6 +10,8 @@
 
 #include "app/window/main_window.h"
 #include "benches.h"
+#include "toolkit/reader_language.h"
+#include "words/language.h"
 
 namespace numorra::bench {
 namespace {
@@ -43,6 +45,10 @@ struct Sample {
 Sample RunChild(const char* program, const char* kind) {
   QProcess child;
   child.setProcessChannelMode(QProcess::SeparateChannels);
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("LC_ALL", "C.UTF-8");
+  environment.insert("LANGUAGE", kind == std::string("german") ? "de" : "");
+  child.setProcessEnvironment(environment);
   const auto start = std::chrono::steady_clock::now();
   child.start(program, {"--probe", kind});
   child.waitForReadyRead();
@@ -58,12 +64,15 @@ int RunProbeChild(const std::string& kind) {
   int argc = 1;
   char name[] = "probe";
   char* argv[] = {name, nullptr};
+  SpeakLanguageOfDesktop();
   const QApplication application(argc, argv);
+  FollowLanguage();
   SystemClock clock;
   Session session(clock);
   std::unique_ptr<QMainWindow> window;
   const bool panels = kind == "panels";
-  if (kind == "ours" || panels) {
+  const bool whole = kind == "ours" || kind == "german" || panels;
+  if (whole) {
     window = std::make_unique<MainWindow>(session);
   } else {
     window = std::make_unique<QMainWindow>();
@@ -77,7 +86,7 @@ int RunProbeChild(const std::string& kind) {
   std::printf("painted\n");
   std::fflush(stdout);
   if (panels) window->findChild<QAction*>("Propertiesx")->trigger();
-  if (kind == "ours" || panels) {
+  if (whole) {
     window->findChild<QLineEdit*>("Text1")->setText("50");
     window->findChild<QPushButton*>("SolveAuto")->click();
     for (int i = 0; i < 3; ++i)
