@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "generate/construction.h"
+#include "words/say.h"
 
 /// Bordering, for orders n from 5: ring after ring from the outside, around a middle of one cell or
 /// of order 4. A ring of order m takes the 2m - 2 smallest numbers that are left, and opposite
@@ -153,22 +154,21 @@ void WriteInRing(WalkStep& step, Place place, int number) {
 /// "row 5, column 1", "row 5, columns 2 to 4" or "column 1, rows 2 to 4".
 std::string NameOfRun(Place first, Place last) {
   if (first == last) return NameOf(first);
-  const bool along = first.Row == last.Row;
-  return along ? "row " + std::to_string(first.Row) + ", columns " + std::to_string(first.Column) +
-                     " to " + std::to_string(last.Column)
-               : "column " + std::to_string(first.Column) + ", rows " + std::to_string(first.Row) +
-                     " to " + std::to_string(last.Row);
+  return first.Row == last.Row
+             ? Say("row %1, columns %2 to %3", first.Row, first.Column, last.Column)
+             : Say("column %1, rows %2 to %3", first.Column, first.Row, last.Row);
 }
 
 /// Writes the small numbers, a run on one side per step, and then their complements.
 void AddRing(std::vector<WalkStep>& walk, const Border& ring, int n) {
-  const std::string where = "in the ring of order " + std::to_string(ring.Order) + ", ";
   const std::vector<BorderPart> parts = PartsOfRing(ring.Order);
   const std::vector<Place> places = PlacesInRing(ring.Order);
   const int complements = n * n + 1;
   WalkStep opposite;
-  opposite.Sentence = where + "opposite each number, at corners along the diagonal, goes " +
-                      std::to_string(complements) + " minus it";
+  opposite.Sentence =
+      Say("in the ring of order %1, opposite each number, at corners along the diagonal, goes %2 "
+          "minus it",
+          ring.Order, complements);
   for (std::size_t i = 0; i < parts.size();) {
     const int first = ring.Below + static_cast<int>(i) + 1;
     int number = first;
@@ -178,10 +178,14 @@ void AddRing(std::vector<WalkStep>& walk, const Border& ring, int n) {
       WriteInRing(opposite, InSquare(OppositeInRing(places[i], ring.Order), ring.Order, n),
                   complements - number);
     }
-    run.Sentence = where + std::to_string(first);
-    if (number > first + 1) run.Sentence += " to " + std::to_string(number - 1);
-    run.Sentence += number == first + 1 ? " goes to " : " go to ";
-    run.Sentence += NameOfRun(run.Marked.front(), run.Marked.back());
+    const int last = number - 1;
+    const std::string cells = NameOfRun(run.Marked.front(), run.Marked.back());
+    run.Sentence =
+        first == last
+            // Translators: %2 is a number, and %3 is its cell: "row 5, column 1"
+            ? Say("in the ring of order %1, %2 goes to %3", ring.Order, first, cells)
+            // Translators: %2 and %3 are numbers, and %4 names cells: "row 5, columns 2 to 4"
+            : Say("in the ring of order %1, %2 to %3 go to %4", ring.Order, first, last, cells);
     walk.push_back(std::move(run));
   }
   walk.push_back(std::move(opposite));
@@ -194,11 +198,11 @@ WalkStep MiddleStep(const Border& middle, int n) {
     const Place place = PlaceAt(cell, m);
     WriteInRing(step, InSquare(place, m, n), NumberInMiddle(place, middle));
   }
-  const std::string last = std::to_string(middle.Below + m * m);
-  step.Sentence = m == 1
-                      ? last + " goes to the middle"
-                      : "the middle takes " + std::to_string(middle.Below + 1) + " to " + last +
-                            " in reading order, but on its two diagonals counted back from " + last;
+  const int last = middle.Below + m * m;
+  step.Sentence = m == 1 ? Say("%1 goes to the middle", last)
+                         : Say("the middle takes %1 to %2 in reading order, but on its two "
+                               "diagonals counted back from %2",
+                               middle.Below + 1, last);
   return step;
 }
 
@@ -217,16 +221,16 @@ std::vector<WalkStep> StepsOfBorders(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kBorderConstruction = {"borders",
-                                          "BuildBordersx",
-                                          "&Borders",
-                                          "an old method, which Michael Stifel described in 1544",
-                                          [](int order) -> std::string {
-                                            if (order >= 5) return {};
-                                            return MakesOther("the method of borders",
-                                                              "orders from 5", order);
-                                          },
-                                          BuildByBorders,
-                                          StepsOfBorders};
+const Construction kBorderConstruction = {
+    "borders",
+    "BuildBordersx",
+    Mark("&Borders"),
+    Mark("an old method, which Michael Stifel described in 1544"),
+    [](int order) -> std::string {
+      if (order >= 5) return {};
+      return Say("the method of borders makes orders from 5, not %1", order);
+    },
+    BuildByBorders,
+    StepsOfBorders};
 
 }  // namespace numorra

@@ -4,6 +4,7 @@
 #include "app/board/board.h"
 #include "generate/construction.h"
 #include "generate/moved_steps.h"
+#include "words/say.h"
 
 /// The composite square, for orders n = m k with m and k from 3: m x m parts of order k. All hold
 /// the same square of order k, raised by a multiple of k x k; how often tells a square of order m:
@@ -64,12 +65,14 @@ std::vector<WalkStep> StepsOfParts(const PlacedNumbers& square, int m) {
   const std::vector<WalkStep> innerSteps = WalkOf(inner);
   if (outerSteps.empty() || innerSteps.empty()) return {};
   const auto cellsOf = [k](Place part) { return CellsOfPart(part, k); };
-  std::vector<WalkStep> walk = MovedSteps(outerSteps, "numbering the parts: ", cellsOf);
+  // Translators: %1 is a step of another construction: "2 goes up and to the right"
+  std::vector<WalkStep> walk = MovedSteps(outerSteps, Mark("numbering the parts: %1"), cellsOf);
   for (WalkStep& step : walk)
     step.Number = 0;  // a part's number is in many cells
   const std::vector<Place> first = cellsOf(outer.PlaceOf(1));
   const auto inFirst = [&](Place place) { return std::vector{first[IndexOf(place, k)]}; };
-  const std::vector<WalkStep> within = MovedSteps(innerSteps, "in part 1, ", inFirst);
+  // Translators: %1 is a step of another construction: "2 goes up and to the right"
+  const std::vector<WalkStep> within = MovedSteps(innerSteps, Mark("in part 1, %1"), inFirst);
   walk.insert(walk.end(), within.begin(), within.end());
   for (int number = 2; number <= m * m; ++number) {
     WalkStep step;
@@ -77,9 +80,8 @@ std::vector<WalkStep> StepsOfParts(const PlacedNumbers& square, int m) {
     for (const Place cell : step.Marked)
       step.Written.emplace_back(cell, std::to_string(square.At(cell)));
     step.Arrow = {first.front(), step.Marked.front()};
-    step.Sentence = "part " + std::to_string(number) +
-                    " takes the numbers of part 1, each raised by " +
-                    std::to_string((number - 1) * k * k);
+    step.Sentence =
+        Say("part %1 takes the numbers of part 1, each raised by %2", number, (number - 1) * k * k);
     walk.push_back(std::move(step));
   }
   return walk;
@@ -97,11 +99,11 @@ std::vector<WalkStep> StepsOfComposite(const PlacedNumbers& square) {
 const Construction kCompositeConstruction = {
     "composite",
     "BuildCompositex",
-    "&Composite",
-    "an old method",
+    Mark("&Composite"),
+    Mark("an old method"),
     [](int order) -> std::string {
       if (!OuterOrdersOf(order).empty()) return {};
-      return MakesOther("the composite method", "products of two orders from 3", order);
+      return Say("the composite method makes products of two orders from 3, not %1", order);
     },
     BuildComposite,
     StepsOfComposite};

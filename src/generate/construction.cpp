@@ -5,6 +5,7 @@
 #include "app/board/board.h"
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -64,17 +65,17 @@ Square<double> ExampleToWalk(int order) {
 std::vector<WalkExample> WalkExamples() {
   std::vector<WalkExample> examples;
   for (const int order : {5, 8, 6})
-    examples.push_back({"an example of size " + std::to_string(order), ExampleToWalk(order)});
+    examples.push_back({Say("an example of size %1", order), ExampleToWalk(order)});
   constexpr int kLeastOrder = 5;
   for (const Construction* const construction : kConstructions) {
     int order = kLeastOrder;
     while (!construction->WhyNone(order).empty())
       ++order;
     if (&ConstructionFor(order) == construction) continue;
-    std::string caption = construction->Caption;
+    std::string caption = Say(construction->Caption);
     std::erase(caption, '&');
-    examples.push_back(
-        {caption + ", size " + std::to_string(order), ExampleOf(*construction, order)});
+    // Translators: %1 is a construction, such as "Two Latin Squares"
+    examples.push_back({Say("%1, size %2", caption, order), ExampleOf(*construction, order)});
   }
   return examples;
 }
@@ -85,10 +86,6 @@ CellTable TableOf(const Square<double>& square) {
     cells(row, column) = square[Place{row, column}];
   });
   return cells;
-}
-
-std::string MakesOther(const char* construction, const char* orders, int order) {
-  return std::string(construction) + " makes " + orders + ", not " + std::to_string(order);
 }
 
 }  // namespace numorra

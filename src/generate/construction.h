@@ -36,8 +36,8 @@ class BuildChoices {
 struct Construction {
   const char* Term;     ///< its word on the command line
   const char* Name;     ///< of its menu item
-  const char* Caption;  ///< what the item says
-  const char* Source;   ///< who described it, and when, if that is known
+  const char* Caption;  ///< what the item says, a phrase
+  const char* Source;   ///< a phrase: who described it, and when, if that is known
 
   /// Why it makes no square of an order; empty if it makes one. Boards have the orders 3 to 50.
   std::string (*WhyNone)(int order);
@@ -80,8 +80,5 @@ Square<double> ExampleOf(const Construction& construction, int order);
 
 /// The square as a value block.
 CellTable TableOf(const Square<double>& square);
-
-/// The refusal of another order: "LUX makes the orders 6, 10, 14 and so on, not 8".
-std::string MakesOther(const char* construction, const char* orders, int order);
 
 }  // namespace numorra

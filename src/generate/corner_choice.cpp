@@ -2,6 +2,7 @@
 
 #include "app/board/numbers.h"
 #include "generate/corner_seed.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -27,15 +28,16 @@ void AddCandidate(ListBoy& candidates, int value) {
 }  // namespace
 
 std::string WhyNotTheCorner(double corner, const VariablePlan& plan) {
-  if (plan.GridSize < kSmallestWithCorner) return "a 3x3 square takes no corner value";
-  return "corner value " + Decimal(corner) + " is out of reach for size " +
-         std::to_string(plan.GridSize) + " and sum " +
-         std::to_string(plan.GridSize * plan.BaseValue) + ", which allow whole numbers from 1 to " +
-         std::to_string(HighestCorner(plan.GridSize, plan.BaseValue));
+  if (plan.GridSize < kSmallestWithCorner) return Say("a 3x3 square takes no corner value");
+  return Say(
+      "corner value %1 is out of reach for size %2 and sum %3, which allow whole numbers from 1 to "
+      "%4",
+      Written(corner), plan.GridSize, plan.GridSize * plan.BaseValue,
+      HighestCorner(plan.GridSize, plan.BaseValue));
 }
 
 void OfferCorners(Board& board, SquareBoxes& boxes, ListBoy& candidates, ListBox& choice) {
-  choice.AddItem(kAnyCorner);  // first, so that it is offered whatever the boxes contain
+  choice.AddItem(Say(kAnyCorner));  // first, so that it is offered whatever the boxes contain
   candidates.Clear();
   const double size = Val(boxes.Size());
   if (size >= 1) {

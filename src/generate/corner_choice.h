@@ -6,11 +6,13 @@
 #include "app/ports/square_boxes.h"
 #include "generate/variable_plan.h"
 #include "listbox/list_boy.h"
+#include "words/say.h"
 
 namespace numorra {
 
-/// The entry for no particular corner value.
-inline constexpr const char* kAnyCorner = "any";
+/// The entry for no particular corner value, to be said where it is shown.
+// Translators: the entry of a list of numbers that leaves the number open
+inline constexpr const char* kAnyCorner = Mark("any");
 
 /// The message for a corner value that no square of this plan has.
 std::string WhyNotTheCorner(double corner, const VariablePlan& plan);

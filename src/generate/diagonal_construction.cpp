@@ -4,6 +4,7 @@
 #include "app/board/board.h"
 #include "generate/construction.h"
 #include "transform/turning_square.h"
+#include "words/say.h"
 
 /// The construction for orders n = 4m: the numbers in reading order, those on the two diagonals of
 /// every 4 x 4 block counted from the other end: n x n + 1 minus the number; then quarter turns.
@@ -46,8 +47,7 @@ WalkStep ExchangeOf(int small, Place atSmall, int large, Place atLarge) {
   return {{{atSmall, std::to_string(large)}, {atLarge, std::to_string(small)}},
           {atSmall, atLarge},
           std::pair(atLarge, atSmall),
-          std::to_string(small) + " and " + std::to_string(large) +
-              ", opposite each other, change places",
+          Say("%1 and %2, opposite each other, change places", small, large),
           0};
 }
 
@@ -61,8 +61,11 @@ std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
   }
   // The place of a cell after the turns.
   const auto turned = [&](int row, int column) { return square.PlaceOf(NumberIn(row, column, n)); };
-  constexpr const char* kFrom[] = {"from the left", "from the top down", "from the right",
-                                   "from the bottom up"};
+  // By the quarter turns.
+  constexpr const char* kTakes[] = {Mark("row %1 takes %2 to %3, from the left"),
+                                    Mark("column %1 takes %2 to %3, from the top down"),
+                                    Mark("row %1 takes %2 to %3, from the right"),
+                                    Mark("column %1 takes %2 to %3, from the bottom up")};
   std::vector<WalkStep> walk;
   std::vector<WalkStep> exchanges;
   std::vector<Place> marked;
@@ -80,30 +83,28 @@ std::vector<WalkStep> StepsOfDiagonals(const PlacedNumbers& square) {
       exchanges.push_back(ExchangeOf(number, here, n * n + 1 - number, there));
     }
     const Place first = line.Marked.front();
-    line.Sentence = (turns % 2 == 0 ? "row " + std::to_string(first.Row)
-                                    : "column " + std::to_string(first.Column)) +
-                    " takes " + line.Written.front().second + " to " + line.Written.back().second +
-                    ", " + kFrom[turns];
+    line.Sentence =
+        Say(kTakes[turns], turns % 2 == 0 ? first.Row : first.Column, (row - 1) * n + 1, row * n);
     walk.push_back(std::move(line));
   }
   walk.push_back(
-      {{}, marked, {}, "the cells on the two diagonals of every 4 x 4 block are marked", 0});
+      {{}, marked, {}, Say("the cells on the two diagonals of every 4 x 4 block are marked"), 0});
   walk.insert(walk.end(), exchanges.begin(), exchanges.end());
   return walk;
 }
 
 }  // namespace
 
-const Construction kDiagonalConstruction = {"marks",
-                                            "BuildMarksx",
-                                            "&Marks on Diagonals",
-                                            "an old method",
-                                            [](int order) -> std::string {
-                                              if (order > 0 && order % 4 == 0) return {};
-                                              return MakesOther("the method of marks on diagonals",
-                                                                "multiples of 4", order);
-                                            },
-                                            BuildByDiagonals,
-                                            StepsOfDiagonals};
+const Construction kDiagonalConstruction = {
+    "marks",
+    "BuildMarksx",
+    Mark("&Marks on Diagonals"),
+    Mark("an old method"),
+    [](int order) -> std::string {
+      if (order > 0 && order % 4 == 0) return {};
+      return Say("the method of marks on diagonals makes multiples of 4, not %1", order);
+    },
+    BuildByDiagonals,
+    StepsOfDiagonals};
 
 }  // namespace numorra

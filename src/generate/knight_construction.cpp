@@ -1,5 +1,6 @@
 #include "generate/construction.h"
 #include "generate/stepping_moves.h"
+#include "words/say.h"
 
 /// The knight's move, for odd orders n from 5: from number to number two up and one to the right,
 /// with wrap-around; if that cell is taken, after each multiple of n, two to the right instead. The
@@ -39,16 +40,16 @@ std::vector<WalkStep> StepsOfKnight(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kKnightConstruction = {"knight",
-                                          "BuildKnightx",
-                                          "&Knight's Move",
-                                          "an old method",
-                                          [](int order) -> std::string {
-                                            if (order >= 5 && order % 2 == 1) return {};
-                                            return MakesOther("the knight's move",
-                                                              "odd orders from 5", order);
-                                          },
-                                          BuildByKnight,
-                                          StepsOfKnight};
+const Construction kKnightConstruction = {
+    "knight",
+    "BuildKnightx",
+    Mark("&Knight's Move"),
+    Mark("an old method"),
+    [](int order) -> std::string {
+      if (order >= 5 && order % 2 == 1) return {};
+      return Say("the knight's move makes odd orders from 5, not %1", order);
+    },
+    BuildByKnight,
+    StepsOfKnight};
 
 }  // namespace numorra

@@ -4,6 +4,7 @@
 
 #include "app/board/board.h"
 #include "generate/construction.h"
+#include "words/say.h"
 
 /// Two Latin squares (Euler 1776), for orders n that are odd or multiples of 4: number = n a + b +
 /// 1, where a and b run through all digits from 0 to n - 1 in every row and column, and no pair of
@@ -102,18 +103,27 @@ std::string FirstRowSentence(bool second, int n) {
   const int m = n / GroupsOf(n);
   const int unit = second ? 1 : n;
   const int least = second ? 1 : 0;
-  std::string said = second ? "row 1 adds 1 to " + std::to_string(n)
-                            : "row 1 takes the multiples of " + std::to_string(n) + " from 0 to " +
-                                  std::to_string(n * (n - 1));
-  said += ", each once, ";
-  if (m == 1) return said + "in any order";
-  const std::string end = second ? "first" : "last";
+  const int most = n * (n - 1);
+  if (m == 1) {
+    // Translators: row 1 adds the numbers from 1 to %1 to what its cells hold
+    return second ? Say("row 1 adds 1 to %1, each once, in any order", n)
+                  : Say("row 1 takes the multiples of %1 from 0 to %2, each once, in any order", n,
+                        most);
+  }
   if (m == n) {
-    return said + "with the middle one, " + std::to_string(least + unit * (n / 2)) + ", " + end;
+    const int middle = least + unit * (n / 2);
+    return second ? Say("row 1 adds 1 to %1, each once, with the middle one, %2, first", n, middle)
+                  : Say("row 1 takes the multiples of %1 from 0 to %2, each once, with the middle "
+                        "one, %3, last",
+                        n, most, middle);
   }
   const int sum = n / m * (2 * least + unit * (n - 1)) / 2;
-  return said + "so that the " + end + " ones of its groups of " + std::to_string(m) +
-         " add up to " + std::to_string(sum);
+  return second ? Say("row 1 adds 1 to %1, each once, so that the first ones of its groups of %2 "
+                      "add up to %3",
+                      n, m, sum)
+                : Say("row 1 takes the multiples of %1 from 0 to %2, each once, so that the last "
+                      "ones of its groups of %3 add up to %4",
+                      n, most, m, sum);
 }
 
 /// How a row, from 1, follows from the first one: "neighbouring groups of 2 exchanged".
@@ -123,18 +133,27 @@ std::string ChangeOfRow(bool second, int i, int n) {
   const int mask = MaskOf(second, i / m, w);
   std::string said;
   const auto add = [&said](const std::string& part) {
-    said += (said.empty() ? "" : " and ") + part;
+    // Translators: %1 and %2 are changes of a row: "neighbouring numbers exchanged"
+    said = said.empty() ? part : SayIn("changes", "%1 and %2", said, part);
   };
   for (int groups = 1; groups < w; groups *= 2) {
     if ((mask & groups) == 0) continue;
     const int size = m * groups;
-    add((size == 1 ? "neighbouring numbers" : "neighbouring groups of " + std::to_string(size)) +
-        std::string(" exchanged"));
+    add(size == 1 ? Say("neighbouring numbers exchanged")
+                  : Say("neighbouring groups of %1 exchanged", size));
   }
   if (i % m == 0) return said;
-  add((w == 1 ? "all numbers" : "the numbers of each group of " + std::to_string(m)) + " moved " +
-      std::to_string(i % m) + " to the " + (second ? "right" : "left") +
-      ", in again at the other end");
+  if (w == 1) {
+    add(Say(second ? Mark("all numbers moved %1 to the right, in again at the other end")
+                   : Mark("all numbers moved %1 to the left, in again at the other end"),
+            i % m));
+  } else {
+    add(Say(second ? Mark("the numbers of each group of %1 moved %2 to the right, in again at the "
+                          "other end")
+                   : Mark("the numbers of each group of %1 moved %2 to the left, in again at the "
+                          "other end"),
+            m, i % m));
+  }
   return said;
 }
 
@@ -160,10 +179,11 @@ std::vector<WalkStep> StepsOfLatinSquares(const PlacedNumbers& square) {
         step.Marked.push_back(place);
       }
       if (i > 0) step.Arrow = {Place{1, 1}, Place{i + 1, 1}};
+      // Translators: %2 is one or more changes of row 1: "neighbouring numbers exchanged"
+      const char* const adds = Mark("row %1 adds what row 1 adds, with %2");
+      const char* const is = Mark("row %1 is row 1 with %2");
       step.Sentence = i == 0 ? FirstRowSentence(second, n)
-                             : "row " + std::to_string(i + 1) +
-                                   (second ? " adds what row 1 adds, with " : " is row 1 with ") +
-                                   ChangeOfRow(second, i, n);
+                             : Say(second ? adds : is, i + 1, ChangeOfRow(second, i, n));
       walk.push_back(std::move(step));
     }
   }
@@ -175,11 +195,12 @@ std::vector<WalkStep> StepsOfLatinSquares(const PlacedNumbers& square) {
 const Construction kLatinConstruction = {
     "latin",
     "BuildLatinx",
-    "&Two Latin Squares",
-    "Leonhard Euler, 1776",
+    Mark("&Two Latin Squares"),
+    Mark("Leonhard Euler, 1776"),
     [](int order) -> std::string {
       if (order >= 3 && order % 4 != 2) return {};
-      return MakesOther("the method of two Latin squares", "odd orders and multiples of 4", order);
+      return Say("the method of two Latin squares makes odd orders and multiples of 4, not %1",
+                 order);
     },
     BuildOfLatinSquares,
     StepsOfLatinSquares};

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "generate/construction.h"
+#include "words/say.h"
 
 /// The lozenge, for odd orders n = 2m + 1: the odd numbers fill a lozenge in the middle of the
 /// square, diagonal by diagonal, and each diagonal goes on with even numbers, with wrap-around.
@@ -34,14 +35,6 @@ CellTable BuildLozenge(int order, BuildChoices& /*choices*/) {
   return cells;
 }
 
-/// "the odd numbers 1 to 5 go", or "the odd number 5 goes".
-std::string NumbersGo(const char* kind, int first, int last) {
-  const std::string start = std::string("the ") + kind + " number";
-  return first == last
-             ? start + " " + std::to_string(first) + " goes"
-             : start + "s " + std::to_string(first) + " to " + std::to_string(last) + " go";
-}
-
 /// Writes every other number from `first` to `last`, which are on diagonal q.
 WalkStep LozengeRun(int q, int first, int last, int n) {
   WalkStep step{{}, {}, {}, {}, first};
@@ -69,19 +62,24 @@ std::vector<WalkStep> StepsOfLozenge(const PlacedNumbers& square) {
     WalkStep odd = LozengeRun(q, firstOdd, lastOdd, n);
     const Place start = odd.Marked.front();
     const Place end = odd.Marked.back();
-    odd.Sentence = NumbersGo("odd", firstOdd, lastOdd);
     if (firstOdd == lastOdd) {
-      odd.Sentence += " to " + NameOf(start);
+      odd.Sentence = Say("the odd number %1 goes to %2", firstOdd, NameOf(start));
     } else {
       odd.Arrow = {start, end};
-      odd.Sentence += " up and to the right from " + NameOf(start);
+      odd.Sentence = Say("the odd numbers %1 to %2 go up and to the right from %3", firstOdd,
+                         lastOdd, NameOf(start));
     }
     walk.push_back(std::move(odd));
     WalkStep even = LozengeRun(q, firstEven, lastEven, n);
     even.Arrow = {end, even.Marked.front()};
-    even.Sentence = NumbersGo("even", firstEven, lastEven) + " on up and to the right from " +
-                    std::to_string(lastOdd) +
-                    "; what leaves the board comes in again on the opposite side";
+    even.Sentence =
+        firstEven == lastEven
+            ? Say("the even number %1 goes on up and to the right from %2; what leaves the board "
+                  "comes in again on the opposite side",
+                  firstEven, lastOdd)
+            : Say("the even numbers %1 to %2 go on up and to the right from %3; what leaves the "
+                  "board comes in again on the opposite side",
+                  firstEven, lastEven, lastOdd);
     evens.push_back(std::move(even));
   }
   walk.insert(walk.end(), evens.begin(), evens.end());
@@ -90,16 +88,16 @@ std::vector<WalkStep> StepsOfLozenge(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kLozengeConstruction = {"lozenge",
-                                           "BuildLozengex",
-                                           "&Lozenge",
-                                           "an old method, which John Conway called the lozenge",
-                                           [](int order) -> std::string {
-                                             if (order >= 3 && order % 2 == 1) return {};
-                                             return MakesOther("the lozenge", "odd orders from 3",
-                                                               order);
-                                           },
-                                           BuildLozenge,
-                                           StepsOfLozenge};
+const Construction kLozengeConstruction = {
+    "lozenge",
+    "BuildLozengex",
+    Mark("&Lozenge"),
+    Mark("an old method, which John Conway called the lozenge"),
+    [](int order) -> std::string {
+      if (order >= 3 && order % 2 == 1) return {};
+      return Say("the lozenge makes odd orders from 3, not %1", order);
+    },
+    BuildLozenge,
+    StepsOfLozenge};
 
 }  // namespace numorra

@@ -5,6 +5,7 @@
 #include "app/board/board.h"
 #include "generate/construction.h"
 #include "generate/stepping_moves.h"
+#include "words/say.h"
 
 /// Conway's LUX method for orders 4k + 2. An odd square of order m = 2k + 1 is laid over m x m
 /// blocks of four cells. Its number a gives its block the numbers 4a - 3 to 4a, in the order of the
@@ -90,10 +91,12 @@ WalkStep LettersByRow(int m) {
   ForEachCell(m, [&](int row, int column) {
     WriteLetter(step, {row, column}, LetterOfRow(row, m));
   });
-  const int rowsOfX = (m - 3) / 2;
-  step.Sentence = "every block of four cells gets a letter: " + std::to_string((m + 1) / 2) +
-                  " rows of L, one of U, " + (rowsOfX == 0 ? "none" : std::to_string(rowsOfX)) +
-                  " of X";
+  step.Sentence =
+      m == 3
+          ? Say("every block of four cells gets a letter: 2 rows of L, one of U, none of X")
+          : SayCounted("every block of four cells gets a letter: %1 row of L, one of U, %2 of X",
+                       "every block of four cells gets a letter: %1 rows of L, one of U, %2 of X",
+                       (m + 1) / 2, (m - 3) / 2);
   return step;
 }
 
@@ -105,7 +108,7 @@ WalkStep ExchangeInTheMiddle(int m) {
     const FourCells cells = CellsOf(block);
     step.Marked.insert(step.Marked.end(), cells.begin(), cells.end());
   }
-  step.Sentence = "in the middle an L and the U below it change places";
+  step.Sentence = Say("in the middle an L and the U below it change places");
   return step;
 }
 
@@ -128,10 +131,13 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
       step.Written.emplace_back(cell, std::to_string(next++));
     }
     if (number > 1) step.Arrow = {CellOf(blocks.PlaceOf(number - 1), 0), cells[0]};
-    step.Sentence = "block " + MoveSentence(blocks, *moves, number) +
-                    (number == 1 ? " of the blocks" : "") + "; its numbers are " +
-                    std::to_string(first) + " to " + std::to_string(first + 3) +
-                    ", in the order of the letter " + LetterOf(block, m).Name;
+    // Translators: "row 1, column 2 of the blocks"
+    const std::string move = number == 1
+                                 ? Say("block 1 goes to %1 of the blocks", NameOf(block))
+                                 : MoveSentence(blocks, *moves, number, Say("block %1", number));
+    // Translators: %1 tells where a block goes: "block 2 goes up and to the right"
+    step.Sentence = Say("%1; its numbers are %2 to %3, in the order of the letter %4", move, first,
+                        first + 3, std::string(1, LetterOf(block, m).Name));
     walk.push_back(std::move(step));
   }
   return walk;
@@ -139,16 +145,16 @@ std::vector<WalkStep> StepsOfLux(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kLuxConstruction = {"lux",
-                                       "BuildLuxx",
-                                       "L&UX",
-                                       "John Conway",
-                                       [](int order) -> std::string {
-                                         if (order > 0 && order % 4 == 2) return {};
-                                         return MakesOther("LUX", "the orders 6, 10, 14 and so on",
-                                                           order);
-                                       },
-                                       BuildLux,
-                                       StepsOfLux};
+const Construction kLuxConstruction = {
+    "lux",
+    "BuildLuxx",
+    Mark("L&UX"),
+    Mark("John Conway"),
+    [](int order) -> std::string {
+      if (order > 0 && order % 4 == 2) return {};
+      return Say("LUX makes the orders 6, 10, 14 and so on, not %1", order);
+    },
+    BuildLux,
+    StepsOfLux};
 
 }  // namespace numorra

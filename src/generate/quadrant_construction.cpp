@@ -6,6 +6,7 @@
 #include "generate/construction.h"
 #include "generate/moved_steps.h"
 #include "generate/stepping_moves.h"
+#include "words/say.h"
 
 /// Strachey's method for orders n = 4k + 2. The four quadrants, of the odd order m = 2k + 1, hold
 /// the same odd square, with the numbers
@@ -83,20 +84,34 @@ WalkStep RaisedQuadrant(const PlacedNumbers& odd, bool lower, bool right) {
     step.Marked.push_back(place);
   }
   step.Arrow = {InQuadrant({1, 1}, false, false, m), InQuadrant({1, 1}, lower, right, m)};
-  step.Sentence = std::string("the ") + (lower ? "lower " : "upper ") + (right ? "right" : "left") +
-                  " quarter takes the numbers of the upper left one, each raised by " +
-                  std::to_string(raise);
+  step.Sentence = Say(!lower  ? Mark("the upper right quarter takes the numbers of the upper left "
+                                      "one, each raised by %1")
+                      : right ? Mark("the lower right quarter takes the numbers of the upper left "
+                                     "one, each raised by %1")
+                              : Mark("the lower left quarter takes the numbers of the upper left "
+                                     "one, each raised by %1"),
+                      raise);
   return step;
 }
 
-std::string ColumnNames(int first, int last) {
-  return first == last ? std::to_string(first)
-                       : std::to_string(first) + " to " + std::to_string(last);
+/// The exchange in the columns of the row: one of them, or two runs, the second of which may be one
+/// column.
+std::string RowExchangeSentence(int row, int m) {
+  const ExchangedColumns columns = ColumnsOf(row, m);
+  const int first = columns.First;
+  const int last = first + columns.Count - 1;
+  if (columns.Last == 0) {
+    return Say("rows %1 and %2 exchange their numbers in column %3", row, row + m, first);
+  }
+  if (columns.Last == 1) {
+    return Say("rows %1 and %2 exchange their numbers in columns %3 to %4 and %5", row, row + m,
+               first, last, 2 * m);
+  }
+  return Say("rows %1 and %2 exchange their numbers in columns %3 to %4 and %5 to %6", row, row + m,
+             first, last, 2 * m - columns.Last + 1, 2 * m);
 }
 
 WalkStep RowExchange(const Square<double>& square, int row, int m) {
-  const ExchangedColumns columns = ColumnsOf(row, m);
-  const int last = columns.First + columns.Count - 1;
   WalkStep step;
   for (int column = 1; column <= 2 * m; ++column) {
     if (!IsExchanged(row, column, m)) continue;
@@ -105,14 +120,11 @@ WalkStep RowExchange(const Square<double>& square, int row, int m) {
       step.Marked.push_back(place);
     }
   }
-  step.Sentence = "rows " + std::to_string(row) + " and " + std::to_string(row + m) +
-                  " exchange their numbers in " +
-                  (columns.Count + columns.Last == 1 ? "column " : "columns ") +
-                  ColumnNames(columns.First, last);
-  if (columns.Last > 0) {
-    step.Sentence += " and " + ColumnNames(2 * m - columns.Last + 1, 2 * m);
+  step.Sentence = RowExchangeSentence(row, m);
+  if (ColumnsOf(row, m).First > 1) {
+    // Translators: %1 is "rows 2 and 5 exchange their numbers in column 2"
+    step.Sentence = Say("%1, further right as these are the middle rows", step.Sentence);
   }
-  if (columns.First > 1) step.Sentence += ", further right as these are the middle rows";
   return step;
 }
 
@@ -124,7 +136,9 @@ std::vector<WalkStep> StepsOfQuadrants(const PlacedNumbers& square) {
   if (SquareOfQuadrants(odd.Numbers()) != square.Numbers()) return {};
   const auto moves = MovesOf(odd);
   if (!moves) return {};
-  std::vector<WalkStep> walk = MovedSteps(StepsByMoves(odd, *moves), "in the upper left quarter, ",
+  // Translators: %1 is a step of another construction: "2 goes up and to the right"
+  constexpr const char* kWithin = Mark("in the upper left quarter, %1");
+  std::vector<WalkStep> walk = MovedSteps(StepsByMoves(odd, *moves), kWithin,
                                           [](Place place) { return std::vector<Place>{place}; });
   for (const auto& [lower, right] : {std::pair(true, true), {false, true}, {true, false}})
     walk.push_back(RaisedQuadrant(odd, lower, right));
@@ -138,11 +152,11 @@ std::vector<WalkStep> StepsOfQuadrants(const PlacedNumbers& square) {
 const Construction kQuadrantConstruction = {
     "quadrants",
     "BuildQuadrantsx",
-    "&Quadrants",
-    "Ralph Strachey, 1918",
+    Mark("&Quadrants"),
+    Mark("Ralph Strachey, 1918"),
     [](int order) -> std::string {
       if (order > 2 && order % 4 == 2) return {};
-      return MakesOther("the method of quadrants", "the orders 6, 10, 14 and so on", order);
+      return Say("the method of quadrants makes the orders 6, 10, 14 and so on, not %1", order);
     },
     BuildOfQuadrants,
     StepsOfQuadrants};

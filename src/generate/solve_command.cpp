@@ -10,6 +10,7 @@
 #include "app/board/totals_check.h"
 #include "generate/corner_choice.h"
 #include "generate/spreading.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -93,8 +94,9 @@ bool SolveCommand::TenTries() {
   Grid& grid = ports_.TheBoard.grid;
   const bool visible = grid.Visible();
   grid.SetVisible(false);
-  const bool enough = !ports_.TheDialogs.Ask("Could not solve in" + std::to_string(tries - 1) +
-                                             " tries\ngive another 10 tries?");
+  const bool enough = !ports_.TheDialogs.Ask(
+      SayCounted("Could not solve in%1 tries\ngive another 10 tries?",
+                 "Could not solve in%1 tries\ngive another 10 tries?", tries - 1));
   grid.SetVisible(visible);
   return enough;
 }
@@ -113,11 +115,11 @@ bool SolveCommand::ReadPlan() {
                                                ports_.Options.Corner().has_value());
   if (plan.Sum != sum) ports_.Boxes.SetSum(Decimal(plan.Sum));
   if (const char* why = WhyNoBoardHas(plan.GridSize)) {
-    ports_.TheDialogs.Tell(why);
+    ports_.TheDialogs.Tell(Say(why));
     return false;
   }
   if (plan.GridSize > kLargestQuickSize &&
-      !ports_.TheDialogs.Ask("solution may take some time - continue?")) {
+      !ports_.TheDialogs.Ask(Say("solution may take some time - continue?"))) {
     return false;
   }
   lastPlan_ = plan;
@@ -142,19 +144,19 @@ SolveStatus SolveCommand::BuildVariableSquare(int tries, bool showFailed) {
   const bool size3 = lastPlan_->GridSize == 3;
   if (corner && !size3) ports_.Options.UncheckLimit();
   if (build.Status == SolveStatus::CellValueTooSmall) {
-    ports_.TheDialogs.Tell("Cell value too small");
+    ports_.TheDialogs.Tell(Say("Cell value too small"));
     return build.Status;
   }
-  if (build.LeftFlat) ports_.TheDialogs.Tell("cannot create matrix");
+  if (build.LeftFlat) ports_.TheDialogs.Tell(Say("cannot create matrix"));
   passCount_ = build.PassCount;
   const bool built = build.Status == SolveStatus::Built;
   const bool shown = built || showFailed;
   if (shown) Show(build);
   if (shown && lastPlan_->BaseValue < kLowestGoodBase) {
-    ports_.TheDialogs.Tell("result may not look good\ntotal sum for this grid is too small");
+    ports_.TheDialogs.Tell(Say("result may not look good\ntotal sum for this grid is too small"));
   }
   if (size3 && lastPlan_->Sum != build.Total) {
-    ports_.TheDialogs.Tell("Size 3 grid can be solved only for sums divisible by 3");
+    ports_.TheDialogs.Tell(Say("Size 3 grid can be solved only for sums divisible by 3"));
   }
   if (built && corner && build.Square(1, 1) != *corner) {
     ports_.TheDialogs.Tell(WhyNotTheCorner(*corner, *lastPlan_));
@@ -185,13 +187,14 @@ void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   Board& board = ports_.TheBoard;
   if (!board.Shown()) return;
   if (board.HasGaps() || board.HasGivens()) {
-    ports_.TheDialogs.Tell("a board with gaps or given numbers cannot be varied");
+    ports_.TheDialogs.Tell(Say("a board with gaps or given numbers cannot be varied"));
     return;
   }
   board.ReadGrid();
   if (const auto low = CellBelowOne(board)) {
-    ports_.TheDialogs.Tell(board.grid.Text(low->Row, low->Column) + " in " + NameOf(*low) +
-                           " is below 1, and a board with such a number cannot be varied");
+    ports_.TheDialogs.Tell(
+        Say("%1 in %2 is below 1, and a board with such a number cannot be varied",
+            Written(board.grid.Text(low->Row, low->Column)), NameOf(*low)));
     return;
   }
   const BusyPointer busy(ports_.Stage);
@@ -202,8 +205,9 @@ void SolveCommand::Spread(void (*pass)(PatternedSquare&)) {
   pass(square);
   CellTable varied = square.Square().Settled();
   if (!KeepDecimals(varied, board)) {
-    ports_.TheDialogs.Tell("the varied board would have numbers with more than " +
-                           std::to_string(kMostCellDigits) + " digits");
+    ports_.TheDialogs.Tell(SayCounted(
+        "the varied board would have numbers with more than %1 digit",
+        "the varied board would have numbers with more than %1 digits", kMostCellDigits));
     return;
   }
   passCount_ = square.PassCount();

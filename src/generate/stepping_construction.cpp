@@ -4,6 +4,7 @@
 #include "generate/construction.h"
 #include "generate/stepping.h"
 #include "generate/stepping_moves.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -28,15 +29,16 @@ std::vector<WalkStep> StepsOfStepping(const PlacedNumbers& square) {
 
 }  // namespace
 
-const Construction kSteppingConstruction = {"stepping",
-                                            "BuildSteppingx",
-                                            "&Stepping",
-                                            "Simon de la Loubère, 1691, who had seen it in Siam",
-                                            [](int order) -> std::string {
-                                              if (order > 0 && order % 2 == 1) return {};
-                                              return MakesOther("stepping", "odd orders", order);
-                                            },
-                                            BuildByStepping,
-                                            StepsOfStepping};
+const Construction kSteppingConstruction = {
+    "stepping",
+    "BuildSteppingx",
+    Mark("&Stepping"),
+    Mark("Simon de la Loubère, 1691, who had seen it in Siam"),
+    [](int order) -> std::string {
+      if (order > 0 && order % 2 == 1) return {};
+      return Say("stepping makes odd orders, not %1", order);
+    },
+    BuildByStepping,
+    StepsOfStepping};
 
 }  // namespace numorra

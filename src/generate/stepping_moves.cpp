@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "words/say.h"
+
 namespace numorra {
 namespace {
 
@@ -26,33 +28,49 @@ bool AreNamed(const SteppingMoves& moves) {
   return (area == 1 || area == 2) && (straight == 1 || straight == 2);
 }
 
-/// The direction of a move that is no line's, in words: "up and to the right", "two up and one to
-/// the right".
+/// The direction of a move that is no line's: "up and to the right", "two up and one to the right".
 std::string Direction(Move move) {
-  const std::string up = move.Rows < 0 ? "up" : "down";
-  const std::string right = move.Columns < 0 ? "left" : "right";
-  if (std::abs(move.Rows) == 1 && std::abs(move.Columns) == 1) return up + " and to the " + right;
-  const auto count = [](int cells) { return std::abs(cells) == 1 ? "one " : "two "; };
-  return count(move.Rows) + up + " and " + count(move.Columns) + "to the " + right;
+  constexpr const char* kDiagonal[2][2] = {
+      // Translators: directions stand in "3 goes up and to the right" and "4 finds 1 in its way up
+      // and to the right, so it goes below 3"
+      {Mark("up and to the left"), Mark("up and to the right")},
+      {Mark("down and to the left"), Mark("down and to the right")}};
+  constexpr const char* kTwoRows[2][2] = {
+      {Mark("two up and one to the left"), Mark("two up and one to the right")},
+      {Mark("two down and one to the left"), Mark("two down and one to the right")}};
+  constexpr const char* kTwoColumns[2][2] = {
+      {Mark("one up and two to the left"), Mark("one up and two to the right")},
+      {Mark("one down and two to the left"), Mark("one down and two to the right")}};
+  const auto& directions = std::abs(move.Rows) == 2      ? kTwoRows
+                           : std::abs(move.Columns) == 2 ? kTwoColumns
+                                                         : kDiagonal;
+  return Say(directions[move.Rows < 0 ? 0 : 1][move.Columns < 0 ? 0 : 1]);
 }
 
-std::string Side(Move move) {
-  const bool far = std::abs(move.Rows + move.Columns) == 2;
-  if (move.Rows != 0) return std::string(far ? "two " : "") + (move.Rows < 0 ? "above" : "below");
-  return std::string(far ? "two " : "") + (move.Columns < 0 ? "to the left of" : "to the right of");
+/// Where a move along a line ends: "two above 3".
+std::string Beside(int number, Move move) {
+  constexpr const char* kSides[2][4] = {
+      // Translators: %1 is a number; another one goes to a cell beside it: "so it goes above 3"
+      {Mark("above %1"), Mark("below %1"), Mark("to the left of %1"), Mark("to the right of %1")},
+      {Mark("two above %1"), Mark("two below %1"), Mark("two to the left of %1"),
+       Mark("two to the right of %1")}};
+  const int by = move.Rows + move.Columns;
+  const int side = (move.Rows != 0 ? 0 : 2) + (by < 0 ? 0 : 1);
+  return Say(kSides[std::abs(by) - 1][side], number);
 }
 
-/// "out of the board at the top, so in at the bottom", or nothing for a move that stays inside.
-std::string Leaving(Place from, Move move, int n) {
-  std::string leaving;
+/// The sentence about a move with how it leaves the board, if it does: "2 goes up and to the right,
+/// out of the board at the top, so in at the bottom".
+std::string WithLeaving(std::string sentence, Place from, Move move, int n) {
   const auto add = [&](int line, int moved, const char* low, const char* high) {
-    if (line + moved == Wrapped(line + moved, n)) return;
-    leaving += std::string(", out of the board ") + (moved < 0 ? low : high) + ", so in " +
-               (moved < 0 ? high : low);
+    if (line + moved != Wrapped(line + moved, n)) sentence = Say(moved < 0 ? low : high, sentence);
   };
-  add(from.Row, move.Rows, "at the top", "at the bottom");
-  add(from.Column, move.Columns, "on the left", "on the right");
-  return leaving;
+  // Translators: %1 is a move: "2 goes up and to the right"; a move may leave the board twice
+  add(from.Row, move.Rows, Mark("%1, out of the board at the top, so in at the bottom"),
+      Mark("%1, out of the board at the bottom, so in at the top"));
+  add(from.Column, move.Columns, Mark("%1, out of the board on the left, so in on the right"),
+      Mark("%1, out of the board on the right, so in on the left"));
+  return sentence;
 }
 
 }  // namespace
@@ -78,17 +96,23 @@ bool IsDiagonal(const SteppingMoves& moves) {
   return std::abs(moves.Usual.Rows * moves.Usual.Columns) == 1;
 }
 
-std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number) {
-  if (number == 1) return "1 goes to " + NameOf(square.PlaceOf(1));
+std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number,
+                         const std::string& name) {
+  // Translators: here and in the next phrases, %1 is a number, or "block 3"
+  if (number == 1) return Say("%1 goes to %2", name, NameOf(square.PlaceOf(1)));
   const int n = square.Order();
   const Place from = square.PlaceOf(number - 1);
   const Move wanted = moves.Usual;
-  const std::string said = std::to_string(number);
-  if (number % n != 1) return said + " goes " + Direction(wanted) + Leaving(from, wanted, n);
+  if (number % n != 1) {
+    // Translators: %2 is a direction, such as "up and to the right"
+    return WithLeaving(Say("%1 goes %2", name, Direction(wanted)), from, wanted, n);
+  }
   const Place taken{Wrapped(from.Row + wanted.Rows, n), Wrapped(from.Column + wanted.Columns, n)};
-  return said + " finds " + std::to_string(square.At(taken)) + " in its way " + Direction(wanted) +
-         ", so it goes " + Side(moves.Break) + " " + std::to_string(number - 1) +
-         Leaving(from, moves.Break, n);
+  // Translators: %2 is a number, %3 a direction, such as "up and to the right", and %4 is like
+  // "above 3"
+  return WithLeaving(Say("%1 finds %2 in its way %3, so it goes %4", name, square.At(taken),
+                         Direction(wanted), Beside(number - 1, moves.Break)),
+                     from, moves.Break, n);
 }
 
 std::vector<WalkStep> StepsByMoves(const PlacedNumbers& square, const SteppingMoves& moves) {
@@ -98,7 +122,7 @@ std::vector<WalkStep> StepsByMoves(const PlacedNumbers& square, const SteppingMo
     const Place here = square.PlaceOf(number);
     WalkStep step{{{here, std::to_string(number)}}, {here}, {}, {}, number};
     if (number > 1) step.Arrow = {square.PlaceOf(number - 1), here};
-    step.Sentence = MoveSentence(square, moves, number);
+    step.Sentence = MoveSentence(square, moves, number, Written(std::to_string(number)));
     walk.push_back(std::move(step));
   }
   return walk;

@@ -30,8 +30,9 @@ std::optional<SteppingMoves> MovesOf(const PlacedNumbers& square);
 /// Whether the usual move is one cell along a diagonal.
 bool IsDiagonal(const SteppingMoves& moves);
 
-/// Where a number goes, and why: "3 goes up and to the right".
-std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number);
+/// Where a number goes, and why: "3 goes up and to the right". It is called by `name`.
+std::string MoveSentence(const PlacedNumbers& square, const SteppingMoves& moves, int number,
+                         const std::string& name);
 
 /// One number per step.
 std::vector<WalkStep> StepsByMoves(const PlacedNumbers& square, const SteppingMoves& moves);

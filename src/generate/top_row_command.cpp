@@ -2,20 +2,23 @@
 
 #include "app/board/numbers.h"
 #include "app/board/orders.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 constexpr const char* kPrompt =
-    "Top row: four numbers from 0 to 9999, such as 30,9,19,95, or a date, such as 14.3.2014";
-constexpr const char* kNotATopRow = "top row should be four whole numbers from 0 to 9999";
-constexpr const char* kNoSquare = "no 4x4 square has this top row";
+    Mark("Top row: four numbers from 0 to 9999, such as 30,9,19,95, or a date, such as 14.3.2014");
+constexpr const char* kNotATopRow = Mark("top row should be four whole numbers from 0 to 9999");
+constexpr const char* kNoSquare = Mark("no 4x4 square has this top row");
 
 /// Why a square is not of the best quality, and what that means.
 std::string Explain(TopRowQuality quality) {
-  const char* const better =
-      quality == TopRowQuality::WithZeros ? "positive numbers" : "different numbers";
-  return std::string("no 4x4 square of ") + better + " has this top row\n" + RemarkOn(quality);
+  // Translators: %1 is a remark on the square that is shown: "some numbers are 0"
+  return Say(quality == TopRowQuality::WithZeros
+                 ? Mark("no 4x4 square of positive numbers has this top row\n%1")
+                 : Mark("no 4x4 square of different numbers has this top row\n%1"),
+             Say(RemarkOn(quality)));
 }
 
 }  // namespace
@@ -24,11 +27,11 @@ bool TopRowCommand::Run() {
   std::optional<TopRow> top;
   std::string text = Last4x4Preset;
   while (!top) {
-    const auto answer = context_.TheDialogs.AskText(kPrompt, text);
+    const auto answer = context_.TheDialogs.AskText(Say(kPrompt), text);
     if (!answer) return false;
     text = *answer;
     top = ParseTopRow(text);
-    if (!top) context_.TheDialogs.Tell(kNotATopRow);
+    if (!top) context_.TheDialogs.Tell(Say(kNotATopRow));
   }
   std::optional<TopRowSquare> found;
   {
@@ -36,7 +39,7 @@ bool TopRowCommand::Run() {
     found = FindTopRowSquare(*top, context_.TheRandom, stage_);
   }
   if (!found) {
-    context_.TheDialogs.Tell(kNoSquare);
+    context_.TheDialogs.Tell(Say(kNoSquare));
     return false;
   }
   Last4x4Preset = text;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/board/board.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -153,9 +154,9 @@ const char* RemarkOn(TopRowQuality quality) {
       return "";
     case TopRowQuality::Different:
     case TopRowQuality::Repeated:
-      return "some numbers are repeated";
+      return Mark("some numbers are repeated");
     case TopRowQuality::WithZeros:
-      return "some numbers are 0";
+      return Mark("some numbers are 0");
   }
   return "";
 }

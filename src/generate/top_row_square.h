@@ -19,7 +19,8 @@ enum class TopRowQuality {
   WithZeros,  ///< some may be 0
 };
 
-/// What a player should know about a square that is not of the best quality; empty for the best.
+/// What a player should know about a square that is not of the best quality, a phrase;
+/// empty for the best.
 const char* RemarkOn(TopRowQuality quality);
 
 struct TopRowSquare {

@@ -4,18 +4,26 @@
 #include <utility>
 
 #include "study/images.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 /// The twelve patterns, each in its image that comes first in the alphabet.
 constexpr std::pair<const char*, const char*> kPatterns[] = {
-    {"ABCDEFGHCDABGHEF", "I"},         {"ABCDBADCEFGHFEHG", "II"},
-    {"ABCDEFGHHGFEDCBA", "III"},       {"AABBCCDDEEFFGGHH", "IV or V"},
-    {"ABABCDCDEFEFGHGH", "IV or V"},   {"ABBACDDCEFFEGHHG", "VI"},
-    {"AABBCDDCEFFEGGHH", "VII to X"},  {"ABABCDDCEFFEGHGH", "VII to X"},
-    {"ABBACCDDEEFFGHHG", "VII to X"},  {"ABBACDCDEFEFGHHG", "VII to X"},
-    {"AABBCDEFGGHHDCFE", "XI or XII"}, {"ABABCDCDEFGHGHEF", "XI or XII"}};
+    {"ABCDEFGHCDABGHEF", "I"},
+    {"ABCDBADCEFGHFEHG", "II"},
+    {"ABCDEFGHHGFEDCBA", "III"},
+    // Translators: types of squares of order 4, with Roman numerals
+    {"AABBCCDDEEFFGGHH", Mark("IV or V")},
+    {"ABABCDCDEFEFGHGH", Mark("IV or V")},
+    {"ABBACDDCEFFEGHHG", "VI"},
+    {"AABBCDDCEFFEGGHH", Mark("VII to X")},
+    {"ABABCDDCEFFEGHGH", Mark("VII to X")},
+    {"ABBACCDDEEFFGHHG", Mark("VII to X")},
+    {"ABBACDCDEFEFGHHG", Mark("VII to X")},
+    {"AABBCDEFGGHHDCFE", Mark("XI or XII")},
+    {"ABABCDCDEFGHGHEF", Mark("XI or XII")}};
 
 /// A letter for each cell, in reading order: the same for both numbers of a pair, and a new one for
 /// the first of them.

@@ -8,8 +8,9 @@ namespace numorra {
 
 /// Where the pairs of a normal magic square of order 4 stand whose numbers add up to 17.
 struct ComplementPairs {
-  std::string
-      Type;  ///< its type among Dudeney's twelve, such as "VI"; "IV or V" if only this is sure
+  /// Its type among Dudeney's twelve, such as "VI"; "IV or V" if only this is sure. A phrase, to be
+  /// said where it is shown.
+  std::string Type;
   std::string Pairs;  ///< row by row, a letter for each pair: "ABBA / CDDC / EFFE / GHHG"
 };
 

@@ -52,17 +52,13 @@ Facts::Facts(NumberSquare square)
   }
 }
 
-std::string Facts::Run(std::int64_t first, std::int64_t last) const {
-  return "from " + Shown(first) + " to " + Shown(last) +
-         (first % Square.One() == 0 ? "" : " in steps of 1");
-}
-
 std::string Facts::NumberIn(int cell) const {
-  return Decimal(Square.Numbers()[cell]);
+  return Written(Square.Numbers()[cell]);
 }
 
 std::string Facts::NumberAndPlace(int cell) const {
-  return NumberIn(cell) + " in " + NameOf(Square.PlaceOf(cell));
+  // Translators: "7 in row 1, column 2"
+  return SayIn("number and cell", "%1 in %2", NumberIn(cell), NameOf(Square.PlaceOf(cell)));
 }
 
 }  // namespace numorra

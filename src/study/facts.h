@@ -7,6 +7,7 @@
 #include "app/board/line.h"
 #include "study/judgement.h"
 #include "study/number_square.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -25,13 +26,10 @@ struct Facts {
   double Smallest() const { return Square.Numbers()[Ascending.front()]; }
   double Largest() const { return Square.Numbers()[Ascending.back()]; }
 
-  /// A sum as it is shown: "34".
-  std::string Shown(std::int64_t units) const { return Square.Shown(units); }
+  /// A sum as sentences show it: "34".
+  std::string Shown(std::int64_t units) const { return Written(Square.Shown(units)); }
 
-  /// "from 1.5 to 9.5 in steps of 1": a run of numbers, in units, each 1 more than the one before.
-  std::string Run(std::int64_t first, std::int64_t last) const;
-
-  /// The number in a cell as it is shown; with its place: "7 in row 1, column 2".
+  /// The number in a cell as sentences show it; with its place: "7 in row 1, column 2".
   std::string NumberIn(int cell) const;
   std::string NumberAndPlace(int cell) const;
 };

@@ -8,9 +8,9 @@ namespace numorra {
 
 /// A square known from history.
 struct FamousSquare {
-  const char* Name;  ///< of its menu item
-  const char* Caption;
-  const char* Story;  ///< one line: where, when, and what is special about it
+  const char* Name;     ///< of its menu item
+  const char* Caption;  ///< what the item says, a phrase
+  const char* Story;    ///< a phrase of one line: where, when, and what is special about it
   double Total;
   Square<double> Numbers;
 };

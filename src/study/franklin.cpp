@@ -2,6 +2,7 @@
 #include <array>
 
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -19,13 +20,12 @@ struct BentRow {
   }
 
   std::string Name() const {
-    const std::string k = std::to_string(K + 1);
-    if (Upright) {
-      return "the bent row that goes " + std::string(Aside > 0 ? "right" : "left") +
-             " from row 1, column " + k;
-    }
-    return "the bent row that goes " + std::string(Aside > 0 ? "down" : "up") + " from row " + k +
-           ", column 1";
+    const bool ahead = Aside > 0;
+    const char* const name = Upright ? ahead ? Mark("the bent row that goes right from %1")
+                                             : Mark("the bent row that goes left from %1")
+                             : ahead ? Mark("the bent row that goes down from %1")
+                                     : Mark("the bent row that goes up from %1");
+    return Say(name, NameOf(Upright ? Place{1, K + 1} : Place{K + 1, 1}));
   }
 
   std::vector<Place> Places(int n) const {
@@ -36,7 +36,9 @@ struct BentRow {
   }
 };
 
-constexpr std::array<const char*, 2> kHalves = {"first", "second"};
+constexpr std::array<const char*, 2> kHalfFails = {
+    Mark("the first half of %1 adds up to %2, not half of %3"),
+    Mark("the second half of %1 adds up to %2, not half of %3")};
 
 Judgement HalvesReachHalfOfTotal(const Facts& facts) {
   const int n = facts.N();
@@ -50,9 +52,8 @@ Judgement HalvesReachHalfOfTotal(const Facts& facts) {
         places.push_back(facts.Square.PlaceOf(line.Cell(i, n)));
       }
       if (2 * sum == facts.Total) continue;
-      return Fails("the " + std::string(kHalves[static_cast<std::size_t>(half)]) + " half of " +
-                       NameOf(line, n) + " adds up to " + facts.Shown(sum) + ", not half of " +
-                       facts.Shown(facts.Total),
+      return Fails(Say(kHalfFails[static_cast<std::size_t>(half)], NameOf(line, n),
+                       facts.Shown(sum), facts.Shown(facts.Total)),
                    std::move(places));
     }
   }
@@ -70,7 +71,7 @@ Judgement BentRowsReachTotal(const Facts& facts) {
           sum += facts.Square.Units()[row.Cell(i, n)];
         if (sum == facts.Total) continue;
         return Fails(
-            row.Name() + " adds up to " + facts.Shown(sum) + ", not " + facts.Shown(facts.Total),
+            Say("%1 adds up to %2, not %3", row.Name(), facts.Shown(sum), facts.Shown(facts.Total)),
             row.Places(n));
       }
     }
@@ -84,7 +85,8 @@ Judgement JudgeFranklin(const Facts& facts) {
   constexpr int kSmallestFranklin = 8;
   const int n = facts.N();
   if (n < kSmallestFranklin || n % 4 != 0) {
-    return DoesNotApply("the term is defined only for orders from 8 on that are multiples of 4");
+    return DoesNotApply(
+        Say("the term is defined only for orders from 8 on that are multiples of 4"));
   }
   if (Judgement lines = All(facts, {"semi-magic"}, Holds({})); !lines) return lines;
   if (Judgement halves = HalvesReachHalfOfTotal(facts); !halves) return halves;
@@ -92,8 +94,8 @@ Judgement JudgeFranklin(const Facts& facts) {
   const BentRow shown{false, 1, 0};
   return All(
       facts, {"compact"},
-      Holds("half rows and half columns add up to half of " + facts.Shown(facts.Total) +
-                ", and bent rows to " + facts.Shown(facts.Total) + ", such as " + shown.Name(),
+      Holds(Say("half rows and half columns add up to half of %1, and bent rows to %1, such as %2",
+                facts.Shown(facts.Total), shown.Name()),
             shown.Places(n)));
 }
 

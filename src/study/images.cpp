@@ -4,18 +4,6 @@
 
 namespace numorra {
 
-const char* NameOfImage(int image) {
-  constexpr const char* kNames[kImages] = {"as it is",
-                                           "mirrored left to right",
-                                           "mirrored top to bottom",
-                                           "turned half round",
-                                           "mirrored in the diagonal that falls",
-                                           "turned a quarter to the left",
-                                           "turned a quarter to the right",
-                                           "mirrored in the diagonal that rises"};
-  return kNames[image];
-}
-
 /// Bit 0 mirrors left to right, bit 1 top to bottom, bit 2 exchanges rows and columns.
 int SourceInImage(int image, int i, int j, int order) {
   if ((image & 4) != 0) std::swap(i, j);

@@ -4,11 +4,10 @@
 
 namespace numorra {
 
-/// The eight images of a square: itself, turned, mirrored.
+/// The eight images of a square, from 0: as it is, mirrored left to right, mirrored top to bottom,
+/// turned half round, mirrored in the diagonal that falls, turned a quarter to the left, turned a
+/// quarter to the right, mirrored in the diagonal that rises.
 inline constexpr int kImages = 8;
-
-/// What the image is: "turned half round". Image 0 is the square itself.
-const char* NameOfImage(int image);
 
 /// The index of the cell that (i, j) of the image shows.
 int SourceInImage(int image, int i, int j, int order);

@@ -10,8 +10,8 @@ namespace numorra {
 
 enum class Answer : std::uint8_t { Holds, Fails, DoesNotApply, TooLarge };
 
-/// Whether a term holds for a square, and what shows it: one sentence, without a capital or a full
-/// stop, and the cells that it is about.
+/// Whether a term holds for a square, and what shows it: one sentence in the reader's language,
+/// without a capital or a full stop, and the cells that it is about.
 struct Judgement {
   Answer Says = Answer::Holds;
   std::string Why = {};

@@ -9,6 +9,7 @@
 #include "study/images.h"
 #include "study/moved_places.h"
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -87,36 +88,36 @@ std::optional<Square<double>> Draw(const Relative& relative, const Judged& squar
 }  // namespace
 
 const std::array<Relative, 8> kRelatives = {{
-    {"MoveRoundx", "Move &Round",
-     "Rows and columns move round, and wrapped diagonals stay wrapped diagonals: the square stays "
-     "pandiagonal, and most-perfect if it is.",
+    {"MoveRoundx", Mark("Move &Round"),
+     Mark("Rows and columns move round, and wrapped diagonals stay wrapped diagonals: the square "
+          "stays pandiagonal, and most-perfect if it is."),
      "pandiagonal", true, MovedRound},
-    {"MultiplyPlacesx", "Multiply &Places",
-     "Every place, counted from the centre, is multiplied by one number: lines, including wrapped "
-     "diagonals, stay lines of the same kind, and opposite cells stay opposite.",
+    {"MultiplyPlacesx", Mark("Multiply &Places"),
+     Mark("Every place, counted from the centre, is multiplied by one number: lines, including "
+          "wrapped diagonals, stay lines of the same kind, and opposite cells stay opposite."),
      "magic", true, WithPlacesMultiplied},
-    {"DiagonalsAsLinesx", "&Diagonals as Lines",
-     "Wrapped diagonals become rows and columns, and these become wrapped diagonals: the square "
-     "stays pandiagonal, and associative if it is.",
+    {"DiagonalsAsLinesx", Mark("&Diagonals as Lines"),
+     Mark("Wrapped diagonals become rows and columns, and these become wrapped diagonals: the "
+          "square stays pandiagonal, and associative if it is."),
      "pandiagonal", true, WithDiagonalsAsLines},
-    {"ExchangeOppositesx", "Exchange &Opposite Lines",
-     "Pairs of opposite rows change places, and so do pairs of opposite columns: opposite cells "
-     "stay opposite, so the square stays associative.",
+    {"ExchangeOppositesx", Mark("Exchange &Opposite Lines"),
+     Mark("Pairs of opposite rows change places, and so do pairs of opposite columns: opposite "
+          "cells stay opposite, so the square stays associative."),
      "associative", true, WithOppositesExchanged},
-    {"ExchangeHalvesx", "Exchange Lines of Two &Halves",
-     "Pairs of rows half the order apart change places, and so do such pairs of columns: blocks of "
-     "2 x 2 keep their sum, so the square stays most-perfect.",
+    {"ExchangeHalvesx", Mark("Exchange Lines of Two &Halves"),
+     Mark("Pairs of rows half the order apart change places, and so do such pairs of columns: "
+          "blocks of 2 x 2 keep their sum, so the square stays most-perfect."),
      "compact", true, WithHalvesExchanged},
-    {"ExchangeRingsx", "Exchange in R&ings",
-     "Pairs within the sides of each ring change places, and the squares within are turned: every "
-     "ring keeps its numbers, so the square stays bordered.",
+    {"ExchangeRingsx", Mark("Exchange in R&ings"),
+     Mark("Pairs within the sides of each ring change places, and the squares within are turned: "
+          "every ring keeps its numbers, so the square stays bordered."),
      "concentric", true, WithRingsExchanged},
-    {"AddToAllx", "&Add to All",
-     "One number is added to all: lines of equal length that had equal sums still do.",
+    {"AddToAllx", Mark("&Add to All"),
+     Mark("One number is added to all: lines of equal length that had equal sums still do."),
      "semi-magic", false, WithNumberAdded},
-    {"MultiplyAllx", "&Multiply All",
-     "All numbers are multiplied by the same factor: equal sums stay equal.", "semi-magic", false,
-     WithNumbersMultiplied},
+    {"MultiplyAllx", Mark("&Multiply All"),
+     Mark("All numbers are multiplied by the same factor: equal sums stay equal."), "semi-magic",
+     false, WithNumbersMultiplied},
 }};
 
 std::optional<Square<double>> DrawRelative(const Relative& relative, const Square<double>& square,

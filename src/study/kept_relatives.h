@@ -13,8 +13,8 @@ namespace numorra {
 /// A way to make a relative of a square: another square of the same kind.
 struct Relative {
   const char* Name;     ///< of its menu item
-  const char* Caption;  ///< what the item says
-  const char* Keeps;    ///< one sentence: what changes and what stays
+  const char* Caption;  ///< what the item says, a phrase
+  const char* Keeps;    ///< a phrase of one sentence: what changes and what stays
   const char* Term;     ///< what a square must be
   bool SameNumbers;     ///< only moves the numbers
 

@@ -1,6 +1,7 @@
 #include <cstdlib>
 
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -23,17 +24,19 @@ Judgement JudgeKnightsTour(const Facts& facts) {
     const Place from = placeOf(rank - 1);
     const Place to = placeOf(rank);
     if (IsKnightsMove(from, to)) continue;
-    return Fails("from " + facts.NumberAndPlace(facts.Ascending[rank - 1]) + " to " +
-                     facts.NumberAndPlace(facts.Ascending[rank]) + " is not a knight's move",
-                 {from, to});
+    return Fails(
+        Say("from %1 to %2 is not a knight's move", facts.NumberAndPlace(facts.Ascending[rank - 1]),
+            facts.NumberAndPlace(facts.Ascending[rank])),
+        {from, to});
   }
   const Place first = placeOf(0);
   const Place last = placeOf(facts.Ascending.size() - 1);
-  return Holds(
-      "each number is a knight's move from the one before; the tour is " +
-          std::string(IsKnightsMove(last, first) ? "closed, as the first is one from the last"
-                                                 : "open, as the first is not one from the last"),
-      {first, last});
+  return Holds(IsKnightsMove(last, first)
+                   ? Say("each number is a knight's move from the one before; the tour is closed, "
+                         "as the first is one from the last")
+                   : Say("each number is a knight's move from the one before; the tour is open, "
+                         "as the first is not one from the last"),
+               {first, last});
 }
 
 }  // namespace numorra

@@ -1,6 +1,7 @@
 #include "app/board/base_digits.h"
 #include "study/latin.h"
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -47,28 +48,32 @@ Judgement JudgeLatin(const Facts& facts) {
   int count = 0;
   const Square<int> ranks = RanksOf(facts, count);
   if (count != n) {
-    return Fails("it holds " + std::to_string(count) + " different numbers, not " +
-                 std::to_string(n));
+    return Fails(SayCounted("it holds %1 different numbers, not %2",
+                            "it holds %1 different numbers, not %2", count, n));
   }
   if (const auto repeated = FirstRepetition(ranks)) {
-    return Fails(facts.NumberIn(repeated->First) + " occurs twice in " + NameOf(repeated->In, n),
-                 PlacesIn(*repeated, facts));
+    return Fails(
+        Say("%1 occurs twice in %2", facts.NumberIn(repeated->First), NameOf(repeated->In, n)),
+        PlacesIn(*repeated, facts));
   }
-  return Holds("each of its " + std::to_string(n) + " numbers occurs once in every row and column");
+  return Holds(SayCounted("each of its %1 numbers occurs once in every row and column",
+                          "each of its %1 numbers occurs once in every row and column", n));
 }
 
 Judgement JudgeRegular(const Facts& facts) {
   if (Judgement normal = All(facts, {"normal"}, Holds({})); !normal) return normal;
   const auto digits = BaseDigitsOf(facts.Square.Numbers()).value();
-  for (const auto& [name, square] : {std::pair("first", &digits.High), {"second", &digits.Low}}) {
+  constexpr const char* kSameFirst = Mark("in %1, %2 and %3 have the same first digit, %4");
+  constexpr const char* kSameSecond = Mark("in %1, %2 and %3 have the same second digit, %4");
+  for (const auto& [same, square] :
+       {std::pair(kSameFirst, &digits.High), {kSameSecond, &digits.Low}}) {
     const auto repeated = FirstRepetition(*square);
     if (!repeated) continue;
-    return Fails("in " + NameOf(repeated->In, facts.N()) + ", " + facts.NumberIn(repeated->First) +
-                     " and " + facts.NumberIn(repeated->Second) + " have the same " + name +
-                     " digit, " + std::to_string((*square)[repeated->First]),
+    return Fails(Say(same, NameOf(repeated->In, facts.N()), facts.NumberIn(repeated->First),
+                     facts.NumberIn(repeated->Second), (*square)[repeated->First]),
                  PlacesIn(*repeated, facts));
   }
-  return Holds("each first and each second digit occurs once in every row and column");
+  return Holds(Say("each first and each second digit occurs once in every row and column"));
 }
 
 }  // namespace numorra

@@ -3,29 +3,33 @@
 
 #include "study/terms.h"
 #include "study/wide.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
-/// Whether the first `count` of the lines add up to the total.
-Judgement LinesReachTotal(const Facts& facts, std::size_t count, const std::string& which) {
+/// Whether the line, whose sum is known, adds up to the total.
+Judgement ReachesTotal(const Facts& facts, Line line, std::int64_t sum) {
+  if (sum == facts.Total) return Holds({});
+  return Fails(Say("%1 adds up to %2, not %3", NameOf(line, facts.N()), facts.Shown(sum),
+                   facts.Shown(facts.Total)),
+               PlacesOf(line, facts.N()));
+}
+
+/// Whether the first `count` of the lines add up to the total, as `holds` then says of it.
+Judgement LinesReachTotal(const Facts& facts, std::size_t count, const char* holds) {
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   for (std::size_t line = 0; line < count; ++line) {
-    if (facts.Sums[line] == facts.Total) continue;
-    return Fails(NameOf(facts.Lines[line], facts.N()) + " adds up to " +
-                     facts.Shown(facts.Sums[line]) + ", not " + facts.Shown(facts.Total),
-                 PlacesOf(facts.Lines[line], facts.N()));
+    Judgement reached = ReachesTotal(facts, facts.Lines[line], facts.Sums[line]);
+    if (!reached) return reached;
   }
-  return Holds(which + " add up to " + facts.Shown(facts.Total));
+  return Holds(Say(holds, facts.Shown(facts.Total)));
 }
 
 Judgement DiagonalsReachTotal(const Facts& facts, const std::vector<Line>& diagonals) {
   for (const Line diagonal : diagonals) {
-    const std::int64_t sum = SumOf(diagonal, facts.Square);
-    if (sum == facts.Total) continue;
-    return Fails(NameOf(diagonal, facts.N()) + " adds up to " + facts.Shown(sum) + ", not " +
-                     facts.Shown(facts.Total),
-                 PlacesOf(diagonal, facts.N()));
+    Judgement reached = ReachesTotal(facts, diagonal, SumOf(diagonal, facts.Square));
+    if (!reached) return reached;
   }
   return Holds({});
 }
@@ -36,29 +40,34 @@ constexpr std::int64_t kMostCubed = 1'000'000'000'000;
 
 /// Whether the `exponent`-th powers have the same sum in every line.
 Judgement PowersAreMagic(const Facts& facts, int exponent) {
-  const std::string powers = exponent == 2 ? "squares" : "cubes";
+  const bool squares = exponent == 2;
   const auto& units = facts.Square.Units();
   for (const int cell : {facts.Ascending.front(), facts.Ascending.back()}) {
-    if (exponent == 2 || std::abs(units[cell]) <= kMostCubed) continue;
-    return TooLarge("the " + powers + " of numbers like " + facts.NumberIn(cell) +
-                    " are too large to be added exactly");
+    if (squares || std::abs(units[cell]) <= kMostCubed) continue;
+    return TooLarge(Say("the cubes of numbers like %1 are too large to be added exactly",
+                        facts.NumberIn(cell)));
   }
   const auto sumOf = [&](Line line) {
     return SumOf<Wide>(line, facts.N(), [&](int cell) {
       const Wide number = units[cell];
-      return number * number * (exponent == 2 ? 1 : number);
+      return number * number * (squares ? 1 : number);
     });
   };
-  const auto shown = [&](Wide sum) { return facts.Square.Shown(DecimalOf(sum), exponent); };
+  const auto shown = [&](Wide sum) {
+    return Written(facts.Square.Shown(DecimalOf(sum), exponent));
+  };
   const Wide first = sumOf(facts.Lines.front());
   for (const Line line : facts.Lines) {
     const Wide sum = sumOf(line);
     if (sum == first) continue;
-    return Fails("the " + powers + " in " + NameOf(line, facts.N()) + " add up to " + shown(sum) +
-                     ", those in row 1 to " + shown(first),
+    return Fails(Say(squares ? Mark("the squares in %1 add up to %2, those in row 1 to %3")
+                             : Mark("the cubes in %1 add up to %2, those in row 1 to %3"),
+                     NameOf(line, facts.N()), shown(sum), shown(first)),
                  PlacesOf(line, facts.N()));
   }
-  return Holds("the " + powers + " in every line add up to " + shown(first));
+  return Holds(Say(squares ? Mark("the squares in every line add up to %1")
+                           : Mark("the cubes in every line add up to %1"),
+                   shown(first)));
 }
 
 /// The lines from the smallest sum to the largest.
@@ -73,34 +82,37 @@ std::vector<std::size_t> LinesBySum(const Facts& facts) {
 }  // namespace
 
 Judgement JudgeSemiMagic(const Facts& facts) {
-  return LinesReachTotal(facts, facts.Sums.size() - 2, "all rows and columns");
+  return LinesReachTotal(facts, facts.Sums.size() - 2, Mark("all rows and columns add up to %1"));
 }
 
 Judgement JudgeMagic(const Facts& facts) {
-  return LinesReachTotal(facts, facts.Sums.size(), "all rows, columns and both main diagonals");
+  return LinesReachTotal(facts, facts.Sums.size(),
+                         Mark("all rows, columns and both main diagonals add up to %1"));
 }
 
 Judgement JudgePandiagonal(const Facts& facts) {
   if (Judgement magic = JudgeMagic(facts); !magic) return magic;
   const std::vector<Line> broken = BrokenDiagonals(facts.N());
-  if (broken.empty()) return DoesNotApply("a single cell has no broken diagonals");
+  if (broken.empty()) return DoesNotApply(Say("a single cell has no broken diagonals"));
   if (Judgement diagonals = DiagonalsReachTotal(facts, broken); !diagonals) return diagonals;
-  return Holds("all " + std::to_string(2 * facts.N()) + " wrapped diagonals add up to " +
-                   facts.Shown(facts.Total) + ", such as " + NameOf(broken.front(), facts.N()),
+  return Holds(SayCounted("%1 wrapped diagonal adds up to %2, such as %3",
+                          "all %1 wrapped diagonals add up to %2, such as %3", 2 * facts.N(),
+                          facts.Shown(facts.Total), NameOf(broken.front(), facts.N())),
                PlacesOf(broken.front(), facts.N()));
 }
 
 Judgement JudgeSemiPandiagonal(const Facts& facts) {
-  if (facts.N() != 4) return DoesNotApply("the term is defined only for order 4");
+  if (facts.N() != 4) return DoesNotApply(Say("the term is defined only for order 4"));
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const Line falling{Line::Falling, 2};
   const Line rising{Line::Rising, 1};
   if (Judgement diagonals = DiagonalsReachTotal(facts, {falling, rising}); !diagonals) {
     return diagonals;
   }
-  return Holds(
-      NameOf(falling, 4) + " and " + NameOf(rising, 4) + " add up to " + facts.Shown(facts.Total),
-      PlacesOf(falling, facts.N()));
+  // Translators: %1 and %2 are lines
+  return Holds(Say("%1 and %2 add up to %3", NameOf(falling, 4), NameOf(rising, 4),
+                   facts.Shown(facts.Total)),
+               PlacesOf(falling, facts.N()));
 }
 
 Judgement JudgeBimagic(const Facts& facts) {
@@ -123,13 +135,12 @@ Judgement JudgeHeterosquare(const Facts& facts) {
     std::vector<Place> cells = PlacesOf(a, facts.N());
     const std::vector<Place> others = PlacesOf(b, facts.N());
     cells.insert(cells.end(), others.begin(), others.end());
-    return Fails(NameOf(a, facts.N()) + " and " + NameOf(b, facts.N()) + " both add up to " +
-                     facts.Shown(facts.Sums[lines[i]]),
+    return Fails(Say("%1 and %2 both add up to %3", NameOf(a, facts.N()), NameOf(b, facts.N()),
+                     facts.Shown(facts.Sums[lines[i]])),
                  std::move(cells));
   }
-  return Holds("the sums of its lines are all different, from " +
-               facts.Shown(facts.Sums[lines.front()]) + " to " +
-               facts.Shown(facts.Sums[lines.back()]));
+  return Holds(Say("the sums of its lines are all different, from %1 to %2",
+                   facts.Shown(facts.Sums[lines.front()]), facts.Shown(facts.Sums[lines.back()])));
 }
 
 Judgement JudgeAntimagic(const Facts& facts) {
@@ -139,12 +150,15 @@ Judgement JudgeAntimagic(const Facts& facts) {
     const std::int64_t before = facts.Sums[lines[i - 1]];
     const std::int64_t sum = facts.Sums[lines[i]];
     if (sum - before == facts.Square.One()) continue;
-    return Fails("the next sum after " + facts.Shown(before) + " is " + facts.Shown(sum) +
-                     ", that of " + NameOf(facts.Lines[lines[i]], facts.N()),
+    return Fails(Say("the next sum after %1 is %2, that of %3", facts.Shown(before),
+                     facts.Shown(sum), NameOf(facts.Lines[lines[i]], facts.N())),
                  PlacesOf(facts.Lines[lines[i]], facts.N()));
   }
-  return Holds("the sums of its lines are those " +
-               facts.Run(facts.Sums[lines.front()], facts.Sums[lines.back()]));
+  const std::int64_t least = facts.Sums[lines.front()];
+  const bool whole = least % facts.Square.One() == 0;
+  return Holds(Say(whole ? Mark("the sums of its lines are those from %1 to %2")
+                         : Mark("the sums of its lines are those from %1 to %2 in steps of 1"),
+                   facts.Shown(least), facts.Shown(facts.Sums[lines.back()])));
 }
 
 }  // namespace numorra

@@ -4,13 +4,15 @@
 #include "app/board/numbers.h"
 #include "study/images.h"
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
-/// Whether every cell and its partner have the same sum as the first cell and its partner.
+/// Whether every cell and its partner have the same sum as the first cell and its partner. If so,
+/// `holds` says it of the sum; its second place is for half the order.
 template <class PartnerOf>
-Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf partnerOf) {
+Judgement PairsAddUp(const Facts& facts, const char* holds, PartnerOf partnerOf) {
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const auto& units = facts.Square.Units();
   const int n = facts.N();
@@ -22,12 +24,12 @@ Judgement PairsAddUp(const Facts& facts, const std::string& which, PartnerOf par
   for (int cell = 1; cell < units.Size(); ++cell) {
     const std::int64_t sum = units[cell] + units[pairAt(cell)];
     if (sum == wanted) continue;
-    return Fails(facts.NumberAndPlace(cell) + " and " + facts.NumberAndPlace(pairAt(cell)) +
-                     " add up to " + facts.Shown(sum) + ", not " + facts.Shown(wanted) +
-                     " as at the top left",
-                 places(cell));
+    return Fails(
+        Say("%1 and %2 add up to %3, not %4 as at the top left", facts.NumberAndPlace(cell),
+            facts.NumberAndPlace(pairAt(cell)), facts.Shown(sum), facts.Shown(wanted)),
+        places(cell));
   }
-  return Holds(which + " add up to " + facts.Shown(wanted), places(0));
+  return Holds(Say(holds, facts.Shown(wanted), n / 2), places(0));
 }
 
 /// Whether all lines of the k x k square in the middle add up to the sum of its first row.
@@ -46,9 +48,9 @@ Judgement MiddleIsMagic(const Facts& facts, int k) {
   for (const Line line : MagicLines(k)) {
     const std::int64_t sum = sumOf(line);
     if (sum == wanted) continue;
-    Judgement broken = Fails("in the " + std::to_string(k) + " x " + std::to_string(k) +
-                             " square in the middle, " + NameOf(line, k) + " adds up to " +
-                             facts.Shown(sum) + ", row 1 to " + facts.Shown(wanted));
+    Judgement broken =
+        Fails(Say("in the %1 x %1 square in the middle, %2 adds up to %3, row 1 to %4", k,
+                  NameOf(line, k), facts.Shown(sum), facts.Shown(wanted)));
     for (int i = 0; i < k; ++i) {
       const int inMiddle = line.Cell(i, k);
       broken.Cells.push_back({first + inMiddle / k + 1, first + inMiddle % k + 1});
@@ -75,24 +77,27 @@ constexpr int kSmallestMiddle = 3;
 
 Judgement JudgeAssociative(const Facts& facts) {
   const int n = facts.N();
-  return PairsAddUp(facts, "every number and the one opposite it",
+  return PairsAddUp(facts, Mark("every number and the one opposite it add up to %1"),
                     [&](int i, int j) { return facts.Square.Index(n - 1 - i, n - 1 - j); });
 }
 
 Judgement JudgeComplete(const Facts& facts) {
   const int n = facts.N();
-  if (n % 2 != 0) return DoesNotApply("the term is defined only for even orders");
+  if (n % 2 != 0) return DoesNotApply(Say("the term is defined only for even orders"));
   return PairsAddUp(
-      facts, "numbers " + std::to_string(n / 2) + " apart on a wrapped diagonal",
+
+      facts,
+      // Translators: %1 is a sum, and %2 is a number of cells
+      Mark("numbers %2 apart on a wrapped diagonal add up to %1"),
       [&](int i, int j) { return facts.Square.Index((i + n / 2) % n, (j + n / 2) % n); });
 }
 
 Judgement JudgeCompact(const Facts& facts) {
   const int n = facts.N();
-  if (n % 2 != 0) return DoesNotApply("the term is defined only for even orders");
+  if (n % 2 != 0) return DoesNotApply(Say("the term is defined only for even orders"));
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   const std::string wanted =
-      Decimal(4.0 * static_cast<double>(facts.Total) / n / static_cast<double>(facts.Square.One()));
+      Written(4.0 * static_cast<double>(facts.Total) / n / static_cast<double>(facts.Square.One()));
   const auto placesAt = [&](int i, int j) {
     std::vector<Place> places;
     for (const int r : {i, (i + 1) % n}) {
@@ -108,25 +113,25 @@ Judgement JudgeCompact(const Facts& facts) {
       const std::int64_t sum = facts.Square.Unit(i, j) + facts.Square.Unit(i, right) +
                                facts.Square.Unit(below, j) + facts.Square.Unit(below, right);
       if (sum * n == facts.Total * 4) continue;
-      return Fails("the 2 x 2 block at row " + std::to_string(i + 1) + ", column " +
-                       std::to_string(j + 1) + " adds up to " + facts.Shown(sum) + ", not " +
-                       wanted,
+      return Fails(Say("the 2 x 2 block at %1 adds up to %2, not %3", NameOf(Place{i + 1, j + 1}),
+                       facts.Shown(sum), wanted),
                    placesAt(i, j));
     }
   }
-  return Holds("every wrapped 2 x 2 block adds up to " + wanted, placesAt(0, 0));
+  return Holds(Say("every wrapped 2 x 2 block adds up to %1", wanted), placesAt(0, 0));
 }
 
 Judgement JudgeMostPerfect(const Facts& facts) {
   if (facts.N() % 4 != 0) {
-    return DoesNotApply("the term is defined only for orders that are multiples of 4");
+    return DoesNotApply(Say("the term is defined only for orders that are multiples of 4"));
   }
-  return All(facts, {"normal", "compact", "complete"}, Holds("it is normal, compact and complete"));
+  return All(facts, {"normal", "compact", "complete"},
+             Holds(Say("it is normal, compact and complete")));
 }
 
 Judgement JudgeUltramagic(const Facts& facts) {
   return All(facts, {"magic", "associative", "pandiagonal"},
-             Holds("it is magic, associative and pandiagonal"));
+             Holds(Say("it is magic, associative and pandiagonal")));
 }
 
 Judgement JudgeSelfComplementary(const Facts& facts) {
@@ -142,25 +147,35 @@ Judgement JudgeSelfComplementary(const Facts& facts) {
     }
     return true;
   };
-  const std::string complement = facts.Shown(wanted) + " - number";
+  constexpr const char* kGives[kImages] = {
+      // Translators: here and in the next phrases, "10 - number" tells that each number is
+      // subtracted from 10
+      Mark("%1 - number gives the square as it is"),
+      Mark("%1 - number gives the square mirrored left to right"),
+      Mark("%1 - number gives the square mirrored top to bottom"),
+      Mark("%1 - number gives the square turned half round"),
+      Mark("%1 - number gives the square mirrored in the diagonal that falls"),
+      Mark("%1 - number gives the square turned a quarter to the left"),
+      Mark("%1 - number gives the square turned a quarter to the right"),
+      Mark("%1 - number gives the square mirrored in the diagonal that rises")};
   for (int image = 0; image < kImages; ++image) {
-    if (!isComplement(image)) continue;
-    return Holds(complement + " gives the square " + NameOfImage(image));
+    if (isComplement(image)) return Holds(Say(kGives[image], facts.Shown(wanted)));
   }
-  return Fails(complement + " does not give any of the square's eight images");
+  return Fails(
+      Say("%1 - number does not give any of the square's eight images", facts.Shown(wanted)));
 }
 
 Judgement JudgeConcentric(const Facts& facts) {
   constexpr int kSmallestRinged = 5;
   if (facts.N() < kSmallestRinged) {
-    return DoesNotApply("the term is defined only for orders from 5 on");
+    return DoesNotApply(Say("the term is defined only for orders from 5 on"));
   }
   if (!facts.Square.HasUnits()) return SumsTooLarge();
   for (int k = facts.N() - 2; k >= kSmallestMiddle; k -= 2) {
     if (Judgement middle = MiddleIsMagic(facts, k); !middle) return middle;
   }
   const int inner = facts.N() - 2;
-  return Holds("the square inside every ring is magic", MiddlePlaces(facts.N(), inner));
+  return Holds(Say("the square inside every ring is magic"), MiddlePlaces(facts.N(), inner));
 }
 
 /// Compares the neighbours in ascending order among the numbers inside each ring.
@@ -180,14 +195,13 @@ Judgement JudgeBordered(const Facts& facts) {
       if (rings[static_cast<std::size_t>(cell)] < ring) continue;
       const int* const last = std::exchange(before, &cell);
       if (!last || units[cell] - units[*last] == facts.Square.One()) continue;
-      const std::string side = std::to_string(n - 2 * ring);
-      return Fails("in the " + side + " x " + side +
-                       " square in the middle, the next number after " + facts.NumberIn(*last) +
-                       " is " + facts.NumberIn(cell),
-                   MiddlePlaces(n, n - 2 * ring));
+      const int side = n - 2 * ring;
+      return Fails(Say("in the %1 x %1 square in the middle, the next number after %2 is %3", side,
+                       facts.NumberIn(*last), facts.NumberIn(cell)),
+                   MiddlePlaces(n, side));
     }
   }
-  return Holds("the numbers inside every ring are consecutive", MiddlePlaces(n, n - 2));
+  return Holds(Say("the numbers inside every ring are consecutive"), MiddlePlaces(n, n - 2));
 }
 
 }  // namespace numorra

@@ -3,6 +3,7 @@
 
 #include "study/product.h"
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -20,7 +21,8 @@ std::string ShownProduct(const Product& product, const Facts& facts) {
   const std::string shown = facts.Square.Shown(product.AsDecimal(), facts.N());
   const auto digits = std::count_if(shown.begin(), shown.end(),
                                     [](unsigned char c) { return std::isdigit(c) != 0; });
-  return digits <= kMostDigits ? shown : "a number of " + std::to_string(digits) + " digits";
+  if (digits <= kMostDigits) return Written(shown);
+  return SayCounted("a number of %1 digit", "a number of %1 digits", digits);
 }
 
 }  // namespace
@@ -29,28 +31,28 @@ std::string ShownProduct(const Product& product, const Facts& facts) {
 /// one factor.
 Judgement JudgeMultiplicative(const Facts& facts) {
   if (!facts.Square.HasUnits()) {
-    return TooLarge("the numbers have too many digits to be multiplied exactly");
+    return TooLarge(Say("the numbers have too many digits to be multiplied exactly"));
   }
   const auto& units = facts.Square.Units();
   if (const auto zero = std::find(units.begin(), units.end(), 0); zero != units.end()) {
     const int cell = static_cast<int>(zero - units.begin());
-    return Fails(facts.NumberAndPlace(cell) + " makes the products 0",
+    return Fails(Say("%1 makes the products 0", facts.NumberAndPlace(cell)),
                  {facts.Square.PlaceOf(cell)});
   }
   const Product first = ProductOf(facts.Lines.front(), facts.Square);
   for (const Line line : facts.Lines) {
     const Product product = ProductOf(line, facts.Square);
     if (product == first) continue;
-    return Fails("row 1 and " + NameOf(line, facts.N()) + " have different products: " +
-                     ShownProduct(first, facts) + " and " + ShownProduct(product, facts),
+    return Fails(Say("row 1 and %1 have different products: %2 and %3", NameOf(line, facts.N()),
+                     ShownProduct(first, facts), ShownProduct(product, facts)),
                  PlacesOf(line, facts.N()));
   }
-  return Holds("the numbers in every row, column and main diagonal have the product " +
-               ShownProduct(first, facts));
+  return Holds(Say("the numbers in every row, column and main diagonal have the product %1",
+                   ShownProduct(first, facts)));
 }
 
 Judgement JudgeAdditionMultiplication(const Facts& facts) {
-  return All(facts, {"magic", "multiplicative"}, Holds("it is magic and multiplicative"));
+  return All(facts, {"magic", "multiplicative"}, Holds(Say("it is magic and multiplicative")));
 }
 
 }  // namespace numorra

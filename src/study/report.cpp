@@ -7,6 +7,7 @@
 #include "study/census.h"
 #include "study/famous.h"
 #include "study/images.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -30,36 +31,38 @@ std::string RepeatedIn(const Facts& facts) {
       repeated.push_back(facts.NumberIn(cell));
     }
   }
-  if (repeated.empty()) return "none";
+  if (repeated.empty()) return SayIn("repeated numbers", "none");
   constexpr std::size_t kShown = 10;
-  std::string text;
-  for (std::size_t i = 0; i < std::min(kShown, repeated.size()); ++i)
-    text += (i > 0 ? ", " : "") + repeated[i];
-  if (repeated.size() > kShown)
-    text += " and " + std::to_string(repeated.size() - kShown) + " more";
-  return text;
+  std::string list = repeated.front();
+  for (std::size_t i = 1; i < std::min(kShown, repeated.size()); ++i)
+    list = Say("%1, %2", list, repeated[i]);
+  if (repeated.size() <= kShown) return list;
+  // Translators: %2 is a list of numbers
+  return SayCounted("%2 and %1 more", "%2 and %1 more", repeated.size() - kShown, list);
 }
 
 std::vector<Detail> DetailsOf(const Facts& facts, const Report& report) {
   constexpr int kLargestShown = 10;
   std::vector<Detail> details;
   if (const FamousSquare* famous = FamousWithForm(report.StandardForm)) {
-    details.emplace_back("famous", famous->Story);
+    details.emplace_back(Mark("famous"), Say(famous->Story));
   }
-  details.emplace_back("sum", facts.Square.HasUnits()
-                                  ? report.Total + " in " + std::to_string(facts.LinesOfTotal) +
-                                        " of " + std::to_string(facts.Lines.size()) + " lines"
-                                  : "too large to say");
-  details.emplace_back("smallest", Decimal(facts.Smallest()));
-  details.emplace_back("largest", Decimal(facts.Largest()));
-  details.emplace_back("repeated", RepeatedIn(facts));
+  // Translators: 34 in 7 of 10 lines; %1 is the number of all lines
+  details.emplace_back(Mark("sum"), facts.Square.HasUnits()
+                                        ? SayCounted("%2 in %3 of %1 line", "%2 in %3 of %1 lines",
+                                                     facts.Lines.size(), facts.Shown(facts.Total),
+                                                     facts.LinesOfTotal)
+                                        : Say("too large to say"));
+  details.emplace_back(Mark("smallest"), Written(facts.Smallest()));
+  details.emplace_back(Mark("largest"), Written(facts.Largest()));
+  details.emplace_back(Mark("repeated"), RepeatedIn(facts));
   if (facts.N() <= kLargestShown) {
-    details.emplace_back("standard form", OnOneLine(report.StandardForm));
+    details.emplace_back(Mark("standard form"), OnOneLine(report.StandardForm));
   }
   if (report.Census > 0) {
-    details.emplace_back("census number", std::to_string(report.Census) + " of the 880 of order 4");
-    details.emplace_back("Dudeney type", report.Complements.Type);
-    details.emplace_back("pairs of 17", report.Complements.Pairs);
+    details.emplace_back(Mark("census number"), Say("%1 of the 880 of order 4", report.Census));
+    details.emplace_back(Mark("Dudeney type"), Say(report.Complements.Type.c_str()));
+    details.emplace_back(Mark("pairs of 17"), report.Complements.Pairs);
   }
   return details;
 }
@@ -84,7 +87,7 @@ Report Study(NumberSquare square) {
   const Facts facts(std::move(square));
   Report report;
   report.Numbers = facts.Square.Numbers();
-  if (facts.Square.HasUnits()) report.Total = facts.Shown(facts.Total);
+  if (facts.Square.HasUnits()) report.Total = facts.Square.Shown(facts.Total);
   report.StandardForm = StandardForm(facts.Square.Numbers());
   report.Properties.reserve(Terms().size());
   for (const Term& term : Terms())
@@ -98,24 +101,25 @@ Report Study(NumberSquare square) {
 const char* WordFor(Answer answer) {
   switch (answer) {
     case Answer::Holds:
-      return "holds";
+      return Mark("holds");
     case Answer::Fails:
-      return "fails";
+      return Mark("fails");
     case Answer::DoesNotApply:
-      return "does not apply";
+      return Mark("does not apply");
     case Answer::TooLarge:
       break;
   }
-  return "too large to say";
+  return Mark("too large to say");
 }
 
 std::string TextOf(const Report& report) {
-  const std::string order = std::to_string(report.Numbers.Order());
-  std::string text = order + " x " + order + "\n";
+  std::string text = Say("%1 x %1", report.Numbers.Order()) + "\n";
   for (const auto& [name, value] : report.Details)
-    text.append(name).append(": ").append(value).append("\n");
-  for (const auto& [term, found] : report.Properties)
-    text += std::string(term->Name) + ": " + WordFor(found.Says) + ", " + found.Why + "\n";
+    text += Say("%1: %2", Say(name.c_str()), value) + "\n";
+  for (const auto& [term, found] : report.Properties) {
+    // Translators: "magic: holds, all rows, columns and both main diagonals add up to 34"
+    text += Say("%1: %2, %3", Say(term->Name), Say(WordFor(found.Says)), found.Why) + "\n";
+  }
   return text;
 }
 

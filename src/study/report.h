@@ -15,7 +15,8 @@ struct Property {
   Judgement Found;
 };
 
-/// A plain fact: "smallest", "1".
+/// A plain fact: "smallest", "1". The name is a phrase, to be said where it is shown; the fact is
+/// said.
 using Detail = std::pair<std::string, std::string>;
 
 /// All that is known about a square.
@@ -32,10 +33,10 @@ struct Report {
 /// Studies the square: one pass over all terms.
 Report Study(NumberSquare square);
 
-/// "holds", "fails", "does not apply", "too large to say".
+/// "holds", "fails", "does not apply", "too large to say", to be said where it is shown.
 const char* WordFor(Answer answer);
 
-/// The report as lines of text, and as one JSON object on one line:
+/// The report as lines of text in the reader's language, and as one JSON object on one line:
 /// {"order": 4, "total": 34, "properties": {"magic": true, "compact": null, ...},
 ///  "evidence": {"magic": "...", ...}, "rows": [[16, ...], ...],
 ///  "standard-form": [[1, ...], ...], "census": 175, "dudeney-type": "III",

@@ -8,62 +8,67 @@
 #include "study/kept_relatives.h"
 #include "study/terms.h"
 #include "study/two_digits.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
-
-std::string NoneOf(const char* kind, int order, const std::string& why) {
-  return "no " + std::string(kind) + " normal square has order " + std::to_string(order) + ": " +
-         why;
-}
 
 /// In orders 4k + 2, opposite cells or wrapped diagonals fix the sum of a quarter of the numbers,
 /// and this sum is not a whole number (Planck 1919).
 std::string QuarterSum(int order) {
   const double numbers = order * order;
-  return "its sums would make a quarter of the numbers add up to " +
-         Decimal(numbers * (numbers + 1) / 8) + ", which is not a whole number";
+  return Say(
+      "its sums would make a quarter of the numbers add up to %1, which is not a whole number",
+      Written(numbers * (numbers + 1) / 8));
 }
 
 bool IsSinglyEven(int order) {
   return order % 4 == 2;
 }
 
+// Translators: in this and the next two phrases, %2 says why
+constexpr const char* kNoPandiagonal = Mark("no pandiagonal normal square has order %1: %2");
+constexpr const char* kNoUltramagic = Mark("no ultramagic normal square has order %1: %2");
+
 std::string WhyNotAssociative(int order) {
-  return IsSinglyEven(order) ? NoneOf("associative", order, QuarterSum(order)) : "";
+  if (!IsSinglyEven(order)) return "";
+  return Say("no associative normal square has order %1: %2", order, QuarterSum(order));
 }
 
 std::string WhyNotPandiagonal(int order) {
   if (order == 3) {
-    return NoneOf("pandiagonal", order,
-                  "the lines through any cell would make it a third of the total, 5");
+    return Say(kNoPandiagonal, order,
+               Say("the lines through any cell would make it a third of the total, 5"));
   }
-  return IsSinglyEven(order) ? NoneOf("pandiagonal", order, QuarterSum(order)) : "";
+  return IsSinglyEven(order) ? Say(kNoPandiagonal, order, QuarterSum(order)) : "";
 }
 
 std::string WhyNotMostPerfect(int order) {
   if (order % 4 == 0) return "";
-  return NoneOf("most-perfect", order, "such squares have an order that is a multiple of 4");
+  return Say(
+      "no most-perfect normal square has order %1: such squares have an order that is a multiple "
+      "of 4",
+      order);
 }
 
 std::string WhyNotUltramagic(int order) {
   if (order == 4) {
-    return NoneOf(
-        "ultramagic", order,
-        "in a pandiagonal one, a number and the one two cells away on a diagonal add up to "
-        "17, and so opposite ones cannot");
+    return Say(kNoUltramagic, order,
+               Say("in a pandiagonal one, a number and the one two cells away on a diagonal add up "
+                   "to 17, and so opposite ones cannot"));
   }
   if (WhyNotPandiagonal(order).empty()) return "";
-  return NoneOf("ultramagic", order,
-                "it would have to be pandiagonal, and no square of this order is");
+  return Say(kNoUltramagic, order,
+             Say("it would have to be pandiagonal, and no square of this order is"));
 }
 
 std::string WhyNotBordered(int order) {
   constexpr int kSmallest = 5;
   if (order >= kSmallest) return "";
-  return NoneOf(
-      "bordered", order,
-      "there is no magic square of order " + std::to_string(order - 2) + " to put a border around");
+  return Say(
+      "no bordered normal square has order %1: there is no magic square of order %2 to put a "
+      "border around",
+      order, order - 2);
 }
 
 /// A relative of the same kind, reached in several random steps.
@@ -78,11 +83,12 @@ Square<double> Related(Square<double> square, Random& random) {
 }  // namespace
 
 const std::array<SpecialKind, 5> kSpecialKinds = {{
-    {"associative", "Associativex", "&Associative", WhyNotAssociative, AssociativeSquare},
-    {"pandiagonal", "Pandiagonalx", "&Pandiagonal", WhyNotPandiagonal, PandiagonalSquare},
-    {"most-perfect", "MostPerfectx", "&Most-perfect", WhyNotMostPerfect, MostPerfectSquare},
-    {"ultramagic", "Ultramagicx", "&Ultramagic", WhyNotUltramagic, UltramagicSquare},
-    {"bordered", "Borderedx", "&Bordered", WhyNotBordered, BorderedSquare},
+    // Translators: kinds of magic squares to choose from in a menu
+    {"associative", "Associativex", Mark("&Associative"), WhyNotAssociative, AssociativeSquare},
+    {"pandiagonal", "Pandiagonalx", Mark("&Pandiagonal"), WhyNotPandiagonal, PandiagonalSquare},
+    {"most-perfect", "MostPerfectx", Mark("&Most-perfect"), WhyNotMostPerfect, MostPerfectSquare},
+    {"ultramagic", "Ultramagicx", Mark("&Ultramagic"), WhyNotUltramagic, UltramagicSquare},
+    {"bordered", "Borderedx", Mark("&Bordered"), WhyNotBordered, BorderedSquare},
 }};
 
 const SpecialKind* FindSpecialKind(const std::string& term) {

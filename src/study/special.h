@@ -12,7 +12,7 @@ namespace numorra {
 struct SpecialKind {
   const char* Term;
   const char* Name;     ///< of its menu item
-  const char* Caption;  ///< what the item says
+  const char* Caption;  ///< what the item says, a phrase
 
   /// Why no normal square of this kind has the order, one of 3..50; empty if one has.
   std::string (*WhyNone)(int order);

@@ -7,7 +7,8 @@
 namespace numorra {
 
 /// A term for squares, as this program defines it. Authors differ on some; the definition says what
-/// is judged.
+/// is judged. Name, group and definition are phrases, to be said where they are shown; programs
+/// read the name as it is.
 struct Term {
   const char* Name;
   const char* Group;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/board/board.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -16,7 +17,7 @@ namespace numorra {
 /// exchanges made so far remain.
 struct Symmetry {
   const char* Name;     ///< of the menu item
-  const char* Caption;  ///< the item's text
+  const char* Caption;  ///< the item's text, a phrase
   void (*Turn)(CellTable& cells, int order);
 };
 
@@ -41,13 +42,13 @@ void RotateBoard270(CellTable& cells, int order);
 
 /// The seven symmetries that change a square, in menu order.
 inline constexpr std::array kSymmetries = {
-    Symmetry{"flipvx", "Flip vertical", FlipBoardVertical},
-    Symmetry{"fliphx", "Flip horizontal", FlipBoardHorizontal},
-    Symmetry{"flipd1x", "Flip diagonal 1", FlipBoardDiagonal1},
-    Symmetry{"flipd2x", "Flip diagonal 2", FlipBoardDiagonal2},
-    Symmetry{"rot90x", "Rotate 90d", RotateBoard90},
-    Symmetry{"rot180x", "Rotate 180d", RotateBoard180},
-    Symmetry{"rot270x", "Rotate 270d", RotateBoard270},
+    Symmetry{"flipvx", Mark("Flip vertical"), FlipBoardVertical},
+    Symmetry{"fliphx", Mark("Flip horizontal"), FlipBoardHorizontal},
+    Symmetry{"flipd1x", Mark("Flip diagonal 1"), FlipBoardDiagonal1},
+    Symmetry{"flipd2x", Mark("Flip diagonal 2"), FlipBoardDiagonal2},
+    Symmetry{"rot90x", Mark("Rotate 90d"), RotateBoard90},
+    Symmetry{"rot180x", Mark("Rotate 180d"), RotateBoard180},
+    Symmetry{"rot270x", Mark("Rotate 270d"), RotateBoard270},
 };
 
 /// The symmetry as a command: reads the grid, turns it and shows it, and checks the totals again if
