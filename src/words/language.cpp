@@ -75,6 +75,10 @@ std::string Language() {
   return header.substr(begin, header.find('\n', begin) - begin);
 }
 
+bool SpeaksEnglish() {
+  return !IsTranslating();
+}
+
 InEnglish::InEnglish() : before_(IsTranslating()) {
   IsTranslating() = false;
 }

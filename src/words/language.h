@@ -14,6 +14,9 @@ void SpeakLanguageOfDesktop();
 /// The name of the language, such as "de" or "pt_BR", as its catalogue tells; "" for English.
 std::string Language();
 
+/// Whether phrases are said as they stand in the sources.
+bool SpeaksEnglish();
+
 /// While one is alive, everything is said in English: for what programs read.
 class InEnglish {
  public:

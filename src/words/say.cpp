@@ -44,6 +44,7 @@ std::string Written(std::string_view number, const NumberStyle& style) {
 }
 
 std::string Written(std::string_view number) {
+  if (SpeaksEnglish()) return std::string(number);
   // Translators: write this number as your language does, with the same digits. If your language
   // separates groups of digits only in long numbers, do so here: short ones stay without.
   return Written(number, StyleIn(SayIn("example of a number", "-1234567.5")));
