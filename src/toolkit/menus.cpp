@@ -1,5 +1,7 @@
 #include "toolkit/menus.h"
 
+#include <QRegularExpression>
+
 #include "toolkit/named.h"
 
 namespace numorra {
@@ -10,6 +12,11 @@ QAction* AddItem(QMenu* menu, const MenuItem& item) {
   action->setCheckable(item.Checkable);
   QObject::connect(action, &QAction::triggered, menu, item.Act);
   return action;
+}
+
+/// Where letters are not of the language's own script, they follow in brackets.
+std::string WithoutMnemonic(QString caption) {
+  return caption.remove(QRegularExpression("\\(&.\\)")).remove('&').toStdString();
 }
 
 }  // namespace numorra
