@@ -14,7 +14,7 @@ QAction* AddItem(QMenu* menu, const MenuItem& item) {
   return action;
 }
 
-/// Where letters are not of the language's own script, they follow in brackets.
+/// In scripts that no keyboard has as letters, the caption ends with the letter in brackets.
 std::string WithoutMnemonic(QString caption) {
   return caption.remove(QRegularExpression("\\(&.\\)")).remove('&').toStdString();
 }

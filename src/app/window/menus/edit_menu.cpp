@@ -14,7 +14,7 @@ namespace numorra {
 namespace {
 
 /// A step as the player reads it: the history tells steps of typing by names of its own.
-std::string NameOf(const std::string& step) {
+std::string StepName(const std::string& step) {
   if (step == UndoHistory::kTyping) return SayIn("step", "typing");
   if (step == UndoHistory::kNoting) return SayIn("step", "note");
   return step;
@@ -56,9 +56,9 @@ void EditMenu::ShowState() {
   undo_->setEnabled(history.CanUndo());
   redo_->setEnabled(history.CanRedo());
   // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
-  undo_->setText(history.CanUndo() ? Tr("&Undo %1", NameOf(history.UndoName())) : Tr("&Undo"));
+  undo_->setText(history.CanUndo() ? Tr("&Undo %1", StepName(history.UndoName())) : Tr("&Undo"));
   // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
-  redo_->setText(history.CanRedo() ? Tr("&Redo %1", NameOf(history.RedoName())) : Tr("&Redo"));
+  redo_->setText(history.CanRedo() ? Tr("&Redo %1", StepName(history.RedoName())) : Tr("&Redo"));
   check_->setEnabled(desk_.TheBoard().Shown());
 }
 
