@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/option_words.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
