@@ -17,8 +17,14 @@
 #include "toolkit/program_icon.h"
 #include "toolkit/reader_language.h"
 #include "words/language.h"
+#include "words/say.h"
 
 namespace {
+
+int Fail(int status, const std::string& why) {
+  std::fprintf(stderr, "numorra: %s\n", why.c_str());
+  return status;
+}
 
 /// The toolkit's first complaint before it could start: the reason if it then gives up.
 QString& ReasonAtStart() {
@@ -31,8 +37,7 @@ void ReportFatally(QtMsgType type, const QMessageLogContext&, const QString& mes
   if (type == QtFatalMsg) {
     QString reason = ReasonAtStart().isEmpty() ? message : ReasonAtStart();
     reason = reason.section('\n', 0, 0).trimmed();
-    std::fprintf(stderr, "numorra: cannot open a window: %s\n", qPrintable(reason));
-    std::_Exit(EXIT_FAILURE);
+    std::_Exit(Fail(EXIT_FAILURE, numorra::Say("cannot open a window: %1", reason.toStdString())));
   }
   if (type == QtDebugMsg || type == QtInfoMsg) return;
   if (QCoreApplication::startingUp()) {
@@ -65,14 +70,10 @@ using Wanted = numorra::ProgramRequest::Kind;
 
 /// Answers what needs no display. Only the toolkit knows its own options, so nothing is wrong yet.
 std::optional<int> AnswerWithoutWindow(const numorra::ProgramRequest& request) {
-  if (request.Wanted == Wanted::Help) return std::fputs(numorra::ProgramUsage(), stdout) < 0;
+  if (request.Wanted == Wanted::Help)
+    return std::fputs(numorra::ProgramUsage().c_str(), stdout) < 0;
   if (request.Wanted == Wanted::Version) return std::puts("numorra " NUMORRA_VERSION) < 0;
   return std::nullopt;
-}
-
-int Fail(int status, const std::string& why) {
-  std::fprintf(stderr, "numorra: %s\n", why.c_str());
-  return status;
 }
 
 /// Writes worksheets; the statuses are the companion's.

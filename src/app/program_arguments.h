@@ -25,6 +25,6 @@ struct ProgramRequest {
 ProgramRequest ParseProgramArguments(const std::vector<std::string>& words);
 
 /// The text that --help prints.
-const char* ProgramUsage();
+std::string ProgramUsage();
 
 }  // namespace numorra

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/option_words.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -26,8 +27,8 @@ class SheetsReader {
     while (words_.Next()) {
       if (!Take(words_.Option())) others_.push_back(words_.Whole());
     }
-    if (request_.File.empty()) words_.Fail("the file for the sheets is missing");
-    if (!words_.Error().empty()) return words_.Error() + "; try --help";
+    if (request_.File.empty()) words_.Fail(Say("the file for the sheets is missing"));
+    if (!words_.Error().empty()) return Say("%1; try --help", words_.Error());
     const Arguments puzzles = ParseArguments(others_);
     if (const auto* bad = std::get_if<BadArguments>(&puzzles)) return bad->Message;
     request_.Puzzles = std::get<SquareRequest>(puzzles);
@@ -49,7 +50,7 @@ class SheetsReader {
     if (option == "--title") return Set(request_.Title, words_.Value());
     if (option == "--per-page") return TakePerPage(words_.Value());
     for (const char* other : {"--format", "--steps", "--help", "--version"}) {
-      if (option == other) words_.Fail("'" + option + "' does not go with '--sheets'");
+      if (option == other) words_.Fail(Say("'%1' does not go with '%2'", option, kSheets));
     }
     return option == "--paper" && TakePaper(words_.Value());
   }
@@ -63,7 +64,7 @@ class SheetsReader {
   bool TakePerPage(const std::string& value) {
     constexpr const char* kNumbers[] = {"1", "2", "4", "6"};
     if (std::find(std::begin(kNumbers), std::end(kNumbers), value) == std::end(kNumbers)) {
-      words_.Fail("a page has 1, 2, 4 or 6 puzzles");
+      words_.Fail(Say("a page has 1, 2, 4 or 6 puzzles"));
     } else {
       request_.PerPage = std::stoi(value);
     }
@@ -71,7 +72,7 @@ class SheetsReader {
   }
 
   bool TakePaper(const std::string& value) {
-    if (value != "a4" && value != "letter") words_.Fail("the paper must be a4 or letter");
+    if (value != "a4" && value != "letter") words_.Fail(Say("the paper must be a4 or letter"));
     request_.Letter = value == "letter";
     return true;
   }

@@ -7,6 +7,7 @@
 
 #include "cli/arguments.h"
 #include "print/sheet_options.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -15,7 +16,7 @@ struct SheetsRequest {
   std::string File;
   std::optional<std::string> Answers;  ///< a file for the answers; otherwise they come last
   int PerPage = 6;                     ///< 1, 2, 4 or 6
-  std::string Title = "Magic squares";
+  std::string Title = Say("Magic squares");
   bool TotalGiven = true;
   bool Landscape = false;
   bool Letter = false;  ///< paper; otherwise A4

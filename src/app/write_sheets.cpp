@@ -7,6 +7,7 @@
 #include "print/worksheet.h"
 #include "toolkit/pdf_file.h"
 #include "toolkit/whole_file.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -39,7 +40,7 @@ bool WriteSheets(const SheetsRequest& request, const Streams& streams) {
     all &= solved != nullptr;
     if (solved) puzzles.push_back(*solved);
   });
-  if (puzzles.empty()) throw Impossible{"no puzzle has exactly one solution"};
+  if (puzzles.empty()) throw Impossible{Say("no puzzle has exactly one solution")};
   const Worksheet sheet(
       std::move(puzzles),
       {request.PerPage, QString::fromStdString(request.Title), request.TotalGiven, request.Options},

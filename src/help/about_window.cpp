@@ -5,24 +5,30 @@
 
 #include "toolkit/named.h"
 #include "toolkit/program_icon.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
 
 constexpr int kPicturePixels = 96;
-constexpr const char* kText =
-    "\nNumorra - Feb 2004\nQuestions and ideas are welcome:\nnumorra@example.org\n";
+
+/// With an empty line above and below.
+QString TextAbout() {
+  return '\n' +
+         Tr("Numorra - Feb 2004\nQuestions and ideas are welcome:\n%1", "numorra@example.org") +
+         '\n';
+}
 
 }  // namespace
 
 AboutForm::AboutForm(QWidget* parent)
     : QDialog(parent),
-      AboutText(Named("AboutText", new QLabel(kText))),
+      AboutText(Named("AboutText", new QLabel(TextAbout()))),
       Picture1(Named("Picture1", new QLabel)),
-      Label1(Named("Label1", new QLabel("Version 1.0"))),
-      AboutOk(Named("AboutOk", new QPushButton("OK"))) {
+      Label1(Named("Label1", new QLabel(Tr("Version %1", "1.0")))),
+      AboutOk(Named("AboutOk", new QPushButton(Tr("OK")))) {
   setObjectName("AboutForm");
-  setWindowTitle("About Numorra");
+  setWindowTitle(Tr("About Numorra"));
   setAttribute(Qt::WA_DeleteOnClose);
   AboutText->setFont(QFont("MS Sans Serif"));
   AboutText->setTextFormat(Qt::PlainText);

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 
 #include "help/help_page.h"
+#include "toolkit/tr.h"
 #include "toolkit/twips.h"
 
 namespace numorra {
@@ -49,7 +50,7 @@ void FolderBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
 HelpForm::HelpForm(const QString& folder, QWidget* parent)
     : QDialog(parent), wb1(new FolderBrowser(folder)) {
   setObjectName("HelpForm");
-  setWindowTitle("Numorra Help");
+  setWindowTitle(Tr("Numorra Help"));
   setAttribute(Qt::WA_DeleteOnClose);
   wb1->setObjectName("wb1");
   auto* row = new QHBoxLayout(this);
@@ -60,7 +61,8 @@ HelpForm::HelpForm(const QString& folder, QWidget* parent)
   const QString page = HelpPageIn(folder);
   wb1->setSource(QUrl::fromLocalFile(page));
   if (wb1->document()->isEmpty()) {
-    wb1->setPlainText("The help page cannot be shown. It should be beside the program as\n" + page);
+    wb1->setPlainText(
+        Tr("The help page cannot be shown. It should be beside the program as\n%1", page));
   }
 }
 

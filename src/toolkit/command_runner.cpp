@@ -7,9 +7,9 @@
 #include <QCoreApplication>
 
 #include "app/board/runtime_error.h"
-#include "words/say.h"
 #include "app/board/scoped_flag.h"
 #include "app/ports/build_stage.h"
+#include "words/say.h"
 
 namespace numorra {
 

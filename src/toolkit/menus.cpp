@@ -1,5 +1,7 @@
 #include "toolkit/menus.h"
 
+#include <QRegularExpression>
+
 #include "toolkit/named.h"
 
 namespace numorra {
@@ -10,6 +12,11 @@ QAction* AddItem(QMenu* menu, const MenuItem& item) {
   action->setCheckable(item.Checkable);
   QObject::connect(action, &QAction::triggered, menu, item.Act);
   return action;
+}
+
+/// In scripts that no keyboard has as letters, the caption ends with the letter in brackets.
+std::string WithoutMnemonic(QString caption) {
+  return caption.remove(QRegularExpression("\\(&.\\)")).remove('&').toStdString();
 }
 
 }  // namespace numorra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QKeySequence>
 #include <QMenu>
@@ -10,7 +11,7 @@ namespace numorra {
 /// An item of a menu.
 struct MenuItem {
   const char* Name;
-  const char* Caption;
+  QString Caption;
   QList<QKeySequence> Keys;
   std::function<void()> Act;
   bool Checkable = false;
@@ -18,5 +19,8 @@ struct MenuItem {
 
 /// Adds the item to the menu.
 QAction* AddItem(QMenu* menu, const MenuItem& item);
+
+/// A caption without its keyboard letter, as the command behind it is named: "Vary" for "&Vary".
+std::string WithoutMnemonic(QString caption);
 
 }  // namespace numorra

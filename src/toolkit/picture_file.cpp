@@ -5,6 +5,7 @@
 
 #include "app/board/runtime_error.h"
 #include "toolkit/pdf_file.h"
+#include "toolkit/tr.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -15,9 +16,7 @@ constexpr int kVectorUnits = 4000;
 QByteArray PngOf(int pixels, const std::function<void(QPainter&)>& paint) {
   QImage picture(pixels, pixels, QImage::Format_RGB32);
   if (picture.isNull()) {
-    const std::string side = std::to_string(pixels);
-    throw RuntimeError(Fault::FileError,
-                       "there is no memory for " + side + " x " + side + " pixels");
+    throw RuntimeError(Fault::FileError, Say("there is no memory for %1 x %1 pixels", pixels));
   }
   picture.fill(Qt::white);
   QPainter painter(&picture);
@@ -36,7 +35,7 @@ QByteArray SvgOf(int millimetres, const std::function<void(QPainter&)>& paint) {
   file.open(QIODevice::WriteOnly);
   QSvgGenerator generator;
   generator.setOutputDevice(&file);
-  generator.setTitle("Magic square");
+  generator.setTitle(Tr("Magic square"));
   generator.setDescription("");
   generator.setResolution(kPerInch);
   generator.setSize(QSize(millimetres, millimetres) * kPerMillimetre);
@@ -69,7 +68,9 @@ void WritePicture(const QString& name, PictureKind kind, int size,
                   const std::function<void(QPainter&)>& paint) {
   const QString suffix = QString(".") + FormatOf(kind).Suffix;
   if (!name.endsWith(suffix, Qt::CaseInsensitive)) {
-    throw RuntimeError(Fault::FileError, (name + " is not a " + suffix + " file").toStdString());
+    throw RuntimeError(Fault::FileError,
+                       // Translators: %1 is a file's name, %2 is a suffix such as ".png".
+                       Say("%1 is not a %2 file", name.toStdString(), suffix.toStdString()));
   }
   WriteWholeFile(name, kind == PictureKind::Png   ? PngOf(size, paint)
                        : kind == PictureKind::Svg ? SvgOf(size, paint)

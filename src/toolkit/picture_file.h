@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QString>
 
+#include "words/say.h"
+
 namespace numorra {
 
 /// The formats of pictures.
@@ -16,14 +18,15 @@ struct PictureFormat {
   PictureKind Kind;
   const char* Caption;
   const char* Suffix;
-  const char* Files;  ///< what its files are called in a file dialog
+  const char* Files;  ///< what a file dialog calls its files, marked
   bool InPixels;      ///< otherwise in millimetres
 };
 
 inline constexpr std::array<PictureFormat, 3> kPictureFormats = {
-    {{PictureKind::Png, "PNG", "png", "Pictures", true},
-     {PictureKind::Svg, "SVG", "svg", "Drawings", false},
-     {PictureKind::Pdf, "PDF", "pdf", "Documents", false}}};
+    // Translators: the names of kinds of files, in file dialogs.
+    {{PictureKind::Png, "PNG", "png", Mark("Pictures"), true},
+     {PictureKind::Svg, "SVG", "svg", Mark("Drawings"), false},
+     {PictureKind::Pdf, "PDF", "pdf", Mark("Documents"), false}}};
 
 constexpr const PictureFormat& FormatOf(PictureKind kind) {
   return kPictureFormats[static_cast<std::size_t>(kind)];

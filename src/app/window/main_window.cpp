@@ -20,6 +20,7 @@
 #include "help/help_window.h"
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 #include "toolkit/twips.h"
 
 namespace numorra {
@@ -109,12 +110,13 @@ void MainWindow::AddMenus(const KeptFolders& folders) {
   new ControlsMenu(menuBar(), *controls_);
   new StudyMenu(this, desk_, view_->Room());
   new PuzzleMenu(menuBar(), desk_, searchStage_, {world_.Pages, world_.Files}, state_);
-  QMenu* help = menuBar()->addMenu("&Help");
-  AddItem(help, {"Helpx", "&Help", QKeySequence::keyBindings(QKeySequence::HelpContents),
+  QMenu* help = menuBar()->addMenu(Tr("&Help"));
+  AddItem(help, {"Helpx", Tr("&Help"), QKeySequence::keyBindings(QKeySequence::HelpContents),
                  desk_.Beside([this] {
                    (new HelpForm(QCoreApplication::applicationDirPath(), this))->open();
                  })});
-  AddItem(help, {"Aboutx", "&About", {}, desk_.Beside([this] { (new AboutForm(this))->open(); })});
+  AddItem(help,
+          {"Aboutx", Tr("&About"), {}, desk_.Beside([this] { (new AboutForm(this))->open(); })});
   menuBar()->setCornerWidget(state_);
 }
 

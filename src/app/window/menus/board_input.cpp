@@ -3,10 +3,10 @@
 #include <memory>
 #include <utility>
 
-#include "app/board/numbers.h"
 #include "app/play/board_state.h"
 #include "app/window/board/grid_accessible.h"
 #include "toolkit/on_signal.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -64,7 +64,7 @@ void BoardInput::ConnectGestures() {
   const EditCommand& swap = *FindEdit(std::string("swapvaluex"));
   OnSignal(desk_.Runner, gestures, &CellGestures::Dragged, this,
            [this, &board, &swap](Place from, Place to) {
-             desk_.RunOnCurrentCell(swap.Caption, [this, &board, from, to] {
+             desk_.RunOnCurrentCell(Say(swap.Caption), [this, &board, from, to] {
                DragCell(board, desk_.TheDialogs, from, to);
              });
            });
@@ -86,8 +86,10 @@ void BoardInput::ConnectKeys() {
              [cells](bool another) { ReadCurrentCell(*cells, another); });
   }
   OnSignal(desk_.Runner, view, &GridView::CellWanted, this, [this, &session](int row, int column) {
-    desk_.RunOnCurrentCell(
-        "move", [&session, row, column] { session.TheBoard.grid.SetCurrent(row, column); });
+    // Translators: the name of what the player did, as in "Undo move".
+    desk_.RunOnCurrentCell(SayIn("step", "move"), [&session, row, column] {
+      session.TheBoard.grid.SetCurrent(row, column);
+    });
   });
   OnSignal(desk_.Runner, view, &GridView::CharacterTyped, this, [this, &session](char32_t typed) {
     if (typed == U'\r' && session.Noting().EndNumber()) return;
@@ -95,7 +97,8 @@ void BoardInput::ConnectKeys() {
       desk_.RunOnCurrentCell(UndoHistory::kNoting,
                              [&session, typed] { session.Noting().TypeCharacter(typed); });
     } else if (typed == U'\r') {
-      desk_.RunOnCurrentCell("check", [&session] { session.Entry().PressEnter(); });
+      // Translators: the name of what the player did, as in "Undo check".
+      desk_.RunOnCurrentCell(SayIn("step", "check"), [&session] { session.Entry().PressEnter(); });
     } else {
       auto why = std::make_shared<std::string>();
       desk_.RunOnCurrentCell(UndoHistory::kTyping, [&session, typed, why] {
@@ -105,7 +108,8 @@ void BoardInput::ConnectKeys() {
     }
   });
   OnSignal(desk_.Runner, view, &GridView::KeypadPressed, this, [this, &session](int sign) {
-    desk_.RunOnCurrentCell("step", [&session, sign] {
+    // Translators: a number becomes larger or smaller by one: the name of that, as in "Undo step".
+    desk_.RunOnCurrentCell(SayIn("step", "step"), [&session, sign] {
       sign > 0 ? session.Entry().KeypadPlus() : session.Entry().KeypadMinus();
     });
   });
@@ -126,13 +130,14 @@ void BoardInput::ConnectMenu() {
 }
 
 void BoardInput::Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition) {
-  desk_.RunOnBoard("swap", [this, press = std::move(press), menuPosition] {
+  // Translators: the name of what the player did, as in "Undo swap".
+  desk_.RunOnBoard(SayIn("step", "swap"), [this, press = std::move(press), menuPosition] {
     const PressOutcome outcome = press();
     if (outcome == PressOutcome::Nothing) return;
     desk_.Menu.EnableEditing(outcome != PressOutcome::OpenShortMenu);
     desk_.Menu.redox->setEnabled(true);
     if (outcome == PressOutcome::Done) return;
-    desk_.Menu.ShowBaseValue(Str(desk_.TheBoard().BaseValue));
+    desk_.Menu.ShowBaseValue(desk_.TheBoard().BaseValue);
     if (!menuPosition) desk_.BringCurrentCellIntoView();
     desk_.Menu.popup(menuPosition.value_or(desk_.Place.View->CurrentCellPosition()));
   });

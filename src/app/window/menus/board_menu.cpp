@@ -1,14 +1,18 @@
 #include "app/window/menus/board_menu.h"
 
+#include "app/board/numbers.h"
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 BoardMenu::BoardMenu(QWidget* parent)
     : QMenu(parent),
       redox(Named("redox", new QAction(this))),
-      setValue_(addMenu("Set value to")),
-      adjustValue_(addMenu("Adjust value to")) {
+      // Translators: the items of this menu go on, such as "a random value".
+      setValue_(addMenu(Tr("Set value to"))),
+      // Translators: the items of this menu go on, such as "correct row total".
+      adjustValue_(addMenu(Tr("Adjust value to"))) {
   setObjectName("ManualMenux");
   Named("SetValuex", setValue_->menuAction());
   Named("Adjustvaluex", adjustValue_->menuAction());
@@ -16,10 +20,10 @@ BoardMenu::BoardMenu(QWidget* parent)
   for (const EditCommand& command : EditTable()) {
     QMenu* menu = MenuOf(command.Menu);
     if (menu == this && std::exchange(group, command.Menu) != command.Menu) addSeparator();
-    QAction* action = Named(command.Name, menu->addAction(command.Caption));
+    QAction* action = Named(command.Name, menu->addAction(Tr(command.Caption)));
     connect(action, &QAction::triggered, this, [this, &command] { Q_EMIT Chosen(&command); });
   }
-  Named("transx", addAction("Transpose"));  // does nothing, by design
+  Named("transx", addAction(Tr("Transpose")));  // does nothing, by design
   addSeparator();
   addAction(redox);
   connect(redox, &QAction::triggered, this, &BoardMenu::RedoChosen);
@@ -44,10 +48,10 @@ void BoardMenu::ShowHistory(const CommandHistory& history) {
   redox->setText(QString::fromStdString(history.Caption));
 }
 
-void BoardMenu::ShowBaseValue(const std::string& value) {
-  const QString text = QString::fromStdString(value);
-  setValue_->actions().first()->setText(text);
-  setValue_->actions().last()->setText("all other values to" + text);
+void BoardMenu::ShowBaseValue(double value) {
+  const EditCommand& others = *FindEdit(std::string("SetAllRem"));
+  setValue_->actions().first()->setText(QString::fromStdString(Str(value)));
+  setValue_->actions().last()->setText(QString::fromStdString(WordsFor(others, value)));
 }
 
 void BoardMenu::EnableEditing(bool enabled) {

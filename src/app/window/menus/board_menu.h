@@ -19,7 +19,7 @@ class BoardMenu : public QMenu {
   void ShowHistory(const CommandHistory& history);
 
   /// Shows the base value, " 12" for 12, in the items that use it.
-  void ShowBaseValue(const std::string& value);
+  void ShowBaseValue(double value);
 
   /// Enables or disables the commands that need a checked board.
   void EnableEditing(bool enabled);

@@ -2,19 +2,12 @@
 
 #include <utility>
 
+#include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
 #include "visual/shading.h"
+#include "words/say.h"
 
 namespace numorra {
-namespace {
-
-/// A button's text without its mnemonic.
-std::string CaptionOf(const QAbstractButton* button) {
-  return button->text().remove('&').toStdString();
-}
-
-}  // namespace
-
 ControlCommands::ControlCommands(Desk& desk, QObject* parent) : QObject(parent), desk_(desk) {
   ConnectBuilds();
   ConnectModes();
@@ -24,8 +17,9 @@ ControlCommands::ControlCommands(Desk& desk, QObject* parent) : QObject(parent),
 }
 
 void ControlCommands::Command(QPushButton* button, CommandRunner::Command body) {
-  OnClick(desk_.Runner, button, this,
-          [this, button, body = std::move(body)] { desk_.Runner.Run(CaptionOf(button), body); });
+  OnClick(desk_.Runner, button, this, [this, button, body = std::move(body)] {
+    desk_.Runner.Run(WithoutMnemonic(button->text()), body);
+  });
 }
 
 /// Runs a command that makes a board, then shows the board from its current cell.
@@ -52,7 +46,7 @@ void ControlCommands::ConnectBuilds() {
   Command(controls.Corners->DoCor1, [&session] { session.Solve().VaryCornerDiagonals(); });
   Command(controls.Corners->DoCor2, [&session] { session.Solve().VaryCornerEdges(); });
   OnSignal(desk_.Runner, controls.Corners->Combo1, &CornerBox::Entered, this, [this] {
-    desk_.Runner.Run("Corners", [this] {
+    desk_.Runner.Run(Say("Corners"), [this] {
       desk_.Controls.Corners->Combo1->clear();
       desk_.TheSession.OfferCorners(*desk_.Controls.Corners);
     });
@@ -66,7 +60,7 @@ void ControlCommands::ConnectModes() {
     QRadioButton* option = mode == ModeNormal ? solve.Option3 : solve.Option4;
     OnSignal(desk_.Runner, option, &QRadioButton::toggled, this, [this, mode, option](bool on) {
       if (!on) return;
-      desk_.Runner.Run(CaptionOf(option), [this, mode] {
+      desk_.Runner.Run(WithoutMnemonic(option->text()), [this, mode] {
         desk_.TheSession.SetMode(mode);
         desk_.ShowMode();
       });

@@ -3,14 +3,15 @@
 #include <QEvent>
 
 #include "toolkit/menus.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 ControlsMenu::ControlsMenu(QMenuBar* bar, const ControlColumn& controls) : QObject(bar) {
-  QMenu* menu = bar->addMenu("&Board");
+  QMenu* menu = bar->addMenu(Tr("&Board"));
   const auto add = [&](const char* name, const QKeySequence& key, QPushButton* button,
-                       const QString& before = {}) {
-    const QByteArray caption = (before + button->text()).toUtf8();
+                       const QString& inMenu = {}) {
+    const QString caption = inMenu.isEmpty() ? button->text() : inMenu;
     QAction* item = AddItem(menu, {name, caption, {key}, [button] { button->click(); }});
     item->setEnabled(button->isEnabled());
     button->installEventFilter(this);
@@ -23,8 +24,8 @@ ControlsMenu::ControlsMenu(QMenuBar* bar, const ControlColumn& controls) : QObje
   add("BoardSet4x4x", Qt::SHIFT | Qt::Key_F6, controls.Square->Set4x4);
   add("BoardRandomx", Qt::Key_F7, controls.Square->SolveRandum);
   menu->addSeparator();
-  add("BoardDiagonalsx", Qt::CTRL | Qt::Key_D, controls.Corners->DoCor1, "Corner ");
-  add("BoardEdgesx", Qt::CTRL | Qt::Key_E, controls.Corners->DoCor2, "Corner ");
+  add("BoardDiagonalsx", Qt::CTRL | Qt::Key_D, controls.Corners->DoCor1, Tr("Corner &Diagonals"));
+  add("BoardEdgesx", Qt::CTRL | Qt::Key_E, controls.Corners->DoCor2, Tr("Corner Ed&ges"));
   menu->addSeparator();
   add("BoardShowx", Qt::Key_F4, controls.Colours->Command3);
   for (std::size_t kind = 0; kind < kDrawingKinds.size(); ++kind)

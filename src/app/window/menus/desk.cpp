@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "words/say.h"
+
 namespace numorra {
 
 void Desk::RunOnBoard(const std::string& name, CommandRunner::Command command) {
@@ -39,7 +41,7 @@ void Desk::OpenWorksheet(PuzzlesAtHand atHand, const WorksheetForm::Ports& ports
 }
 
 void Desk::Draw(const DrawingKind& kind) {
-  Runner.Run("Draw", [this, &kind] {
+  Runner.Run(Say("Draw"), [this, &kind] {
     Board& board = TheSession.TheBoard;
     if (!board.HasTotal()) return;
     Place.Picture->SetKind(&kind);

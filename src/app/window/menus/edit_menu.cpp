@@ -8,30 +8,41 @@
 #include "app/play/moves.h"
 #include "files/square_text.h"
 #include "toolkit/menus.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
+namespace {
+
+/// A step as the player reads it: the history tells steps of typing by names of its own.
+std::string StepName(const std::string& step) {
+  if (step == UndoHistory::kTyping) return SayIn("step", "typing");
+  if (step == UndoHistory::kNoting) return SayIn("step", "note");
+  return step;
+}
+
+}  // namespace
 
 EditMenu::EditMenu(QMenuBar* bar, Desk& desk) : QObject(bar), desk_(desk) {
-  QMenu* menu = bar->addMenu("&Edit");
-  undo_ = AddItem(menu, {"UndoMovex", "&Undo", {Qt::CTRL | Qt::Key_Z}, [this] {
-                           Walk("Undo", &UndoHistory::Undo);
+  QMenu* menu = bar->addMenu(Tr("&Edit"));
+  undo_ = AddItem(menu, {"UndoMovex", Tr("&Undo"), {Qt::CTRL | Qt::Key_Z}, [this] {
+                           Walk(Say("Undo"), &UndoHistory::Undo);
                          }});
   redo_ = AddItem(menu, {"RedoMovex",
-                         "&Redo",
+                         Tr("&Redo"),
                          {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
-                         [this] { Walk("Redo", &UndoHistory::Redo); }});
+                         [this] { Walk(Say("Redo"), &UndoHistory::Redo); }});
   menu->addSeparator();
-  AddItem(menu, {"Copyx", "&Copy Board", QKeySequence::keyBindings(QKeySequence::Copy),
+  AddItem(menu, {"Copyx", Tr("&Copy Board"), QKeySequence::keyBindings(QKeySequence::Copy),
                  desk_.Beside([this] { Copy(true); })});
   AddItem(menu, {"CopyNumbersx",
-                 "Copy &Numbers",
+                 Tr("Copy &Numbers"),
                  {Qt::CTRL | Qt::SHIFT | Qt::Key_C},
                  desk_.Beside([this] { Copy(false); })});
-  AddItem(menu, {"Pastex", "&Paste Board", QKeySequence::keyBindings(QKeySequence::Paste),
-                 [this] { desk_.Runner.Run("Paste", [this] { Paste(); }); }});
+  AddItem(menu, {"Pastex", Tr("&Paste Board"), QKeySequence::keyBindings(QKeySequence::Paste),
+                 [this] { desk_.Runner.Run(Say("Paste"), [this] { Paste(); }); }});
   menu->addSeparator();
-  check_ = AddItem(menu, {"CheckTotalsx", "Check &Totals", {Qt::Key_F9}, [this] {
-                            desk_.RunOnCurrentCell("Check Totals", [this] {
+  check_ = AddItem(menu, {"CheckTotalsx", Tr("Check &Totals"), {Qt::Key_F9}, [this] {
+                            desk_.RunOnCurrentCell(Say("Check Totals"), [this] {
                               desk_.TheSession.CheckTheTotals();
                               desk_.Menu.EnableEditing(true);
                             });
@@ -42,16 +53,16 @@ EditMenu::EditMenu(QMenuBar* bar, Desk& desk) : QObject(bar), desk_(desk) {
 
 void EditMenu::ShowState() {
   const UndoHistory& history = desk_.TheSession.History;
-  const auto show = [](QAction* item, const QString& caption, bool can, const std::string& step) {
-    item->setEnabled(can);
-    item->setText(can ? caption + " " + QString::fromStdString(step) : caption);
-  };
-  show(undo_, "&Undo", history.CanUndo(), history.CanUndo() ? history.UndoName() : "");
-  show(redo_, "&Redo", history.CanRedo(), history.CanRedo() ? history.RedoName() : "");
+  undo_->setEnabled(history.CanUndo());
+  redo_->setEnabled(history.CanRedo());
+  // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
+  undo_->setText(history.CanUndo() ? Tr("&Undo %1", StepName(history.UndoName())) : Tr("&Undo"));
+  // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
+  redo_->setText(history.CanRedo() ? Tr("&Redo %1", StepName(history.RedoName())) : Tr("&Redo"));
   check_->setEnabled(desk_.TheBoard().Shown());
 }
 
-void EditMenu::Walk(const char* name, void (UndoHistory::*step)(Board&)) {
+void EditMenu::Walk(const std::string& name, void (UndoHistory::*step)(Board&)) {
   desk_.Runner.Run(name, [this, step] {
     (desk_.TheSession.History.*step)(desk_.TheSession.TheBoard);
     desk_.BringCurrentCellIntoView();
@@ -76,7 +87,7 @@ void EditMenu::Paste() {
   const QMimeData* const copied = QGuiApplication::clipboard()->mimeData();
   const QString text = copied && copied->hasText() ? copied->text() : QString();
   if (text.size() > static_cast<qsizetype>(kMostTextBytes)) {
-    desk_.TheDialogs.Tell(kTooLongForASquare);
+    desk_.TheDialogs.Tell(Say(kTooLongForASquare));
     return;
   }
   if (!desk_.TheSession.Paste(text.toStdString())) return;

@@ -14,7 +14,7 @@ class EditMenu : public QObject {
   EditMenu(QMenuBar* bar, Desk& desk);
 
  private:
-  void Walk(const char* name, void (UndoHistory::*step)(Board&));
+  void Walk(const std::string& name, void (UndoHistory::*step)(Board&));
   void Copy(bool withPicture);
   void Paste();
   void ShowState();

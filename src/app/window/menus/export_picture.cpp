@@ -4,6 +4,7 @@
 
 #include "app/play/lay_out.h"
 #include "app/window/board/board_picture.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -67,8 +68,8 @@ void PaintBoard(QPainter& painter, const Desk& desk, const PuzzleParts& parts, i
 void Write(const Desk& desk, FileChooser& files, const PuzzleParts& parts, QWidget* window) {
   const PictureChoice& choice = desk.Picture;
   const PictureFormat& format = FormatOf(choice.Kind);
-  const QString kinds = QString("%1 (*.%2)").arg(format.Files, format.Suffix);
-  const QString name = files.ToSave(window, "Export Picture", kinds);
+  const QString kind = KindOfFiles(Tr(format.Files), QString("*.") + format.Suffix);
+  const QString name = files.ToSave(window, Tr("Export Picture"), kind);
   if (name.isEmpty() || !desk.TheBoard().Shown()) return;
   const int side = UnitsOf(choice.Kind, choice.Size());
   WritePicture(name, choice.Kind, choice.Size(), [&](QPainter& painter) {

@@ -10,30 +10,33 @@
 #include "print/sheet.h"
 #include "puzzle/code.h"
 #include "toolkit/menus.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 FileMenu::FileMenu(QMenuBar* bar, Desk& desk, const Ports& ports)
     : QObject(bar), window_(bar->window()), desk_(desk), ports_(ports) {
   const QList<QKeySequence> none;
-  QMenu* menu = bar->addMenu("&File");
-  AddItem(menu, {"Openx", "&Open...", QKeySequence::keyBindings(QKeySequence::Open),
+  QMenu* menu = bar->addMenu(Tr("&File"));
+  AddItem(menu, {"Openx", Tr("&Open..."), QKeySequence::keyBindings(QKeySequence::Open),
                  desk_.Beside([this] { ChooseAndOpen(); })});
-  save_ = AddItem(menu, {"SaveAsx", "&Save As...", QKeySequence::keyBindings(QKeySequence::Save),
-                         desk_.Beside([this] { Save(); })});
-  export_ = AddItem(menu, {"ExportPicturex", "&Export Picture...", none,
+  save_ =
+      AddItem(menu, {"SaveAsx", Tr("&Save As..."), QKeySequence::keyBindings(QKeySequence::Save),
+                     desk_.Beside([this] { Save(); })});
+  export_ = AddItem(menu, {"ExportPicturex", Tr("&Export Picture..."), none,
                            desk_.Beside([this] { OpenExport(desk_, ports_.Files, window_); })});
   menu->addSeparator();
-  AddItem(menu, {"PrintSol", "&Print Solution", QKeySequence::keyBindings(QKeySequence::Print),
+  AddItem(menu, {"PrintSol", Tr("&Print Solution"), QKeySequence::keyBindings(QKeySequence::Print),
                  desk_.Beside([this] { OpenPrintForm(); })});
-  AddItem(menu,
-          {"PrintWorksheetx", "Print &Worksheet...", {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, [this] {
-             desk_.Runner.Run("Print Worksheet", [this] { OpenWorksheet(); });
-           }});
+  AddItem(
+      menu,
+      {"PrintWorksheetx", Tr("Print &Worksheet..."), {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, [this] {
+         desk_.Runner.Run(Say("Print Worksheet"), [this] { OpenWorksheet(); });
+       }});
   menu->addSeparator();
   // Not every desktop has a standard key for this.
   AddItem(menu,
-          {"Exitx", "E&xit", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }});
+          {"Exitx", Tr("E&xit"), {Qt::CTRL | Qt::Key_Q}, [] { QApplication::closeAllWindows(); }});
   desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
   ShowState();
 }
@@ -44,18 +47,18 @@ void FileMenu::ShowState() {
 }
 
 void FileMenu::ChooseAndOpen() {
-  const QString name = ports_.Files.ToOpen(window_, "Open", ReadableKinds());
+  const QString name = ports_.Files.ToOpen(window_, Tr("Open"), ReadableKinds());
   if (!name.isEmpty()) Open(name);
 }
 
 void FileMenu::Open(const QString& name) {
-  desk_.Runner.Run("Open", [this, name] { Show(OpenSquare(name)); });
+  desk_.Runner.Run(Say("Open"), [this, name] { Show(OpenSquare(name)); });
 }
 
 void FileMenu::OpenFileOrCode(const QString& name) {
   const std::string code = name.toStdString();
   if (QFileInfo::exists(name) || !LooksLikeCode(code)) return Open(name);
-  desk_.Runner.Run("Open", [this, code] { Show(ReadSquareOrCode(code)); });
+  desk_.Runner.Run(Say("Open"), [this, code] { Show(ReadSquareOrCode(code)); });
 }
 
 void FileMenu::Show(const std::variant<StoredSquare, Unreadable>& read) {
@@ -68,7 +71,7 @@ void FileMenu::Show(const std::variant<StoredSquare, Unreadable>& read) {
 }
 
 void FileMenu::Save() {
-  const QString name = ports_.Files.ToSave(window_, "Save As", SquareKinds());
+  const QString name = ports_.Files.ToSave(window_, Tr("Save As"), SquareKinds());
   if (!name.isEmpty()) SaveSquare(name, StoredSquareOf(desk_.TheBoard()));
 }
 
@@ -76,9 +79,9 @@ void FileMenu::Save() {
 void FileMenu::OpenPrintForm() {
   const Board& board = desk_.TheBoard();
   if (!board.Shown() || !board.grid.Visible()) {
-    desk_.TheDialogs.Tell("nothing to print");
+    desk_.TheDialogs.Tell(Say("nothing to print"));
   } else if (board.GridSize > kMaxPrintedOrder) {
-    desk_.TheDialogs.Tell("cannot print larger than 30x30 grid");
+    desk_.TheDialogs.Tell(Say("cannot print larger than 30x30 grid"));
   } else {
     (new PrintForm(board.grid, *desk_.Controls.Square, ports_.Sheets, desk_.TheDialogs, window_))
         ->open();
@@ -86,7 +89,7 @@ void FileMenu::OpenPrintForm() {
 }
 
 void FileMenu::OpenWorksheet() {
-  PuzzlesAtHand onBoard{"The puzzle on the &board", {}};
+  PuzzlesAtHand onBoard{Tr("The puzzle on the &board"), {}};
   if (auto solved = desk_.TheSession.SolvedPuzzleOnBoard()) {
     onBoard.Puzzles.push_back(*std::move(solved));
   }

@@ -12,6 +12,7 @@
 #include "files/square_text.h"
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -22,13 +23,13 @@ constexpr int kBetweenWrites = 1000;  // milliseconds
 void MakeFolderOf(const QString& file) {
   const QString folder = QFileInfo(file).path();
   if (QDir().mkpath(folder)) return;
-  throw RuntimeError(Fault::FileError, "cannot make the folder " + folder.toStdString());
+  throw RuntimeError(Fault::FileError, Say("cannot make the folder %1", folder.toStdString()));
 }
 
 /// Removes the file, and its folder if nothing else is in it.
 void RemoveKept(const QString& file) {
   if (!QFile::remove(file) && QFileInfo::exists(file)) {
-    throw RuntimeError(Fault::FileError, "cannot remove " + file.toStdString());
+    throw RuntimeError(Fault::FileError, Say("cannot remove %1", file.toStdString()));
   }
   QDir().rmdir(QFileInfo(file).path());
 }
@@ -49,7 +50,7 @@ std::optional<StoredSquare> SquareIn(const QString& file) {
 KeepItems::KeepItems(QMenu* menu, Desk& desk, const KeptFolders& folders, ViewPort view)
     : QObject(menu), desk_(desk), view_(std::move(view)) {
   menu->addSeparator();
-  const auto add = [&](Kept& kept, const char* name, const char* caption, const QString& folder,
+  const auto add = [&](Kept& kept, const char* name, const QString& caption, const QString& folder,
                        const char* file) {
     const auto toggle = desk_.Beside([this, &kept] { Toggle(kept); });
     kept.Item = AddItem(menu, {name, caption, {}, toggle, true});
@@ -58,8 +59,8 @@ KeepItems::KeepItems(QMenu* menu, Desk& desk, const KeptFolders& folders, ViewPo
   };
   settings_.Write = [this] { WriteSettings(); };
   board_.Write = [this] { WriteBoard(); };
-  add(settings_, "KeepSettingsx", "&Keep My Settings", folders.Settings, "settings.ini");
-  add(board_, "KeepBoardx", "Keep My &Board", folders.Data, "board.json");
+  add(settings_, "KeepSettingsx", Tr("&Keep My Settings"), folders.Settings, "settings.ini");
+  add(board_, "KeepBoardx", Tr("Keep My &Board"), folders.Data, "board.json");
   desk_.TheSession.Watch.Listen([this](const CommandResult& result) {
     boardWritten_ = boardWritten_ && !IsStep(result.Before, result.After);
   });
@@ -77,7 +78,7 @@ void KeepItems::BringBack() {
   }
   if (board_.Item->isChecked()) {
     if (const auto square = SquareIn(board_.File)) {
-      desk_.Runner.Run("Keep My Board", [&] {
+      desk_.Runner.Run(Say("Keep My Board"), [&] {
         desk_.TheSession.LayOut(*square);
         desk_.ShowLaidOut();
       });

@@ -8,6 +8,7 @@
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 #include "app/window/board/zoom.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -124,7 +125,7 @@ void WriteValues(const QString& file, const QVariantMap& values) {
     settings.setValue(value.key(), value.value());
   settings.sync();
   if (settings.status() == QSettings::AccessError) {
-    throw RuntimeError(Fault::FileError, "cannot write " + file.toStdString());
+    throw RuntimeError(Fault::FileError, Say("cannot write %1", file.toStdString()));
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
@@ -11,7 +12,7 @@ NotesItems::NotesItems(QMenu* menu, Desk& desk, const std::function<void()>& bac
     : QObject(menu), desk_(desk) {
   menu->addSeparator();
   notes_ = AddItem(menu, {"Notesx",
-                          "&Notes",
+                          Tr("&Notes"),
                           {Qt::CTRL | Qt::Key_N},
                           desk_.Beside([this] {
                             desk_.TheSession.Noting().TakeNotes(notes_->isChecked());
@@ -19,19 +20,19 @@ NotesItems::NotesItems(QMenu* menu, Desk& desk, const std::function<void()>& bac
                             desk_.Place.View->setFocus();
                           }),
                           true});
-  fill_ = AddItem(menu, {"FillNotesx", "Fill No&tes", {}, [this] { Fill(); }});
-  clear_ = AddItem(menu, {"ClearNotesx", "Clea&r Notes", {}, [this] {
-                            desk_.RunOnCurrentCell("Clear Notes",
+  fill_ = AddItem(menu, {"FillNotesx", Tr("Fill No&tes"), {}, [this] { Fill(); }});
+  clear_ = AddItem(menu, {"ClearNotesx", Tr("Clea&r Notes"), {}, [this] {
+                            desk_.RunOnCurrentCell(Say("Clear Notes"),
                                                    [this] { desk_.TheSession.ClearNotes(); });
                           }});
-  back_ = AddItem(menu, {"LastRightx", "&Back to Last Right", {}, back});
+  back_ = AddItem(menu, {"LastRightx", Tr("&Back to Last Right"), {}, back});
   desk_.TheSession.Watch.Listen([this](const CommandResult&) { ShowState(); });
   OnSignal(desk_.Runner, &desk_.Place, &BoardPlace::SightChanged, this, [this] { ShowMissing(); });
   ShowState();
 }
 
 void NotesItems::Fill() {
-  desk_.RunOnCurrentCell("Fill Notes", [this] {
+  desk_.RunOnCurrentCell(Say("Fill Notes"), [this] {
     const Remark why = desk_.TheSession.FillNotes();
     if (!why.Text.empty()) desk_.Place.ShowRemark(why);
   });

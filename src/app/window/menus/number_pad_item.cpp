@@ -2,12 +2,13 @@
 
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 NumberPadItem::NumberPadItem(QMenu* menu, Desk& desk)
     : QObject(menu),
-      Item(AddItem(menu, {"NumberPadx", "N&umber Pad", {}, [this] { Close(); }, true})),
+      Item(AddItem(menu, {"NumberPadx", Tr("N&umber Pad"), {}, [this] { Close(); }, true})),
       desk_(desk) {
   OnSignal(desk_.Runner, desk_.Place.Gestures, &CellGestures::Tapped, this,
            [this](Place cell, bool byFinger) {
@@ -45,7 +46,7 @@ void NumberPadItem::Close() {
 /// Checks what was typed.
 void NumberPadItem::Finish() {
   Close();
-  desk_.RunOnCurrentCell("check", [this] {
+  desk_.RunOnCurrentCell(SayIn("step", "check"), [this] {
     desk_.TheSession.Noting().EndNumber();
     desk_.TheSession.Entry().Finish();
   });

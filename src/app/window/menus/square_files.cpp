@@ -7,6 +7,8 @@
 #include "app/board/runtime_error.h"
 #include "files/formats.h"
 #include "puzzle/code.h"
+#include "toolkit/file_chooser.h"
+#include "toolkit/tr.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
@@ -27,7 +29,7 @@ std::vector<Format> WritableFormats() {
 QString SquareKinds() {
   QStringList kinds;
   for (const Format& format : WritableFormats())
-    kinds += QString("%1 (*.%2)").arg(format.Caption, format.Suffix);
+    kinds += KindOfFiles(Tr(format.Caption), QString("*.") + format.Suffix);
   return kinds.join(";;");
 }
 
@@ -36,7 +38,7 @@ QString ReadableKinds() {
   for (const Format& format : kFormats) {
     if (format.Read) names.prepend(QString("*.%1").arg(format.Suffix));
   }
-  return "Squares (" + names.join(' ') + ");;All files (*)";
+  return KindOfFiles(Tr("Squares"), names.join(' ')) + ";;" + KindOfFiles(Tr("All files"), "*");
 }
 
 std::variant<StoredSquare, Unreadable> OpenSquare(const QString& name) {
@@ -50,7 +52,7 @@ void SaveSquare(const QString& name, const StoredSquare& square) {
   if (QString(kPictureSuffixes).split(' ').contains(suffix)) {
     throw RuntimeError(
         Fault::FileError,
-        name.toStdString() + " has a picture's suffix: use Export Picture to save pictures");
+        Say("%1 has a picture's suffix: use Export Picture to save pictures", name.toStdString()));
   }
   const auto formats = WritableFormats();
   const auto named = std::find_if(formats.begin(), formats.end(),

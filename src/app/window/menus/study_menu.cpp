@@ -9,6 +9,7 @@
 #include "toolkit/menus.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
@@ -17,7 +18,7 @@ StudyMenu::StudyMenu(QMainWindow* window, Desk& desk, PanelRoom& room)
       desk_(desk),
       room_(room),
       steps_(new StepPanel(desk.Place.Walk, desk.Runner, window)) {
-  QMenu* menu = window->menuBar()->addMenu("Stud&y");
+  QMenu* menu = window->menuBar()->addMenu(Tr("Stud&y"));
   AddRelatives(menu);
   menu->addSeparator();
   AddSquares(menu);
@@ -37,29 +38,28 @@ void StudyMenu::ShowState() {
 
 void StudyMenu::AddRelatives(QMenu* menu) {
   Session& session = desk_.TheSession;
-  const auto add = [&](const char* name, const char* caption, const QList<QKeySequence>& keys,
-                       const char* command, CommandRunner::Command act) {
-    needBoard_ += AddItem(menu, {name, caption, keys, [this, command, act = std::move(act)] {
-                                   desk_.RunOnCurrentCell(command, act);
+  const auto add = [&](const char* name, const QString& caption, const QList<QKeySequence>& keys,
+                       CommandRunner::Command act) {
+    needBoard_ += AddItem(menu, {name, caption, keys, [this, caption, act = std::move(act)] {
+                                   desk_.RunOnCurrentCell(WithoutMnemonic(caption), act);
                                  }});
   };
-  add("Varyx", "&Vary", {Qt::CTRL | Qt::Key_R}, "Vary", [&session] { session.Vary(); });
-  add("Complementx", "&Complement", {}, "Complement", [&session] { session.Complement(); });
-  add("StandardFormx", "&Standard Form", {}, "Standard Form",
-      [&session] { session.BringToStandardForm(); });
-  relatives_ = Named("Relativesx", menu->addMenu("&Relatives"));
+  add("Varyx", Tr("&Vary"), {Qt::CTRL | Qt::Key_R}, [&session] { session.Vary(); });
+  add("Complementx", Tr("&Complement"), {}, [&session] { session.Complement(); });
+  add("StandardFormx", Tr("&Standard Form"), {}, [&session] { session.BringToStandardForm(); });
+  relatives_ = Named("Relativesx", menu->addMenu(Tr("&Relatives")));
   relatives_->setToolTipsVisible(true);
   for (const Relative& relative : kRelatives) {
-    const std::string command = QString(relative.Caption).remove('&').toStdString();
+    const QString caption = Tr(relative.Caption);
     AddItem(relatives_, {relative.Name,
-                         relative.Caption,
+                         caption,
                          {},
-                         [this, command, &relative] {
-                           desk_.RunOnCurrentCell(command, [this, &relative] {
+                         [this, caption, &relative] {
+                           desk_.RunOnCurrentCell(WithoutMnemonic(caption), [this, &relative] {
                              desk_.TheSession.ShowRelative(relative);
                            });
                          }})
-        ->setToolTip(relative.Keeps);
+        ->setToolTip(Tr(relative.Keeps));
   }
   needBoard_ += relatives_->menuAction();
   OnSignal(desk_.Runner, relatives_, &QMenu::aboutToShow, this, [this] { OfferRelatives(); });
@@ -77,32 +77,32 @@ void StudyMenu::OfferRelatives() {
 
 void StudyMenu::AddSquares(QMenu* menu) {
   const auto add = [this](QMenu* to, const auto& square, auto layOut) {
-    return AddItem(to, {square.Name, square.Caption, {}, [this, &square, layOut] {
-                          desk_.Runner.Run(QString(square.Caption).remove('&').toStdString(),
-                                           [this, &square, layOut] {
-                                             if (layOut(square)) desk_.ShowLaidOut();
-                                           });
+    const QString caption = Tr(square.Caption);
+    return AddItem(to, {square.Name, caption, {}, [this, caption, &square, layOut] {
+                          desk_.Runner.Run(WithoutMnemonic(caption), [this, &square, layOut] {
+                            if (layOut(square)) desk_.ShowLaidOut();
+                          });
                         }});
   };
-  QMenu* special = Named("Specialx", menu->addMenu("S&pecial"));
+  QMenu* special = Named("Specialx", menu->addMenu(Tr("S&pecial")));
   for (const SpecialKind& kind : kSpecialKinds) {
     add(special, kind,
         [this](const SpecialKind& chosen) { return desk_.TheSession.LayOutSpecial(chosen); });
   }
-  QMenu* construct = Named("Constructx", menu->addMenu("C&onstruct"));
+  QMenu* construct = Named("Constructx", menu->addMenu(Tr("C&onstruct")));
   construct->setToolTipsVisible(true);
   for (const Construction* const construction : kConstructions) {
     add(construct, *construction, [this](const Construction& chosen) {
       return desk_.TheSession.LayOutConstruction(chosen);
-    })->setToolTip(construction->Source);
+    })->setToolTip(Tr(construction->Source));
   }
-  QMenu* famous = Named("Famousx", menu->addMenu("&Famous"));
+  QMenu* famous = Named("Famousx", menu->addMenu(Tr("&Famous")));
   famous->setToolTipsVisible(true);
   for (const FamousSquare& square : FamousSquares()) {
     add(famous, square, [this](const FamousSquare& chosen) {
       desk_.TheSession.LayOutFamous(chosen);
       return true;
-    })->setToolTip(square.Story);
+    })->setToolTip(Tr(square.Story));
   }
 }
 
@@ -110,7 +110,7 @@ void StudyMenu::AddSquares(QMenu* menu) {
 /// command that shows the board, or acts on it, ends the walk.
 void StudyMenu::AddWalk(QMenu* menu, QMainWindow* window) {
   shown_ = AddItem(menu, {"StepByStepx",
-                          "Step &by Step",
+                          Tr("Step &by Step"),
                           {},
                           desk_.Beside([this] { steps_->setVisible(shown_->isChecked()); }),
                           true});

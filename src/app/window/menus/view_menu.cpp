@@ -6,44 +6,46 @@
 #include "app/play/study_commands.h"
 #include "toolkit/menus.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 ViewMenu::ViewMenu(QMainWindow* window, Desk& desk, QWidget* state, const KeptFolders& folders)
     : QObject(window), desk_(desk), properties_(new PropertiesPanel(desk.Runner, window)) {
   const QList<QKeySequence> none;
-  QMenu* menu = window->menuBar()->addMenu("&View");
+  QMenu* menu = window->menuBar()->addMenu(Tr("&View"));
   const auto zoom = [this](int direction) {
     return desk_.Beside([this, direction] { size_->Zoom(direction); });
   };
-  AddItem(menu,
-          {"ZoomInx", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)});
-  AddItem(menu, {"ZoomOutx", "Zoom &Out", {Qt::CTRL | Qt::Key_Minus}, zoom(-1)});
-  AddItem(menu, {"NormalSizex", "&Normal Size", {Qt::CTRL | Qt::Key_0}, zoom(0)});
-  QAction* fit = AddItem(menu, {"FitBoardx", "&Fit Board", none,
+  AddItem(
+      menu,
+      {"ZoomInx", Tr("Zoom &In"), {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, zoom(1)});
+  AddItem(menu, {"ZoomOutx", Tr("Zoom &Out"), {Qt::CTRL | Qt::Key_Minus}, zoom(-1)});
+  AddItem(menu, {"NormalSizex", Tr("&Normal Size"), {Qt::CTRL | Qt::Key_0}, zoom(0)});
+  QAction* fit = AddItem(menu, {"FitBoardx", Tr("&Fit Board"), none,
                                 desk_.Beside([this] { size_->ToggleFitting(); }), true});
   QAction* full = AddItem(menu, {"FullScreenx",
-                                 "Full &Screen",
+                                 Tr("Full &Screen"),
                                  {Qt::Key_F11},
                                  desk_.Beside([this] { size_->ToggleFullScreen(); }),
                                  true});
-  AddItem(menu, {"Maximx", "&Maximize", none, desk_.Beside([window] {
+  AddItem(menu, {"Maximx", Tr("&Maximize"), none, desk_.Beside([window] {
                    window->move(0, 0);
                    window->showMaximized();
                  })});
   menu->addSeparator();
-  AddItem(menu, {kDigits.Item, kDigits.Caption, none, [this] { desk_.Draw(kDigits); }});
-  numbers_ = AddItem(menu, {"DrawingNumbersx", "Numbers in &Drawings", none, [] {}, true});
+  AddItem(menu, {kDigits.Item, Tr(kDigits.Caption), none, [this] { desk_.Draw(kDigits); }});
+  numbers_ = AddItem(menu, {"DrawingNumbersx", Tr("Numbers in &Drawings"), none, [] {}, true});
   OnSignal(desk_.Runner, numbers_, &QAction::toggled, this,
            [this](bool on) { desk_.Place.Picture->SetNumbers(on); });
-  quiet_ = AddItem(menu, {"QuietTotalsx", "&Quiet Totals", none, [] {}, true});
+  quiet_ = AddItem(menu, {"QuietTotalsx", Tr("&Quiet Totals"), none, [] {}, true});
   OnSignal(desk_.Runner, quiet_, &QAction::toggled, this, [this](bool on) {
-    desk_.Runner.Run("Quiet Totals", [this, on] { desk_.TheSession.SetQuietTotals(on); });
+    desk_.Runner.Run(Say("Quiet Totals"), [this, on] { desk_.TheSession.SetQuietTotals(on); });
   });
   pad_ = new NumberPadItem(menu, desk_);
   shown_ =
       AddItem(menu, {"Propertiesx",
-                     "&Properties",
+                     Tr("&Properties"),
                      {Qt::CTRL | Qt::Key_I},
                      desk_.Beside([this] { properties_->setVisible(properties_->isHidden()); }),
                      true});
@@ -115,8 +117,8 @@ void ViewMenu::StudyBoard() {
     properties_->Show(Study(std::move(*square)));
   } else {
     properties_->ShowNone(desk_.TheBoard().Shown()
-                              ? "The board has empty cells: fill them to see its properties."
-                              : "There is no board to study.");
+                              ? Tr("The board has empty cells: fill them to see its properties.")
+                              : Tr("There is no board to study."));
   }
 }
 
