@@ -15,6 +15,7 @@
 ///   texts [FOLDER]   with a picture of every window in the folder
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   QStandardPaths::setTestModeEnabled(true);
   numorra::SpeakLanguageOfDesktop();
   const QApplication application(argc, argv);
