@@ -1,18 +1,23 @@
 #include "count/count_all.h"
 
+#include <algorithm>
 #include <iomanip>
 #include <sstream>
 
 #include "count/all_squares.h"
 #include "count/order5_count.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
+/// "1.5e+24", its point as the reader's language has it.
 std::string Rounded(double number) {
   std::ostringstream out;
   out << std::setprecision(2) << number;
-  return out.str();
+  const std::string text = out.str();
+  const std::size_t exponent = std::min(text.find('e'), text.size());
+  return Written(text.substr(0, exponent)) + text.substr(exponent);
 }
 
 }  // namespace
@@ -21,8 +26,10 @@ std::variant<std::int64_t, std::string> CountAll(const CountWish& wish, Yielding
   std::int64_t count = 0;
   const WayToFind way = BestWay(wish, yielding);
   if (way.Best == Way::None) {
-    return "these squares are too many to count: a search would fill about " + Rounded(way.Cells) +
-           " cells; --estimate says about how many squares there are";
+    return Say(
+        "these squares are too many to count: a search would fill about %1 cells; --estimate says "
+        "about how many squares there are",
+        Rounded(way.Cells));
   }
   if (way.Best == Way::Diagonals && wish.Terms.empty() && !wish.AllImages) {
     Order5Count order5(wish.Givens);

@@ -8,6 +8,7 @@
 #include "count/order5_count.h"
 #include "files/json_line.h"
 #include "files/json_members.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -131,25 +132,25 @@ std::string JsonOf(const SliceCount& slice) {
 
 std::variant<SliceCount, std::string> ReadSliceLine(const std::string& line) {
   const auto words = line.starts_with("{") ? WordsOfJson(line) : WordsOfText(line);
-  if (!words) return "this is not the count of a slice";
+  if (!words) return Say("this is not the count of a slice");
   if (words->Order != std::to_string(kSlicedOrder) || words->Kind != kSlicedKind) {
-    return "this slice is of order " + words->Order + " and of the kind '" + words->Kind +
-           "', not of magic squares of order " + std::to_string(kSlicedOrder);
+    return Say("this slice is of order %1 and of the kind '%2', not of magic squares of order %3",
+               words->Order, words->Kind, kSlicedOrder);
   }
   const auto slice = SliceNamed(words->Name);
-  if (!slice) return "there is no slice '" + words->Name + "'";
+  if (!slice) return Say("there is no slice '%1'", words->Name);
   SliceCount read{*slice};
   if (!ReadWhole(words->Count, read.Count)) {
-    return "the count of slice " + words->Name + " is not a whole number";
+    return Say("the count of slice %1 is not a whole number", words->Name);
   }
   if (!ReadWhole(words->Checksum, read.Checksum, 16)) {
-    return "the checksum of slice " + words->Name + " cannot be read";
+    return Say("the checksum of slice %1 cannot be read", words->Name);
   }
   return read;
 }
 
 std::variant<std::int64_t, std::string> Merge(std::vector<SliceCount> slices) {
-  if (slices.empty()) return "there is no slice to add up";
+  if (slices.empty()) return Say("there is no slice to add up");
   std::sort(slices.begin(), slices.end(),
             [](const SliceCount& a, const SliceCount& b) { return a.Part.Number < b.Part.Number; });
   const Slice first = slices.front().Part;
@@ -158,20 +159,24 @@ std::variant<std::int64_t, std::string> Merge(std::vector<SliceCount> slices) {
   const SliceCount* before = nullptr;
   for (const SliceCount& slice : slices) {
     if (slice.Part.Of != first.Of) {
-      return "slice " + NameOf(slice.Part) + " overlaps slices of " + std::to_string(first.Of) +
-             ", such as " + NameOf(first);
+      // Translators: slices are named as fractions: "slice 3/8 overlaps slices of 16, such as
+      // 1/16".
+      return Say("slice %1 overlaps slices of %2, such as %3", NameOf(slice.Part), first.Of,
+                 NameOf(first));
     }
     if (before && before->Part == slice.Part) {
       if (*before == slice) continue;
-      return "slice " + NameOf(slice.Part) +
-             " was counted twice, with different counts or checksums";
+      return Say("slice %1 was counted twice, with different counts or checksums",
+                 NameOf(slice.Part));
     }
     if (slice.Part.Number != next) break;
     whole += slice.Count;
     before = &slice;
     ++next;
   }
-  if (next <= first.Of) return "slice " + NameOf(Slice{next, first.Of}) + " is missing";
+  if (next <= first.Of) {
+    return Say("slice %1 is missing", NameOf(Slice{next, first.Of}));
+  }
   return whole;
 }
 

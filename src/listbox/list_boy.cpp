@@ -11,6 +11,7 @@
 #include "app/board/numbers.h"
 #include "app/board/runtime_error.h"
 #include "listbox/wildcard.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -217,19 +218,19 @@ void ListBoy::Clear() {
 
 void ListBoy::LoadFile(const std::string& FileName) {
   std::ifstream file(FileName, std::ios::binary);
-  if (!file) throw RuntimeError(Fault::FileError, "cannot open " + FileName);
+  if (!file) throw RuntimeError(Fault::FileError, Say("cannot open %1", FileName));
   for (std::string line; std::getline(file, line);) {
     if (line.ends_with('\r')) line.pop_back();
     Additem(line);
   }
-  if (file.bad()) throw RuntimeError(Fault::FileError, "cannot read " + FileName);
+  if (file.bad()) throw RuntimeError(Fault::FileError, Say("cannot read %1", FileName));
 }
 
 void ListBoy::SaveFile(const std::string& FileName) const {
   std::ofstream file(FileName, std::ios::binary | std::ios::trunc);
   for (const std::string& record : records_)
     file << TextOf(record) << "\r\n";
-  if (!file.flush()) throw RuntimeError(Fault::FileError, "cannot write " + FileName);
+  if (!file.flush()) throw RuntimeError(Fault::FileError, Say("cannot write %1", FileName));
 }
 
 void ListBoy::FillListBox(ListBox& list) const {

@@ -3,15 +3,12 @@
 #include <algorithm>
 
 #include "app/board/numbers.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 constexpr int kPageWidth = 128;
-constexpr const char* kFilledCaption =
-    "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS ADD TO";
-constexpr const char* kPuzzleCaption =
-    "ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS MUST ADD TO";
 
 std::size_t LineWidth(int order) {
   return 4 * static_cast<std::size_t>(order) + 2;
@@ -61,6 +58,16 @@ std::string Sheet(int order, const std::string& caption, std::size_t indent,
   return sheet;
 }
 
+/// The number, with a leading blank instead of a sign if it is not negative.
+std::string WithSign(double number) {
+  return (number < 0 ? "" : " ") + Written(number);
+}
+
+std::string FilledCaption(double total) {
+  // Translators: a blank or a minus sign comes with the number.
+  return Say("ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS ADD TO%1", WithSign(total));
+}
+
 int OrderOf(const Grid& grid) {
   return grid.Rows() - 2;
 }
@@ -73,23 +80,25 @@ std::size_t CentringIndent(int order) {
 
 std::string PreviewSheet(const Grid& grid, double total) {
   const int order = OrderOf(grid);
-  return Sheet(order, kFilledCaption + Str(total), 1, Rule(order, '|'),
+  return Sheet(order, FilledCaption(total), 1, Rule(order, '|'),
                [&](int row, int column) { return grid.Text(row, column); });
 }
 
 std::string SolutionSheet(const Grid& grid, double total) {
   const int order = OrderOf(grid);
-  return Sheet(order, kFilledCaption + Str(total), CentringIndent(order), Rule(order, '+'),
+  return Sheet(order, FilledCaption(total), CentringIndent(order), Rule(order, '+'),
                [&](int row, int column) { return grid.Text(row, column); });
 }
 
 std::string PuzzleSheet(const Grid& grid, double total) {
   const int order = OrderOf(grid);
   const auto atEnd = [order](int line) { return line == 1 || line == order; };
-  return Sheet(order, kPuzzleCaption + Str(total), CentringIndent(order), Rule(order, '+'),
-               [&](int row, int column) {
-                 return atEnd(row) && atEnd(column) ? grid.Text(row, column) : std::string();
-               });
+  const std::string caption =
+      // Translators: a blank or a minus sign comes with the number.
+      Say("ALL NUMBERS IN A COLUMN, ROW AND ACROSS TWO DIAGONALS MUST ADD TO%1", WithSign(total));
+  return Sheet(order, caption, CentringIndent(order), Rule(order, '+'), [&](int row, int column) {
+    return atEnd(row) && atEnd(column) ? grid.Text(row, column) : std::string();
+  });
 }
 
 }  // namespace numorra

@@ -3,6 +3,7 @@
 #include "app/board/board.h"
 #include "app/board/numbers.h"
 #include "print/sheet.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -20,19 +21,18 @@ SheetDoubts DoubtsOf(const Grid& grid, double total) {
   bool agree = cells(0, 0) == cells(0, order + 1);
   for (int line = 1; line <= order; ++line)
     agree = agree && cells(line, 0) == cells(0, 0) && cells(0, line) == cells(0, 0);
-  const std::string sum = Decimal(total);
   if (gaps) {
     // Lines with gaps do not determine the total.
   } else if (!agree) {
-    doubts.Total = "The lines of this square do not all add up to " + sum + ".";
+    doubts.Total = Say("The lines of this square do not all add up to %1.", Written(total));
   } else if (cells(0, 0) != AsShown(total)) {
     doubts.TheLines = cells(0, 0);
-    doubts.Total = "The sum box says " + sum + ", but the lines of this square add up to " +
-                   Decimal(cells(0, 0)) + ".";
+    doubts.Total = Say("The sum box says %1, but the lines of this square add up to %2.",
+                       Written(total), Written(cells(0, 0)));
   }
   if (wide) {
-    doubts.Width = "Numbers with more than " + std::to_string(kSheetPlaces) +
-                   " characters overlap their neighbors on the sheet.";
+    doubts.Width = Say("Numbers with more than %1 characters overlap their neighbors on the sheet.",
+                       kSheetPlaces);
   }
   return doubts;
 }

@@ -11,6 +11,7 @@
 #include "files/formats.h"
 #include "puzzle/code_text.h"
 #include "puzzle/large_number.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -132,7 +133,7 @@ std::vector<unsigned> DigitsOfPuzzle(Puzzle puzzle, int version) {
 
 /// What keeps a puzzle of an order that codes hold from having one: a sentence about its code.
 std::optional<std::string> WhyNotCoded(const Puzzle& puzzle) {
-  if (puzzle.Gaps() == puzzle.Cells.Size()) return "the board of this puzzle code has no clue";
+  if (puzzle.Gaps() == puzzle.Cells.Size()) return Say("the board of this puzzle code has no clue");
   for (const Line line : MagicLines(puzzle.Order())) {
     const auto sum = SumOf(line, puzzle.Order(), [&](int cell) { return puzzle.Cells[cell]; });
     const auto least = SumOf(line, puzzle.Order(), [&](int cell) {
@@ -140,8 +141,8 @@ std::optional<std::string> WhyNotCoded(const Puzzle& puzzle) {
     });
     const bool isFull = sum == least;
     if (isFull ? sum == puzzle.Target : least <= puzzle.Target) continue;
-    return "the clues in " + NameOf(line, puzzle.Order()) +
-           " of this puzzle code cannot add up to its total, " + std::to_string(puzzle.Target);
+    return Say("the clues in %1 of this puzzle code cannot add up to its total, %2",
+               NameOf(line, puzzle.Order()), puzzle.Target);
   }
   return std::nullopt;
 }
@@ -172,12 +173,12 @@ std::variant<Puzzle, Unreadable> PuzzleOfCode(const std::string& code) {
   Coder coder(std::move(number));
   Puzzle puzzle{.Cells = Square<std::int64_t>(kMinOrder)};
   if (!Pass(coder, puzzle, text.Version)) {
-    return Unreadable{"this puzzle code is of a kind that only a later version knows"};
+    return Unreadable{Say("this puzzle code is of a kind that only a later version knows")};
   }
   const auto checked = PuzzleOf(StoredSquareOf(puzzle, true));
   if (std::holds_alternative<AgainstRules>(checked) ||
       DigitsOfPuzzle(puzzle, text.Version) != text.Digits) {
-    return Unreadable{kBrokenCode};
+    return Unreadable{Say(kBrokenCode)};
   }
   if (const auto why = WhyNotCoded(puzzle)) return Unreadable{*why};
   return puzzle;

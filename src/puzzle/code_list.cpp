@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "puzzle/code.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -54,7 +55,7 @@ std::variant<Puzzle, Unreadable> TakeCode(WordPlace& word) {
       why = *unreadable;
       continue;
     }
-    if (found) return Unreadable{"where this code ends is not clear: write it without spaces"};
+    if (found) return Unreadable{Say("where this code ends is not clear: write it without spaces")};
     found = std::get<Puzzle>(std::move(read));
     behind = std::next(word);
   }
@@ -68,10 +69,10 @@ void ReadLine(const std::string& line, std::size_t number, CodeList& list) {
   const std::vector<Word> words = WordsOf(line);
   const auto begins = [](const Word& word) { return LooksLikeCode(word.Text); };
   const auto tell = [&](const std::string& why) {
-    list.Wrong.push_back({"line " + std::to_string(number) + ": " + why});
+    list.Wrong.push_back({Say("line %1: %2", number, why)});
   };
   auto word = std::find_if(words.begin(), words.end(), begins);
-  if (word == words.end() && !words.empty()) tell("there is no puzzle code here");
+  if (word == words.end() && !words.empty()) tell(Say("there is no puzzle code here"));
   for (; word != words.end(); word = std::find_if(word, words.end(), begins)) {
     auto read = TakeCode(word);
     if (const auto* unreadable = std::get_if<Unreadable>(&read)) return tell(unreadable->Why);

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "words/say.h"
+
 namespace numorra {
 namespace {
 
@@ -75,15 +77,16 @@ std::vector<unsigned> Within(const std::vector<unsigned>& values, std::size_t fr
 
 std::variant<CodeText, Unreadable> ReadFirstVersion(const std::vector<unsigned>& values) {
   const auto checked = Within(values, kPrefix.size(), 0);
-  if (checked.empty() || !PassesFirstCheck(checked)) return Unreadable{kBrokenCode};
+  if (checked.empty() || !PassesFirstCheck(checked)) return Unreadable{Say(kBrokenCode)};
   return CodeText{1, Within(checked, 0, 1)};
 }
 
 std::variant<CodeText, Unreadable> ReadSecondVersion(const std::vector<unsigned>& values) {
   if (values.size() <= kLengthAt + kChecks || values[kLengthAt] != values.size() % kBase) {
-    return Unreadable{std::string(kBrokenCode) + ": perhaps characters are missing or were added"};
+    return Unreadable{
+        Say("this puzzle code has a mistake in it: perhaps characters are missing or were added")};
   }
-  if (RemainderOf(values) != std::array<unsigned, kChecks>{}) return Unreadable{kBrokenCode};
+  if (RemainderOf(values) != std::array<unsigned, kChecks>{}) return Unreadable{Say(kBrokenCode)};
   return CodeText{2, Within(values, kLengthAt + 1, kChecks)};
 }
 
@@ -108,13 +111,14 @@ std::variant<CodeText, Unreadable> ReadCodeText(const std::string& code) {
   const auto values = code.size() <= kLongest ? ValuesIn(code) : std::nullopt;
   if (!values || values->size() < kPrefix.size() ||
       !std::equal(kPrefix.begin(), kPrefix.end() - 1, values->begin())) {
-    return Unreadable{kBrokenCode};
+    return Unreadable{Say(kBrokenCode)};
   }
   const unsigned version = (*values)[kPrefix.size() - 1];
   if (version == 1) return ReadFirstVersion(*values);
   if (version == 2) return ReadSecondVersion(*values);
   const bool later = version > 2 && version <= kNine;
-  return Unreadable{std::string(kBrokenCode) + (later ? ", or is of a later version" : "")};
+  return Unreadable{later ? Say("this puzzle code has a mistake in it, or is of a later version")
+                          : Say(kBrokenCode)};
 }
 
 }  // namespace numorra

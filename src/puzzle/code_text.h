@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "files/stored_square.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -32,6 +33,6 @@ std::string CodeOfDigits(const std::vector<unsigned>& digits);
 std::variant<CodeText, Unreadable> ReadCodeText(const std::string& code);
 
 /// What is said of a code with a mistake that cannot be named.
-inline constexpr const char* kBrokenCode = "this puzzle code has a mistake in it";
+inline constexpr const char* kBrokenCode = Mark("this puzzle code has a mistake in it");
 
 }  // namespace numorra

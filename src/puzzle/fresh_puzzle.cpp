@@ -1,5 +1,7 @@
 #include "puzzle/fresh_puzzle.h"
 
+#include "words/say.h"
+
 namespace numorra {
 
 std::variant<MadePuzzle, CannotMake> MakeFreshPuzzle(const SquareWish& square,
@@ -12,7 +14,7 @@ std::variant<MadePuzzle, CannotMake> MakeFreshPuzzle(const SquareWish& square,
   PuzzleMaker maker(wish, random, yielding);
   for (int drawn = 0; drawn < kSquares; ++drawn) {
     const auto full = FreshSquare(suitable, random, yielding);
-    if (!full) return CannotMake{"no square of this size and sum was found"};
+    if (!full) return CannotMake{Say("no square of this size and sum was found")};
     if (maker.Try(*full, kOrders)) break;
   }
   return maker.Result();

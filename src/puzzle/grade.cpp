@@ -2,10 +2,13 @@
 
 #include <algorithm>
 
+#include "words/say.h"
+
 namespace numorra {
 
 const char* NameOf(Grade grade) {
-  constexpr std::array kNames = {"easy", "medium", "hard", "expert", "extreme"};
+  constexpr std::array kNames = {Mark("easy"), Mark("medium"), Mark("hard"), Mark("expert"),
+                                 Mark("extreme")};
   return kNames[static_cast<std::size_t>(grade)];
 }
 
@@ -16,9 +19,10 @@ std::optional<Grade> GradeNamed(const std::string& name) {
 }
 
 const char* RulesOf(Grade grade) {
-  constexpr std::array kRules = {
-      "lines with a single gap", "lines with two gaps, numbers with one place left",
-      "the smallest and largest sums of a line's gaps", "trying numbers", "a longer search"};
+  constexpr std::array kRules = {Mark("lines with a single gap"),
+                                 Mark("lines with two gaps, numbers with one place left"),
+                                 Mark("the smallest and largest sums of a line's gaps"),
+                                 Mark("trying numbers"), Mark("a longer search")};
   return kRules[static_cast<std::size_t>(grade)];
 }
 

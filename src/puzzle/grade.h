@@ -19,11 +19,12 @@ enum class Grade : std::uint8_t {
 inline constexpr std::array kGrades = {Grade::Easy, Grade::Medium, Grade::Hard, Grade::Expert,
                                        Grade::Extreme};
 
-/// The name of a grade, such as "easy"; and back, nothing for other words.
+/// The name of a grade, such as "easy", to be said where a person reads it; and back, nothing for
+/// other words.
 const char* NameOf(Grade grade);
 std::optional<Grade> GradeNamed(const std::string& name);
 
-/// The rules that a grade adds to the ones before it, in words.
+/// The rules that a grade adds to the ones before it, in words to be said.
 const char* RulesOf(Grade grade);
 
 }  // namespace numorra

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "app/board/line.h"
 #include "app/board/place.h"
 #include "study/special.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -16,7 +16,7 @@ class LineList {
 
   void AddStraight(const std::vector<Line>& lines) {
     for (const Line line : lines) {
-      CellLine cells{NameOf(line, n_), {}};
+      CellLine cells{{}, line};
       for (int i = 0; i < n_; ++i)
         cells.Cells.push_back(line.Cell(i, n_));
       lines_.push_back(std::move(cells));
@@ -27,7 +27,7 @@ class LineList {
     const int last = n_ * n_ - 1;
     for (int cell = 0; 2 * cell < last; ++cell)
       AddPair(cell, last - cell);
-    if (n_ % 2 == 1) lines_.push_back({"the middle cell", {last / 2}});
+    if (n_ % 2 == 1) lines_.push_back({{last / 2}});
   }
 
   void AddHalfwayPairs() {
@@ -41,8 +41,7 @@ class LineList {
   void AddBlocks() {
     for (int r = 0; r < n_; ++r) {
       for (int c = 0; c < n_; ++c) {
-        lines_.push_back({"the block of four from " + NameOf(PlaceAt(Index(r, c), n_)),
-                          {Index(r, c), Index(r, c + 1), Index(r + 1, c), Index(r + 1, c + 1)}});
+        lines_.push_back({{Index(r, c), Index(r, c + 1), Index(r + 1, c), Index(r + 1, c + 1)}});
       }
     }
   }
@@ -52,10 +51,7 @@ class LineList {
  private:
   int Index(int r, int c) const { return r % n_ * n_ + c % n_; }
 
-  void AddPair(int a, int b) {
-    lines_.push_back(
-        {"the pair of " + NameOf(PlaceAt(a, n_)) + " and " + NameOf(PlaceAt(b, n_)), {a, b}});
-  }
+  void AddPair(int a, int b) { lines_.push_back({{a, b}}); }
 
   int n_;
   std::vector<CellLine> lines_;
@@ -100,6 +96,16 @@ std::string WhyNoneOfKind(LineKind kind, int order) {
 Square<double> BuiltOfKind(LineKind kind, int order, Random& random) {
   const SpecialKind* const special = SpecialKindOf(kind);
   return special ? special->Build(order, random) : BorderedSquare(order, random);
+}
+
+std::string NameOf(const CellLine& line, int order) {
+  if (line.Straight) return NameOf(*line.Straight, order);
+  const auto cell = [&](std::size_t i) { return NameOf(PlaceAt(line.Cells[i], order)); };
+  if (line.Cells.size() == 1) return Say("the middle cell");
+  // Translators: two cells: "the pair of row 1, column 1 and row 3, column 3".
+  if (line.Cells.size() == 2) return Say("the pair of %1 and %2", cell(0), cell(1));
+  // Translators: 2 x 2 cells; the upper left one stands in the place: "row 1, column 2".
+  return Say("the block of four from %1", cell(0));
 }
 
 std::vector<CellLine> LinesOf(LineKind kind, int order) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/board/line.h"
 #include "app/board/random.h"
 #include "app/board/square.h"
 
@@ -11,9 +13,12 @@ namespace numorra {
 /// Cells of a board, by their indices in reading order, that must add up to their share of the
 /// total: k cells of a board of order n to k / n of it.
 struct CellLine {
-  std::string Name;  ///< as used in sentences
   std::vector<int> Cells;
+  std::optional<Line> Straight = {};  ///< nothing for a single cell, a pair or a block of four
 };
+
+/// The name of a line in sentences.
+std::string NameOf(const CellLine& line, int order);
 
 /// What a board must be in addition to magic.
 enum class LineKind { Magic, Associative, Pandiagonal, MostPerfect, Ultramagic };

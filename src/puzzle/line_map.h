@@ -17,7 +17,7 @@ class LineMap {
 
   int Order() const { return order_; }
   int Lines() const { return static_cast<int>(lines_.size()); }
-  const std::string& NameOf(int line) const { return At(line).Name; }
+  std::string NameOf(int line) const { return numorra::NameOf(At(line), order_); }
   const std::vector<int>& CellsOf(int line) const { return At(line).Cells; }
   const std::vector<int>& LinesOf(int cell) const {
     return linesOf_[static_cast<std::size_t>(cell)];

@@ -6,6 +6,7 @@
 #include "puzzle/rating.h"
 #include "puzzle/search.h"
 #include "puzzle/trials.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -112,7 +113,8 @@ bool PuzzleMaker::IsDone() const {
 bool PuzzleMaker::Try(const Puzzle& square, int orders) {
   const int cells = square.Cells.Size();
   if (wish_.ClueCount && (*wish_.ClueCount < 0 || *wish_.ClueCount >= cells)) {
-    whyNever_ = "a puzzle of this size has fewer than " + std::to_string(cells) + " clues";
+    whyNever_ = SayCounted("a puzzle of this size has fewer than %1 clue",
+                           "a puzzle of this size has fewer than %1 clues", cells);
   }
   Digger digger(square, wish_, random_, yielding_);
   ++squares_;
@@ -145,16 +147,17 @@ std::variant<MadePuzzle, CannotMake> PuzzleMaker::Result() const {
   if (best_) return *best_;
   if (!whyNever_.empty()) return CannotMake{whyNever_};
   if (passedBy_) {
-    return CannotMake{"symmetric gaps cannot leave " + std::to_string(*wish_.ClueCount) +
-                      " clues here: try one more or one less"};
+    return CannotMake{Say("symmetric gaps cannot leave %1 clues here: try one more or one less",
+                          *wish_.ClueCount)};
   }
-  const std::string puzzle = std::string(" no puzzle of grade ") + NameOf(wish_.Wanted);
-  const std::string fewer = " had fewer than " + std::to_string(fewest_) + " clues";
-  if (squares_ == 1) {
-    return CannotMake{"in " + std::to_string(tries_) + " tries," + puzzle + " from this square" +
-                      fewer};
-  }
-  return CannotMake{"in " + std::to_string(squares_) + " squares," + puzzle + fewer};
+  const std::string grade = Say(NameOf(wish_.Wanted));
+  const char* const why =
+      squares_ == 1
+          // Translators: %1 is a count, %2 the name of a grade, such as "hard", %3 a count.
+          ? Mark("in %1 tries, no puzzle of grade %2 from this square had fewer than %3 clues")
+          // Translators: %1 is a count, %2 the name of a grade, such as "hard", %3 a count.
+          : Mark("in %1 squares, no puzzle of grade %2 had fewer than %3 clues");
+  return CannotMake{Say(why, squares_ == 1 ? tries_ : squares_, grade, fewest_)};
 }
 
 std::variant<MadePuzzle, CannotMake> MakePuzzle(const Puzzle& square, const PuzzleWish& wish,

@@ -1,6 +1,7 @@
 #include "puzzle/only_solution.h"
 
 #include "puzzle/rating.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -14,7 +15,8 @@ std::variant<MadePuzzle, CannotMake> WithOnlySolution(const Puzzle& clues, const
     return CannotMake{WhyOpen(*open, limit.Seconds.value_or(0))};
   }
   const bool none = std::holds_alternative<NoSolution>(result);
-  return CannotMake{none ? "this puzzle has no solution" : "this puzzle has several solutions"};
+  return CannotMake{none ? Say("this puzzle has no solution")
+                         : Say("this puzzle has several solutions")};
 }
 
 }  // namespace numorra

@@ -6,25 +6,32 @@
 #include <utility>
 
 #include "app/board/numbers.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 /// Why the puzzle cannot hold a number.
-std::string WhatIs(double number, const Puzzle& puzzle) {
+AgainstRules NotAllowed(double number, Place place, const Puzzle& puzzle) {
+  const std::string written = Written(number);
+  const std::string cell = NameOf(place);
   if (puzzle.Asked == Rules::Normal || puzzle.LimitToNine) {
-    return "not one of the numbers 1 to " + std::to_string(puzzle.Most());
+    return {Say("%1 in %2 is not one of the numbers 1 to %3", written, cell, puzzle.Most()), place};
   }
-  if (number < 1 || number != std::floor(number)) return "not a whole number of 1 or more";
-  return "more than the sum leaves for one cell, " + std::to_string(puzzle.Most());
+  if (number < 1 || number != std::floor(number)) {
+    return {Say("%1 in %2 is not a whole number of 1 or more", written, cell), place};
+  }
+  return {
+      Say("%1 in %2 is more than the sum leaves for one cell, %3", written, cell, puzzle.Most()),
+      place};
 }
 
 /// A number that is in two cells: if only one of them is a given, the other is to blame.
 AgainstRules Twice(const StoredSquare& square, int first, int second) {
   if (square.IsGiven(second) && !square.IsGiven(first)) std::swap(first, second);
   const Place place = square.Cells.PlaceOf(second);
-  return {Decimal(*square.Cells[second]) + " in " + NameOf(place) + " is also in " +
-              NameOf(square.Cells.PlaceOf(first)),
+  return {Say("%1 in %2 is also in %3", Written(*square.Cells[second]), NameOf(place),
+              NameOf(square.Cells.PlaceOf(first))),
           place};
 }
 
@@ -43,16 +50,16 @@ int Puzzle::Gaps() const {
 
 std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool limitToNine) {
   const double target = square.Total.value_or(static_cast<double>(NormalTotal(square.Order())));
-  const std::string sum = "the sum " + Decimal(target);
   if (target != std::floor(target) || target < square.Order() ||
       target > static_cast<double>(Puzzle::kMostTarget)) {
-    return AgainstRules{sum + " is not possible here with whole numbers of 1 or more"};
+    return AgainstRules{
+        Say("the sum %1 is not possible here with whole numbers of 1 or more", Written(target))};
   }
   Puzzle puzzle{Square<std::int64_t>(square.Order()), static_cast<std::int64_t>(target),
                 square.Asked, limitToNine};
   if (square.Asked == Rules::Normal && puzzle.Target != NormalTotal(square.Order())) {
-    return AgainstRules{sum + " does not fit the numbers 1 to " + std::to_string(puzzle.Most()) +
-                        ", whose lines add up to " + std::to_string(NormalTotal(square.Order()))};
+    return AgainstRules{Say("the sum %1 does not fit the numbers 1 to %2, whose lines add up to %3",
+                            Written(target), puzzle.Most(), NormalTotal(square.Order()))};
   }
   std::map<double, int> seen;
   for (int cell = 0; cell < square.Cells.Size(); ++cell) {
@@ -60,9 +67,7 @@ std::variant<Puzzle, AgainstRules> PuzzleOf(const StoredSquare& square, bool lim
     if (!number) continue;
     if (*number < 1 || *number > static_cast<double>(puzzle.Most()) ||
         *number != std::floor(*number)) {
-      const Place place = puzzle.Cells.PlaceOf(cell);
-      return AgainstRules{
-          Decimal(*number) + " in " + NameOf(place) + " is " + WhatIs(*number, puzzle), place};
+      return NotAllowed(*number, puzzle.Cells.PlaceOf(cell), puzzle);
     }
     if (square.Asked == Rules::Normal && !seen.emplace(*number, cell).second) {
       return Twice(square, seen[*number], cell);

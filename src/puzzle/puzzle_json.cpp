@@ -4,6 +4,7 @@
 #include "puzzle/code.h"
 #include "puzzle/deduction.h"
 #include "puzzle/step_words.h"
+#include "words/language.h"
 
 namespace numorra {
 namespace {
@@ -42,7 +43,10 @@ std::string JsonOfCell(int cell, int order) {
 std::string JsonOfReason(const Step& step, const LineMap& map) {
   JsonLine reason;
   reason.Add("rule", JsonString(NameOf(step.By)));
-  if (step.Line >= 0) reason.Add("line", JsonString(map.NameOf(step.Line)));
+  if (step.Line >= 0) {
+    const InEnglish forPrograms;
+    reason.Add("line", JsonString(map.NameOf(step.Line)));
+  }
   if (step.Cell >= 0) reason.Add("cell", JsonOfCell(step.Cell, map.Order()));
   return reason.Add("says", JsonString(SentenceOf(step, map))).Text();
 }

@@ -16,7 +16,8 @@ JsonLine JsonOfPuzzle(const Puzzle& clues, const MadePuzzle* solved);
 /// The way to solve it, as an array with an object for each number, in order:
 /// {"cell": [1, 2], "number": 13, "grade": "easy", "because": [
 ///   {"rule": "last gap", "line": "row 1", "cell": [1, 2], "says": "row 1 needs ..."}, ...]}
-/// Rows and columns count from 1. "line" and "cell" are missing where a reason is about none.
+/// Rows and columns count from 1. "line" and "cell" are missing where a reason is about none. Only
+/// what a reason "says" is in the reader's language.
 std::string JsonOfSteps(const MadePuzzle& puzzle, Yielding& yielding);
 
 }  // namespace numorra

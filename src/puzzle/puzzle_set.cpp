@@ -5,19 +5,10 @@
 
 #include "app/board/numbers.h"
 #include "study/images.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
-
-/// "3 of 30 puzzles", or "1 of 30 puzzles"; of one puzzle "the puzzle".
-std::string CountedOf(int count, int all) {
-  if (all == 1) return "the puzzle";
-  return std::to_string(count) + " of " + std::to_string(all) + " puzzles";
-}
-
-const char* Verb(int count, const char* one, const char* more) {
-  return count == 1 ? one : more;
-}
 
 /// The same for all images of a puzzle.
 std::size_t HashOf(const Puzzle& puzzle) {
@@ -82,23 +73,28 @@ void PuzzleSet::Note(const MadePuzzle& made, Grade wanted) {
 
 std::string PuzzleSet::Shortfall() const {
   std::string told;
-  const auto tell = [&](const std::string& what) { told += (told.empty() ? "" : "; ") + what; };
+  const auto tell = [&](const std::string& what) {
+    told = told.empty() ? what : Say("%1; %2", told, what);
+  };
   if (otherTotal_) {
-    tell("the total is " + std::to_string(*otherTotal_) + ", not " +
-         std::to_string(*wish_.Square.Total));
+    tell(Say("the total is %1, not %2", *otherTotal_, *wish_.Square.Total));
   }
   if (otherGrade_ > 0) {
-    tell(CountedOf(otherGrade_, size_) + Verb(otherGrade_, " is", " are") +
-         " of another grade than wished");
+    tell(size_ == 1
+             ? Say("the puzzle is of another grade than wished")
+             : SayCounted("%1 of %2 puzzles is of another grade than wished",
+                          "%1 of %2 puzzles are of another grade than wished", otherGrade_, size_));
   }
   if (repeated_ > 0) {
-    tell(CountedOf(repeated_, size_) + Verb(repeated_, " repeats", " repeat") +
-         " another one, turned or mirrored: no new one was found");
+    tell(
+        SayCounted("%1 of %2 puzzles repeats another one, turned or mirrored: no new one was found",
+                   "%1 of %2 puzzles repeat another one, turned or mirrored: no new one was found",
+                   repeated_, size_));
   }
   if (leftOut_ == size_) return whyLeftOut_;
   if (leftOut_ > 0) {
-    tell(CountedOf(leftOut_, size_) + Verb(leftOut_, " was", " were") +
-         " not made: " + whyLeftOut_);
+    tell(SayCounted("%1 of %2 puzzles was not made: %3", "%1 of %2 puzzles were not made: %3",
+                    leftOut_, size_, whyLeftOut_));
   }
   return told;
 }

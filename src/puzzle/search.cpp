@@ -7,6 +7,7 @@
 #include "app/ports/timed_yielding.h"
 #include "puzzle/complete_search.h"
 #include "puzzle/local_search.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -179,9 +180,11 @@ class Search : private SearchWatcher {
 }  // namespace
 
 std::string WhyOpen(const NotSettled& open, double seconds) {
-  const char* const what = open.Found ? "there is a solution; whether it is the only one was"
-                                      : "whether there is a solution was";
-  return what + (" not settled in " + Decimal(seconds)) + " seconds";
+  if (!open.Found) {
+    return Say("whether there is a solution was not settled in %1 seconds", Written(seconds));
+  }
+  return Say("there is a solution; whether it is the only one was not settled in %1 seconds",
+             Written(seconds));
 }
 
 SearchResult Solve(const Puzzle& puzzle, const SearchLimit& limit, Random& random,

@@ -1,26 +1,27 @@
 #include "puzzle/step_words.h"
 
+#include "words/say.h"
+
 namespace numorra {
 namespace {
 
 constexpr std::size_t kMostListed = 6;
 
-std::string Text(std::int64_t number) {
-  return std::to_string(number);
-}
-
-/// "5", "5 or 7", "5, 7 or 9", "3 to 9", "8 numbers from 3 to 35", "nothing".
+/// "5", "5 or 7", "5, 7 or 9", "3 to 9", "8 numbers from 3 to 35".
 std::string TextOf(const Possible& possible) {
   const std::vector<std::int64_t>& numbers = possible.Listed;
-  if (possible.IsNone()) return "nothing";
-  if (possible.IsOne()) return Text(possible.Low);
-  const std::string range = Text(possible.Low) + " to " + Text(possible.High);
-  if (numbers.empty()) return range;
-  if (numbers.size() > kMostListed) return Text(possible.Count()) + " numbers from " + range;
-  std::string text = Text(numbers[0]);
-  for (std::size_t i = 1; i < numbers.size(); ++i)
-    text += (i + 1 == numbers.size() ? " or " : ", ") + Text(numbers[i]);
-  return text;
+  if (possible.IsOne()) return Filling(possible.Low).Text;
+  // Translators: two numbers and all whole numbers between them: "row 1, column 2 can hold 3 to 9".
+  if (numbers.empty()) return Say("%1 to %2", possible.Low, possible.High);
+  if (numbers.size() > kMostListed) {
+    return SayCounted("%1 number from %2 to %3", "%1 numbers from %2 to %3", possible.Count(),
+                      possible.Low, possible.High);
+  }
+  std::string list = Filling(numbers.front()).Text;
+  for (std::size_t i = 1; i + 1 < numbers.size(); ++i)
+    list = Say("%1, %2", list, numbers[i]);
+  // Translators: the end of a list of numbers, such as "5, 7 or 9".
+  return Say("%1 or %2", list, numbers.back());
 }
 
 /// Writes the sentences of one board.
@@ -30,12 +31,13 @@ class StepWords {
 
   std::string Sentence() const {
     const bool then = step_.Supposed && step_.By != StepRule::Suppose;
-    return (then ? "then " : "") + Plain();
+    // Translators: a whole sentence stands in the place: "then row 1 adds up to 33, not 34". Use a
+    // colon if the word would change the order of the others: "then it follows: %1".
+    return then ? Say("then %1", Plain()) : Plain();
   }
 
  private:
   std::string Plain() const {
-    const std::string number = Text(step_.Number);
     switch (step_.By) {
       case StepRule::LastGap:
         return LastGap();
@@ -45,21 +47,23 @@ class StepWords {
       case StepRule::AtMost:
         return Bound();
       case StepRule::OneCandidate:
-        return step_.IsContradiction() ? "no number is left for " + Gap()
-                                       : "only " + Text(step_.Left.Low) + " is left for " + Gap();
+        return step_.IsContradiction() ? Say("no number is left for %1", Gap())
+                                       : Say("only %1 is left for %2", step_.Left.Low, Gap());
       case StepRule::OnePlace:
         return step_.IsContradiction()
-                   ? number + " fits no gap"
-                   : number + " fits only " + Gap() + ", as no other gap can hold it";
+                   ? Say("%1 fits no gap", step_.Number)
+                   : Say("%1 fits only %2, as no other gap can hold it", step_.Number, Gap());
       case StepRule::FullLine:
-        return Line() + " adds up to " + Text(step_.Sum) + ", not " + Text(step_.Total);
+        return Say("%1 adds up to %2, not %3", Line(), step_.Sum, step_.Total);
       case StepRule::Suppose:
-        return "suppose that " + number + " is in " + Gap();
+        return Say("suppose that %1 is in %2", step_.Number, Gap());
       case StepRule::Refute:
-        return "so " + number + " cannot be in " + Gap() + WhatIsLeft();
+        return WithRest(Say("so %1 cannot be in %2", step_.Number, Gap()));
       case StepRule::Search:
-        return "only a longer search shows it: trying any number but " + number + " in " + Gap() +
-               " leads to a line that cannot be completed";
+        return Say(
+            "only a longer search shows it: trying any number but %1 in %2 leads to a line that "
+            "cannot be completed",
+            step_.Number, Gap());
     }
     return {};
   }
@@ -68,36 +72,58 @@ class StepWords {
   std::string Gap() const { return CellName(step_.Cell); }
   std::string CellName(int cell) const { return NameOf(PlaceAt(cell, map_.Order())); }
 
-  /// The end of a sentence that decides more than it says.
-  std::string WhatIsLeft() const {
-    if (step_.Left.IsNone()) return ": nothing is left there";
-    return step_.Left.IsOne() ? ": only " + Text(step_.Left.Low) + " is left there" : "";
+  /// The sentence, completed if it decides more than it says.
+  std::string WithRest(const std::string& sentence) const {
+    if (step_.Left.IsNone()) return Say("%1: nothing is left there", sentence);
+    if (step_.Left.IsOne()) return Say("%1: only %2 is left there", sentence, step_.Left.Low);
+    return sentence;
   }
 
   std::string LastGap() const {
     const std::size_t others = map_.CellsOf(step_.Line).size() - 1;
-    const std::string text = Text(static_cast<std::int64_t>(others)) +
-                             (others == 1 ? " number is in " : " numbers are in ") + Line() +
-                             ", the total is " + Text(step_.Total) + ": the last one ";
-    if (step_.Left.IsOne()) return text + "is " + Text(step_.Sum);
-    return text + "would be " + Text(step_.Sum) + ", which " + Gap() + " cannot hold";
+    if (step_.Left.IsOne()) {
+      return SayCounted("%1 number is in %2, the total is %3: the last one is %4",
+                        "%1 numbers are in %2, the total is %3: the last one is %4", others, Line(),
+                        step_.Total, step_.Sum);
+    }
+    return SayCounted(
+        "%1 number is in %2, the total is %3: the last one would be %4, which %5 cannot hold",
+        "%1 numbers are in %2, the total is %3: the last one would be %4, which %5 cannot hold",
+        others, Line(), step_.Total, step_.Sum, Gap());
   }
 
   std::string TwoGaps() const {
-    std::string text = Line() + " needs " + Text(step_.Sum) + " for its two gaps";
-    if (step_.Partner.Listed.size() <= kMostListed) {
-      text += "; " + CellName(step_.OtherGap) + " can hold " + TextOf(step_.Partner);
+    if (step_.Partner.Listed.size() > kMostListed) {
+      if (step_.Left.IsNone()) {
+        return Say("%1 needs %2 for its two gaps, so %3 can hold nothing", Line(), step_.Sum,
+                   Gap());
+      }
+      return Say("%1 needs %2 for its two gaps, so %3 can hold only %4", Line(), step_.Sum, Gap(),
+                 TextOf(step_.Left));
     }
-    return text + ", so " + Gap() + " can hold " + (step_.Left.IsNone() ? "" : "only ") +
-           TextOf(step_.Left);
+    const std::string other = CellName(step_.OtherGap);
+    if (step_.Left.IsNone()) {
+      return Say("%1 needs %2 for its two gaps; %3 can hold %4, so %5 can hold nothing", Line(),
+                 step_.Sum, other, TextOf(step_.Partner), Gap());
+    }
+    // Translators: %1 is a line, %2 a number, %3 and %5 are cells; %4 and %6 are numbers, such as
+    // "5", "5, 7 or 9", "3 to 9" or "8 numbers from 3 to 35".
+    return Say("%1 needs %2 for its two gaps; %3 can hold %4, so %5 can hold only %6", Line(),
+               step_.Sum, other, TextOf(step_.Partner), Gap(), TextOf(step_.Left));
   }
 
   std::string Bound() const {
-    const bool least = step_.By == StepRule::AtLeast;
-    return Line() + " needs " + Text(step_.Sum) + " for its " + Text(step_.Gaps) +
-           " gaps; the others add up to at " + (least ? "most " : "least ") + Text(step_.Others) +
-           ", so " + Gap() + " holds at " + (least ? "least " : "most ") +
-           Text(step_.Sum - step_.Others) + WhatIsLeft();
+    const std::int64_t bound = step_.Sum - step_.Others;
+    if (step_.By == StepRule::AtLeast) {
+      return WithRest(SayCounted(
+          "%2 needs %3 for its %1 gap; the others add up to at most %4, so %5 holds at least %6",
+          "%2 needs %3 for its %1 gaps; the others add up to at most %4, so %5 holds at least %6",
+          step_.Gaps, Line(), step_.Sum, step_.Others, Gap(), bound));
+    }
+    return WithRest(SayCounted(
+        "%2 needs %3 for its %1 gap; the others add up to at least %4, so %5 holds at most %6",
+        "%2 needs %3 for its %1 gaps; the others add up to at least %4, so %5 holds at most %6",
+        step_.Gaps, Line(), step_.Sum, step_.Others, Gap(), bound));
   }
 
   const Step& step_;

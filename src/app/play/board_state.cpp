@@ -1,12 +1,12 @@
 #include "app/play/board_state.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <vector>
 
 #include "app/board/line.h"
 #include "app/board/numbers.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -66,39 +66,37 @@ std::optional<Line> LineOfTotal(int row, int column, int n) {
   return std::nullopt;
 }
 
-std::string Counted(int count, const char* one, const char* more) {
-  return std::to_string(count) + " " + (count == 1 ? one : more);
-}
-
 std::string Progress(const Tally& tally, int lines) {
-  if (tally.Gaps > 0) return Counted(tally.Gaps, "cell to fill", "cells to fill");
-  if (tally.Untouched) return "all cells are still equal";
-  if (tally.RightLines < lines) {
-    return std::to_string(tally.RightLines) + " of " + std::to_string(lines) + " lines right";
-  }
-  if (tally.Repeated == 0) return "magic";
-  return "magic, " + Counted(tally.Repeated, "number", "numbers") + " more than once";
+  if (tally.Gaps > 0) return SayCounted("%1 cell to fill", "%1 cells to fill", tally.Gaps);
+  if (tally.Untouched) return Say("all cells are still equal");
+  if (tally.RightLines < lines) return Say("%1 of %2 lines right", tally.RightLines, lines);
+  // Translators: what is said of a solved board: "4 x 4, sum 34: magic".
+  if (tally.Repeated == 0) return Say("magic");
+  return SayCounted("magic, %1 number more than once", "magic, %1 numbers more than once",
+                    tally.Repeated);
 }
 
 }  // namespace
 
-std::string StateHead(int order, double target) {
-  const std::string size = std::to_string(order);
-  return size + " x " + size + ", sum " + Decimal(target) + ": ";
+std::string StateLine(int order, double target, const std::string& progress) {
+  // Translators: a board's size, its total, and how far it is: "4 x 4, sum 34: 5 cells to fill".
+  return Say("%1 x %1, sum %2: %3", order, Written(target), progress);
 }
 
 std::string StateOf(const Board& board) {
   if (!board.Shown()) return {};
   const int lines = 2 * board.GridSize + 2;
   const Tally tally = Count(board);
-  std::string state = StateHead(board.GridSize, board.TargetTotal) + Progress(tally, lines);
+  std::string state = StateLine(board.GridSize, board.TargetTotal, Progress(tally, lines));
+  const auto add = [&state](const std::string& remark) { state = Say("%1, %2", state, remark); };
   if (tally.Gaps > 0 && board.HasGivens()) {
-    state += board.Asked == Rules::Positive
-                 ? ", any whole numbers"
-                 : ", 1 to " + std::to_string(board.GridSize * board.GridSize) + " each once";
+    // Translators: the numbers that fill a board.
+    add(board.Asked == Rules::Positive ? Say("any whole numbers")
+                                       : Say("1 to %1 each once", board.GridSize * board.GridSize));
   }
-  if (board.Typing()) state += ", Enter checks";
-  if (!board.TotalsChecked) state += ", F9 to play";
+  // Translators: what a key does: the Enter key checks the board, the key F9 begins to play on it.
+  if (board.Typing()) add(Say("Enter checks"));
+  if (!board.TotalsChecked) add(Say("F9 to play"));
   return state;
 }
 
@@ -107,12 +105,14 @@ std::string TipOfTotal(const Board& board, int row, int column) {
   const auto line = LineOfTotal(row, column, n);
   if (!board.Shown() || !line) return {};
   const std::string total = board.grid.Text(row, column);
-  std::string tip = NameOf(*line, n) + " adds up to " + total;
-  if (board.QuietTotals && board.HasGaps()) return tip;
+  const std::string name = NameOf(*line, n);
+  const std::string sum = Written(total);
+  if (board.QuietTotals && board.HasGaps()) return Say("%1 adds up to %2", name, sum);
   const double off = AsShown(Val(total) - board.TargetTotal);
-  if (off == 0) return tip + ", as it should";
-  return tip + ", " + Decimal(std::abs(off)) + (off < 0 ? " less" : " more") + " than " +
-         Decimal(board.TargetTotal);
+  if (off == 0) return Say("%1 adds up to %2, as it should", name, sum);
+  const std::string target = Written(board.TargetTotal);
+  return off < 0 ? Say("%1 adds up to %2, %3 less than %4", name, sum, Written(-off), target)
+                 : Say("%1 adds up to %2, %3 more than %4", name, sum, Written(off), target);
 }
 
 }  // namespace numorra

@@ -25,7 +25,7 @@ std::string StateOf(const Board& board);
 /// other cells.
 std::string TipOfTotal(const Board& board, int row, int column);
 
-/// The beginning of such a line: "4 x 4, sum 34: ".
-std::string StateHead(int order, double target);
+/// Such a line of a board of this order and target: "4 x 4, sum 34: " and the progress.
+std::string StateLine(int order, double target, const std::string& progress);
 
 }  // namespace numorra

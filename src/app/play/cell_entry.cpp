@@ -7,6 +7,7 @@
 #include "app/board/scoped_flag.h"
 #include "app/board/totals_check.h"
 #include "app/play/moves.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -24,8 +25,8 @@ std::string CellEntry::TypeCharacter(char32_t character) {
   const bool digit = character >= U'0' && character <= U'9';
   const bool editing = digit || character == kBackspace;
   if (!board_.Shown()) return {};
-  if (!board_.TotalsChecked) return editing ? "press F9 to play on this board" : "";
-  if (!editing) return "cells take digits only";
+  if (!board_.TotalsChecked) return editing ? Say("press F9 to play on this board") : "";
+  if (!editing) return Say("cells take digits only");
   Grid& grid = board_.grid;
   const int row = grid.CurrentRow();
   const int column = grid.CurrentColumn();
@@ -41,7 +42,7 @@ std::string CellEntry::TypeCharacter(char32_t character) {
     if (std::count_if(text.begin(), text.end(), isDigit) < kMostCellDigits) {
       text += static_cast<char>(character);
     } else {
-      why = "a cell takes at most " + std::to_string(kMostCellDigits) + " digits";
+      why = Say("a cell takes at most %1 digits", kMostCellDigits);
     }
   }
   grid.SetText(row, column, text);

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <utility>
+
+#include "words/say.h"
 
 namespace numorra {
 
@@ -8,7 +11,7 @@ namespace numorra {
 /// history.
 struct CommandHistory {
   std::string Tag;  ///< the command's code in decimal; empty before the first command
-  std::string Caption = "Redo last command";
+  std::string Caption = Say("Redo last command");
 
   void Record(int code, std::string caption) {
     Tag = std::to_string(code);

@@ -5,6 +5,7 @@
 
 #include "app/board/numbers.h"
 #include "app/play/moves.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -24,17 +25,17 @@ double Extreme(const Board& board, double start, Further further) {
   return extreme;
 }
 
-/// Why the line cannot be made right; null if it can.
+/// Why the line cannot be made right, to be said; null if it can.
 const char* Refusal(AdjustOutcome outcome) {
   switch (outcome) {
     case AdjustOutcome::Possible:
       return nullptr;
     case AdjustOutcome::BelowZero:
-      return "cannot adjust, value will be <0";
+      return Mark("cannot adjust, value will be <0");
     case AdjustOutcome::TooManyDigits:
-      return "cannot adjust, value will have more than 14 digits";
+      return Mark("cannot adjust, value will have more than 14 digits");
     case AdjustOutcome::NotOnDiagonal:
-      return "cell is not on a diagonal";
+      return Mark("cell is not on a diagonal");
   }
   return nullptr;
 }
@@ -86,13 +87,13 @@ void EditCommands::SetAllRem() {
   if (!board_.grid.Given(row, column)) board_.grid.SetText(row, column, Decimal(RandomValue()));
   CheckAndReturn(board_, dialogs_);
   const EditCommand& repeat = *FindEdit("Set2allran");
-  history_.Record(repeat.Code, repeat.Caption);
+  history_.Record(repeat.Code, WordsFor(repeat, board_.BaseValue));
 }
 
 void EditCommands::Adjust(AdjustLine line) {
   const Adjustment adjustment = AdjustToTotal(board_, line);
   if (const char* refusal = Refusal(adjustment.Outcome)) {
-    dialogs_.Tell(refusal);
+    dialogs_.Tell(Say(refusal));
     refused_ = true;
   } else {
     SetCell(adjustment.Value);

@@ -5,6 +5,7 @@
 #include "app/board/numbers.h"
 #include "app/play/edit_commands.h"
 #include "transform/symmetry.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -22,18 +23,22 @@ void Correct(EditCommands& commands) {
 std::vector<EditCommand> MakeTable() {
   using E = EditCommands;
   std::vector<EditCommand> table = {
-      {"Set2Cellvaluex", "set value to", 8, EditGroup::SetValue, Do<&E::SetBaseValue>, true},
-      {"Set2Max", "maximum value in grid", 1, EditGroup::SetValue, Do<&E::SetMaximum>},
-      {"set2Min", "mimimum value in grid", 2, EditGroup::SetValue, Do<&E::SetMinimum>},
-      {"set2Ran", "a random value", 3, EditGroup::SetValue, Do<&E::SetRandomValue>},
-      {"Set2allran", "entire grid to random values", 4, EditGroup::SetValue, Do<&E::FillAtRandom>},
-      {"SetAllRem", "all other values to", 0, EditGroup::SetValue, Do<&E::SetAllRem>, true},
-      {"correctrowx", "correct row total", 5, EditGroup::AdjustValue, Correct<AdjustLine::Row>},
-      {"correctcolx", "correct column total", 6, EditGroup::AdjustValue,
+      {"Set2Cellvaluex", Mark("set value to"), 8, EditGroup::SetValue, Do<&E::SetBaseValue>,
+       Mark("set value to %1")},
+      {"Set2Max", Mark("maximum value in grid"), 1, EditGroup::SetValue, Do<&E::SetMaximum>},
+      {"set2Min", Mark("mimimum value in grid"), 2, EditGroup::SetValue, Do<&E::SetMinimum>},
+      {"set2Ran", Mark("a random value"), 3, EditGroup::SetValue, Do<&E::SetRandomValue>},
+      {"Set2allran", Mark("entire grid to random values"), 4, EditGroup::SetValue,
+       Do<&E::FillAtRandom>},
+      {"SetAllRem", Mark("all other values to"), 0, EditGroup::SetValue, Do<&E::SetAllRem>,
+       Mark("all other values to %1")},
+      {"correctrowx", Mark("correct row total"), 5, EditGroup::AdjustValue,
+       Correct<AdjustLine::Row>},
+      {"correctcolx", Mark("correct column total"), 6, EditGroup::AdjustValue,
        Correct<AdjustLine::Column>},
-      {"correctdiagx", "correct diagnonal", 7, EditGroup::AdjustValue,
+      {"correctdiagx", Mark("correct diagnonal"), 7, EditGroup::AdjustValue,
        Correct<AdjustLine::Diagonal>},
-      {"swapvaluex", "Swap value", 0, EditGroup::Cells, Do<&E::SwapValue>},
+      {"swapvaluex", Mark("Swap value"), 0, EditGroup::Cells, Do<&E::SwapValue>},
   };
   constexpr int kFirstSymmetry = 9;
   int code = kFirstSymmetry;
@@ -59,7 +64,7 @@ const std::vector<EditCommand>& EditTable() {
 }
 
 std::string WordsFor(const EditCommand& command, double baseValue) {
-  return command.Caption + (command.SaysBase ? Str(baseValue) : std::string());
+  return command.WithBase ? Say(command.WithBase, Written(baseValue)) : Say(command.Caption);
 }
 
 const EditCommand* FindEdit(const std::string& name) {

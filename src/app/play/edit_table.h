@@ -14,11 +14,11 @@ enum class EditGroup { SetValue, AdjustValue, Cells, Symmetries };
 /// An editing command: its place, its names, and its action.
 struct EditCommand {
   const char* Name;     ///< of the menu item
-  const char* Caption;  ///< text of the menu item, and the name that undo shows
+  const char* Caption;  ///< text of the menu item, and the name that undo shows, to be said
   int Code;             ///< for recording and repeating; 0 = never recorded
   EditGroup Menu;
   std::function<void(EditCommands&)> Act;
-  bool SaysBase = false;  ///< its texts include the base value
+  const char* WithBase = nullptr;  ///< the caption with a place for the base value that it writes
 };
 
 /// All editing commands in menu order: the one place that connects codes, names, captions and

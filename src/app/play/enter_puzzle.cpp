@@ -4,6 +4,7 @@
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "puzzle/rating.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -15,20 +16,22 @@ std::string SolutionsOf(const Puzzle& puzzle, Random& random, WorkStage& stage) 
   const BusyPointer busy(stage);
   const SearchResult result = Solve(puzzle, limit, random, stage);
   if (std::holds_alternative<OneSolution>(result)) {
-    return "one solution, " + std::string(NameOf(GradeOf(puzzle, stage)));
+    // Translators: the name of a grade stands in the place, such as "hard".
+    return Say("one solution, %1", Say(NameOf(GradeOf(puzzle, stage))));
   }
-  if (std::holds_alternative<NoSolution>(result)) return "no solution";
+  if (std::holds_alternative<NoSolution>(result)) return Say("no solution");
   if (const auto* open = std::get_if<NotSettled>(&result)) return WhyOpen(*open, kFirstSearch);
   const auto count = CountSolutions(puzzle, kMostCounted, limit, stage);
-  if (!count) return "several solutions";
-  return (*count < kMostCounted ? "" : "at least ") + std::to_string(*count) + " solutions";
+  if (!count) return Say("several solutions");
+  if (*count < kMostCounted) return SayCounted("%1 solution", "%1 solutions", *count);
+  return SayCounted("at least %1 solution", "at least %1 solutions", *count);
 }
 
 }  // namespace
 
 Remark EnterPuzzle(const CommandContext& context, WorkStage& stage) {
   Board& board = context.TheBoard;
-  if (!board.HasGaps()) return {"a puzzle has gaps: empty some cells with Backspace first"};
+  if (!board.HasGaps()) return {Say("a puzzle has gaps: empty some cells with Backspace first")};
   const auto readBy = [&](Rules rules) {
     StoredSquare square = StoredSquareOf(board);
     square.Asked = rules;
@@ -42,15 +45,20 @@ Remark EnterPuzzle(const CommandContext& context, WorkStage& stage) {
   context.TheRandom.Reseed();
   const auto told = [&](const std::variant<Puzzle, AgainstRules>& read) {
     const auto& puzzle = std::get<Puzzle>(read);
-    return "by " + InWords(puzzle.Asked, puzzle.Order()) + ": " +
-           SolutionsOf(puzzle, context.TheRandom, stage);
+    const std::string solutions = SolutionsOf(puzzle, context.TheRandom, stage);
+    // Translators: how many solutions a puzzle has if these numbers may fill its gaps.
+    if (puzzle.Asked == Rules::Positive) return Say("by any whole numbers: %1", solutions);
+    // Translators: how many solutions a puzzle has if these numbers may fill its gaps.
+    return Say("by the numbers 1 to %1, each once: %2", puzzle.Cells.Size(), solutions);
   };
   auto chosen = Rules::Positive;
   std::string text = told(positive);
   if (std::holds_alternative<Puzzle>(normal)) {
     const std::string byNormal = told(normal);
-    if (context.TheDialogs.Ask(byNormal + "\n" + text + "\ntake " +
-                               InWords(Rules::Normal, board.GridSize) + "?")) {
+    const int most = board.GridSize * board.GridSize;
+    // Translators: asks whether these numbers shall fill the gaps of a puzzle.
+    const std::string question = Say("take the numbers 1 to %1, each once?", most);
+    if (context.TheDialogs.Ask(byNormal + "\n" + text + "\n" + question)) {
       chosen = Rules::Normal;
       text = byNormal;
     }

@@ -6,6 +6,7 @@
 #include "app/board/totals_check.h"
 #include "app/play/lay_out.h"
 #include "app/ports/timed_yielding.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -30,13 +31,14 @@ std::string WhyNone(const Puzzle& puzzle, const Square<bool>& givens, Random& ra
                     WorkStage& stage) {
   const BusyPointer busy(stage);
   const std::vector<Place> entries = EntriesInTheWay(puzzle, givens, random, stage);
-  if (entries.empty()) return "nothing can fill these gaps" + FullWrongLine(puzzle);
-  std::string why = "nothing can fill these gaps: ";
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const std::int64_t number = puzzle.Cells[entries[i]];
-    why += (i > 0 ? ", or " : "") + std::to_string(number) + " in " + NameOf(entries[i]);
+  if (entries.empty()) return NothingCanFill(FullWrongLine(puzzle));
+  std::string names;
+  for (const Place place : entries) {
+    const std::string entry = Say("%1 in %2", puzzle.Cells[place], NameOf(place));
+    names = names.empty() ? entry : Say("%1, or %2", names, entry);
   }
-  return why + " cannot stay";
+  // Translators: an entry or several: "7 in row 1, column 2, or 8 in row 3, column 1 cannot stay".
+  return NothingCanFill(Say("%1 cannot stay", names));
 }
 
 /// Searches, and searches longer if the player agrees.
@@ -50,7 +52,8 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& sta
   const auto* open = std::get_if<NotSettled>(&result);
   if (!open) return result;
   const std::string why = WhyOpen(*open, kFirstSearch);
-  if (!dialogs.Ask(why + "\nsearch for " + Decimal(kLongSearch) + " more seconds?")) return result;
+  const std::string question = Say("search for %1 more seconds?", Written(kLongSearch));
+  if (!dialogs.Ask(why + "\n" + question)) return result;
   SearchResult second = search(kLongSearch);
   auto* still = std::get_if<NotSettled>(&second);
   if (still && !still->Found) still->Found = open->Found;
@@ -60,6 +63,11 @@ SearchResult SearchLonger(const Puzzle& puzzle, Dialogs& dialogs, WorkStage& sta
 
 }  // namespace
 
+std::string NothingCanFill(const std::string& why) {
+  return why.empty() ? Say("nothing can fill these gaps")
+                     : Say("nothing can fill these gaps: %1", why);
+}
+
 std::string FullWrongLine(const Puzzle& puzzle) {
   for (const Line line : MagicLines(puzzle.Order())) {
     bool full = true;
@@ -68,8 +76,7 @@ std::string FullWrongLine(const Puzzle& puzzle) {
       return puzzle.Cells[cell];
     });
     if (!full || sum == puzzle.Target) continue;
-    return ": " + NameOf(line, puzzle.Order()) + " adds up to " + std::to_string(sum) + ", not " +
-           std::to_string(puzzle.Target);
+    return Say("%1 adds up to %2, not %3", NameOf(line, puzzle.Order()), sum, puzzle.Target);
   }
   return {};
 }
@@ -99,13 +106,13 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage,
   Dialogs& dialogs = context.TheDialogs;
   Random& random = context.TheRandom;
   if (!board.HasGaps()) {
-    dialogs.Tell("the board has no gaps to fill");
+    dialogs.Tell(Say("the board has no gaps to fill"));
     return;
   }
   const StoredSquare stored = StoredSquareOf(board);
   auto read = PuzzleOf(stored, limitToNine && board.Asked == Rules::Positive);
   if (const auto* against = std::get_if<AgainstRules>(&read)) {
-    dialogs.Tell("nothing can fill these gaps: " + against->Why);
+    dialogs.Tell(NothingCanFill(against->Why));
     return;
   }
   auto& puzzle = std::get<Puzzle>(read);
@@ -116,11 +123,11 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage,
     Show(board, one->Solved);
   } else if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
     Show(board, several->First);
-    dialogs.Tell("this is one of several solutions");
+    dialogs.Tell(Say("this is one of several solutions"));
   } else if (const auto* open = std::get_if<NotSettled>(&result)) {
     if (open->Found) Show(board, *open->Found);
   } else if (const std::string& why = std::get<NoSolution>(result).Why; !why.empty()) {
-    dialogs.Tell("nothing can fill these gaps: " + why);
+    dialogs.Tell(NothingCanFill(why));
   } else {
     dialogs.Tell(WhyNone(puzzle, stored.Givens, random, stage));
   }

@@ -22,7 +22,10 @@ void FillGaps(const CommandContext& context, bool limitToNine, WorkStage& stage,
 /// one. Keys reach the board afterwards.
 void EmptyBoard(Board& board);
 
-/// Names the first full line with a wrong total, as ": column 9 adds up to 135, not 369"; empty if
+/// That nothing can fill the gaps, and why if `why` is not empty.
+std::string NothingCanFill(const std::string& why);
+
+/// Names the first full line with a wrong total, as "column 9 adds up to 135, not 369"; empty if
 /// there is none.
 std::string FullWrongLine(const Puzzle& puzzle);
 

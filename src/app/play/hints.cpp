@@ -1,13 +1,13 @@
 #include "app/play/hints.h"
 
-#include <algorithm>
-
 #include "app/board/position.h"
 #include "app/board/totals_check.h"
+#include "app/play/entry_names.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "puzzle/search.h"
 #include "puzzle/step_words.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -52,20 +52,14 @@ Wrong InTheWay(const Board& board, const Puzzle& puzzle, Random& random, WorkSta
 Remark CannotStay(const Board& board, const Wrong& wrong) {
   const std::vector<Place>& cells = wrong.Cells;
   if (cells.empty()) {
-    return {board.HasGaps() ? "nothing can fill these gaps"
-                            : "not all lines of the board are right"};
+    return {board.HasGaps() ? Say("nothing can fill these gaps")
+                            : Say("not all lines of the board are right")};
   }
-  std::string text;
-  constexpr std::size_t kMostNamed = 5;
-  for (std::size_t i = 0; i < std::min(kMostNamed, cells.size()); ++i) {
-    text += (i > 0 ? "; " : "") + board.grid.Text(cells[i].Row, cells[i].Column) + " in " +
-            NameOf(cells[i]);
-  }
-  if (cells.size() > kMostNamed) {
-    text += "; and " + std::to_string(cells.size() - kMostNamed) + " more";
-  }
-  if (cells.size() == 1) return {text + " cannot stay", cells};
-  return {text + (wrong.All ? ": none of these can stay" : ": one of these cannot stay"), cells};
+  const std::string names = NamesOfEntries(PositionOf(board), cells);
+  if (cells.size() == 1) return {Say("%1 cannot stay", names), cells};
+  return {wrong.All ? Say("%1: none of these can stay", names)
+                    : Say("%1: one of these cannot stay", names),
+          cells};
 }
 
 Remark Against(const AgainstRules& against) {
@@ -74,16 +68,16 @@ Remark Against(const AgainstRules& against) {
   return remark;
 }
 
-/// Runs `say` on the puzzle on the board and the result of a search, with the busy pointer; or
+/// Runs `tell` on the puzzle on the board and the result of a search, with the busy pointer; or
 /// returns why the board is no puzzle.
-template <class Say>
-Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Say say) {
+template <class Tell>
+Remark AfterSearch(const Board& board, Random& random, WorkStage& stage, Tell tell) {
   const auto read = PuzzleOf(StoredSquareOf(board));
   if (const auto* against = std::get_if<AgainstRules>(&read)) return Against(*against);
   const auto& puzzle = std::get<Puzzle>(read);
   random.Reseed();
   const BusyPointer busy(stage);
-  return say(puzzle, Solve(puzzle, kLimit, random, stage));
+  return tell(puzzle, Solve(puzzle, kLimit, random, stage));
 }
 
 /// The steps as remarks; the first one holds them all if there are several.
@@ -111,7 +105,8 @@ Remark Hints::Next() {
   const Place place = PlaceAt(next_->Cell, board_.GridSize);
   switch (++presses_) {
     case 1:
-      return {"look at " + WhereToLook(*next_, map), PlacesToLook(*next_, map)};
+      // Translators: a line or a cell stands in the place.
+      return {Say("look at %1", WhereToLook(*next_, map)), PlacesToLook(*next_, map)};
     case 2:
       return Explained(*next_, map);
     default:
@@ -123,36 +118,36 @@ Remark Hints::Next() {
   board_.ShowTotals();
   RefreshTotals(board_);
   board_.ReturnTo(place.Row, place.Column);
-  const std::string text = std::to_string(next_->Number) + " is in " + NameOf(place);
+  const std::string text = Say("%1 is in %2", next_->Number, NameOf(place));
   next_.reset();
   return {text, {place}};
 }
 
 Remark Hints::Begin() {
-  const auto say = [this](const Puzzle& puzzle, const SearchResult& result) -> Remark {
+  const auto tell = [this](const Puzzle& puzzle, const SearchResult& result) -> Remark {
     if (std::holds_alternative<NoSolution>(result)) {
       return CannotStay(board_, InTheWay(board_, puzzle, random_, stage_));
     }
-    if (!board_.HasGaps()) return {"the board has no gaps"};
+    if (!board_.HasGaps()) return {Say("the board has no gaps")};
     if (const auto* one = std::get_if<OneSolution>(&result)) {
       next_ = NextNumber(puzzle, one->Solved, stage_);
       return {};
     }
     if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};
-    return {"this board has several solutions, so no number follows"};
+    return {Say("this board has several solutions, so no number follows")};
   };
-  return AfterSearch(board_, random_, stage_, say);
+  return AfterSearch(board_, random_, stage_, tell);
 }
 
 Remark CheckEntries(const Board& board, Random& random, WorkStage& stage) {
-  const auto say = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
+  const auto tell = [&](const Puzzle& puzzle, const SearchResult& result) -> Remark {
     if (std::holds_alternative<NoSolution>(result)) {
       return CannotStay(board, InTheWay(board, puzzle, random, stage));
     }
     const auto* open = std::get_if<NotSettled>(&result);
-    return {open && !open->Found ? WhyOpen(*open, kFirstSearch) : "all entries can stay"};
+    return {open && !open->Found ? WhyOpen(*open, kFirstSearch) : Say("all entries can stay")};
   };
-  return AfterSearch(board, random, stage, say);
+  return AfterSearch(board, random, stage, tell);
 }
 
 }  // namespace numorra

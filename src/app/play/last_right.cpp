@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include "app/board/numbers.h"
+#include "app/play/entry_names.h"
 #include "app/play/fill_gaps.h"
 #include "app/play/lay_out.h"
 #include "puzzle/search.h"
 #include "transform/symmetry.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -68,35 +70,29 @@ class SolutionTexts {
   std::vector<Square<std::string>> ways_;
 };
 
-/// The entries as "7 in row 2, column 3", the first few of them.
-std::string NamesOf(const Position& position, const std::vector<Place>& cells) {
-  constexpr std::size_t kMostNamed = 5;
-  std::string names;
-  for (std::size_t i = 0; i < std::min(kMostNamed, cells.size()); ++i)
-    names += (i > 0 ? "; " : "") + position.Texts[cells[i]] + " in " + NameOf(cells[i]);
-  const std::size_t more = cells.size() - std::min(kMostNamed, cells.size());
-  return names + (more > 0 ? "; and " + std::to_string(more) + " more" : "");
-}
-
 Remark GoBack(Board& board, UndoHistory& history, SolutionTexts& solution) {
   Position next = PositionOf(board);
   std::vector<Place> wrong = solution.WrongIn(next).value_or(std::vector<Place>());
-  if (wrong.empty()) return {"all entries are right"};
+  if (wrong.empty()) return {Say("all entries are right")};
   for (std::size_t steps = 1; steps <= history.Done(); ++steps) {
     const Position& before = history.Back(steps);
     auto earlier = solution.WrongIn(before);
     if (!earlier) break;
     if (earlier->empty()) {
       history.UndoSteps(board, steps);
-      return {"the board is as it was before " + NamesOf(next, wrong) +
-                  (wrong.size() == 1 ? ", which cannot stay" : ", none of which can stay"),
+      const std::string names = NamesOfEntries(next, wrong);
+      return {wrong.size() == 1
+                  ? Say("the board is as it was before %1, which cannot stay", names)
+                  : Say("the board is as it was before %1, none of which can stay", names),
               wrong};
     }
     next = before;
     wrong = std::move(*earlier);
   }
-  return {NamesOf(next, wrong) + " cannot stay, and undo does not reach back to a board without " +
-              (wrong.size() == 1 ? "it" : "them"),
+  const std::string names = NamesOfEntries(next, wrong);
+  return {wrong.size() == 1
+              ? Say("%1 cannot stay, and undo does not reach back to a board without it", names)
+              : Say("%1 cannot stay, and undo does not reach back to a board without them", names),
           wrong};
 }
 
@@ -116,8 +112,9 @@ Remark BackToLastRight(Board& board, UndoHistory& history, Random& random, WorkS
   if (const auto* open = std::get_if<NotSettled>(&result)) return {WhyOpen(*open, kFirstSearch)};
   const auto* one = std::get_if<OneSolution>(&result);
   if (!one) {
-    return {std::string("no entry is right or wrong: the given numbers have ") +
-            (std::holds_alternative<NoSolution>(result) ? "no solution" : "several solutions")};
+    return {std::holds_alternative<NoSolution>(result)
+                ? Say("no entry is right or wrong: the given numbers have no solution")
+                : Say("no entry is right or wrong: the given numbers have several solutions")};
   }
   SolutionTexts solution(one->Solved, PositionOf(board));
   return GoBack(board, history, solution);

@@ -2,6 +2,7 @@
 
 #include "app/board/numbers.h"
 #include "app/board/totals_check.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -23,11 +24,11 @@ void BuildManualBoard(const CommandContext& context, BuildStage& stage) {
     boxes.SetSum(Str(sum));
   }
   if (const char* why = WhyNoBoardHas(order)) {
-    dialogs.Tell(why);
+    dialogs.Tell(Say(why));
     return;
   }
   const std::int16_t base = ToInt16(BaseOf(sum, order));
-  if (order > kLargestSimpleSize) dialogs.Tell("solution may be too complex to solve");
+  if (order > kLargestSimpleSize) dialogs.Tell(Say("solution may be too complex to solve"));
 
   {
     const BusyPointer busy(stage);

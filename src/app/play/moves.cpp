@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "app/board/totals_check.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -50,7 +51,7 @@ void CheckAndReturn(Board& board, Dialogs& dialogs) {
 
 bool MayChange(const Board& board, Dialogs& dialogs, int row, int column) {
   if (!board.grid.Given(row, column)) return true;
-  dialogs.Tell("the number in " + NameOf(Place{row, column}) + " is given and cannot be changed");
+  dialogs.Tell(Say("the number in %1 is given and cannot be changed", NameOf(Place{row, column})));
   return false;
 }
 

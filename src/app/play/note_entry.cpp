@@ -5,6 +5,7 @@
 #include "app/play/moves.h"
 #include "app/play/puzzle_aids.h"
 #include "puzzle/fitting_numbers.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -59,7 +60,7 @@ void NoteEntry::TypeCharacter(char32_t character) {
 bool NoteEntry::RefusesNotes(Place place) {
   if (board_.grid.At(place.Row, place.Column).IsGap()) return false;
   if (MayChange(board_, dialogs_, place.Row, place.Column)) {
-    dialogs_.Tell(NameOf(place) + " holds a number: only gaps take notes");
+    dialogs_.Tell(Say("%1 holds a number: only gaps take notes", NameOf(place)));
   }
   return true;
 }
@@ -92,17 +93,17 @@ Remark FillNotes(Board& board) {
   }
   const auto& puzzle = std::get<Puzzle>(read);
   const std::string wrong = FullWrongLine(puzzle);
-  if (!wrong.empty()) return {"nothing can fill these gaps" + wrong};
+  if (!wrong.empty()) return {NothingCanFill(wrong)};
   const int order = puzzle.Order();
   Square<NoteSet> notes(order);
   for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
     if (puzzle.Cells[cell] != 0) continue;
     const Place place = puzzle.Cells.PlaceOf(cell);
     const auto numbers = FittingNumbers(puzzle, cell, kMostNoted + 1);
-    if (numbers.empty()) return {"no number fits " + NameOf(place), {place}};
+    if (numbers.empty()) return {Say("no number fits %1", NameOf(place)), {place}};
     if (numbers.back() > kMostNoted) {
-      return {NameOf(place) + " may hold a number above " + std::to_string(kMostNoted) +
-                  ", which is too large for notes",
+      return {Say("%1 may hold a number above %2, which is too large for notes", NameOf(place),
+                  kMostNoted),
               {place}};
     }
     for (const std::int64_t number : numbers)

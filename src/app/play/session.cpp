@@ -18,6 +18,7 @@
 #include "puzzle/candidates.h"
 #include "puzzle/code.h"
 #include "puzzle/only_solution.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -198,14 +199,15 @@ std::optional<std::string> Session::PuzzleCode() const {
   const std::string code = puzzle ? CodeOf(*puzzle) : "";
   if (!code.empty()) return code;
   ports_->TheDialogs.Tell(
-      "only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no rule");
+      Say("only puzzles of size 3 to 20 have a code: boards with gaps and numbers that break no "
+          "rule"));
   return std::nullopt;
 }
 
 std::optional<SquareWish> Session::WishForFreshSquares() const {
   SquareWish wish{.Order = ToInt16(Val(ports_->Boxes.Size()))};
   if (const char* why = WhyNoBoardHas(wish.Order)) {
-    ports_->TheDialogs.Tell(why);
+    ports_->TheDialogs.Tell(Say(why));
     return std::nullopt;
   }
   if (TheBoard.SolveMode != ModeVariable) return wish;
@@ -218,13 +220,13 @@ std::optional<SquareWish> Session::WishForFreshSquares() const {
 }
 
 PuzzleSource Session::SquareToHide() const {
-  if (!TheBoard.Shown() || TheBoard.HasGaps()) return {.WhyNot = "there is no full board"};
+  if (!TheBoard.Shown() || TheBoard.HasGaps()) return {.WhyNot = Say("there is no full board")};
   auto read = PuzzleOf(StoredSquareOf(TheBoard), false);
   if (const auto* against = std::get_if<AgainstRules>(&read)) return {.WhyNot = against->Why};
-  if (const char* none = WhyNoBoardHas(TheBoard.GridSize)) return {.WhyNot = none};
+  if (const char* none = WhyNoBoardHas(TheBoard.GridSize)) return {.WhyNot = Say(none)};
   auto& square = std::get<Puzzle>(read);
   if (!Candidates(square).Propagate(Grade::Easy)) {
-    return {.WhyNot = "not all lines of the board are right"};
+    return {.WhyNot = Say("not all lines of the board are right")};
   }
   return {.Square = std::move(square)};
 }

@@ -9,6 +9,7 @@
 #include "app/play/lay_out.h"
 #include "study/images.h"
 #include "study/relatives.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -28,7 +29,7 @@ std::optional<Square<double>> FullBoard(const CommandContext& context) {
     if (board.grid.At(r, c).IsGap() && !gap) gap = Place{r, c};
   });
   if (!gap) return NumbersOn(board);
-  context.TheDialogs.Tell(NameOf(*gap) + " is empty: this needs a full board");
+  context.TheDialogs.Tell(Say("%1 is empty: this needs a full board", NameOf(*gap)));
   return std::nullopt;
 }
 
@@ -65,7 +66,7 @@ template <class Maker, class Build>
 bool LayOutNormal(const Maker& maker, const CommandContext& context, Build build) {
   const int order = ToInt16(Val(context.Boxes.Size()));
   const char* const none = WhyNoBoardHas(order);
-  const std::string why = none ? none : maker.WhyNone(order);
+  const std::string why = none ? Say(none) : maker.WhyNone(order);
   if (!why.empty()) {
     context.TheDialogs.Tell(why);
     return false;
@@ -92,7 +93,7 @@ void VaryBoard(const CommandContext& context) {
   if (const auto varied = Varied(*numbers, context.TheRandom)) {
     Replace(context.TheBoard, *varied);
   } else {
-    context.TheDialogs.Tell("all squares of this family look like this one");
+    context.TheDialogs.Tell(Say("all squares of this family look like this one"));
   }
 }
 
@@ -102,9 +103,9 @@ void ComplementBoard(const CommandContext& context) {
   const Square<double> complement = ComplementOf(*numbers);
   for (int cell = 0; cell < complement.Size(); ++cell) {
     if (DigitsOf(Decimal(complement[cell])) <= kMostCellDigits) continue;
-    context.TheDialogs.Tell("the complement of " + Decimal((*numbers)[cell]) + " in " +
-                            NameOf(complement.PlaceOf(cell)) + " has more than " +
-                            std::to_string(kMostCellDigits) + " digits");
+    context.TheDialogs.Tell(Say("the complement of %1 in %2 has more than %3 digits",
+                                Written((*numbers)[cell]), NameOf(complement.PlaceOf(cell)),
+                                kMostCellDigits));
     return;
   }
   Board& board = context.TheBoard;
@@ -124,7 +125,7 @@ void BringToStandardForm(const CommandContext& context) {
   if (!numbers) return;
   const Square<double> form = StandardForm(*numbers);
   if (form == *numbers) {
-    context.TheDialogs.Tell("this is the standard form");
+    context.TheDialogs.Tell(Say("this is the standard form"));
   } else {
     Replace(context.TheBoard, form);
   }
@@ -136,7 +137,7 @@ void ShowRelative(const Relative& relative, const CommandContext& context) {
   context.TheRandom.Reseed();
   const auto drawn = DrawRelative(relative, *numbers, context.TheRandom);
   if (!drawn) {
-    context.TheDialogs.Tell("this square has no such relative of its kind");
+    context.TheDialogs.Tell(Say("this square has no such relative of its kind"));
     return;
   }
   Board& board = context.TheBoard;

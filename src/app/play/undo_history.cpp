@@ -2,12 +2,15 @@
 
 #include <utility>
 
+#include "words/say.h"
+
 namespace numorra {
 
 void UndoHistory::Note(const CommandResult& result) {
   const bool walked = std::exchange(walking_, false);
   const bool typed = result.Name == kTyping || result.Name == kNoting;
-  if (!typed || walked || (typing_ && names_.back() != result.Name)) typing_ = false;
+  const std::string name = typed ? SayIn("undone", result.Name.c_str()) : result.Name;
+  if (!typed || walked || (typing_ && names_.back() != name)) typing_ = false;
   if (walked || !IsStep(result.Before, result.After)) return;
   if (typing_) {
     positions_.back() = result.After;
@@ -17,7 +20,7 @@ void UndoHistory::Note(const CommandResult& result) {
   typing_ = typed;
   names_.resize(now_);
   positions_.resize(now_);
-  names_.push_back(result.Name);
+  names_.push_back(name);
   positions_.push_back(result.Before);
   positions_.push_back(result.After);
   if (names_.size() > kMostSteps) {

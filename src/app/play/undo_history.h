@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/play/board_watch.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -20,10 +21,10 @@ class UndoHistory {
 
   /// The name of commands that type digits: they are one step as long as nothing else comes between
   /// them.
-  static constexpr const char* kTyping = "typing";
+  static constexpr const char* kTyping = MarkIn("undone", "typing");
 
   /// The name of commands that type the digits of a note: one step in the same way.
-  static constexpr const char* kNoting = "note";
+  static constexpr const char* kNoting = MarkIn("undone", "note");
 
   /// Listens to every command. The history's own commands are not steps.
   void Note(const CommandResult& result);
@@ -38,7 +39,7 @@ class UndoHistory {
   std::size_t Done() const { return now_; }
   const Position& Back(std::size_t steps) const { return positions_[now_ - steps]; }
 
-  /// The names of the steps to undo and to redo; call them only if there is one.
+  /// The names of the steps to undo and to redo, as said; call them only if there is one.
   const std::string& UndoName() const { return names_[now_ - 1]; }
   const std::string& RedoName() const { return names_[now_]; }
 

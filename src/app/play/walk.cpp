@@ -6,6 +6,7 @@
 #include "app/board/line.h"
 #include "app/board/numbers.h"
 #include "app/play/board_state.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -87,8 +88,8 @@ void Walk::ShowTotals() {
 }
 
 std::string StateOf(const Walk& walk) {
-  return StateHead(walk.Order(), static_cast<double>(NormalTotal(walk.Order()))) + "step " +
-         std::to_string(walk.At()) + " of " + std::to_string(walk.Steps());
+  return StateLine(walk.Order(), static_cast<double>(NormalTotal(walk.Order())),
+                   Say("step %1 of %2", walk.At(), walk.Steps()));
 }
 
 }  // namespace numorra

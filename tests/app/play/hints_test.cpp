@@ -1,6 +1,7 @@
 #include "app/play/hints.h"
 
 #include "app/play/enter_puzzle.h"
+#include "app/play/entry_names.h"
 #include "app/play/lay_out.h"
 #include "puzzle/code.h"
 #include "support/invariants.h"
@@ -123,6 +124,16 @@ TEST_F(HintsTest, SayWhyABoardIsNoPuzzle) {
     EXPECT_TRUE(!board_.HasGivens() || (board_.Asked == Rules::Normal) == normal);
   }
   EXPECT_FALSE(board_.HasGivens());
+}
+
+TEST(EntryNames, NameTheFirstFiveAndCountTheOthers) {
+  const Position position{.Texts = SquareOf(3, [](int cell) { return std::to_string(cell + 1); })};
+  std::vector<Place> cells;
+  for (const int column : {1, 2, 3, 1, 2, 3, 1})
+    cells.push_back({static_cast<int>(cells.size()) / 3 + 1, column});
+  EXPECT_EQ(NamesOfEntries(position, cells),
+            "1 in row 1, column 1; 2 in row 1, column 2; 3 in row 1, column 3; "
+            "4 in row 2, column 1; 5 in row 2, column 2; and 2 more");
 }
 
 }  // namespace
