@@ -10,6 +10,7 @@
 #include "cli/argument_checks.h"
 #include "cli/count_arguments.h"
 #include "cli/option_words.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -39,14 +40,14 @@ class Reader {
       if (const auto handler = Handler()) {
         (this->*handler)();
       } else {
-        Fail("unknown argument '" + words_.Option() + "'");
+        Fail(Say("unknown argument '%1'", words_.Option()));
       }
       words_.CheckValueTaken();
       if (words_.Error().empty() && special_) return *special_;
       wishes_ |= !IsAboutOutput(words_.Option());
     }
     CheckTogether();
-    if (!words_.Error().empty()) return BadArguments{words_.Error() + "; try --help"};
+    if (!words_.Error().empty()) return BadArguments{Say("%1; try --help", words_.Error())};
     return request_;
   }
 
@@ -77,7 +78,7 @@ class Reader {
   }
 
   void TakeFile() {
-    if (fileNamed_) Fail("only one file can be read, not '" + words_.Option() + "' too");
+    if (fileNamed_) Fail(Say("only one file can be read, not '%1' too", words_.Option()));
     fileNamed_ = true;
     request_.File = words_.Option();
   }
@@ -130,7 +131,7 @@ class Reader {
   void Size() {
     const auto size = WholeTextAs<int>(Value());
     if (!size || *size < kMinOrder || *size > kMaxOrder) {
-      Fail("the size must be a whole number from 3 to 50");
+      Fail(Say("the size must be a whole number from 3 to 50"));
     } else {
       request_.Size = *size;
     }
@@ -139,8 +140,7 @@ class Reader {
   void Sum() {
     request_.Sum = DecimalIn(Value());
     if (!request_.Sum || *request_.Sum <= 0) {
-      Fail("the sum must be a number above 0 with at most " + std::to_string(kMostCellDigits) +
-           " digits");
+      Fail(Say("the sum must be a number above 0 with at most %1 digits", kMostCellDigits));
     }
   }
 
@@ -149,7 +149,7 @@ class Reader {
   void Corner() {
     request_.Corner = WholeTextAs<int>(Value());
     if (!request_.Corner || *request_.Corner < 1)
-      Fail("the corner must be a whole number of 1 or more");
+      Fail(Say("the corner must be a whole number of 1 or more"));
   }
 
   /// Four numbers, or a file with a top row on each line. What has digits and commas only is meant
@@ -159,7 +159,7 @@ class Reader {
     request_.Top = ParseTopRow(value);
     if (request_.Top) return;
     if (value.empty() || value.find_first_not_of("0123456789,. /-+") == std::string::npos) {
-      if (value != "-") return Fail("the top row must be four whole numbers from 0 to 9999");
+      if (value != "-") return Fail(Say("the top row must be four whole numbers from 0 to 9999"));
     }
     request_.TopRows = value;
   }
@@ -168,12 +168,12 @@ class Reader {
     if (request_.Command == Command::Complete) return LineKindOption();
     request_.Kind = FindSpecialKind(Value());
     if (request_.Kind) return;
-    Fail("the kind must be one of " + Listed(Choices()));
+    Fail(Say("the kind must be one of %1", Listed(Choices())));
   }
 
   void ConstructionOption() {
     request_.By = FindConstruction(Value());
-    if (!request_.By) Fail("the construction must be one of " + Listed(Choices()));
+    if (!request_.By) Fail(Say("the construction must be one of %1", Listed(Choices())));
   }
 
   const std::vector<std::string>& Choices() const {
@@ -184,13 +184,13 @@ class Reader {
     if (const LineKind* const kind = FindLineKind(Value())) {
       request_.LinesWanted = *kind;
     } else {
-      Fail("the kind is one of " + Listed(Choices()));
+      Fail(Say("the kind is one of %1", Listed(Choices())));
     }
   }
 
   void GradeOption() {
     wanted_ = GradeNamed(Value());
-    if (!wanted_) Fail("the grade must be easy, medium, hard, expert or extreme");
+    if (!wanted_) Fail(Say("the grade must be easy, medium, hard, expert or extreme"));
   }
 
   /// "easy:10,medium:10"
@@ -204,8 +204,8 @@ class Reader {
       const auto count =
           colon == std::string::npos ? std::nullopt : WholeTextAs<int>(share.substr(colon + 1));
       if (!grade || !count || *count < 1 || *count > kMostCount) {
-        Fail("the grades must be grades with counts, such as easy:10,medium:5, not '" + share +
-             "'");
+        Fail(Say("the grades must be grades with counts, such as %1, not '%2'", "easy:10,medium:5",
+                 share));
         return;
       }
       request_.Grades.push_back({*grade, *count});
@@ -219,7 +219,7 @@ class Reader {
   void Clues() {
     request_.ClueCount = WholeTextAs<int>(Value());
     if (!request_.ClueCount || *request_.ClueCount < 0)
-      Fail("the number of clues must be a whole number of 0 or more");
+      Fail(Say("the number of clues must be a whole number of 0 or more"));
   }
 
   void Codes() { request_.Codes = Value(); }
@@ -229,7 +229,7 @@ class Reader {
     for (const Rules rules : {Rules::Normal, Rules::Positive}) {
       if (name == NameOf(rules)) request_.RulesWanted = rules;
     }
-    if (!request_.RulesWanted) Fail("the rules must be normal or positive");
+    if (!request_.RulesWanted) Fail(Say("the rules must be normal or positive"));
   }
 
   void Seconds() {
@@ -238,7 +238,7 @@ class Reader {
     if (seconds && *seconds > 0 && *seconds <= kMost) {
       request_.Seconds = *seconds;
     } else {
-      Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
+      Fail(Say("the number of seconds must be above 0 and at most 1000000, such as 0.5"));
     }
   }
 
@@ -249,24 +249,24 @@ class Reader {
     const auto count = WholeTextAs<int>(Value());
     counted_ = true;
     if (!count || *count < 1 || *count > kMostCount)
-      Fail("the count must be a whole number from 1 to 1000000");
+      Fail(Say("the count must be a whole number from 1 to 1000000"));
     request_.Count = count.value_or(1);
   }
 
   void Format() {
     const auto format = FormatNamed(Value());
-    if (!format) Fail("the format must be " + FormatNames(false, ", ", " or "));
+    if (!format) Fail(Say("the format must be %1", FormatNames(false)));
     request_.Format = format.value_or(request_.Format);
   }
 
   void Seed() {
     request_.Seed = WholeTextAs<std::uint64_t>(Value());
-    if (!request_.Seed) Fail("the seed must be a whole number of 0 or more");
+    if (!request_.Seed) Fail(Say("the seed must be a whole number of 0 or more"));
   }
 
   void Completions() {
     const std::string shell = Value();
-    if (CompletionsFor(shell).empty()) Fail("the shell must be bash, zsh or fish");
+    if (CompletionsFor(shell).empty()) Fail(Say("the shell must be bash, zsh or fish"));
     special_ = CompletionsRequest{shell};
   }
 

@@ -18,6 +18,7 @@
 #include "puzzle/fresh_square.h"
 #include "study/kept_relatives.h"
 #include "study/relatives.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -47,8 +48,8 @@ class SquareBuilder {
 
   Result WithTopRow(const TopRow& top) {
     const auto found = FindTopRowSquare(top, random_, stage_);
-    if (!found) throw Impossible{"no 4x4 square has this top row"};
-    return {SquareOf(found->Square, 4), found->Total, RemarkOn(found->Quality)};
+    if (!found) throw Impossible{Say("no 4x4 square has this top row")};
+    return {SquareOf(found->Square, 4), found->Total, Say(RemarkOn(found->Quality))};
   }
 
  private:
@@ -69,7 +70,7 @@ class SquareBuilder {
     SquareWish wish{request_.Size, {}, request_.LimitToNine};
     if (request_.Sum) wish.Total = static_cast<std::int64_t>(*request_.Sum);
     const auto square = FreshSquare(wish, random_, stage_);
-    if (!square) throw Impossible{"no square with this total was found"};
+    if (!square) throw Impossible{Say("no square with this total was found")};
     const auto total = static_cast<double>(square->Target);
     return {Square<double>(square->Cells), total, RemarkOnTotal(total), square->Asked};
   }
@@ -93,9 +94,10 @@ class SquareBuilder {
       case SolveStatus::Built:
         break;
       case SolveStatus::CellValueTooSmall:
-        throw Impossible{"Cell value too small"};
+        throw Impossible{Say("Cell value too small")};
       case SolveStatus::TryAgain:
-        throw Impossible{"Could not solve in " + std::to_string(kTries) + " tries"};
+        throw Impossible{
+            SayCounted("Could not solve in %1 try", "Could not solve in %1 tries", kTries)};
     }
     return {SquareOf(build.Square, order), build.Total, RemarkOnDifference(plan, build)};
   }
@@ -107,12 +109,13 @@ class SquareBuilder {
       remark = WhyNotTheCorner(*request_.Corner, plan);
     }
     const std::string onTotal = RemarkOnTotal(build.Total);
-    return remark + (remark.empty() || onTotal.empty() ? "" : "; ") + onTotal;
+    if (remark.empty() || onTotal.empty()) return remark + onTotal;
+    return Say("%1; %2", remark, onTotal);
   }
 
   /// That the total is another than was asked for.
   std::string RemarkOnTotal(double total) const {
-    return request_.Sum && total != *request_.Sum ? "the total is " + Decimal(total) : "";
+    return request_.Sum && total != *request_.Sum ? Say("the total is %1", Written(total)) : "";
   }
 
   const SquareRequest& request_;
@@ -130,8 +133,8 @@ class SquareWriter {
 
   void Write(const Result& result, const std::string& name) {
     if (!result.Remark.empty()) {
-      streams_.Err << streams_.Program << name << (name.empty() ? "" : ": ") << result.Remark
-                   << "\n";
+      streams_.Err << streams_.Program
+                   << (name.empty() ? result.Remark : Say("%1: %2", name, result.Remark)) << "\n";
     }
     const StoredSquare square{
         .Cells = StoredCells(result.Numbers), .Total = result.Total, .Asked = result.Asked};
@@ -153,7 +156,7 @@ class SquareWriter {
 Result Varied(Result result, const SquareRequest& request, Random& random) {
   const auto varied =
       request.Kind ? VariedWithinKind(result.Numbers, random) : Varied(result.Numbers, random);
-  if (!varied) throw Impossible{"all squares of this family look like this one"};
+  if (!varied) throw Impossible{Say("all squares of this family look like this one")};
   result.Numbers = *varied;
   return result;
 }
@@ -169,12 +172,12 @@ bool BuildFromList(const SquareRequest& request, const Streams& streams, SquareB
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (Trim(line.substr(0, line.find('#'))).empty()) continue;
     const auto tell = [&](const std::string& why) {
-      streams.Err << streams.Program << "line " << number << ": " << why << "\n";
+      streams.Err << streams.Program << Say("line %1: %2", number, why) << "\n";
       allBuilt = false;
     };
     const auto named = NamedTopRowIn(line);
     if (!named) {
-      tell("there is no date or top row at its end");
+      tell(Say("there is no date or top row at its end"));
       continue;
     }
     try {

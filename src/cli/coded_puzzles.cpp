@@ -7,6 +7,7 @@
 #include "files/square_text.h"
 #include "puzzle/code_list.h"
 #include "puzzle/only_solution.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -17,7 +18,7 @@ std::optional<std::string> TakeLine(std::istream& in, std::size_t number) {
   for (char character = 0; in.get(character);) {
     if (character == '\n') return line;
     if (line.size() == kMostTextBytes) {
-      throw Impossible{"line " + std::to_string(number) + " is too long for puzzle codes"};
+      throw Impossible{Say("line %1 is too long for puzzle codes", number)};
     }
     line += character;
   }
@@ -40,7 +41,7 @@ bool ReadCodedPuzzles(const SquareRequest& request, const Streams& streams,
   const auto pass = [&](const ListedPuzzle& listed) {
     const auto solved = WithOnlySolution(listed.Clues, {.Seconds = request.Seconds}, random, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&solved)) {
-      tell("line " + std::to_string(listed.Line) + ": " + cannot->Why);
+      tell(Say("line %1: %2", listed.Line, cannot->Why));
     }
     any = true;
     visit(listed.Clues, std::get_if<MadePuzzle>(&solved));
@@ -57,7 +58,7 @@ bool ReadCodedPuzzles(const SquareRequest& request, const Streams& streams,
     }
   }
   if (streams.Out) file.CheckReadToEnd();
-  if (!any && allRead) throw Impossible{"there is no puzzle code to read"};
+  if (!any && allRead) throw Impossible{Say("there is no puzzle code to read")};
   return allRead;
 }
 

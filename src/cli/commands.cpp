@@ -8,6 +8,7 @@
 #include "puzzle/kind_lines.h"
 #include "study/special.h"
 #include "study/terms.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -27,11 +28,12 @@ std::vector<std::string> Formats(bool answersAlone) {
   return names;
 }
 
+/// A line for each format.
 std::string FormatsTold() {
-  std::string told = "how squares are written:";
+  std::string told;
   for (const Format& format : kFormats)
-    told += std::string("\n") + format.Name + ": " + format.Says;
-  return told + "\nText is the default.";
+    told += (told.empty() ? "" : "\n") + Say("%1: %2", format.Name, Say(format.Says));
+  return told;
 }
 
 std::vector<std::string> SpecialTerms() {
@@ -67,44 +69,40 @@ std::vector<std::string> GradeNames() {
 const std::vector<CommandEntry>& Commands() {
   static const std::vector<CommandEntry> kCommands = {
       {kBuild, "",
-       "--size N [options]\n--top-row A,B,C,D|FILE [options]\n--kind TERM --size N [options]\n"
-       "--construction NAME --size N [options]",
-       "Prints magic squares and the total of their lines: squares of the numbers 1 to N x N, of "
-       "any "
-       "total, 4 x 4 with a top row of your choice, of a special kind, or made by a construction "
-       "of your choice.",
+       "--size N [options]\n--top-row A,B,C,D|FILE [options]\n--kind TERM --size N "
+       "[options]\n--construction NAME --size N [options]",
+       Mark("Prints magic squares and the total of their lines: squares of the numbers 1 to N x N, "
+            "of any total, 4 x 4 with a top row of your choice, of a special kind, or made by a "
+            "construction of your choice."),
        false},
       {kStudy, "study", "[FILE|-] [options]",
-       "study says what kinds of squares they are, and why. It reads rows of numbers from a file "
-       "or "
-       "from the standard input, with an empty line between squares, and every form that this "
-       "program writes, except pictures and tables for web pages. It answers each square as soon "
-       "as "
-       "it is read, in an input of any length; it stops at a square of more than a megabyte. In "
-       "JSON, the answers are one object per line.",
+       Mark("study says what kinds of squares they are, and why. It reads rows of numbers from a "
+            "file or from the standard input, with an empty line between squares, and every form "
+            "that this program writes, except pictures and tables for web pages. It answers each "
+            "square as soon as it is read, in an input of any length; it stops at a square of more "
+            "than a megabyte. In JSON, the answers are one object per line."),
        true},
       {kComplete, "complete", "[FILE|-] [options]",
-       "complete reads squares in the same way and fills their gaps (nothing, or one of - . _ "
-       "between "
-       "separators). It says whether there is one solution, several or none. Its exit status is 3 "
-       "for none and 4 if the search did not finish in time. JSON is one object per line, with a "
-       "reason, if any, as \"why\".",
+       Mark("complete reads squares in the same way and fills their gaps (nothing, or one of - . _ "
+            "between separators). It says whether there is one solution, several or none. Its exit "
+            "status is 3 for none and 4 if the search did not finish in time. JSON is one object "
+            "per line, with a reason, if any, as \"why\"."),
        true},
       {kPuzzle, "puzzle", "--size N [options]\n--codes FILE|- [options]",
-       "puzzle makes squares with gaps that have one solution; no puzzle of a run is another one "
-       "turned or mirrored, as long as there are others. Their codes, up to size 20, are read by "
-       "study, complete and the window. JSON is one object per line, with its solution.",
+       Mark("puzzle makes squares with gaps that have one solution; no puzzle of a run is another "
+            "one turned or mirrored, as long as there are others. Their codes, up to size 20, are "
+            "read by study, complete and the window. JSON is one object per line, with its "
+            "solution."),
        false},
       {kList, "list", "--size N [options]",
-       "list writes all squares of the numbers 1 to N x N, each as soon as it is found. Of a "
-       "square "
-       "and those that are the same turned or mirrored, there is one, in standard form. A board "
-       "with "
-       "more than 64 gaps is refused.",
+       Mark("list writes all squares of the numbers 1 to N x N, each as soon as it is found. Of a "
+            "square and those that are the same turned or mirrored, there is one, in standard "
+            "form. A board with more than 64 gaps is refused."),
        false},
       {kCount, "count", "--size N [options]\n--merge FILE...",
-       "count counts the squares that list writes. Those of size 5 take less than a minute; larger "
-       "ones can be counted if a kind or given cells leave few enough, or else be estimated.",
+       Mark("count counts the squares that list writes. Those of size 5 take less than a minute; "
+            "larger ones can be counted if a kind or given cells leave few enough, or else be "
+            "estimated."),
        true}};
   return kCommands;
 }
@@ -112,112 +110,136 @@ const std::vector<CommandEntry>& Commands() {
 const std::vector<OptionEntry>& Options() {
   const std::vector<SquareCommand> kAll = {kBuild, kStudy, kComplete, kPuzzle, kList, kCount};
   static const std::vector<OptionEntry> kOptions = {
-      {"--size", "N", {kBuild, kPuzzle, kList, kCount}, "the number of cells on a side, 3 to 50"},
-      {"--sum", "T", {kBuild}, "the total, instead of that of 1 to N x N; below 32768 x N"},
-      {"--limit-to-9", "", {kBuild}, "no number above 9; the total is then at most 5 x N"},
-      {"--corner", "V", {kBuild}, "the number in the top left corner, for sizes from 4"},
+      {"--size",
+       "N",
+       {kBuild, kPuzzle, kList, kCount},
+       Mark("the number of cells on a side, 3 to 50")},
+      {"--sum", "T", {kBuild}, Mark("the total, instead of that of 1 to N x N; below 32768 x N")},
+      {"--limit-to-9", "", {kBuild}, Mark("no number above 9; the total is then at most 5 x N")},
+      {"--corner", "V", {kBuild}, Mark("the number in the top left corner, for sizes from 4")},
       {"--top-row",
        "A,B,C,D",
        {kBuild},
-       "the top row of a 4 x 4 square, such as a date; or a file, or - for the standard input, "
-       "with "
-       "a name and a date on each line, for a square of each"},
-      {"--kind", "TERM", {kBuild}, "a special kind; drawn at random", SpecialTerms()},
+       Mark("the top row of a 4 x 4 square, such as a date; or a file, or - for the standard "
+            "input, with a name and a date on each line, for a square of each")},
+      {"--kind", "TERM", {kBuild}, Mark("a special kind; drawn at random"), SpecialTerms()},
       {"--construction",
        "NAME",
        {kBuild},
-       "made by that construction; some take their choices at random",
+       Mark("made by that construction; some take their choices at random"),
        ConstructionTerms()},
       {"--fresh",
        "",
        {kBuild},
-       "a square drawn at random from all squares, not one that a construction makes; not with a "
-       "corner or top row"},
+       Mark("a square drawn at random from all squares, not one that a construction makes; not "
+            "with a corner or top row")},
       {"--vary",
        "",
        {kBuild},
-       "another square of the same family or kind instead; not with a corner or top row, which it "
-       "would not keep"},
-      {"--count", "M", {kBuild, kPuzzle}, "the number of squares, 1 to 1000000"},
+       Mark("another square of the same family or kind instead; not with a corner or top row, "
+            "which it would not keep")},
+      {"--count", "M", {kBuild, kPuzzle}, Mark("the number of squares, 1 to 1000000")},
       {"--rules",
        "RULES",
        {kComplete},
-       "normal: each number from 1 to N x N once; positive: any whole numbers of 1 or more; by "
-       "default the square decides",
+       Mark("normal: each number from 1 to N x N once; positive: any whole numbers of 1 or more; "
+            "by default the square decides"),
        {"normal", "positive"}},
-      {"--sum", "T", {kComplete}, "the total, instead of the square's own"},
-      {"--limit-to-9", "", {kComplete}, "no number above 9, by the positive rules"},
-      {"--kind", "TERM", {kComplete}, "the filled square must be of that kind", LineKindTerms()},
-      {"--seconds", "S", {kComplete}, "how long to search for each square; 3 by default"},
-      {"--grade", "GRADE", {kPuzzle}, "the hardest rule that it needs", GradeNames()},
+      {"--sum", "T", {kComplete}, Mark("the total, instead of the square's own")},
+      {"--limit-to-9", "", {kComplete}, Mark("no number above 9, by the positive rules")},
+      {"--kind",
+       "TERM",
+       {kComplete},
+       Mark("the filled square must be of that kind"),
+       LineKindTerms()},
+      {"--seconds", "S", {kComplete}, Mark("how long to search for each square; 3 by default")},
+      {"--grade", "GRADE", {kPuzzle}, Mark("the hardest rule that it needs"), GradeNames()},
       {"--grades",
        "G:K,G:K...",
        {kPuzzle},
-       "so many puzzles of each grade, such as easy:10,medium:5; easy ones come first"},
-      {"--clues", "K", {kPuzzle}, "how many numbers are given; by default as few as possible"},
-      {"--sum", "T", {kPuzzle}, "squares of this total, of any whole numbers of 1 or more"},
-      {"--limit-to-9", "", {kPuzzle}, "no number above 9; the total is then at most 5 x N"},
-      {"--symmetric", "", {kPuzzle}, "a cell is a gap if the opposite one is"},
+       Mark("so many puzzles of each grade, such as easy:10,medium:5; easy ones come first")},
+      {"--clues",
+       "K",
+       {kPuzzle},
+       Mark("how many numbers are given; by default as few as possible")},
+      {"--sum", "T", {kPuzzle}, Mark("squares of this total, of any whole numbers of 1 or more")},
+      {"--limit-to-9", "", {kPuzzle}, Mark("no number above 9; the total is then at most 5 x N")},
+      {"--symmetric", "", {kPuzzle}, Mark("a cell is a gap if the opposite one is")},
       {"--codes",
        "FILE",
        {kPuzzle},
-       "the puzzles of these codes instead: a line has one or more, with words around them"},
-      {"--steps", "", {kPuzzle}, "with the steps that solve it, in JSON"},
-      {"--format", "FORMAT", {kBuild}, FormatsTold(), Formats(false)},
+       Mark("the puzzles of these codes instead: a line has one or more, with words around them")},
+      {"--steps", "", {kPuzzle}, Mark("with the steps that solve it, in JSON")},
+      {"--format",
+       "FORMAT",
+       {kBuild},
+       Mark("how squares are written:\n%1\nText is the default."),
+       Formats(false)},
       {"--kind",
        "TERM",
        {kList, kCount},
-       "only squares for which this term of study holds; may be repeated",
+       Mark("only squares for which this term of study holds; may be repeated"),
        TermNames()},
-      {"--term", "TERM", {kList, kCount}, "the same", TermNames()},
+      {"--term", "TERM", {kList, kCount}, Mark("the same"), TermNames()},
       {"--given",
        "FILE",
        {kList, kCount},
-       "only squares with these numbers in their cells: a square with gaps; turned and mirrored "
-       "squares are the same only if they have them, too"},
-      {"--all-images", "", {kList}, "turned and mirrored squares, too"},
-      {"--count", "M", {kList}, "at most so many"},
-      {"--semi-magic", "", {kCount}, "the diagonals may have any sum"},
+       Mark("only squares with these numbers in their cells: a square with gaps; turned and "
+            "mirrored squares are the same only if they have them, too")},
+      {"--all-images", "", {kList}, Mark("turned and mirrored squares, too")},
+      {"--count", "M", {kList}, Mark("at most so many")},
+      {"--semi-magic", "", {kCount}, Mark("the diagonals may have any sum")},
       {"--slice",
        "I/M",
        {kCount},
-       "part I of M of all squares of size 5, on a line with a checksum; parts can be counted "
-       "anywhere"},
-      {"--merge", "FILE", {kCount}, "adds up the lines of all parts in one or several files"},
+       Mark("part I of M of all squares of size 5, on a line with a checksum; parts can be counted "
+            "anywhere")},
+      {"--merge", "FILE", {kCount}, Mark("adds up the lines of all parts in one or several files")},
       {"--estimate",
        "",
        {kCount},
-       "estimates squares that are too many, with the standard error, from samples"},
-      {"--seconds", "S", {kCount}, "how long to take samples; 10 by default"},
-      {"--title", "TEXT", {kPuzzle}, "the title of the page, in HTML"},
+       Mark("estimates squares that are too many, with the standard error, from samples")},
+      {"--seconds", "S", {kCount}, Mark("how long to take samples; 10 by default")},
+      {"--title", "TEXT", {kPuzzle}, Mark("the title of the page, in HTML")},
       {"--format",
        "FORMAT",
        {kPuzzle},
-       "how they are written, as described above; html is one page on which all of them can be "
-       "solved in a browser",
+       Mark("how they are written, as described above; html is one page on which all of them can "
+            "be solved in a browser"),
        Formats(false)},
-      {"--format", "FORMAT", {kList}, "how they are written, as described above", Formats(false)},
+      {"--format",
+       "FORMAT",
+       {kList},
+       Mark("how they are written, as described above"),
+       Formats(false)},
       {"--format",
        "FORMAT",
        {kStudy, kComplete, kCount},
-       "how the answers are written",
+       Mark("how the answers are written"),
        Formats(true)},
-      {"--seed", "N", {kBuild, kPuzzle}, "seed of the random numbers; the same seed repeats a run"},
+      {"--seed",
+       "N",
+       {kBuild, kPuzzle},
+       Mark("seed of the random numbers; the same seed repeats a run")},
       {"--completions",
        "SHELL",
        {kBuild},
-       "prints the completions of this program for a shell",
+       Mark("prints the completions of this program for a shell"),
        {"bash", "zsh", "fish"}},
-      {"--help", "", kAll, "this text"},
-      {"--version", "", kAll, "the program's version"}};
+      {"--help", "", kAll, Mark("this text")},
+      {"--version", "", kAll, Mark("the program's version")}};
   return kOptions;
 }
 
 std::string Listed(const std::vector<std::string>& words) {
   std::string list;
   for (const std::string& word : words)
-    list += (list.empty() ? "" : ", ") + word;
+    list = list.empty() ? word : Say("%1, %2", list, word);
   return list;
+}
+
+std::string Told(const OptionEntry& option) {
+  return Say(option.Says, FormatsTold());
 }
 
 const OptionEntry* OptionNamed(std::string_view name, SquareCommand command) {

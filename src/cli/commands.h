@@ -15,8 +15,8 @@ struct CommandEntry {
   SquareCommand Id;
   const char* Name;      ///< empty for Build
   const char* Synopsis;  ///< what follows the name, one line for each form
-  const char* Says;
-  bool ReadsFile;  ///< a word that is no option names a file
+  const char* Says;      ///< a phrase
+  bool ReadsFile;        ///< a word that is no option names a file
 };
 
 /// All commands, in the order of SquareCommand.
@@ -28,7 +28,7 @@ struct OptionEntry {
   const char* Name;
   const char* Value;  ///< what stands for its value, "FILE" for a file; empty without one
   std::vector<SquareCommand> Of;
-  std::string Says;
+  const char* Says;                       ///< a phrase; to be told by Told
   std::vector<std::string> Choices = {};  ///< the words that its value can be, if they are known
 };
 
@@ -36,6 +36,9 @@ const std::vector<OptionEntry>& Options();
 
 /// The option of a command; null if it has none of this name.
 const OptionEntry* OptionNamed(std::string_view name, SquareCommand command);
+
+/// What the option does, in a sentence.
+std::string Told(const OptionEntry& option);
 
 /// The words with commas between: "easy, medium, hard".
 std::string Listed(const std::vector<std::string>& words);

@@ -9,13 +9,14 @@
 #include "cli/read_squares.h"
 #include "files/aim.h"
 #include "puzzle/search.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 /// An answer in the words of the output.
 struct Completed {
-  const char* Answer;
+  const char* Answer;  ///< a phrase about solutions
   Completion Status;
   std::optional<Puzzle> First = {};
   std::optional<Puzzle> Second = {};
@@ -24,15 +25,23 @@ struct Completed {
 
 Completed AnswerOf(const SearchResult& result, double seconds) {
   if (const auto* one = std::get_if<OneSolution>(&result)) {
-    return {"one", Completion::Completed, one->Solved};
+    return {MarkIn("solutions", "one"), Completion::Completed, one->Solved};
   }
   if (const auto* several = std::get_if<SeveralSolutions>(&result)) {
-    return {"several", Completion::Completed, several->First, several->Second};
+    return {MarkIn("solutions", "several"), Completion::Completed, several->First, several->Second};
   }
   if (const auto* open = std::get_if<NotSettled>(&result)) {
-    return {"unsettled", Completion::Unsettled, open->Found, {}, WhyOpen(*open, seconds)};
+    return {MarkIn("solutions", "unsettled"),
+            Completion::Unsettled,
+            open->Found,
+            {},
+            WhyOpen(*open, seconds)};
   }
-  return {"none", Completion::Impossible, {}, {}, std::get<NoSolution>(result).Why};
+  return {MarkIn("solutions", "none"),
+          Completion::Impossible,
+          {},
+          {},
+          std::get<NoSolution>(result).Why};
 }
 
 Completed Complete(StoredSquare square, const SquareRequest& request, Random& random) {
@@ -47,7 +56,7 @@ Completed Complete(StoredSquare square, const SquareRequest& request, Random& ra
   square.Asked = request.RulesWanted.value_or(square.Asked);
   auto puzzle = PuzzleOf(square, request.LimitToNine);
   if (const auto* against = std::get_if<AgainstRules>(&puzzle)) {
-    return {"none", Completion::Impossible, {}, {}, against->Why};
+    return {MarkIn("solutions", "none"), Completion::Impossible, {}, {}, against->Why};
   }
   std::get<Puzzle>(puzzle).Kind = request.LinesWanted;
   SilentStage stage;
@@ -71,7 +80,8 @@ void Write(const Completed& completed, int order, SquareFormat format, std::ostr
         << "\n";
     return;
   }
-  out << completed.Answer << (completed.Why.empty() ? "" : ": ") << completed.Why << "\n";
+  const std::string answer = SayIn("solutions", completed.Answer);
+  out << (completed.Why.empty() ? answer : Say("%1: %2", answer, completed.Why)) << "\n";
   for (const auto& square : {completed.First, completed.Second}) {
     if (square) out << "\n" << TextOf(StoredSquareOf(*square, false));
   }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "cli/commands.h"
@@ -79,8 +80,9 @@ std::string Bash() {
 }
 
 /// What an option does, in one line without the characters that shells take for their own.
-std::string Told(const OptionEntry& option) {
-  std::string told = option.Says.substr(0, option.Says.find_first_of("\n;"));
+std::string Briefly(const OptionEntry& option) {
+  std::string told = Told(option);
+  told.resize(std::min(told.find_first_of("\n;"), told.size()));
   for (const char* taken : {"'", ":", "[", "]"}) {
     for (std::size_t at = 0; (at = told.find(taken, at)) != std::string::npos;)
       told.erase(at, 1);
@@ -95,7 +97,7 @@ std::string Zsh() {
   for (const CommandEntry& command : Commands()) {
     std::string specs;
     for (const OptionEntry* option : OptionsOf(command.Id)) {
-      specs += std::string(" \\\n    '") + option->Name + "[" + Told(*option) + "]";
+      specs += std::string(" \\\n    '") + option->Name + "[" + Briefly(*option) + "]";
       if (*option->Value != '\0') {
         specs += std::string(":") + option->Value + ":";
         if (TakesFile(*option)) specs += "_files";
@@ -127,7 +129,7 @@ std::string Fish() {
         build ? " -n 'not __fish_seen_subcommand_from " + commands + "'"
               : std::string(" -n '__fish_seen_subcommand_from ") + command.Name + "'";
     for (const OptionEntry* option : OptionsOf(command.Id)) {
-      text += complete + when + " -l " + (option->Name + 2) + " -d '" + Told(*option) + "'";
+      text += complete + when + " -l " + (option->Name + 2) + " -d '" + Briefly(*option) + "'";
       if (*option->Value != '\0') text += TakesFile(*option) ? " -r -F" : " -x";
       if (!option->Choices.empty()) text += " -a '" + ChoicesOf(*option) + "'";
       text += "\n";

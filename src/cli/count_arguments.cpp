@@ -4,6 +4,7 @@
 
 #include "app/board/orders.h"
 #include "cli/option_words.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -26,11 +27,11 @@ class CountReader {
       } else if (OptionNamed(words_.Option(), command_)) {
         Take();
       } else {
-        words_.Fail("unknown argument '" + words_.Option() + "'");
+        words_.Fail(Say("unknown argument '%1'", words_.Option()));
       }
     }
     words_.Fail(WhyNotTogether());
-    if (!words_.Error().empty()) return BadArguments{words_.Error() + "; try --help"};
+    if (!words_.Error().empty()) return BadArguments{Say("%1; try --help", words_.Error())};
     return request_;
   }
 
@@ -40,7 +41,8 @@ class CountReader {
   void Take() {
     if (Is("--size")) {
       request_.Size = WholeTextAs<int>(words_.Value()).value_or(0);
-      if (WhyNoBoardHas(request_.Size)) words_.Fail("the size must be a whole number from 3 to 50");
+      if (WhyNoBoardHas(request_.Size))
+        words_.Fail(Say("the size must be a whole number from 3 to 50"));
     } else if (Is("--kind") || Is("--term")) {
       TakeKind(words_.Value());
     } else if (Is("--given")) {
@@ -52,7 +54,7 @@ class CountReader {
     } else if (Is("--count")) {
       request_.Most = WholeTextAs<std::int64_t>(words_.Value());
       if (request_.Most.value_or(0) < 1) {
-        words_.Fail("the count must be a whole number of 1 or more");
+        words_.Fail(Say("the count must be a whole number of 1 or more"));
       }
     } else if (Is("--semi-magic")) {
       request_.SemiMagic = true;
@@ -60,7 +62,7 @@ class CountReader {
     } else if (Is("--slice")) {
       request_.Part = SliceNamed(words_.Value());
       if (!request_.Part) {
-        words_.Fail("the slice must be its number and their count, such as 17/512");
+        words_.Fail(Say("the slice must be its number and their count, such as 17/512"));
       }
     } else if (Is("--estimate")) {
       request_.Estimates = true;
@@ -75,7 +77,7 @@ class CountReader {
     constexpr double kMost = 1'000'000;
     request_.Seconds = WholeTextAs<double>(words_.Value());
     if (!(request_.Seconds.value_or(0) > 0 && *request_.Seconds <= kMost)) {
-      words_.Fail("the number of seconds must be above 0 and at most 1000000, such as 0.5");
+      words_.Fail(Say("the number of seconds must be above 0 and at most 1000000, such as 0.5"));
     }
   }
 
@@ -98,7 +100,7 @@ class CountReader {
     if (term != terms.end()) {
       request_.Terms.push_back(&*term);
     } else {
-      words_.Fail("there is no term '" + name + "'");
+      words_.Fail(Say("there is no term '%1'", name));
     }
   }
 
@@ -107,28 +109,28 @@ class CountReader {
     if (format && (request_.Lists || Of(*format).ForAnswers)) {
       request_.Format = *format;
     } else {
-      words_.Fail("the format must be " + FormatNames(!request_.Lists, ", ", " or "));
+      words_.Fail(Say("the format must be %1", FormatNames(!request_.Lists)));
     }
   }
 
   std::string WhyNotTogether() const {
     const bool conditions = request_.KindNames != CountRequest().KindNames || request_.Given;
     if (request_.Merges) {
-      if (request_.Files.empty()) return "the files with the slices are missing";
+      if (request_.Files.empty()) return Say("the files with the slices are missing");
       const bool more = conditions || request_.Size != 0 || request_.Part || request_.Estimates;
-      return more ? "the slices to merge can be combined with a format only" : "";
+      return more ? Say("the slices to merge can be combined with a format only") : "";
     }
-    if (request_.Size == 0 && !request_.Given) return "the size is missing";
+    if (request_.Size == 0 && !request_.Given) return Say("the size is missing");
     if (request_.Format == SquareFormat::Svg && request_.Most != 1) {
-      return "a picture has room for one square, not several";
+      return Say("a picture has room for one square, not several");
     }
     if (request_.SemiMagic && request_.Kind != LineKind::Magic) {
-      return "the diagonals cannot be left free for a kind, which needs them";
+      return Say("the diagonals cannot be left free for a kind, which needs them");
     }
     if (request_.Part && (request_.Size != kSlicedOrder || conditions || request_.Estimates)) {
-      return "slices are cut from all magic squares of size 5, without conditions";
+      return Say("slices are cut from all magic squares of size 5, without conditions");
     }
-    if (request_.Seconds && !request_.Estimates) return "only an estimate takes seconds";
+    if (request_.Seconds && !request_.Estimates) return Say("only an estimate takes seconds");
     return {};
   }
 

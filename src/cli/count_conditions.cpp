@@ -3,6 +3,7 @@
 #include "cli/read_squares.h"
 #include "count/fill_plan.h"
 #include "puzzle/puzzle.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -11,10 +12,10 @@ namespace {
 Square<int> GivensIn(const std::string& file, int order, const Streams& streams) {
   Square<int> givens;
   const bool allRead = ReadSquares(file, streams, [&](StoredSquare square) {
-    if (!givens.IsEmpty()) throw Impossible{"there is more than one square with given cells"};
+    if (!givens.IsEmpty()) throw Impossible{Say("there is more than one square with given cells")};
     if (order != 0 && square.Order() != order) {
-      throw Impossible{"the square with given cells is of order " + std::to_string(square.Order()) +
-                       ", not " + std::to_string(order)};
+      throw Impossible{
+          Say("the square with given cells is of order %1, not %2", square.Order(), order)};
     }
     square.Asked = Rules::Normal;
     square.Total.reset();
@@ -22,7 +23,7 @@ Square<int> GivensIn(const std::string& file, int order, const Streams& streams)
     if (const auto* against = std::get_if<AgainstRules>(&puzzle)) throw Impossible{against->Why};
     givens = Square<int>(std::get<Puzzle>(puzzle).Cells);
   });
-  if (!allRead) throw Impossible{"the square with given cells cannot be read"};
+  if (!allRead) throw Impossible{Say("the square with given cells cannot be read")};
   return givens;
 }
 
@@ -37,9 +38,9 @@ CountWish CountWishOf(const CountRequest& request, const Streams& streams) {
                  .AllImages = request.AllImages};
   const auto gaps = std::count(wish.Givens.begin(), wish.Givens.end(), 0);
   if (gaps > FillPlan::kMostGaps) {
-    throw Impossible{"a board with " + std::to_string(gaps) +
-                     " gaps has too many squares; at most " + std::to_string(FillPlan::kMostGaps) +
-                     " gaps can be searched"};
+    throw Impossible{
+        Say("a board with %1 gaps has too many squares; at most %2 gaps can be searched", gaps,
+            FillPlan::kMostGaps)};
   }
   return wish;
 }

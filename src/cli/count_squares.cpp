@@ -13,14 +13,15 @@
 #include "count/kept_images.h"
 #include "files/json_line.h"
 #include "study/images.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
 
 constexpr double kSecondsOfEstimate = 10;
-constexpr const char* kStandardError =
+constexpr const char* kStandardError = Mark(
     "two of three such estimates are at most the standard error away from the true count, if the "
-    "samples are many; with few, most estimates are too low";
+    "samples are many; with few, most estimates are too low");
 
 /// A line of names and values, or a JSON object of them.
 class CountLine {
@@ -60,10 +61,10 @@ void WriteMerged(const CountRequest& request, const Streams& streams) {
     std::string line;
     for (int number = 1; std::getline(file.In(), line); ++number) {
       if (line.empty()) continue;
-      const auto read =
-          line.size() > kLongestLine ? "this is not the count of a slice" : ReadSliceLine(line);
+      const auto read = line.size() > kLongestLine ? Say("this is not the count of a slice")
+                                                   : ReadSliceLine(line);
       if (const auto* why = std::get_if<std::string>(&read)) {
-        throw Impossible{"'" + name + "', line " + std::to_string(number) + ": " + *why};
+        throw Impossible{Say("'%1', line %2: %3", name, number, *why)};
       }
       slices.push_back(std::get<SliceCount>(read));
     }
@@ -91,7 +92,7 @@ void WriteEstimate(const CountRequest& request, const CountWish& wish, const Str
   line.Add("standard-error", shown(estimate.Error, 2));
   line.Add("samples", std::to_string(estimate.Samples));
   streams.Out << line.Text();
-  streams.Err << streams.Program << kStandardError << "\n";
+  streams.Err << streams.Program << Say(kStandardError) << "\n";
 }
 
 }  // namespace

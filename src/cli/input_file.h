@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "cli/streams.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -21,7 +22,7 @@ class InputFile {
 
   /// Throws Impossible if reading ended before the end of the file, or never began.
   void CheckReadToEnd() const {
-    if (!in_.eof() || in_.bad()) throw Impossible{"'" + name_ + "' cannot be read"};
+    if (!in_.eof() || in_.bad()) throw Impossible{Say("'%1' cannot be read", name_)};
   }
 
  private:

@@ -6,6 +6,7 @@
 #include "app/ports/yielding.h"
 #include "cli/count_conditions.h"
 #include "count/all_squares.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -43,7 +44,7 @@ void ListSquares(const CountRequest& request, const Streams& streams) {
   } catch (const Superseded&) {
     return;  // the caller sees that the output has failed
   }
-  if (listed == 0) throw Impossible{"there is no such square"};
+  if (listed == 0) throw Impossible{Say("there is no such square")};
 }
 
 }  // namespace numorra

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "words/say.h"
+
 namespace numorra {
 
 /// A command line's words, taken one by one: options, whose value is the next word or follows an
@@ -38,7 +40,7 @@ class OptionWords {
 
   /// An error if the option has a value that nobody took.
   void CheckValueTaken() {
-    if (attached_) Fail("'" + option_ + "' takes no value");
+    if (attached_) Fail(Say("'%1' takes no value", option_));
   }
   bool IsFile() const { return option_ == "-" || !option_.starts_with("-"); }
 
@@ -46,7 +48,7 @@ class OptionWords {
   std::string Value() {
     if (attached_) return *std::exchange(attached_, std::nullopt);
     if (next_ < words_.size()) return words_[next_++];
-    Fail("'" + option_ + "' needs a value");
+    Fail(Say("'%1' needs a value", option_));
     return {};
   }
 

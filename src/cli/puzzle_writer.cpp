@@ -5,6 +5,7 @@
 #include "publish/play_page.h"
 #include "puzzle/code.h"
 #include "puzzle/puzzle_json.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -31,7 +32,7 @@ void PuzzleWriter::Write(const Puzzle& clues, const MadePuzzle* solved) {
       out << line.Text() << "\n";
     }
   } else if (any_ && request_.Format == SquareFormat::Svg) {
-    throw Impossible{"a picture has room for one square, not several"};
+    throw Impossible{Say("a picture has room for one square, not several")};
   } else {
     if (any_) out << "\n";
     out << Of(request_.Format).Write(StoredSquareOf(clues, true), CaptionOf(clues, solved));
@@ -41,7 +42,8 @@ void PuzzleWriter::Write(const Puzzle& clues, const MadePuzzle* solved) {
 }
 
 void PuzzleWriter::Finish() {
-  if (!page_.empty()) streams_.Out << PlayPage(request_.Title.value_or("Magic squares"), page_);
+  if (!page_.empty())
+    streams_.Out << PlayPage(request_.Title.value_or(Say("Magic squares")), page_);
 }
 
 }  // namespace numorra

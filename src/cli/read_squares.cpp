@@ -6,6 +6,7 @@
 #include "files/block_reader.h"
 #include "files/square_text.h"
 #include "puzzle/code.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 /// The reason without the advice for the window, and with the line of the file.
 std::string WhereAndWhy(const Unreadable& unreadable, std::size_t firstLine) {
   const std::string why = unreadable.Why.substr(0, unreadable.Why.find('\n'));
-  return why.starts_with("line ") ? why : "line " + std::to_string(firstLine) + ": " + why;
+  return unreadable.NamesLine ? why : Say("line %1: %2", firstLine, why);
 }
 
 }  // namespace
@@ -40,11 +41,12 @@ bool ReadSquares(const std::string& file, const Streams& streams,
     }
   }
   if (const auto line = blocks.TooLongFrom()) {
-    tell("line " + std::to_string(*line) + ": " + kTooLongForASquare + "; reading stops here");
+    // Translators: %2 is "this is too long for a square of numbers".
+    tell(Say("line %1: %2; reading stops here", *line, Say(kTooLongForASquare)));
     return false;
   }
   if (streams.Out) input.CheckReadToEnd();
-  if (!any) throw Impossible{"there is no square to read"};
+  if (!any) throw Impossible{Say("there is no square to read")};
   return allRead;
 }
 

@@ -12,6 +12,7 @@
 #include "cli/make_puzzles.h"
 #include "cli/puzzle_writer.h"
 #include "cli/study_squares.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -86,13 +87,13 @@ int RunSquareProgram(const std::vector<std::string>& words, const Streams& strea
   try {
     const int status = Serve(ParseArguments(words), streams);
     if (streams.Out.flush()) return status;
-    streams.Err << streams.Program << "the output cannot be written\n";
+    streams.Err << streams.Program << Say("the output cannot be written") << "\n";
   } catch (const Impossible& impossible) {
     streams.Err << streams.Program << impossible.Why << "\n";
   } catch (const RuntimeError& error) {
     streams.Err << streams.Program << error.what() << "\n";
   } catch (const std::bad_alloc&) {
-    streams.Err << streams.Program << "there is not enough memory for this\n";
+    streams.Err << streams.Program << Say("there is not enough memory for this") << "\n";
     return kNoMemory;
   }
   return kFailed;

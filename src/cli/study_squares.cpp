@@ -5,6 +5,7 @@
 
 #include "cli/read_squares.h"
 #include "study/report.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -15,8 +16,8 @@ bool StudySquares(const SquareRequest& request, const Streams& streams) {
     const auto gap = std::find(square.Cells.begin(), square.Cells.end(), std::nullopt);
     if (gap != square.Cells.end()) {
       const Place place = square.Cells.PlaceOf(static_cast<int>(gap - square.Cells.begin()));
-      streams.Err << streams.Program << NameOf(place)
-                  << " is empty: only full squares can be studied\n";
+      streams.Err << streams.Program
+                  << Say("%1 is empty: only full squares can be studied", NameOf(place)) << "\n";
       allFull = false;
       return;
     }

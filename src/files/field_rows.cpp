@@ -6,6 +6,7 @@
 #include "app/board/orders.h"
 #include "app/board/runtime_error.h"
 #include "files/square_text.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -13,7 +14,6 @@ namespace {
 /// The number in a field; nothing for a gap.
 std::optional<double> CellIn(const std::string& field, std::size_t line) {
   if (field.empty() || field == "-" || field == "." || field == "_") return std::nullopt;
-  const std::string where = "line " + std::to_string(line) + ": ";
   constexpr std::size_t kMostShown = 20;
   const std::string shown =
       field.size() <= kMostShown ? field : field.substr(0, kMostShown) + "...";
@@ -22,28 +22,28 @@ std::optional<double> CellIn(const std::string& field, std::size_t line) {
     if (DigitsOf(field) <= kMostCellDigits) return number;
   } catch (const RuntimeError& error) {
     if (error.Kind() == Fault::TypeMismatch) {
-      throw Unreadable{where + "\"" + shown + "\" is not a number"};
+      throw Unreadable{Say("line %1: \"%2\" is not a number", line, shown), true};
     }
   }
-  throw Unreadable{where + shown + " has more than " + std::to_string(kMostCellDigits) + " digits"};
+  throw Unreadable{Say("line %1: %2 has more than %3 digits", line, shown, kMostCellDigits), true};
 }
 
 }  // namespace
 
 void CheckText(const std::string& text) {
-  if (text.size() > kMostTextBytes) throw Unreadable{kTooLongForASquare};
+  if (text.size() > kMostTextBytes) throw Unreadable{Say(kTooLongForASquare)};
   if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
-    throw Unreadable{"this text is in UTF-16: save it as UTF-8"};
+    throw Unreadable{Say("this text is in UTF-16: save it as UTF-8")};
   }
   if (text.find('\0') != std::string::npos) {
-    throw Unreadable{"this is not UTF-8 text: it contains characters with code 0"};
+    throw Unreadable{Say("this is not UTF-8 text: it contains characters with code 0")};
   }
 }
 
 void CheckOrder(std::size_t rows) {
   if (rows < static_cast<std::size_t>(kMinOrder) || rows > static_cast<std::size_t>(kMaxOrder)) {
     throw Unreadable{
-        "this is not a square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text"};
+        Say("this is not a square of numbers\ncopy 3x3 to 50x50 numbers from a table or a text")};
   }
 }
 
@@ -54,8 +54,8 @@ StoredSquare SquareOfFields(std::vector<FieldRow> rows) {
   auto cell = cells.begin();
   for (auto& [line, fields] : rows) {
     if (fields.size() > order) {
-      throw Unreadable{"line " + std::to_string(line) + " has " + std::to_string(fields.size()) +
-                       " numbers, but there are " + std::to_string(order) + " lines"};
+      throw Unreadable{
+          Say("line %1 has %2 numbers, but there are %3 lines", line, fields.size(), order), true};
     }
     fields.resize(order);
     for (const std::string& field : fields)

@@ -1,5 +1,7 @@
 #include "files/formats.h"
 
+#include "words/say.h"
+
 namespace numorra {
 
 const Format& Of(SquareFormat format) {
@@ -14,23 +16,22 @@ std::optional<SquareFormat> FormatNamed(std::string_view name) {
 }
 
 std::variant<StoredSquare, Unreadable> ReadSquare(const std::string& text, std::size_t firstLine) {
-  if (text.size() > kMostTextBytes) return Unreadable{kTooLongForASquare};
+  if (text.size() > kMostTextBytes) return Unreadable{Say(kTooLongForASquare)};
   for (const Format& format : kFormats) {
     if (format.LooksLike && format.LooksLike(text)) return format.Read(text, firstLine);
   }
   return Of(SquareFormat::Text).Read(text, firstLine);
 }
 
-std::string FormatNames(bool answersAlone, const std::string& between,
-                        const std::string& beforeLast) {
+std::string FormatNames(bool answersAlone) {
   std::vector<std::string> names;
   for (const Format& format : kFormats) {
     if (format.ForAnswers || !answersAlone) names.emplace_back(format.Name);
   }
   std::string text = names[0];
-  for (std::size_t i = 1; i < names.size(); ++i)
-    text += (i + 1 < names.size() ? between : beforeLast) + names[i];
-  return text;
+  for (std::size_t i = 1; i + 1 < names.size(); ++i)
+    text = Say("%1, %2", text, names[i]);
+  return Say("%1 or %2", text, names.back());
 }
 
 }  // namespace numorra

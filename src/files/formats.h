@@ -12,6 +12,7 @@
 #include "files/square_json.h"
 #include "files/square_text.h"
 #include "files/stored_square.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -35,20 +36,20 @@ struct Format {
 /// All formats in the order of SquareFormat: from the plainest, the companion's default, to the one
 /// that keeps everything, which the window's dialogs show first.
 inline constexpr Format kFormats[] = {
-    {SquareFormat::Text, "text", "txt", "", "aligned columns and the total", TextOf, ReadSquareText,
-     nullptr, true},
-    {SquareFormat::Csv, "csv", "csv", "Numbers alone", "rows of comma-separated numbers", CsvOf,
-     ReadSquareText},
-    {SquareFormat::Tex, "tex", "tex", "LaTeX tables", "a LaTeX table", LatexOf, ReadLatex,
-     LooksLikeLatex},
-    {SquareFormat::Python, "python", "py", "", "a list of lists", PythonListOf, ReadNestedList,
-     LooksLikeNestedList},
-    {SquareFormat::Mathematica, "mathematica", "wl", "", "the same with braces", MathematicaListOf,
+    {SquareFormat::Text, "text", "txt", "", Mark("aligned columns and the total"), TextOf,
+     ReadSquareText, nullptr, true},
+    {SquareFormat::Csv, "csv", "csv", Mark("Numbers alone"),
+     Mark("rows of comma-separated numbers"), CsvOf, ReadSquareText},
+    {SquareFormat::Tex, "tex", "tex", Mark("LaTeX tables"), Mark("a LaTeX table"), LatexOf,
+     ReadLatex, LooksLikeLatex},
+    {SquareFormat::Python, "python", "py", "", Mark("a list of lists"), PythonListOf,
      ReadNestedList, LooksLikeNestedList},
-    {SquareFormat::Svg, "svg", "svg", "", "a picture of one square", SvgOf},
-    {SquareFormat::Html, "html", "html", "", "a table for a web page", HtmlOf},
-    {SquareFormat::Json, "json", "json", "Squares", "an object on one line", JsonOf, ReadSquareJson,
-     LooksLikeJson, true}};
+    {SquareFormat::Mathematica, "mathematica", "wl", "", Mark("the same with braces"),
+     MathematicaListOf, ReadNestedList, LooksLikeNestedList},
+    {SquareFormat::Svg, "svg", "svg", "", Mark("a picture of one square"), SvgOf},
+    {SquareFormat::Html, "html", "html", "", Mark("a table for a web page"), HtmlOf},
+    {SquareFormat::Json, "json", "json", Mark("Squares"), Mark("an object on one line"), JsonOf,
+     ReadSquareJson, LooksLikeJson, true}};
 
 const Format& Of(SquareFormat format);
 
@@ -61,7 +62,6 @@ std::variant<StoredSquare, Unreadable> ReadSquare(const std::string& text,
                                                   std::size_t firstLine = 1);
 
 /// The names of all formats, or only of those for answers: "text, csv or json".
-std::string FormatNames(bool answersAlone, const std::string& between,
-                        const std::string& beforeLast);
+std::string FormatNames(bool answersAlone);
 
 }  // namespace numorra

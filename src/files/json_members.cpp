@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "words/say.h"
+
 namespace numorra {
 namespace {
 
@@ -42,12 +44,14 @@ class Gatherer : public nlohmann::json_sax<nlohmann::json> {
     const std::size_t lineEnd = before.rfind('\n');
     const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
     const std::size_t column = lineEnd == std::string::npos ? end + 1 : end - lineEnd;
-    const std::string where =
-        "line " + std::to_string(firstLine_ + lines) + ", column " + std::to_string(column) + ": ";
-    if (level_ == 0 && !Members.empty()) throw Unreadable{where + "there is text after the square"};
-    if (error.id == kNumberOutOfRange) throw Unreadable{where + "this number is too large"};
-    if (end == text_.size()) throw Unreadable{where + "the JSON ends too early"};
-    throw Unreadable{where + "this is not valid JSON"};
+    const auto fail = [&](const std::string& why) {
+      throw Unreadable{Say("line %1, column %2: %3", firstLine_ + lines, column, why), true};
+    };
+    if (level_ == 0 && !Members.empty()) fail(Say("there is text after the square"));
+    if (error.id == kNumberOutOfRange) fail(Say("this number is too large"));
+    if (end == text_.size()) fail(Say("the JSON ends too early"));
+    fail(Say("this is not valid JSON"));
+    return false;
   }
 
  private:

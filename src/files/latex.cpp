@@ -8,6 +8,7 @@
 
 #include "app/board/numbers.h"
 #include "files/field_rows.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -51,7 +52,7 @@ class LatexReader {
       }
       Take();
     }
-    throw Unreadable{"line " + std::to_string(line_) + ": \\end is missing"};
+    throw Unreadable{Say("line %1: %2 is missing", line_, "\\end"), true};
   }
 
  private:

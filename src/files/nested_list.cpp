@@ -6,6 +6,7 @@
 
 #include "app/board/numbers.h"
 #include "files/field_rows.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -35,13 +36,13 @@ class ListReader {
   std::vector<FieldRow> Read(const std::string& text) {
     for (const char character : text)
       Take(character);
-    if (!ended_) Fail("a bracket is not closed");
+    if (!ended_) Fail(Say("a bracket is not closed"));
     return std::move(rows_);
   }
 
  private:
   [[noreturn]] void Fail(const std::string& why) const {
-    throw Unreadable{"line " + std::to_string(line_) + ": " + why};
+    throw Unreadable{Say("line %1: %2", line_, why), true};
   }
 
   void Take(char character) {
@@ -50,9 +51,9 @@ class ListReader {
       if (inRow) field_ += ' ';
       line_ += character == '\n' ? 1 : 0;
     } else if (ended_) {
-      Fail("there is more after the list");
+      Fail(Say("there is more after the list"));
     } else if (kOpening.find(character) != std::string_view::npos) {
-      if (inRow) Fail("there are lists within the rows");
+      if (inRow) Fail(Say("there are lists within the rows"));
       open_ += character;
       if (open_.size() == 2) rows_.push_back({line_, {}});
     } else if (kClosing.find(character) != std::string_view::npos) {
@@ -62,13 +63,13 @@ class ListReader {
     } else if (inRow) {
       field_ += character;
     } else if (character != ',') {
-      Fail("there is something between the rows");
+      Fail(Say("there is something between the rows"));
     }
   }
 
   void Close(char character) {
     const std::size_t kind = kClosing.find(character);
-    if (open_.empty() || open_.back() != kOpening[kind]) Fail("the brackets do not match");
+    if (open_.empty() || open_.back() != kOpening[kind]) Fail(Say("the brackets do not match"));
     if (open_.size() == 2 && !(Trim(field_).empty() && rows_.back().Fields.empty())) EndField();
     open_.pop_back();
     ended_ = open_.empty();

@@ -7,6 +7,7 @@
 #include "app/board/orders.h"
 #include "app/board/place.h"
 #include "files/json_members.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -79,20 +80,21 @@ class Reader {
     const double version = NumberAt("version", named ? 0 : kVersion);
     if (!(named ? At("format").Value.Text == kFormat : Has("rows")) || version < 1 ||
         version != std::floor(version)) {
-      Fail("this JSON is not a Numorra square");
+      Fail(Say("this JSON is not a Numorra square"));
     }
-    if (version > kVersion) Fail("this square was written by a later version of Numorra");
+    if (version > kVersion) Fail(Say("this square was written by a later version of Numorra"));
   }
 
   int Order() const {
     const JsonMember& rows = At("rows");
     const bool counted = !Has("order") && Has("rows");
-    if (counted && rows.Value.Is == Kind::Null) Fail("\"rows\" contains no square");
+    if (counted && rows.Value.Is == Kind::Null) Fail(Say("%1 contains no square", "\"rows\""));
     const double order = counted ? static_cast<double>(rows.Rows.size()) : NumberAt("order", -1);
     if (order != std::floor(order) || order < kMinOrder || order > kMaxOrder) {
-      const std::string range = std::to_string(kMinOrder) + " to " + std::to_string(kMaxOrder);
-      if (counted) Fail("\"rows\" has " + Decimal(order) + " rows, not " + range);
-      Fail("\"order\" must be a whole number from " + range);
+      if (counted) {
+        Fail(Say("%1 has %2 rows, not %3 to %4", "\"rows\"", Written(order), kMinOrder, kMaxOrder));
+      }
+      Fail(Say("%1 must be a whole number from %2 to %3", "\"order\"", kMinOrder, kMaxOrder));
     }
     return static_cast<int>(order);
   }
@@ -103,13 +105,13 @@ class Reader {
     const auto& rows = At(name).Rows;
     const std::string quoted = "\"" + std::string(name) + "\"";
     if (rows.size() != order) {
-      Fail(quoted + " has " + std::to_string(rows.size()) + " rows, not " + std::to_string(order));
+      Fail(Say("%1 has %2 rows, not %3", quoted, rows.size(), order));
     }
     std::vector<JsonValue> entries;
     for (const auto& row : rows) {
       if (row.size() != order) {
-        Fail("row " + std::to_string(entries.size() / order + 1) + " of " + quoted + " has " +
-             std::to_string(row.size()) + " cells, not " + std::to_string(order));
+        Fail(Say("row %1 of %2 has %3 cells, not %4", entries.size() / order + 1, quoted,
+                 row.size(), order));
       }
       entries.insert(entries.end(), row.begin(), row.end());
     }
@@ -117,7 +119,7 @@ class Reader {
   }
 
   [[noreturn]] void FailIn(int cell, const std::string& why) const {
-    Fail(NameOf(PlaceAt(cell, order_)) + ": " + why);
+    Fail(Say("%1: %2", NameOf(PlaceAt(cell, order_)), why));
   }
 
   /// Whether the number was written with more digits; a double keeps only about 15.
@@ -130,9 +132,9 @@ class Reader {
     return SquareOf(order_, [&](int cell) -> std::optional<double> {
       const JsonValue& entry = entries[cell];
       if (entry.Is == Kind::Null) return std::nullopt;
-      if (entry.Is != Kind::Number) FailIn(cell, "this is not a number");
+      if (entry.Is != Kind::Number) FailIn(cell, Say("this is not a number"));
       if (HasMoreDigits(entry.Number, kMostCellDigits)) {
-        FailIn(cell, "the number has more than " + std::to_string(kMostCellDigits) + " digits");
+        FailIn(cell, Say("the number has more than %1 digits", kMostCellDigits));
       }
       return entry.Number;
     });
@@ -141,9 +143,9 @@ class Reader {
   std::optional<double> Total() const {
     const JsonValue& total = At("total").Value;
     if (!Has("total") || total.Is == Kind::Null) return std::nullopt;
-    if (total.Is != Kind::Number) Fail("\"total\" is not a number");
+    if (total.Is != Kind::Number) Fail(Say("%1 is not a number", "\"total\""));
     if (HasMoreDigits(total.Number, kMostTotalDigits)) {
-      Fail("\"total\" has more than " + std::to_string(kMostTotalDigits) + " digits");
+      Fail(Say("%1 has more than %2 digits", "\"total\"", kMostTotalDigits));
     }
     return total.Number;
   }
@@ -152,16 +154,17 @@ class Reader {
     const std::string& name = At("rules").Value.Text;
     if (!Has("rules") || name == NameOf(Rules::Positive)) return Rules::Positive;
     if (name == NameOf(Rules::Normal)) return Rules::Normal;
-    Fail("\"rules\" must be normal or positive");
+    Fail(Say("%1 must be normal or positive", "\"rules\""));
   }
 
   Square<bool> Givens() const {
     if (!Has("givens")) return {};
     const Square<JsonValue> entries = Entries("givens");
     return SquareOf(order_, [&](int cell) {
-      if (entries[cell].Is != Kind::Boolean) FailIn(cell, "\"givens\" must be true or false");
+      if (entries[cell].Is != Kind::Boolean)
+        FailIn(cell, Say("%1 must be true or false", "\"givens\""));
       const bool given = entries[cell].Number != 0;
-      if (given && !square_.Cells[cell]) FailIn(cell, "a gap cannot be given");
+      if (given && !square_.Cells[cell]) FailIn(cell, Say("a gap cannot be given"));
       return given;
     });
   }
@@ -175,10 +178,10 @@ class Reader {
       const JsonValue& entry = entries[cell];
       const auto numbers = NumbersInRanges(entry.Text, most);
       if (entry.Is != Kind::Text || !numbers) {
-        FailIn(cell, "\"notes\" must be a text of numbers from 1 to " + std::to_string(most) +
-                         " and ranges, such as \"1-3 7\"");
+        FailIn(cell, Say("%1 must be a text of numbers from 1 to %2 and ranges, such as %3",
+                         "\"notes\"", most, "\"1-3 7\""));
       }
-      if (numbers->any() && square_.Cells[cell]) FailIn(cell, "only a gap can have notes");
+      if (numbers->any() && square_.Cells[cell]) FailIn(cell, Say("only a gap can have notes"));
       return *numbers & ~shown;
     });
   }

@@ -7,6 +7,7 @@
 
 #include "app/board/numbers.h"
 #include "files/field_rows.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {
@@ -113,7 +114,7 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   const std::vector<TextLine> lines = Lines(Plain(text), firstLine);
   CheckOrder(lines.size());
   for (const TextLine& line : lines) {
-    if (IsEmpty(line)) throw Unreadable{"line " + std::to_string(line.Number) + " is empty"};
+    if (IsEmpty(line)) throw Unreadable{Say("line %1 is empty", line.Number), true};
     rows.push_back({line.Number, Fields(line.Text)});
   }
   DropTrailingSeparators(rows);

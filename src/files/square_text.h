@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "files/stored_square.h"
+#include "words/say.h"
 
 namespace numorra {
 
@@ -12,7 +13,7 @@ namespace numorra {
 inline constexpr std::size_t kMostTextBytes = 1 << 20;
 
 /// The message for longer ones.
-inline constexpr const char* kTooLongForASquare = "this is too long for a square of numbers";
+inline constexpr const char* kTooLongForASquare = Mark("this is too long for a square of numbers");
 
 /// Reads a square of 3 x 3 to 50 x 50 cells as people and programs write it, without a total.
 ///

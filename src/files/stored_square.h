@@ -27,9 +27,10 @@ struct StoredSquare {
   bool operator==(const StoredSquare&) const = default;
 };
 
-/// Why something is not a square: one sentence for the player, with the line if there is one.
+/// Why something is not a square.
 struct Unreadable {
-  std::string Why;
+  std::string Why;         ///< one sentence for the player; advice may follow on a line of its own
+  bool NamesLine = false;  ///< it says in which line of the text
 };
 
 /// What stands below a square: "total 15, hard", "total 15", "hard", "".

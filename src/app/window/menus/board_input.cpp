@@ -87,7 +87,7 @@ void BoardInput::ConnectKeys() {
   }
   OnSignal(desk_.Runner, view, &GridView::CellWanted, this, [this, &session](int row, int column) {
     // Translators: the name of what the player did, as in "Undo move".
-    desk_.RunOnCurrentCell(SayIn("step", "move"), [&session, row, column] {
+    desk_.RunOnCurrentCell(SayIn("undone", "move"), [&session, row, column] {
       session.TheBoard.grid.SetCurrent(row, column);
     });
   });
@@ -98,7 +98,8 @@ void BoardInput::ConnectKeys() {
                              [&session, typed] { session.Noting().TypeCharacter(typed); });
     } else if (typed == U'\r') {
       // Translators: the name of what the player did, as in "Undo check".
-      desk_.RunOnCurrentCell(SayIn("step", "check"), [&session] { session.Entry().PressEnter(); });
+      desk_.RunOnCurrentCell(SayIn("undone", "check"),
+                             [&session] { session.Entry().PressEnter(); });
     } else {
       auto why = std::make_shared<std::string>();
       desk_.RunOnCurrentCell(UndoHistory::kTyping, [&session, typed, why] {
@@ -109,7 +110,7 @@ void BoardInput::ConnectKeys() {
   });
   OnSignal(desk_.Runner, view, &GridView::KeypadPressed, this, [this, &session](int sign) {
     // Translators: a number becomes larger or smaller by one: the name of that, as in "Undo step".
-    desk_.RunOnCurrentCell(SayIn("step", "step"), [&session, sign] {
+    desk_.RunOnCurrentCell(SayIn("undone", "step"), [&session, sign] {
       sign > 0 ? session.Entry().KeypadPlus() : session.Entry().KeypadMinus();
     });
   });
@@ -131,7 +132,7 @@ void BoardInput::ConnectMenu() {
 
 void BoardInput::Press(std::function<PressOutcome()> press, std::optional<QPoint> menuPosition) {
   // Translators: the name of what the player did, as in "Undo swap".
-  desk_.RunOnBoard(SayIn("step", "swap"), [this, press = std::move(press), menuPosition] {
+  desk_.RunOnBoard(SayIn("undone", "swap"), [this, press = std::move(press), menuPosition] {
     const PressOutcome outcome = press();
     if (outcome == PressOutcome::Nothing) return;
     desk_.Menu.EnableEditing(outcome != PressOutcome::OpenShortMenu);

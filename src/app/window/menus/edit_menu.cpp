@@ -11,16 +11,7 @@
 #include "toolkit/tr.h"
 
 namespace numorra {
-namespace {
-
-/// A step as the player reads it: the history tells steps of typing by names of its own.
-std::string StepName(const std::string& step) {
-  if (step == UndoHistory::kTyping) return SayIn("step", "typing");
-  if (step == UndoHistory::kNoting) return SayIn("step", "note");
-  return step;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 EditMenu::EditMenu(QMenuBar* bar, Desk& desk) : QObject(bar), desk_(desk) {
   QMenu* menu = bar->addMenu(Tr("&Edit"));
@@ -56,9 +47,9 @@ void EditMenu::ShowState() {
   undo_->setEnabled(history.CanUndo());
   redo_->setEnabled(history.CanRedo());
   // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
-  undo_->setText(history.CanUndo() ? Tr("&Undo %1", StepName(history.UndoName())) : Tr("&Undo"));
+  undo_->setText(history.CanUndo() ? Tr("&Undo %1", history.UndoName()) : Tr("&Undo"));
   // Translators: %1 is the name of a command, such as "Fill Gaps" or "typing".
-  redo_->setText(history.CanRedo() ? Tr("&Redo %1", StepName(history.RedoName())) : Tr("&Redo"));
+  redo_->setText(history.CanRedo() ? Tr("&Redo %1", history.RedoName()) : Tr("&Redo"));
   check_->setEnabled(desk_.TheBoard().Shown());
 }
 

@@ -46,7 +46,7 @@ void NumberPadItem::Close() {
 /// Checks what was typed.
 void NumberPadItem::Finish() {
   Close();
-  desk_.RunOnCurrentCell(SayIn("step", "check"), [this] {
+  desk_.RunOnCurrentCell(SayIn("undone", "check"), [this] {
     desk_.TheSession.Noting().EndNumber();
     desk_.TheSession.Entry().Finish();
   });
