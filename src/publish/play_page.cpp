@@ -8,6 +8,7 @@
 #include "files/square_json.h"
 #include "publish/object_forms.h"
 #include "publish/page_template.h"
+#include "publish/page_words.h"
 #include "puzzle/puzzle.h"
 #include "puzzle/puzzle_json.h"
 
@@ -53,14 +54,14 @@ std::optional<Puzzle> ReadSolution(JsonSpan rows, const Puzzle& clues) {
   square.Add("total", std::to_string(clues.Target)).Add("rules", JsonString(NameOf(clues.Asked)));
   const Puzzle solution = ReadPuzzle(square.Add("rows", text).Text());
   if (solution.Order() != clues.Order() || solution.Gaps() > 0) {
-    throw Unreadable{"the solution is not a full square of order " + std::to_string(clues.Order())};
+    throw Unreadable{Say("the solution is not a full square of order %1", clues.Order())};
   }
   return solution;
 }
 
 std::string PackedSteps(JsonSpan steps, ObjectForms& forms) {
   if (steps.empty() || steps.front() == "null") return "[]";
-  if (!AreObjects(steps)) throw Unreadable{"\"steps\" must be an array of objects"};
+  if (!AreObjects(steps)) throw Unreadable{Say("%1 must be an array of objects", "\"steps\"")};
   return forms.Packed(steps);
 }
 
@@ -79,12 +80,13 @@ PagePuzzle ReadPagePuzzle(const std::string& json, ObjectForms& forms) {
 std::string Caption(const PagePuzzle& puzzle) {
   const Puzzle& clues = puzzle.Clues;
   const int count = clues.Cells.Size() - clues.Gaps();
-  std::string text = "Total " + std::to_string(clues.Target);
-  text +=
-      clues.Asked == Rules::Normal ? ", each missing number once" : ", whole numbers of 1 or more";
-  text += "; " + (puzzle.Grade.empty() ? "" : puzzle.Grade + ", ") + std::to_string(count) +
-          (count == 1 ? " clue" : " clues");
-  return puzzle.Code.empty() ? text : text + ", code " + puzzle.Code;
+  const std::string rules = clues.Asked == Rules::Normal
+                                ? Say("Total %1, each missing number once", clues.Target)
+                                : Say("Total %1, whole numbers of 1 or more", clues.Target);
+  std::string made = SayCounted("%1 clue", "%1 clues", count);
+  if (!puzzle.Grade.empty()) made = Say("%1, %2", Say(puzzle.Grade.c_str()), made);
+  if (!puzzle.Code.empty()) made = Say("%1, code %2", made, puzzle.Code);
+  return Say("%1; %2", rules, made);
 }
 
 /// HTML needs no end tags for cells and rows.
@@ -119,16 +121,21 @@ std::string WithoutTags(const std::string& json) {
   return text;
 }
 
-/// Fills each slot <!--name--> of a text. What fills one is not searched for others.
-std::string Filled(std::string_view text, const std::map<std::string_view, std::string>& slots) {
+/// Fills each slot <!--name--> of a text, and says what stands in <!--say phrase-->. What fills a
+/// slot is not searched for others.
+std::string WithSlotsFilled(std::string_view text,
+                            const std::map<std::string_view, std::string>& slots) {
   constexpr std::string_view kBegin = "<!--";
   constexpr std::string_view kEnd = "-->";
+  constexpr std::string_view kSay = "say ";
   std::string filled;
   for (std::size_t begin = 0; (begin = text.find(kBegin)) != std::string_view::npos;) {
     filled += text.substr(0, begin);
     text.remove_prefix(begin + kBegin.size());
     const std::size_t end = text.find(kEnd);
-    filled += slots.at(text.substr(0, end));
+    const std::string_view slot = text.substr(0, end);
+    filled += slot.starts_with(kSay) ? Html(Say(std::string(slot.substr(kSay.size())).c_str()))
+                                     : slots.at(slot);
     text.remove_prefix(end + kEnd.size());
   }
   return filled.append(text);
@@ -146,12 +153,15 @@ std::string PlayPage(const std::string& title, const std::vector<std::string>& p
       sheets += Sheet(puzzle, i + 1);
       data.append(data.empty() ? "" : ",\n").append(Data(puzzle));
     } catch (const Unreadable& unreadable) {
-      throw Unreadable{"puzzle " + std::to_string(i + 1) + ": " + unreadable.Why};
+      throw Unreadable{Say("puzzle %1: %2", i + 1, unreadable.Why)};
     }
   }
-  const std::string json = "{\"forms\":" + forms.Table() + ",\n\"puzzles\":[" + data + "]}";
-  return Filled(kPageTemplate,
-                {{"title", Html(title)}, {"sheets", sheets}, {"data", WithoutTags(json)}});
+  const std::string json = "{\"words\":" + WordsOfScript(kPageTemplate) +
+                           ",\"forms\":" + forms.Table() + ",\n\"puzzles\":[" + data + "]}";
+  return WithSlotsFilled(kPageTemplate, {{"title", Html(title)},
+                                         {"language", Language().empty() ? "en" : Language()},
+                                         {"sheets", sheets},
+                                         {"data", WithoutTags(json)}});
 }
 
 std::string PlayPage(const std::string& title, const std::vector<MadePuzzle>& puzzles,

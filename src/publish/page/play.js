@@ -4,6 +4,7 @@ const grid = byId('grid');
 
 // What the page holds: the puzzles, the boards in play, and the player's place among them.
 const data = JSON.parse(byId('data').textContent);
+words = data.words;
 const sheets = [...byId('sheets').querySelectorAll('table')];
 const puzzles = sheets.map((sheet, i) => {
   const clues = [...sheet.querySelectorAll('td')].map((cell) => Number(cell.textContent));
@@ -38,7 +39,7 @@ function stored(use) {
 // Keeps the boards if the reader wishes; false if that fails.
 function keep() {
   const kept = !byId('keep').checked || stored((storage) => storage.setItem(key, JSON.stringify({at, boards})));
-  if (!kept) say(TEXT.cannotKeep);
+  if (!kept) say(TEXT.cannotKeep());
   return kept;
 }
 
@@ -72,8 +73,8 @@ function showCell(element) {
   const noted = notesOn(puzzle(), board(), cell);
   const wrong = marked.includes(cell);
   const hinted = hint !== null && hint[stage - 1].cells.includes(cell);
-  const content = number || (noted.length ? TEXT.notes(noted.join(' ')) : TEXT.empty);
-  const marks = [given && TEXT.given, wrong && TEXT.isWrong, hinted && TEXT.inHint].filter(Boolean);
+  const content = number || (noted.length ? TEXT.notes(noted.join(' ')) : TEXT.empty());
+  const marks = [given && TEXT.given(), wrong && TEXT.isWrong(), hinted && TEXT.inHint()].filter(Boolean);
   element.textContent = number || '';
   if (noted.length) make('small', {}, element).textContent = noted.join(' ');
   element.setAttribute('aria-label', TEXT.cell(...placeOf(cell), content, marks));
@@ -115,11 +116,11 @@ function changed(text = '') {
   const totals = totalsOf(puzzle(), numbers);
   const told = totals.filter(({cells}) => cells.includes(current));
   byId('totals').textContent =
-      told.map(({name, sum, verdict}) => TEXT.verdict[verdict](name, sum, puzzle().total)).join('; ');
+      inTurn(told.map(({name, sum, verdict}) => TEXT.verdict[verdict](name, sum, puzzle().total)));
   if (isSolved(puzzle(), numbers)) {
     say(TEXT.solved(puzzle().total));
   } else {
-    say(totals.every(({verdict}) => verdict === 'right') ? TEXT.twice : text);
+    say(totals.every(({verdict}) => verdict === 'right') ? TEXT.twice() : text);
   }
   show();
   keep();
@@ -140,8 +141,8 @@ function note(...numbers) {
 
 // A number for the current cell: written, or, while notes are taken, noted in place of what it began with.
 function enter(number, beginning) {
-  if (puzzle().clues[current] !== 0) return say(TEXT.isGiven);
-  if (takingNotes && board().numbers[current] !== 0) return say(TEXT.gapsOnly);
+  if (puzzle().clues[current] !== 0) return say(TEXT.isGiven());
+  if (takingNotes && board().numbers[current] !== 0) return say(TEXT.gapsOnly());
   typing = number;
   return takingNotes ? note(beginning, number) : write(number);
 }
@@ -152,7 +153,7 @@ function press(digit) {
 }
 
 function erase(all) {
-  if (puzzle().clues[current] !== 0) return say(TEXT.isGiven);
+  if (puzzle().clues[current] !== 0) return say(TEXT.isGiven());
   const shorter = all ? 0 : Math.floor(typing / 10);
   if (takingNotes && board().numbers[current] === 0) {
     if (typing) note(typing, shorter);
@@ -208,7 +209,7 @@ function giveHint() {
   if (wrong.length) return offerMarks(TEXT.wrongFirst, wrong);
   typing = 0;
   hint ??= hintFor(puzzle(), board().numbers) ?? null;
-  if (!hint) return isSolved(puzzle(), board().numbers) ? changed() : say(TEXT.noHint);
+  if (!hint) return isSolved(puzzle(), board().numbers) ? changed() : say(TEXT.noHint());
   const {look, says, number, cell} = hint[stage++];
   if (number) {
     forget();
@@ -250,7 +251,7 @@ function onKey(event) {
 function start() {
   puzzles.forEach((_, i) => make('option', {value: i}, byId('choice')));
   [1, 2, 3, 4, 5, 6, 7, 8, 9, 0].forEach((digit) => { make('button', {}, byId('pad')).textContent = digit; });
-  make('button', {'data-erase': ''}, byId('pad')).textContent = TEXT.erase;
+  make('button', {'data-erase': ''}, byId('pad')).textContent = TEXT.erase();
   const listen = (id, type, action) => byId(id).addEventListener(type, action);
   listen('play', 'keydown', onKey);
   listen('grid', 'click', ({target}) => {
