@@ -11,6 +11,7 @@
 
 #include "app/board/runtime_error.h"
 #include "print/paper.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -19,7 +20,7 @@ constexpr int kMoment = 300;  // milliseconds
 
 /// The same pages, with a progress box over the window if they take longer than a moment.
 PaintedPages Counted(const PaintedPages& pages, QWidget* window) {
-  const auto box = std::make_shared<QProgressDialog>("", "&Stop", 0, pages.Count, window);
+  const auto box = std::make_shared<QProgressDialog>("", Tr("&Stop"), 0, pages.Count, window);
   box->setObjectName("PagesProgress");
   box->setWindowTitle(pages.Name);
   box->setWindowModality(Qt::WindowModal);
@@ -27,7 +28,7 @@ PaintedPages Counted(const PaintedPages& pages, QWidget* window) {
   PaintedPages counted = pages;
   counted.Paint = [paint = pages.Paint, count = pages.Count, box](QPainter& painter, QSizeF size,
                                                                   int page) {
-    box->setLabelText(QString("Laying out page %1 of %2").arg(page + 1).arg(count));
+    box->setLabelText(Tr("Laying out page %1 of %2", page + 1, count));
     box->setValue(page);  // processes events
     if (box->wasCanceled()) throw PagesStopped();
     paint(painter, size, page);
@@ -54,19 +55,21 @@ void AddPrintKey(QPrintPreviewDialog& preview) {
 void PaintPages(QPagedPaintDevice& device, int dpi, const PaintedPages& pages) {
   constexpr double kMillimetresPerInch = 25.4;
   QPainter painter;
-  if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+  if (!painter.begin(&device))
+    throw RuntimeError(Fault::PrinterError, Say("cannot begin to print"));
   const QSizeF size = device.pageLayout().fullRect(QPageLayout::Millimeter).size();
   const QRect area = device.pageLayout().paintRectPixels(dpi);
   for (int page = 0; page < pages.Count; ++page) {
     if (page > 0 && !device.newPage()) {
-      throw RuntimeError(Fault::PrinterError, "cannot start a new page");
+      throw RuntimeError(Fault::PrinterError, Say("cannot start a new page"));
     }
     painter.resetTransform();
     painter.translate(-area.topLeft());
     painter.scale(dpi / kMillimetresPerInch, dpi / kMillimetresPerInch);
     pages.Paint(painter, size, page);
   }
-  if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
+  if (!painter.end())
+    throw RuntimeError(Fault::PrinterError, Say("the page could not be finished"));
 }
 
 void PrintPages(QPrinter& printer, const PaintedPages& pages) {

@@ -10,7 +10,7 @@ void PrintOn(QPrinter& printer, const std::function<void(QPagedPaintDevice&)>& p
   if (printer.outputFileName().isEmpty()) {
     paint(printer);
     if (printer.printerState() == QPrinter::Error) {
-      throw RuntimeError(Fault::PrinterError, "the page could not be finished");
+      throw RuntimeError(Fault::PrinterError, Say("the page could not be finished"));
     }
     return;
   }

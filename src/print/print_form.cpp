@@ -8,26 +8,27 @@
 #include "print/sheet_doubts.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& printer,
                      Dialogs& dialogs, QWidget* parent)
-    : CommandForm("PrintSolution", "Print Solution", dialogs, parent),
+    : CommandForm("PrintSolution", Tr("Print Solution"), dialogs, parent),
       Text1(new QPlainTextEdit),
       TotalDoubt(Named("TotalDoubt", new QLabel)),
       UseTotalx(Named("UseTotalx", new QPushButton)),
       WidthDoubt(Named("WidthDoubt", new QLabel)),
-      PrintGridx(Named("PrintGridx", new QPushButton("Print &Puzzle Sheet"))),
-      PrintSolx(Named("PrintSolx", new QPushButton("Print &Solution"))),
-      Closex(Named("Closex", new QPushButton("&Close"))),
+      PrintGridx(Named("PrintGridx", new QPushButton(Tr("Print &Puzzle Sheet")))),
+      PrintSolx(Named("PrintSolx", new QPushButton(Tr("Print &Solution")))),
+      Closex(Named("Closex", new QPushButton(Tr("&Close")))),
       grid_(grid),
       boxes_(boxes),
       printer_(printer),
       dialogs_(dialogs) {
   Text1->setObjectName("preview");
   Text1->setLayoutDirection(Qt::LeftToRight);
-  Text1->setAccessibleName("Preview");
+  Text1->setAccessibleName(Tr("Preview"));
   Text1->setReadOnly(true);
   Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
   QFont font("courier new", 8);
@@ -61,8 +62,8 @@ PrintForm::PrintForm(const Grid& grid, const SquareBoxes& boxes, SheetPrinter& p
       Preview();
     });
   });
-  OnClick(runner_, PrintGridx, this, [this] { Print(PuzzleSheet, "grid printed"); });
-  OnClick(runner_, PrintSolx, this, [this] { Print(SolutionSheet, "solution printed"); });
+  OnClick(runner_, PrintGridx, this, [this] { Print(PuzzleSheet, Mark("grid printed")); });
+  OnClick(runner_, PrintSolx, this, [this] { Print(SolutionSheet, Mark("solution printed")); });
   OnClick(runner_, Closex, this, [this] { close(); });
 }
 
@@ -85,7 +86,7 @@ void PrintForm::Preview() {
   show(WidthDoubt, doubts.Width);
   UseTotalx->setVisible(doubts.TheLines.has_value());
   if (!doubts.TheLines) return;
-  UseTotalx->setText("&Use " + QString::fromStdString(Decimal(*doubts.TheLines)));
+  UseTotalx->setText(Tr("&Use %1", Written(*doubts.TheLines)));
 }
 
 void PrintForm::Print(Sheet sheet, const char* message) {
@@ -93,7 +94,7 @@ void PrintForm::Print(Sheet sheet, const char* message) {
     Preview();  // a build behind the form may have changed the board
     if (!printer_.Choose(this)) return;
     printer_.Print(sheet(grid_, Total()));
-    dialogs_.Tell(message);
+    dialogs_.Tell(Say(message));
   });
 }
 

@@ -12,7 +12,8 @@ namespace {
 /// Paints the lines from the top of the first page, on as many pages as needed.
 void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   QPainter painter;
-  if (!painter.begin(&device)) throw RuntimeError(Fault::PrinterError, "cannot begin to print");
+  if (!painter.begin(&device))
+    throw RuntimeError(Fault::PrinterError, Say("cannot begin to print"));
   QFont font("courier new", 8);
   font.setStyleHint(QFont::Monospace);
   font.setFixedPitch(true);
@@ -22,13 +23,15 @@ void PaintSheet(QPagedPaintDevice& device, const std::string& text) {
   int top = 0;
   for (const QString& line : QString::fromStdString(text).split("\r\n", Qt::KeepEmptyParts)) {
     if (top + lineHeight > pageHeight && !line.isEmpty()) {
-      if (!device.newPage()) throw RuntimeError(Fault::PrinterError, "cannot start a new page");
+      if (!device.newPage())
+        throw RuntimeError(Fault::PrinterError, Say("cannot start a new page"));
       top = 0;
     }
     painter.drawText(0, top + painter.fontMetrics().ascent(), line);
     top += lineHeight;
   }
-  if (!painter.end()) throw RuntimeError(Fault::PrinterError, "the page could not be finished");
+  if (!painter.end())
+    throw RuntimeError(Fault::PrinterError, Say("the page could not be finished"));
 }
 
 }  // namespace

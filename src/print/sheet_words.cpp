@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include "toolkit/tr.h"
+
 namespace numorra {
 namespace {
 
@@ -21,11 +23,11 @@ QString Missing(const Puzzle& puzzle) {
       missing << QString::number(number);
     }
   }
-  return "Missing: " + missing.join("  ");
+  return Tr("Missing: %1", missing.join("  "));
 }
 
 QString Numbers(const MadePuzzle& made) {
-  return IsNormal(made) ? "each missing number once" : "whole numbers of 1 or more";
+  return IsNormal(made) ? Tr("each missing number once") : Tr("whole numbers of 1 or more");
 }
 
 bool AreMixed(const std::vector<MadePuzzle>& puzzles) {
@@ -34,10 +36,16 @@ bool AreMixed(const std::vector<MadePuzzle>& puzzles) {
 }
 
 QString RulesText(const std::vector<MadePuzzle>& puzzles) {
-  const QString numbers =
-      AreMixed(puzzles) || puzzles.empty() ? "" : "with " + Numbers(puzzles.front()) + ", ";
-  return "Fill the gaps " + numbers +
-         "so that all rows, columns and both diagonals add up to the same total.";
+  if (puzzles.empty() || AreMixed(puzzles)) {
+    return Tr(
+        "Fill the gaps so that all rows, columns and both diagonals add up to the same total.");
+  }
+  return IsNormal(puzzles.front())
+             ? Tr("Fill the gaps with each missing number once, so that all rows, columns and both "
+                  "diagonals add up to the same total.")
+             : Tr("Fill the gaps with whole numbers of 1 or more, so that all rows, columns and "
+                  "both "
+                  "diagonals add up to the same total.");
 }
 
 }  // namespace numorra

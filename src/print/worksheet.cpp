@@ -7,6 +7,7 @@
 #include "puzzle/candidates.h"
 #include "puzzle/code.h"
 #include "puzzle/grade.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -43,9 +44,9 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
 void PaintNameLine(QPainter& painter, const QRectF& area, double height) {
   constexpr double kAbove = 2;  // the line, above the bottom
   constexpr double kUsualText = 14;
-  WriteFitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, "Name:", {height});
+  WriteFitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, Tr("Name:"), {height});
   painter.setPen(QPen(Qt::black, 0.2));
-  const double text = height < kLargeText ? kUsualText : LineWidth("Name: ", {height});
+  const double text = height < kLargeText ? kUsualText : LineWidth(Tr("Name:") + " ", {height});
   painter.drawLine(area.bottomLeft() + QPointF(text, -kAbove),
                    area.bottomRight() + QPointF(0, -kAbove));
 }
@@ -145,7 +146,7 @@ std::string Worksheet::WhyTooLargeOn(const SheetPlan& plan) const {
     if (CellSideOn(plan, made) < LargeCellOf(made)) order = std::max(order, made.Clues.Order());
   }
   if (order == 0) return {};
-  return "a puzzle of size " + std::to_string(order) + " has no room for large print on this page";
+  return Say("a puzzle of size %1 has no room for large print on this page", order);
 }
 
 std::string Worksheet::WhyTooLarge() const {
@@ -180,7 +181,7 @@ Worksheet::Leaf Worksheet::LeafOf(int page) const {
 }
 
 QString Worksheet::TitleOf(bool answers) const {
-  return wish_.Title + (answers ? ": answers" : "");
+  return answers ? Tr("%1: answers", wish_.Title) : wish_.Title;
 }
 
 void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) const {
@@ -217,20 +218,20 @@ void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf
 void Worksheet::PaintFooter(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) {
   const QRectF area = plan.Area(leaf.Number);
   WriteFitted(painter, {area.left(), area.bottom() - plan.Footer, area.width(), plan.Footer},
-              Qt::AlignHCenter | Qt::AlignBottom,
-              QString("Page %1 of %2").arg(leaf.Number + 1).arg(leaf.Count), {plan.Small});
+              Qt::AlignHCenter | Qt::AlignBottom, Tr("Page %1 of %2", leaf.Number + 1, leaf.Count),
+              {plan.Small});
 }
 
 QString Worksheet::CaptionOf(int number, bool answer) const {
   const MadePuzzle& made = Made(number);
   const Puzzle& clues = made.Clues;
   if (answer) {
-    return QString("%1.   %2, total %3").arg(number + 1).arg(NameOf(made.Needed)).arg(clues.Target);
+    return Tr("%1.   %2, total %3", number + 1, Tr(NameOf(made.Needed)), clues.Target);
   }
   const bool given = wish_.TotalGiven || !TotalCanBeFound(clues);
-  const QString total = given ? QString::number(clues.Target) : "________";
-  const QString numbers = AreMixed(puzzles_) ? "; " + Numbers(made) : QString();
-  return QString("%1.   Total: %2%3").arg(number + 1).arg(total, numbers);
+  const Filling total = given ? Filling(clues.Target) : Filling("________");
+  const QString caption = Tr("%1.   Total: %2", number + 1, total);
+  return AreMixed(puzzles_) ? Tr("%1; %2", caption, Numbers(made)) : caption;
 }
 
 /// Paints a puzzle, or its answer, with the text above it, the missing numbers below it, and its

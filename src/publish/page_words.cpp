@@ -33,7 +33,6 @@ std::string FormsOf(const std::string& one, const std::string& many) {
 
 std::string WordsOfScript(std::string_view script) {
   JsonLine words;
-  if (SpeaksEnglish()) return words.Text();
   static const std::regex kCall(R"(\btr(Counted)?\('([^']*)'(?:,\s*'([^']*)')?)");
   const std::string text(script);
   for (std::sregex_iterator call(text.begin(), text.end(), kCall), end; call != end; ++call) {

@@ -9,7 +9,7 @@ namespace numorra {
 /// phrase in a call tr('...') what is said instead, and by the first in trCounted('...', '...') the
 /// forms of the language with the number of the form for each count from 0 to 199:
 /// {"Erase": "Löschen", "%1 number is wrong.": {"forms": ["...", "..."], "which": "1011..."}}.
-/// Empty in English, since the script holds its phrases.
+/// The script itself holds the English phrases.
 std::string WordsOfScript(std::string_view script);
 
 }  // namespace numorra

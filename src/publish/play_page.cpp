@@ -156,8 +156,9 @@ std::string PlayPage(const std::string& title, const std::vector<std::string>& p
       throw Unreadable{Say("puzzle %1: %2", i + 1, unreadable.Why)};
     }
   }
-  const std::string json = "{\"words\":" + WordsOfScript(kPageTemplate) +
-                           ",\"forms\":" + forms.Table() + ",\n\"puzzles\":[" + data + "]}";
+  std::string json = "{\"forms\":" + forms.Table() + ",\n\"puzzles\":[" + data + "]";
+  if (!SpeaksEnglish()) json += ",\n\"words\":" + WordsOfScript(kPageTemplate);
+  json += "}";
   return WithSlotsFilled(kPageTemplate, {{"title", Html(title)},
                                          {"language", Language().empty() ? "en" : Language()},
                                          {"sheets", sheets},

@@ -68,8 +68,8 @@ void PaintCircles(QPainter& painter, const DrawingArea& area) {
 
 const DrawingKind kCircles = {"C",
                               "Command1",
-                              "Cric&les",
-                              "Draw each number as a circle of its size",
+                              Mark("Cric&les"),
+                              Mark("Draw each number as a circle of its size"),
                               "BoardCriclesx",
                               Qt::Key_F2,
                               PaintCircles};

@@ -5,12 +5,19 @@
 
 #include "app/board/numbers.h"
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
 
 constexpr std::array kFirstColour = {20, 90, 160};
-constexpr std::array kChannelNames = {"red", "green", "blue"};
+struct ChannelName {
+  const char* Name;
+  const char* Alone;
+};
+constexpr std::array<ChannelName, 3> kChannelNames = {{{Mark("red"), Mark("red alone")},
+                                                       {Mark("green"), Mark("green alone")},
+                                                       {Mark("blue"), Mark("blue alone")}}};
 
 }  // namespace
 
@@ -35,7 +42,7 @@ void Swatch::paintEvent(QPaintEvent*) {
 }
 
 ColourPicker::ColourPicker(QWidget* parent)
-    : QGroupBox("Colors", parent),
+    : QGroupBox(TrIn("frame", "Colors"), parent),
       Bars{Named("hsrRed", new QScrollBar), Named("hsrGreen", new QScrollBar),
            Named("hsrBlue", new QScrollBar)},
       Degrees{Named("lblRedDegree", new QLabel("255")), Named("lblGreenDegree", new QLabel("255")),
@@ -43,10 +50,10 @@ ColourPicker::ColourPicker(QWidget* parent)
       PicRGB{Named("PicRGB0", new Swatch), Named("PicRGB1", new Swatch),
              Named("PicRGB2", new Swatch)},
       picColorToUse(Named("picColorToUse", new Swatch)),
-      Command3(Named("Command3", new QPushButton("Sho&w"))) {
+      Command3(Named("Command3", new QPushButton(Tr("Sho&w")))) {
   setObjectName("Frame7");
-  Command3->setToolTip("Shade the cells in this color, larger numbers lighter");
-  picColorToUse->setAccessibleName("the mixed color");
+  Command3->setToolTip(Tr("Shade the cells in this color, larger numbers lighter"));
+  picColorToUse->setAccessibleName(Tr("the mixed color"));
   auto* layout = new QGridLayout(this);
   for (std::size_t channel = 0; channel < kChannels; ++channel) {
     QScrollBar* bar = Bars[channel];
@@ -55,15 +62,16 @@ ColourPicker::ColourPicker(QWidget* parent)
     bar->setPageStep(16);
     bar->setValue(kFirstColour[channel]);
     bar->setFocusPolicy(Qt::StrongFocus);
-    bar->setAccessibleName(kChannelNames[channel]);
-    bar->setToolTip(kChannelNames[channel]);
-    PicRGB[channel]->setAccessibleName(QString(kChannelNames[channel]) + " alone");
+    const QString name = Tr(kChannelNames[channel].Name);
+    bar->setAccessibleName(name);
+    bar->setToolTip(name);
+    PicRGB[channel]->setAccessibleName(Tr(kChannelNames[channel].Alone));
     QLabel* degree = Degrees[channel];
     degree->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     degree->setMinimumWidth(degree->fontMetrics().horizontalAdvance("000"));
     const int row = static_cast<int>(channel);
     PicRGB[channel]->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    layout->addWidget(new QLabel(QString(kChannelNames[channel]).left(1).toUpper()), row, 0);
+    layout->addWidget(new QLabel(name.left(1).toUpper()), row, 0);
     layout->addWidget(PicRGB[channel], row, 1);
     layout->addWidget(bar, row, 2);
     layout->addWidget(degree, row, 3);

@@ -22,8 +22,8 @@ std::optional<BaseDigits> DigitsOn(const Board& board) {
 
 std::string WhyNoDigits(const Board& board) {
   if (DigitsOn(board)) return {};
-  const std::string count = std::to_string(board.GridSize * board.GridSize);
-  return "Only a board of the numbers 1 to " + count + ", each once, has digits to draw.";
+  const int count = board.GridSize * board.GridSize;
+  return Say("Only a board of the numbers 1 to %1, each once, has digits to draw.", count);
 }
 
 /// The colour of a share, 0 to 1, of the digits: from dark blue by green to yellow. It gets lighter
@@ -51,8 +51,8 @@ void PaintDigits(QPainter& painter, const DrawingArea& area) {
   const double height = area.Block.width() * kTitle;
   DrawingArea::PaintNumber(
       painter,
-      (first ? "first digit: (number - 1) div " : "second digit: (number - 1) mod ") +
-          std::to_string(n),
+      first ? Say("first digit: (number - 1) div %1", n)
+            : Say("second digit: (number - 1) mod %1", n),
       {area.Block.left(), area.Block.top() - 1.5 * height, area.Block.width(), height},
       area.Palette.color(QPalette::WindowText), area.Palette.color(QPalette::Window));
   ForEachCell(n, [&](int row, int column) {
@@ -73,7 +73,8 @@ void PaintDigits(QPainter& painter, const DrawingArea& area) {
 
 }  // namespace
 
-const DrawingKind kDigits = {"D",         nullptr, "Di&gits",  nullptr, "Digitsx", Qt::Key_unknown,
-                             PaintDigits, 2,       WhyNoDigits};
+const DrawingKind kDigits = {"D",         nullptr,   Mark("Di&gits"),
+                             nullptr,     "Digitsx", Qt::Key_unknown,
+                             PaintDigits, 2,         WhyNoDigits};
 
 }  // namespace numorra

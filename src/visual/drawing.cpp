@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 
 #include "toolkit/painted_text.h"
+#include "toolkit/tr.h"
 #include "visual/outline.h"
 
 namespace numorra {
@@ -59,7 +60,7 @@ Drawing::Drawing(const Board& board, QWidget* parent) : QWidget(parent), board_(
   setObjectName("Picture1");
   setProperty("tag", "");
   setAttribute(Qt::WA_OpaquePaintEvent);  // otherwise the frames behind are painted first
-  setAccessibleName("Drawing of the board");
+  setAccessibleName(Tr("Drawing of the board"));
 }
 
 void Drawing::SetKind(const DrawingKind* kind) {

@@ -42,8 +42,8 @@ struct DrawingArea {
 struct DrawingKind {
   const char* Tag;     ///< the drawing's tag while it is shown
   const char* Button;  ///< null if it is only in a menu
-  const char* Caption;
-  const char* ToolTip;  ///< of the button
+  const char* Caption;  ///< a phrase
+  const char* ToolTip;  ///< of the button, a phrase
   const char* Item;     ///< the name of its menu item, with the button's caption
   Qt::Key Key;          ///< of the menu item
   void (*Paint)(QPainter& painter, const DrawingArea& area);

@@ -99,8 +99,8 @@ void PaintVectors(QPainter& painter, const DrawingArea& area) {
 
 const DrawingKind kVectors = {"V",
                               "Command2",
-                              "Vec&tors",
-                              "Draw a path from the smallest number to the largest",
+                              Mark("Vec&tors"),
+                              Mark("Draw a path from the smallest number to the largest"),
                               "BoardVectorsx",
                               Qt::Key_F3,
                               PaintVectors};

@@ -78,7 +78,7 @@ std::string Progress(const Tally& tally, int lines) {
 
 }  // namespace
 
-std::string StateLine(int order, double target, const std::string& progress) {
+std::string StateText(int order, double target, const std::string& progress) {
   // Translators: a board's size, its total, and how far it is: "4 x 4, sum 34: 5 cells to fill".
   return Say("%1 x %1, sum %2: %3", order, Written(target), progress);
 }
@@ -87,7 +87,7 @@ std::string StateOf(const Board& board) {
   if (!board.Shown()) return {};
   const int lines = 2 * board.GridSize + 2;
   const Tally tally = Count(board);
-  std::string state = StateLine(board.GridSize, board.TargetTotal, Progress(tally, lines));
+  std::string state = StateText(board.GridSize, board.TargetTotal, Progress(tally, lines));
   const auto add = [&state](const std::string& remark) { state = Say("%1, %2", state, remark); };
   if (tally.Gaps > 0 && board.HasGivens()) {
     // Translators: the numbers that fill a board.

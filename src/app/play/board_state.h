@@ -26,6 +26,6 @@ std::string StateOf(const Board& board);
 std::string TipOfTotal(const Board& board, int row, int column);
 
 /// Such a line of a board of this order and target: "4 x 4, sum 34: " and the progress.
-std::string StateLine(int order, double target, const std::string& progress);
+std::string StateText(int order, double target, const std::string& progress);
 
 }  // namespace numorra

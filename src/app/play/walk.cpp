@@ -88,7 +88,7 @@ void Walk::ShowTotals() {
 }
 
 std::string StateOf(const Walk& walk) {
-  return StateLine(walk.Order(), static_cast<double>(NormalTotal(walk.Order())),
+  return StateText(walk.Order(), static_cast<double>(NormalTotal(walk.Order())),
                    Say("step %1 of %2", walk.At(), walk.Steps()));
 }
 

@@ -4,7 +4,7 @@ const grid = byId('grid');
 
 // What the page holds: the puzzles, the boards in play, and the player's place among them.
 const data = JSON.parse(byId('data').textContent);
-words = data.words;
+words = data.words ?? {};
 const sheets = [...byId('sheets').querySelectorAll('table')];
 const puzzles = sheets.map((sheet, i) => {
   const clues = [...sheet.querySelectorAll('td')].map((cell) => Number(cell.textContent));

@@ -6,7 +6,7 @@
 
 namespace numorra {
 
-BoardBar::BoardBar(const char* name, const char* buttonName, const char* buttonText)
+BoardBar::BoardBar(const char* name, const char* buttonName, const QString& buttonText)
     : Button(Named(buttonName, new QPushButton(buttonText))),
       row_(new QHBoxLayout(this)),
       text_(new QLabel) {
@@ -21,7 +21,7 @@ BoardBar::BoardBar(const char* name, const char* buttonName, const char* buttonT
   hide();
 }
 
-QPushButton* BoardBar::AddButton(const char* name, const char* text, const char* key) {
+QPushButton* BoardBar::AddButton(const char* name, const QString& text, const char* key) {
   auto* button = Named(name, new QPushButton(text));
   button->setShortcut(QKeySequence(key));
   button->setToolTip(key);

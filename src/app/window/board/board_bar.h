@@ -14,12 +14,12 @@ class BoardBar : public QFrame {
 
  public:
   /// `button`: the button's object name and text.
-  BoardBar(const char* name, const char* buttonName, const char* buttonText);
+  BoardBar(const char* name, const char* buttonName, const QString& buttonText);
 
   void ShowText(const QString& text);
 
   /// Adds a hidden button, left of the last one. A key presses it while it is shown.
-  QPushButton* AddButton(const char* name, const char* text, const char* key);
+  QPushButton* AddButton(const char* name, const QString& text, const char* key);
 
   QPushButton* const Button;
 

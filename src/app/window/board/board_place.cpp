@@ -5,6 +5,7 @@
 
 #include <QVBoxLayout>
 
+#include "toolkit/tr.h"
 #include "toolkit/twips.h"
 
 namespace numorra {
@@ -15,21 +16,21 @@ constexpr int kMargin = 120;  // twips, around the board
 }  // namespace
 
 BoardPlace::BoardPlace(Board& board)
-    : QGroupBox("Solution"),
+    : QGroupBox(TrIn("frame", "Solution")),
       board_(board),
       View(new GridView(board.grid)),
       Picture(new Drawing(board)),
       Walk(new WalkView(walkGrid_)),
       Gestures(new CellGestures(View, this)),
       Missing(new MissingNumbers),
-      SearchBar(new BoardBar("SearchBar", "StopSearchx", "Stop")),
-      RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", "Close")),
-      BackButton(RemarkBar->AddButton("RemarkBackx", "Back", "Alt+Left")),
-      NextButton(RemarkBar->AddButton("RemarkNextx", "Next", "Alt+Right")),
+      SearchBar(new BoardBar("SearchBar", "StopSearchx", Tr("Stop"))),
+      RemarkBar(new BoardBar("RemarkBar", "CloseRemarkx", Tr("Close"))),
+      BackButton(RemarkBar->AddButton("RemarkBackx", Tr("Back"), "Alt+Left")),
+      NextButton(RemarkBar->AddButton("RemarkNextx", Tr("Next"), "Alt+Right")),
       stack_(new QStackedLayout),
       room_(new QWidget) {
   setObjectName("Frame1");
-  View->setAccessibleName("Board");
+  View->setAccessibleName(Tr("Board"));
   Picture->BlockIn = [this](QSize room) { return View->FittedBlock(room); };
   room_->hide();
   auto* column = new QVBoxLayout(this);
@@ -95,12 +96,11 @@ void BoardPlace::ShowStep() {
   board_.grid.SetOutlined(shown.Where);
   QString text = QString::fromStdString(shown.Text);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
-  const QString where = steps > 0 ? QString("%1 of %2: ").arg(step_ + 1).arg(steps) : "";
   for (QPushButton* button : {BackButton, NextButton})
     button->setVisible(steps > 0);
   BackButton->setEnabled(step_ > 0);
   NextButton->setEnabled(step_ + 1 < steps);
-  RemarkBar->ShowText(where + text + ".");
+  RemarkBar->ShowText(steps > 0 ? Tr("%1 of %2: %3.", step_ + 1, steps, text) : Tr("%1.", text));
   if (shown.Where.size() != 1) return;
   layout()->activate();  // lay out the bar first
   View->BringIntoView(shown.Where.front().Row, shown.Where.front().Column);

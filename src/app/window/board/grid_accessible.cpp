@@ -6,28 +6,26 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
-#include "app/board/note_ranges.h"
-
+#include "app/window/board/range_words.h"
+#include "toolkit/tr.h"
 namespace numorra {
 namespace {
 
 /// The line whose total is in the frame cell (row, column) of an n x n board; empty for other
 /// cells.
 QString LineName(int row, int column, int last) {
-  if (row == 0 && column == 0) return "main diagonal";
-  if ((row == 0 && column == last) || (row == last && column == 0)) return "other diagonal";
-  if (row == 0) return QString("column %1").arg(column);
-  if (column == 0) return QString("row %1").arg(row);
+  if (row == 0 && column == 0) return Tr("main diagonal");
+  if ((row == 0 && column == last) || (row == last && column == 0)) return Tr("other diagonal");
+  if (row == 0) return Tr("column %1", column);
+  if (column == 0) return Tr("row %1", row);
   return {};
 }
 
-/// ", notes 1 to 3, 7" or, if that is long, ", 57 notes"; empty without notes.
+/// "notes 1 to 3, 7" or, if that is long, "57 notes".
 QString NotesInWords(const NoteSet& notes) {
   constexpr std::size_t kMostRead = 12;
-  if (notes.none()) return {};
-  if (notes.count() > kMostRead) return QString(", %1 notes").arg(notes.count());
-  return ", notes " +
-         QString::fromStdString(RangesOf(notes)).replace(' ', ", ").replace('-', " to ");
+  return notes.count() > kMostRead ? TrCounted("%1 note", "%1 notes", notes.count())
+                                   : Tr("notes %1", RangesInWords(notes));
 }
 
 /// One cell. Its table owns it and creates it on request.
@@ -53,18 +51,20 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
     const int last = Cells().Rows() - 1;
     const QString line = LineName(row_, column_, last);
     if (kind == QAccessible::Description && line.isEmpty() && row_ < last && column_ < last) {
-      return Total(row_, 0) + "; " + Total(0, column_);
+      return Tr("%1; %2", Total(row_, 0), Total(0, column_));
     }
     if (kind != QAccessible::Name) return {};
     if (!line.isEmpty()) return Total(row_, column_);
-    if (row_ == last || column_ == last) return value.isEmpty() ? "frame" : "marked for a swap";
-    return QString("row %1, column %2, %3%4%5%6")
-        .arg(row_)
-        .arg(column_)
-        .arg(value.isEmpty() ? "empty" : "value " + value,
-             Cells().Given(row_, column_) ? ", given" : "",
-             Cells().IsRepeated(row_, column_) ? ", more than once" : "",
-             NotesInWords(Cells().NotesIn(row_, column_)));
+    if (row_ == last || column_ == last)
+      return value.isEmpty() ? Tr("frame") : Tr("marked for a swap");
+    QString text = Tr("row %1, column %2, %3", row_, column_,
+                      value.isEmpty() ? Tr("empty") : Tr("value %1", value));
+    const auto add = [&text](const QString& more) { text = Tr("%1, %2", text, more); };
+    if (Cells().Given(row_, column_)) add(Tr("given"));
+    if (Cells().IsRepeated(row_, column_)) add(Tr("more than once"));
+    const NoteSet& notes = Cells().NotesIn(row_, column_);
+    if (notes.any()) add(NotesInWords(notes));
+    return text;
   }
 
   QRect rect() const override {
@@ -107,12 +107,10 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
   /// A total, and whether it is right if it was judged.
   QString Total(int row, int column) const {
     const Verdict verdict = Cells().VerdictOf(row, column);
-    const QString judgement = verdict == Verdict::Right   ? ", right"
-                              : verdict == Verdict::Wrong ? ", wrong"
-                                                          : "";
-    return QString("total of %1, %2%3")
-        .arg(LineName(row, column, Cells().Rows() - 1),
-             QString::fromStdString(Cells().Text(row, column)), judgement);
+    const QString total =
+        Tr("total of %1, %2", LineName(row, column, Cells().Rows() - 1), Cells().Text(row, column));
+    if (verdict == Verdict::Right) return Tr("%1, right", total);
+    return verdict == Verdict::Wrong ? Tr("%1, wrong", total) : total;
   }
 
   GridView& view_;
@@ -124,7 +122,7 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleTableCellI
 class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
   explicit GridAccessible(GridView* view)
-      : QAccessibleWidget(view, QAccessible::Table, "Board"), view_(*view) {}
+      : QAccessibleWidget(view, QAccessible::Table, Tr("Board")), view_(*view) {}
 
   ~GridAccessible() override {
     for (const QAccessible::Id id : cells_) {

@@ -5,6 +5,7 @@
 
 #include "app/window/board/grid_view.h"
 #include "toolkit/colours.h"
+#include "toolkit/tr.h"
 #include "visual/outline.h"
 
 namespace numorra {
@@ -55,8 +56,8 @@ void GridView::paintEvent(QPaintEvent* event) {
 void GridView::PaintInvitation(QPainter& painter) {
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                   "Auto builds a magic square.\nManual lays out a board for you to solve.\n"
-                   "F1 explains everything.");
+                   Tr("Auto builds a magic square.\nManual lays out a board for you to solve.\n"
+                      "F1 explains everything."));
 }
 
 /// Screen readers are told what is painted, so at most once per repaint.

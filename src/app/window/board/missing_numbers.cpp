@@ -7,8 +7,9 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "app/board/note_ranges.h"
+#include "app/window/board/range_words.h"
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -20,11 +21,10 @@ constexpr int kPadding = 6;       // pixels, inside the panel
 /// What the panel says above the numbers.
 QString Heading(const NumbersToPlace& numbers, bool noting) {
   const int missing = numbers.Missing();
-  QString text =
-      missing == 0 ? QString("No number is missing")
-                   : QString("Missing: %1 of %2 numbers").arg(missing).arg(numbers.Numbers.size());
-  if (noting) text += ". Digits write notes (Ctrl+N ends this)";
-  return text;
+  const QString text = missing == 0
+                           ? Tr("No number is missing")
+                           : Tr("Missing: %1 of %2 numbers", missing, numbers.Numbers.size());
+  return noting ? Tr("%1. Digits write notes (Ctrl+N ends this)", text) : text;
 }
 
 /// The missing numbers in words: "1 to 3, 7".
@@ -32,9 +32,7 @@ QString MissingInWords(const NumbersToPlace& numbers) {
   NoteSet missing;
   for (const int number : numbers.Numbers)
     missing.set(static_cast<std::size_t>(number));
-  return QString::fromStdString(RangesOf(missing & ~numbers.Placed))
-      .replace(' ', ", ")
-      .replace('-', " to ");
+  return RangesInWords(missing & ~numbers.Placed);
 }
 
 }  // namespace
@@ -148,7 +146,7 @@ void MissingNumbers::Show(const NumbersToPlace& numbers, bool noting) {
   strip_->Show(numbers);
   told_->setText(Heading(numbers, noting));
   setAccessibleName(told_->text());
-  strip_->setAccessibleName("Missing numbers");
+  strip_->setAccessibleName(Tr("Missing numbers"));
   strip_->setAccessibleDescription(MissingInWords(numbers));
   show();
 }

@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -41,7 +42,6 @@ NumberPad::NumberPad(QWidget* window) : QFrame(window) {
   const auto add = [&](const QString& name, const QString& text, int row, int column) {
     auto* key = Named(("Pad" + name).toUtf8(), new QToolButton);
     key->setText(text);
-    key->setAccessibleName(name);
     key->setFocusPolicy(Qt::NoFocus);
     key->setMinimumSize(side, side);
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -54,9 +54,10 @@ NumberPad::NumberPad(QWidget* window) : QFrame(window) {
     connect(add(text, text, place / 3, place % 3), &QToolButton::clicked, this,
             [this, digit] { Q_EMIT Typed(U'0' + static_cast<char32_t>(digit)); });
   }
-  connect(add("Backspace", QString(QChar(0x2190)), 3, 0), &QToolButton::clicked, this,
-          [this] { Q_EMIT Typed(kBackspace); });
-  const auto* done = add("Done", "Done", 3, 2);
+  auto* back = add("Backspace", QString(QChar(0x2190)), 3, 0);
+  back->setAccessibleName(Tr("Backspace"));
+  connect(back, &QToolButton::clicked, this, [this] { Q_EMIT Typed(kBackspace); });
+  const auto* done = add("Done", Tr("Done"), 3, 2);
   connect(done, &QToolButton::clicked, this, &NumberPad::Done);
   for (int column = 0; column < keys->columnCount(); ++column)
     keys->setColumnMinimumWidth(column, done->sizeHint().width());

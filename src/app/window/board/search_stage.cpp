@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 
+#include "toolkit/tr.h"
+
 namespace numorra {
 
 void SearchStage::ShowBusy(bool busy) {
@@ -17,8 +19,7 @@ void SearchStage::ShowBusy(bool busy) {
 void SearchStage::Yield() {
   if (runner_.YieldIsDue()) {
     constexpr int kMilliseconds = 1000;
-    place_.ShowSearch(
-        QString("%1, for %2 s").arg(doing_).arg(sinceStart_.elapsed() / kMilliseconds));
+    place_.ShowSearch(Tr("%1, for %2 s", doing_, sinceStart_.elapsed() / kMilliseconds));
   }
   runner_.Yield();
 }

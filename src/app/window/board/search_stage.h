@@ -14,7 +14,7 @@ class SearchStage : public WorkStage {
   SearchStage(BoardPlace& place, CommandRunner& runner) : place_(place), runner_(runner) {}
 
   /// What the bar calls the next search.
-  void Call(const char* doing) { doing_ = doing; }
+  void Call(const QString& doing) { doing_ = doing; }
 
   void ShowBusy(bool busy) override;
   void Yield() override;

@@ -5,11 +5,13 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "toolkit/tr.h"
+
 namespace numorra {
 
 WalkView::WalkView(Grid& grid, QWidget* parent) : GridView(grid, parent), grid_(grid), walk_(grid) {
   setObjectName("WalkBoard");
-  setAccessibleName("Board of the walk");
+  setAccessibleName(Tr("Board of the walk"));
   SetFitting(true);
   grid_.OnRepaint = nullptr;  // it would repaint the whole grid
 }

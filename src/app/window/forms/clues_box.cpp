@@ -4,17 +4,18 @@
 #include <QVBoxLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 CluesBox::CluesBox(QWidget* parent)
     : QWidget(parent),
-      fewest_(Named("FewestCluesx", new QCheckBox("&as few as possible"))),
+      fewest_(Named("FewestCluesx", new QCheckBox(Tr("&as few as possible")))),
       clues_(Named("CluesBox", new QSpinBox)),
-      symmetric_(Named("SymmetricGapsx", new QCheckBox("gaps &opposite each other"))) {
+      symmetric_(Named("SymmetricGapsx", new QCheckBox(Tr("gaps &opposite each other")))) {
   fewest_->setChecked(true);
   clues_->setEnabled(false);
-  clues_->setAccessibleName("Number of clues");
+  clues_->setAccessibleName(Tr("Number of clues"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   auto* row = new QHBoxLayout;

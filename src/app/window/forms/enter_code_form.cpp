@@ -8,6 +8,7 @@
 #include "puzzle/only_solution.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -18,18 +19,18 @@ QString DescriptionOf(const CodeList& list) {
   QStringList told;
   if (list.Puzzles.size() == 1) {
     const Puzzle& puzzle = list.Puzzles[0].Clues;
-    told << QString("One puzzle of size %1 with the total %2.")
-                .arg(puzzle.Order())
-                .arg(puzzle.Target);
+    told << Tr("One puzzle of size %1 with the total %2.", puzzle.Order(), puzzle.Target);
   } else if (!list.Puzzles.empty()) {
-    told << QString("%1 puzzles: OK lays out the first one.").arg(list.Puzzles.size());
+    told << TrCounted("%1 puzzle: OK lays out the first one.",
+                      "%1 puzzles: OK lays out the first one.", list.Puzzles.size());
   } else if (list.Wrong.empty()) {
-    told << "Type or paste codes, such as those below the puzzles of a worksheet.";
+    told << Tr("Type or paste codes, such as those below the puzzles of a worksheet.");
   }
   for (std::size_t i = 0; i < std::min(kMostTold, list.Wrong.size()); ++i)
     told << QString::fromStdString(list.Wrong[i].Why);
   if (list.Wrong.size() > kMostTold) {
-    told << QString("%1 more lines are wrong").arg(list.Wrong.size() - kMostTold);
+    told << TrCounted("%1 more lines are wrong", "%1 more lines are wrong",
+                      list.Wrong.size() - kMostTold);
   }
   return told.join('\n');
 }
@@ -37,13 +38,13 @@ QString DescriptionOf(const CodeList& list) {
 }  // namespace
 
 EnterCodeForm::EnterCodeForm(Random& random, Dialogs& dialogs, QWidget* parent)
-    : CommandForm("EnterCodeForm", "Enter Code", dialogs, parent),
+    : CommandForm("EnterCodeForm", Tr("Enter Code"), dialogs, parent),
       random_(random),
       codes_(Named("Codes", new QPlainTextEdit)),
       told_(Named("CodesTold", new QLabel)),
-      print_(Named("PrintCodesx", new QPushButton("Print &Worksheet..."))) {
+      print_(Named("PrintCodesx", new QPushButton(Tr("Print &Worksheet...")))) {
   constexpr int kLinesTold = 5;
-  auto* label = new QLabel("&Codes, one or more on a line");
+  auto* label = new QLabel(Tr("&Codes, one or more on a line"));
   label->setBuddy(codes_);
   codes_->setTabChangesFocus(true);
   told_->setWordWrap(true);
@@ -89,15 +90,13 @@ void EnterCodeForm::Print() {
     constexpr double kSeconds = 3;
     std::vector<MadePuzzle> solved;
     FormYielding stage(runner_, [&] {
-      told_->setText(
-          QString("Solving puzzle %1 of %2...").arg(solved.size() + 1).arg(list_.Puzzles.size()));
+      told_->setText(Tr("Solving puzzle %1 of %2...", solved.size() + 1, list_.Puzzles.size()));
     });
     for (const ListedPuzzle& listed : list_.Puzzles) {
       const auto found = WithOnlySolution(listed.Clues, {.Seconds = kSeconds}, random_, stage);
       if (const auto* cannot = std::get_if<CannotMake>(&found)) {
-        told_->setText(QString("line %1: %2; the answers of a worksheet need one solution")
-                           .arg(listed.Line)
-                           .arg(QString::fromStdString(cannot->Why)));
+        told_->setText(Tr("line %1: %2; the answers of a worksheet need one solution", listed.Line,
+                          cannot->Why));
         return;
       }
       solved.push_back(std::get<MadePuzzle>(found));

@@ -6,6 +6,7 @@
 
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -19,24 +20,25 @@ constexpr int kMostMillimetres = 1000;
 
 ExportForm::ExportForm(const PictureChoice& choice, const Offer& offer, Dialogs& dialogs,
                        QWidget* parent)
-    : CommandForm("ExportPicture", "Export Picture", dialogs, parent),
+    : CommandForm("ExportPicture", Tr("Export Picture"), dialogs, parent),
       choice_(choice),
       kind_(Named("PictureKind", new QComboBox)),
       size_(Named("PictureSize", new QSpinBox)),
       subject_(Named("PictureSubject", new QComboBox)),
-      totals_(Named("PictureTotalsx", new QCheckBox("with the &totals"))) {
+      totals_(Named("PictureTotalsx", new QCheckBox(Tr("with the &totals")))) {
   for (const PictureFormat& format : kPictureFormats)
     kind_->addItem(format.Caption);
   kind_->setCurrentIndex(static_cast<int>(choice.Kind));
   totals_->setChecked(choice.Totals);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-  auto* take = Named("TakePicturex", buttons->addButton("&Save...", QDialogButtonBox::AcceptRole));
+  auto* take =
+      Named("TakePicturex", buttons->addButton(Tr("&Save..."), QDialogButtonBox::AcceptRole));
   auto* rows = new QFormLayout(this);
-  rows->addRow("&Kind", kind_);
-  rows->addRow("Si&ze", size_);
+  rows->addRow(Tr("&Kind"), kind_);
+  rows->addRow(Tr("Si&ze"), size_);
   if (offer.Puzzle) {
     OfferSubjects(offer);
-    rows->addRow("Sho&w", subject_);
+    rows->addRow(Tr("Sho&w"), subject_);
   } else {
     subject_->setParent(this);
     subject_->hide();
@@ -62,8 +64,8 @@ ExportForm::ExportForm(const PictureChoice& choice, const Offer& offer, Dialogs&
 }
 
 void ExportForm::OfferSubjects(const Offer& offer) {
-  subject_->addItems({"the board as it stands", "the puzzle alone"});
-  if (offer.Solution) subject_->addItem("its solution");
+  subject_->addItems({Tr("the board as it stands"), Tr("the puzzle alone")});
+  if (offer.Solution) subject_->addItem(Tr("its solution"));
   const int chosen = static_cast<int>(choice_.Subject);
   if (chosen < subject_->count()) subject_->setCurrentIndex(chosen);
 }
@@ -74,7 +76,7 @@ void ExportForm::ShowSize() {
   const bool pixels = FormatOf(choice_.Kind).InPixels;
   size_->setRange(pixels ? kFewestPixels : kFewestMillimetres,
                   pixels ? kMostPixels : kMostMillimetres);
-  size_->setSuffix(pixels ? " pixels" : " mm");
+  size_->setSuffix(pixels ? Tr(" pixels") : Tr(" mm"));
   size_->setValue(choice_.Size());
 }
 

@@ -6,6 +6,7 @@
 
 #include "app/board/orders.h"
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -29,16 +30,16 @@ FreshSetBox::FreshSetBox(const PuzzleSetWish& wish, QWidget* parent)
   const SquareWish& square = wish.Square;
   size_->setRange(kMinOrder, kMaxOrder);
   size_->setValue(square.Order);
-  numbers_->addItems({"each number once", "any whole numbers", "the numbers 1 to 9"});
+  numbers_->addItems({Tr("each number once"), Tr("any whole numbers"), Tr("the numbers 1 to 9")});
   numbers_->setCurrentIndex(square.LimitToNine ? OneToNine : square.Total ? AnyNumbers : EachOnce);
   total_->setDecimals(0);
   auto* grades = new QGridLayout;
   for (std::size_t i = 0; i < kGrades.size(); ++i) {
     const Grade grade = kGrades[i];
-    auto* name = new QLabel(NameOf(grade));
+    auto* name = new QLabel(Tr(NameOf(grade)));
     counts_[i] = Named(QString("Sheet_%1").arg(NameOf(grade)).toUtf8(), new QSpinBox);
     counts_[i]->setRange(0, kMostOfGrade);
-    counts_[i]->setAccessibleName(QString("How many %1 puzzles").arg(NameOf(grade)));
+    counts_[i]->setAccessibleName(Tr("How many %1 puzzles", Tr(NameOf(grade))));
     for (const GradeShare& share : wish.Grades) {
       if (share.Wanted == grade) counts_[i]->setValue(share.Count);
     }
@@ -47,11 +48,11 @@ FreshSetBox::FreshSetBox(const PuzzleSetWish& wish, QWidget* parent)
     connect(counts_[i], &QSpinBox::valueChanged, this, &FreshSetBox::Changed);
   }
   rows_->setContentsMargins({});
-  rows_->addRow("Si&ze", size_);
-  rows_->addRow("&Numbers", numbers_);
-  rows_->addRow("Tota&l", total_);
-  rows_->addRow("How many", grades);
-  rows_->addRow("Clues", clues_);
+  rows_->addRow(Tr("Si&ze"), size_);
+  rows_->addRow(Tr("&Numbers"), numbers_);
+  rows_->addRow(Tr("Tota&l"), total_);
+  rows_->addRow(Tr("How many"), grades);
+  rows_->addRow(Tr("Clues"), clues_);
   FollowSize();
   total_->setValue(static_cast<double>(square.Total.value_or(NormalTotal(square.Order))));
   clues_->Show(wish.ClueCount, wish.Symmetric);
@@ -90,20 +91,20 @@ PuzzleSetWish FreshSetBox::Wish() const {
 
 QString InWords(const PuzzleSetWish& wish) {
   const SquareWish& square = wish.Square;
-  QStringList grades;
+  QString grades;
   int all = 0;
   for (const GradeShare& share : wish.Grades) {
-    grades += QString("%1 %2").arg(share.Count).arg(NameOf(share.Wanted));
+    // Translators: so many puzzles of a grade, as in "10 easy".
+    const QString few = Tr("%1 %2", share.Count, Tr(NameOf(share.Wanted)));
+    grades = grades.isEmpty() ? few : Tr("%1, %2", grades, few);
     all += share.Count;
   }
   const auto rules = square.Total ? Rules::Positive : Rules::Normal;
-  return QString("%1 of size %2, total %3, with %4: %5")
-      .arg(all == 1 ? "1 puzzle" : QString("%1 puzzles").arg(all))
-      .arg(square.Order)
-      .arg(square.Total.value_or(NormalTotal(square.Order)))
-      .arg(square.LimitToNine ? "numbers up to 9"
-                              : QString::fromStdString(InWords(rules, square.Order)))
-      .arg(grades.join(", "));
+  // Translators: "30 puzzles of size 4, total 34, with the numbers 1 to 16, each once: 20 easy, 10
+  // hard".
+  return Tr("%1 of size %2, total %3, with %4: %5", TrCounted("%1 puzzle", "%1 puzzles", all),
+            square.Order, square.Total.value_or(NormalTotal(square.Order)),
+            square.LimitToNine ? Say("numbers up to 9") : InWords(rules, square.Order), grades);
 }
 
 }  // namespace numorra

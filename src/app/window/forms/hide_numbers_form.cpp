@@ -10,33 +10,33 @@
 #include "puzzle/grade.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 QString DescriptionOf(const MadePuzzle& made) {
   const int clues = made.Clues.Cells.Size() - made.Clues.Gaps();
-  QString description = QString("%1 clues, %2: ").arg(clues).arg(NameOf(made.Needed));
-  for (int grade = 0; grade <= static_cast<int>(made.Needed); ++grade) {
-    if (grade > 0) description += "; ";
-    description += RulesOf(static_cast<Grade>(grade));
-  }
-  return description;
+  QString rules = Tr(RulesOf(Grade::Easy));
+  for (int grade = 1; grade <= static_cast<int>(made.Needed); ++grade)
+    rules = Tr("%1; %2", rules, Tr(RulesOf(static_cast<Grade>(grade))));
+  // Translators: the number of clues, the grade, and the rules that it needs.
+  return TrCounted("%1 clues, %2: %3", "%1 clues, %2: %3", clues, Tr(NameOf(made.Needed)), rules);
 }
 
 HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Random& random,
                                  Dialogs& dialogs, QWidget* parent)
-    : CommandForm("HideNumbers", "Hide Numbers", dialogs, parent),
+    : CommandForm("HideNumbers", Tr("Hide Numbers"), dialogs, parent),
       square_(board.Square),
       fresh_(fresh),
       random_(random),
       wish_(new PuzzleWishBox),
-      fromBoard_(Named("FromBoardx", new QRadioButton("&This square"))),
+      fromBoard_(Named("FromBoardx", new QRadioButton(Tr("&This square")))),
       told_(Named("PuzzleTold", new QLabel)),
-      copy_(Named("CopyCodex", new QPushButton("&Copy Code"))) {
+      copy_(Named("CopyCodex", new QPushButton(Tr("&Copy Code")))) {
   const QString whyNot = QString::fromStdString(board.WhyNot);
-  auto* fromFresh = Named(
-      "FromFreshx", new QRadioButton(QString("A &fresh square of size %1").arg(fresh_.Order)));
-  auto* another = Named("MakeAnotherx", new QPushButton("&Make Another"));
+  auto* fromFresh =
+      Named("FromFreshx", new QRadioButton(Tr("A &fresh square of size %1", fresh_.Order)));
+  auto* another = Named("MakeAnotherx", new QPushButton(Tr("&Make Another")));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   take_ = Named("TakePuzzlex", buttons->button(QDialogButtonBox::Ok));
   told_->setWordWrap(true);
@@ -46,7 +46,7 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
   fromBoard_->setEnabled(square_.has_value());
   fromBoard_->setToolTip(whyNot);
   (square_ ? fromBoard_ : fromFresh)->setChecked(true);
-  auto* why = new QLabel("(" + whyNot + ")");
+  auto* why = new QLabel(Tr("(%1)", whyNot));
   why->setVisible(!square_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(fromBoard_);
@@ -85,7 +85,7 @@ void HideNumbersForm::Make() {
     made_.reset();
     take_->setEnabled(false);
     copy_->setEnabled(false);
-    FormYielding stage(runner_, [this] { told_->setText("Making a puzzle..."); });
+    FormYielding stage(runner_, [this] { told_->setText(Tr("Making a puzzle...")); });
     random_.Reseed();
     auto made = fromBoard_->isChecked() ? MakePuzzle(*square_, wish_->Wish(), random_, stage)
                                         : MakeFreshPuzzle(fresh_, wish_->Wish(), random_, stage);

@@ -3,17 +3,18 @@
 #include <QFormLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 PuzzleWishBox::PuzzleWishBox(QWidget* parent)
     : QWidget(parent), grade_(Named("GradeBox", new QComboBox)), clues_(new CluesBox) {
   for (const Grade grade : kGrades)
-    grade_->addItem(NameOf(grade));
+    grade_->addItem(Tr(NameOf(grade)));
   auto* form = new QFormLayout(this);
   form->setContentsMargins({});
-  form->addRow("&Grade", grade_);
-  form->addRow("Clues", clues_);
+  form->addRow(Tr("&Grade"), grade_);
+  form->addRow(Tr("Clues"), clues_);
   connect(grade_, &QComboBox::currentIndexChanged, this, &PuzzleWishBox::Changed);
   connect(clues_, &CluesBox::Changed, this, &PuzzleWishBox::Changed);
 }

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -15,15 +16,15 @@ struct OptionBox {
 };
 
 constexpr std::array<OptionBox, 5> kOptionBoxes = {
-    {{&SheetOptions::LargePrint, "LargePrintx", "lar&ge print",
-      "No text below 18 pt, with fewer puzzles on a page if necessary"},
-     {&SheetOptions::PageNumbers, "PageNumbersx", "page n&umbers", "Below every page"},
-     {&SheetOptions::NameLines, "NameLinesx", "a na&me for every puzzle",
-      "A line for a name above every puzzle, not one for the page"},
-     {&SheetOptions::PageAPupil, "PageAPupilx", "a page for ever&y puzzle",
-      "Every puzzle alone on its page; the answers still share pages"},
-     {&SheetOptions::Booklet, "BookletMarginsx", "margins for bin&ding",
-      "9.6 mm more at the left of odd pages and at the right of even ones"}}};
+    {{&SheetOptions::LargePrint, "LargePrintx", Mark("lar&ge print"),
+      Mark("No text below 18 pt, with fewer puzzles on a page if necessary")},
+     {&SheetOptions::PageNumbers, "PageNumbersx", Mark("page n&umbers"), Mark("Below every page")},
+     {&SheetOptions::NameLines, "NameLinesx", Mark("a na&me for every puzzle"),
+      Mark("A line for a name above every puzzle, not one for the page")},
+     {&SheetOptions::PageAPupil, "PageAPupilx", Mark("a page for ever&y puzzle"),
+      Mark("Every puzzle alone on its page; the answers still share pages")},
+     {&SheetOptions::Booklet, "BookletMarginsx", Mark("margins for bin&ding"),
+      Mark("9.6 mm more at the left of odd pages and at the right of even ones")}}};
 
 }  // namespace
 
@@ -34,8 +35,8 @@ SheetOptionsBox::SheetOptionsBox(const SheetOptions& options, QWidget* parent) :
   layout->setContentsMargins({});
   for (std::size_t i = 0; i < kOptions; ++i) {
     const OptionBox& option = kOptionBoxes[i];
-    boxes_[i] = Named(option.Name, new QCheckBox(option.Caption));
-    boxes_[i]->setToolTip(option.ToolTip);
+    boxes_[i] = Named(option.Name, new QCheckBox(Tr(option.Caption)));
+    boxes_[i]->setToolTip(Tr(option.ToolTip));
     boxes_[i]->setChecked(options.*option.Option);
     const int place = static_cast<int>(i);
     layout->addWidget(boxes_[i], place / kColumns, place % kColumns);

@@ -9,21 +9,20 @@
 #include "publish/play_page.h"
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 #include "toolkit/whole_file.h"
 
 namespace numorra {
 namespace {
 
-QString Counted(int count, const char* what) {
-  return QString("%1 %2%3").arg(count).arg(what, count == 1 ? "" : "s");
-}
-
 /// "on 2 pages, with 2 pages of answers"
 QString PagesFor(int puzzles, const WorksheetWish& layout) {
-  if (layout.Options.LargePrint) return "in large print, with answers";
+  if (layout.Options.LargePrint) return Tr("in large print, with answers");
   const int shared = (puzzles + layout.PerPage - 1) / layout.PerPage;
-  return "on " + Counted(layout.Options.PageAPupil ? puzzles : shared, "page") + ", with " +
-         Counted(shared, "page") + " of answers";
+  const int pages = layout.Options.PageAPupil ? puzzles : shared;
+  // Translators: "on 2 pages, with 1 page of answers".
+  return Tr("%1, with %2", TrCounted("on %1 page", "on %1 pages", pages),
+            TrCounted("%1 page of answers", "%1 pages of answers", shared));
 }
 
 /// The largest square of a set, as far as it is known before it is made, to see whether it fits.
@@ -69,7 +68,7 @@ int PuzzlesIn(const PuzzleSetWish& set) {
 
 WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Ports& ports,
                              Random& random, Dialogs& dialogs, QWidget* parent)
-    : CommandForm("PrintWorksheet", "Print Worksheet", dialogs, parent),
+    : CommandForm("PrintWorksheet", Tr("Print Worksheet"), dialogs, parent),
       atHand_(std::move(atHand.Puzzles)),
       choice_(choice),
       ports_(ports),
@@ -79,34 +78,34 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Po
       perPage_(Named("PerPage", new QComboBox)),
       orientation_(Named("Orientation", new QComboBox)),
       title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
-      total_(Named("TotalGivenx", new QCheckBox("the &total is given"))),
+      total_(Named("TotalGivenx", new QCheckBox(Tr("the &total is given")))),
       options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
       told_(Named("SheetTold", new QLabel)),
-      print_(Named("PreviewSheetx", new QPushButton("&Preview and Print..."))),
-      page_(Named("SavePagex", new QPushButton("Save Web Pa&ge..."))),
-      stop_(Named("StopMakingx", new QPushButton("&Stop"))) {
+      print_(Named("PreviewSheetx", new QPushButton(Tr("&Preview and Print...")))),
+      page_(Named("SavePagex", new QPushButton(Tr("Save Web Pa&ge...")))),
+      stop_(Named("StopMakingx", new QPushButton(Tr("&Stop")))) {
   for (const int number : {1, 2, 4, 6})
     perPage_->addItem(QString::number(number), number);
   perPage_->setCurrentIndex(perPage_->findData(choice.Layout.PerPage));
-  orientation_->addItems({"portrait", "landscape"});
+  orientation_->addItems({Tr("portrait"), Tr("landscape")});
   orientation_->setCurrentIndex(choice.Landscape ? 1 : 0);
   total_->setChecked(choice.Layout.TotalGiven);
-  auto* fromFresh = Named("SheetFreshx", new QRadioButton("&Fresh puzzles"));
+  auto* fromFresh = Named("SheetFreshx", new QRadioButton(Tr("&Fresh puzzles")));
   printsAtHand_->setEnabled(!atHand_.empty());
   (atHand_.empty() ? fromFresh : printsAtHand_)->setChecked(true);
   told_->setWordWrap(true);
   told_->setAlignment(Qt::AlignTop);
   told_->setMinimumHeight(4 * told_->fontMetrics().lineSpacing());
-  auto* close = Named("CloseSheetx", new QPushButton("&Close"));
+  auto* close = Named("CloseSheetx", new QPushButton(Tr("&Close")));
 
   auto* column = new QVBoxLayout(this);
   column->addWidget(printsAtHand_);
   column->addWidget(fromFresh);
   column->addWidget(set_);
   auto* layout = new QFormLayout;
-  layout->addRow("Puzzles on a pag&e", perPage_);
-  layout->addRow("Pape&r", orientation_);
-  layout->addRow("T&itle", title_);
+  layout->addRow(Tr("Puzzles on a pag&e"), perPage_);
+  layout->addRow(Tr("Pape&r"), orientation_);
+  layout->addRow(Tr("T&itle"), title_);
   layout->addRow("", total_);
   column->addLayout(layout);
   column->addWidget(options_);
@@ -148,15 +147,14 @@ void WorksheetForm::TakeChoice() {
   for (QPushButton* button : {print_, page_})
     button->setEnabled(puzzles > 0 && !making);
   if (making) return;
-  QString what = Counted(puzzles, "puzzle");
   if (puzzles == 0) {
-    told_->setText("Choose how many puzzles of each grade.");
+    told_->setText(Tr("Choose how many puzzles of each grade."));
     return;
   }
-  if (makes) what = InWords(choice_.Set);
-  QString told = "Prints " + what + "; " + PagesFor(puzzles, choice_.Layout) + ".";
-  if (makes && TakesLong(choice_.Set)) told += " Puzzles as large take some seconds each.";
-  told_->setText(told);
+  const QString what = makes ? InWords(choice_.Set) : TrCounted("%1 puzzle", "%1 puzzles", puzzles);
+  const QString told = Tr("Prints %1; %2.", what, PagesFor(puzzles, choice_.Layout));
+  const bool takesLong = makes && TakesLong(choice_.Set);
+  told_->setText(takesLong ? Tr("%1 Puzzles as large take some seconds each.", told) : told);
 }
 
 void WorksheetForm::ShowMaking(bool making) {
@@ -180,9 +178,8 @@ std::vector<MadePuzzle> WorksheetForm::MakeSet() {
   });
   std::vector<MadePuzzle> puzzles;
   const int all = PuzzlesIn(choice_.Set);
-  FormYielding stage(runner_, [&] {
-    told_->setText(QString("Making puzzle %1 of %2...").arg(puzzles.size() + 1).arg(all));
-  });
+  FormYielding stage(
+      runner_, [&] { told_->setText(Tr("Making puzzle %1 of %2...", puzzles.size() + 1, all)); });
   random_.Reseed();
   PuzzleSet set(choice_.Set, random_, stage);
   stage.Yield();
@@ -223,7 +220,8 @@ void WorksheetForm::SavePage() {
     if (puzzles.empty()) return;
     FormYielding stage(runner_, [] {});
     const std::string page = PlayPage(title.toStdString(), puzzles, stage);
-    const QString name = ports_.Files.ToSave(this, "Save Web Page", "Web pages (*.html)");
+    const QString name =
+        ports_.Files.ToSave(this, Tr("Save Web Page"), KindOfFiles(Tr("Web pages"), "*.html"));
     if (!name.isEmpty()) WriteWholeFile(name, QByteArray::fromStdString(page));
   });
 }

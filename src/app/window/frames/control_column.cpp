@@ -48,7 +48,7 @@ void ControlColumn::UncheckLimit() {
 
 std::optional<double> ControlColumn::Corner() const {
   const std::string text = Corners->Combo1->currentText().toStdString();
-  return text == kAnyCorner ? std::nullopt : std::optional(Val(text));
+  return text == Say(kAnyCorner) ? std::nullopt : std::optional(Val(text));
 }
 
 }  // namespace numorra

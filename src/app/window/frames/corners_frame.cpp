@@ -5,6 +5,7 @@
 
 #include "generate/corner_choice.h"
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
@@ -23,16 +24,16 @@ void CornerBox::focusInEvent(QFocusEvent* event) {
 }
 
 CornersFrame::CornersFrame(QWidget* parent)
-    : QGroupBox("Corners", parent),
+    : QGroupBox(TrIn("frame", "Corners"), parent),
       Combo1(Named("Combo1", new CornerBox)),
-      DoCor1(Named("DoCor1", new QPushButton("&Diagonals"))),
-      DoCor2(Named("DoCor2", new QPushButton("Ed&ges"))) {
+      DoCor1(Named("DoCor1", new QPushButton(Tr("&Diagonals")))),
+      DoCor2(Named("DoCor2", new QPushButton(Tr("Ed&ges")))) {
   setObjectName("Frame6");
-  Combo1->addItem(kAnyCorner);
-  Combo1->setToolTip("The number wanted in the top left corner");
-  Combo1->setAccessibleName("top left corner");
-  DoCor1->setToolTip("Vary the corners and diagonals of this board");
-  DoCor2->setToolTip("Vary the corners and edges of this board");
+  Combo1->addItem(Tr(kAnyCorner));
+  Combo1->setToolTip(Tr("The number wanted in the top left corner"));
+  Combo1->setAccessibleName(Tr("top left corner"));
+  DoCor1->setToolTip(Tr("Vary the corners and diagonals of this board"));
+  DoCor2->setToolTip(Tr("Vary the corners and edges of this board"));
   auto* layout = new QGridLayout(this);
   layout->addWidget(Combo1, 0, 0, 1, 2);
   layout->addWidget(DoCor1, 1, 0);

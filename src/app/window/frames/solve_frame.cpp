@@ -3,25 +3,26 @@
 #include <QVBoxLayout>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 SolveFrame::SolveFrame(QWidget* parent)
-    : QGroupBox("Solve", parent),
-      Option3(Named("Option3", new QRadioButton("&Normal"))),
-      Option4(Named("Option4", new QRadioButton("Var&iable"))),
-      SolveAuto(Named("SolveAuto", new QPushButton("&Auto"))),
-      SolveAgain(Named("SolveAgain", new QPushButton("S&olve Again"))),
-      SolveManual(Named("SolveManual", new QPushButton("&Manual"))),
+    : QGroupBox(TrIn("frame", "Solve"), parent),
+      Option3(Named("Option3", new QRadioButton(Tr("&Normal")))),
+      Option4(Named("Option4", new QRadioButton(Tr("Var&iable")))),
+      SolveAuto(Named("SolveAuto", new QPushButton(Tr("&Auto")))),
+      SolveAgain(Named("SolveAgain", new QPushButton(Tr("S&olve Again")))),
+      SolveManual(Named("SolveManual", new QPushButton(Tr("&Manual")))),
       IterationCount(Named("IterationCount", new QLabel)),
       autoPlace_(new QStackedLayout) {
   setObjectName("Frame3");
   Option3->setChecked(true);
-  Option3->setToolTip("Squares of the numbers 1 to size x size");
-  Option4->setToolTip("Squares of any numbers, with the sum you choose");
-  SolveAuto->setToolTip("Build a magic square of this size");
-  SolveAgain->setToolTip("Build another square like the last one");
-  SolveManual->setToolTip("Show grid, user will create MagicSqaure");
+  Option3->setToolTip(Tr("Squares of the numbers 1 to size x size"));
+  Option4->setToolTip(Tr("Squares of any numbers, with the sum you choose"));
+  SolveAuto->setToolTip(Tr("Build a magic square of this size"));
+  SolveAgain->setToolTip(Tr("Build another square like the last one"));
+  SolveManual->setToolTip(Tr("Show grid, user will create MagicSqaure"));
   IterationCount->setAlignment(Qt::AlignCenter);
 
   SolveAuto->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -4,20 +4,21 @@
 #include <QKeyEvent>
 
 #include "toolkit/named.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 SquareFrame::SquareFrame(QWidget* parent)
-    : QGroupBox("Square", parent),
+    : QGroupBox(TrIn("frame", "Square"), parent),
       Text1(Named("Text1", new QLineEdit("11"))),
       Text4(Named("Text4", new QLineEdit("34"))),
-      Set4x4(Named("Set4x4", new QPushButton("&4x4Set"))),
-      SolveRandum(Named("SolveRandum", new QPushButton("&Random"))) {
+      Set4x4(Named("Set4x4", new QPushButton(Tr("&4x4Set")))),
+      SolveRandum(Named("SolveRandum", new QPushButton(Tr("&Random")))) {
   setObjectName("Frame4");
-  Text1->setToolTip("The number of cells on a side, 3 to 50");
-  Text4->setToolTip("The total of every row, column and diagonal");
-  SolveRandum->setToolTip("Propose a size and a sum");
-  Set4x4->setToolTip("Build a 4x4 square from its top row, such as a date");
+  Text1->setToolTip(Tr("The number of cells on a side, 3 to 50"));
+  Text4->setToolTip(Tr("The total of every row, column and diagonal"));
+  SolveRandum->setToolTip(Tr("Propose a size and a sum"));
+  Set4x4->setToolTip(Tr("Build a 4x4 square from its top row, such as a date"));
   for (QLineEdit* box : {Text1, Text4}) {
     box->setAlignment(Qt::AlignRight);
     box->installEventFilter(this);
@@ -26,8 +27,8 @@ SquareFrame::SquareFrame(QWidget* parent)
 
   auto* form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  form->addRow("&size", Text1);
-  form->addRow("s&um", Text4);
+  form->addRow(Tr("&size"), Text1);
+  form->addRow(Tr("s&um"), Text4);
   form->addRow(Set4x4);
   form->addRow(SolveRandum);
 }

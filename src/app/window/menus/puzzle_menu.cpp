@@ -85,7 +85,7 @@ void PuzzleMenu::ShowState() {
 
 void PuzzleMenu::ShowRemark(const char* name, const char* doing, std::function<Remark()> find) {
   desk_.RunOnCurrentCell(Say(name), [this, doing, find = std::move(find)] {
-    stage_.Call(Say(doing).c_str());
+    stage_.Call(Tr(doing));
     desk_.Place.ShowRemark(find());
   });
 }
@@ -108,7 +108,7 @@ void PuzzleMenu::AddFillAs(QMenu* menu) {
 void PuzzleMenu::FillGaps(const std::string& name, LineKind kind) {
   desk_.RunOnCurrentCell(name, [this, kind] {
     desk_.Place.ForgetRemark();
-    stage_.Call(Say("Filling the gaps").c_str());
+    stage_.Call(Tr("Filling the gaps"));
     desk_.TheSession.FillGaps(kind);
   });
 }

@@ -11,11 +11,12 @@
 
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
 
-constexpr const char* kSquareGroup = "The square";
+constexpr const char* kSquareGroup = Mark("The square");
 constexpr const char* kDetails[] = {"famous",        "sum",          "smallest",
                                     "largest",       "repeated",     "standard form",
                                     "census number", "Dudeney type", "pairs of 17"};
@@ -74,7 +75,7 @@ QTreeWidgetItem* GroupNamed(QList<QTreeWidgetItem*>& groups, const QString& name
 
 /// Writes only what has changed, so that nothing else is repainted.
 void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why) {
-  const QString spoken = entry->text(0) + ": " + why;
+  const QString spoken = Tr("%1: %2", entry->text(0), why);
   if (entry->text(1) == value && entry->data(0, Qt::AccessibleTextRole) == spoken) return;
   entry->setText(1, value);
   entry->setData(0, Qt::AccessibleTextRole, spoken);
@@ -84,7 +85,7 @@ void ShowEntry(QTreeWidgetItem* entry, const QString& value, const QString& why)
 }  // namespace
 
 PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
-    : LazyPanel("Properties", parent), runner_(runner) {
+    : LazyPanel(Tr("Properties"), parent), runner_(runner) {
   setObjectName("PropertiesPanel");
   setFeatures(DockWidgetClosable | DockWidgetMovable);
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
@@ -92,7 +93,7 @@ PropertiesPanel::PropertiesPanel(CommandRunner& runner, QWidget* parent)
 
 void PropertiesPanel::Furnish() {
   tree_ = Named("PropertyTree", new QTreeWidget);
-  tree_->setAccessibleName("Properties of the square");
+  tree_->setAccessibleName(Tr("Properties of the square"));
   tree_->setColumnCount(2);
   tree_->setHeaderHidden(true);
   tree_->setIndentation(tree_->indentation() / 2);
@@ -108,7 +109,7 @@ void PropertiesPanel::Furnish() {
   explained_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   explained_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   explained_->setMinimumHeight(explained_->fontMetrics().lineSpacing() * 6);
-  auto* copy = Named("CopyPropertiesx", new QPushButton("Copy Text"));
+  auto* copy = Named("CopyPropertiesx", new QPushButton(Tr("Copy Text")));
 
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);
@@ -123,10 +124,13 @@ void PropertiesPanel::Furnish() {
 /// Adds all entries at once, because a tree is laid out again at each addition.
 void PropertiesPanel::AddEntries() {
   QList<QTreeWidgetItem*> groups;
+  const auto add = [&groups](const char* group, const char* name) {
+    return new QTreeWidgetItem(GroupNamed(groups, Tr(group)), {Tr(name)});
+  };
   for (const char* name : kDetails)
-    details_.push_back(new QTreeWidgetItem(GroupNamed(groups, kSquareGroup), {name}));
+    details_.push_back(add(kSquareGroup, name));
   for (const Term& term : Terms())
-    terms_.push_back(new QTreeWidgetItem(GroupNamed(groups, term.Group), {term.Name}));
+    terms_.push_back(add(term.Group, term.Name));
   tree_->addTopLevelItems(groups);
   groups_.assign(groups.begin(), groups.end());
   for (const auto& entries : {groups_, details_, terms_}) {
@@ -142,31 +146,33 @@ void PropertiesPanel::AddEntries() {
 /// Beside each group of terms, those that hold.
 void PropertiesPanel::ShowGroups() {
   for (std::size_t group = 1; group < groups_.size(); ++group) {
-    QStringList held;
+    QString held;
     for (std::size_t i = 0; i < terms_.size(); ++i) {
       const bool within = terms_[i]->parent() == groups_[group];
-      if (within && report_ && report_->Properties[i].Found) held << terms_[i]->text(0);
+      if (!within || !report_ || !report_->Properties[i].Found) continue;
+      const QString& term = terms_[i]->text(0);
+      held = held.isEmpty() ? term : Tr("%1, %2", held, term);
     }
-    const QString value = !report_ ? "" : held.isEmpty() ? "none" : held.join(", ");
+    const QString value = !report_ ? "" : held.isEmpty() ? Tr("none") : held;
     ShowEntry(groups_[group], value, value);
   }
 }
 
 void PropertiesPanel::Show(const Report& report) {
   report_ = report;
-  for (QTreeWidgetItem* entry : details_) {
-    const auto detail = std::find_if(
-        report.Details.begin(), report.Details.end(),
-        [&](const Detail& known) { return entry->text(0) == QLatin1String(known.first.c_str()); });
+  for (std::size_t i = 0; i < details_.size(); ++i) {
+    const auto detail =
+        std::find_if(report.Details.begin(), report.Details.end(),
+                     [i](const Detail& known) { return known.first == kDetails[i]; });
     const bool known = detail != report.Details.end();
-    entry->setHidden(!known);
-    if (known) ShowEntry(entry, detail->second.c_str(), detail->second.c_str());
+    details_[i]->setHidden(!known);
+    if (known) ShowEntry(details_[i], detail->second.c_str(), detail->second.c_str());
   }
   for (std::size_t i = 0; i < terms_.size(); ++i) {
     const Judgement& found = report.Properties[i].Found;
-    const QString word = WordFor(found.Says);
+    const QString word = Tr(WordFor(found.Says));
     ShowEntry(terms_[i], QChar(MarkFor(found.Says)) + QString(" ") + word,
-              word + ", " + QString::fromStdString(found.Why));
+              Tr("%1, %2", word, found.Why));
   }
   ShowGroups();
   tree_->setEnabled(true);
@@ -188,17 +194,17 @@ void PropertiesPanel::ShowNone(const QString& why) {
 /// Explains the chosen entry, and emits its cells.
 void PropertiesPanel::ShowChosen() {
   std::vector<Place> cells;
-  QString text = "Choose an entry to see why.";
+  QString text = Tr("Choose an entry to see why.");
   const QTreeWidgetItem* chosen = tree_->currentItem();
   const auto term = std::find(terms_.begin(), terms_.end(), chosen);
   if (report_ && term != terms_.end()) {
     const Property& property = report_->Properties[static_cast<std::size_t>(term - terms_.begin())];
     cells = property.Found.Cells;
-    text = QString("%1: %2.\n\nIt %3: %4.")
-               .arg(property.What->Name, property.What->Definition, WordFor(property.Found.Says),
-                    QString::fromStdString(property.Found.Why));
+    // Translators: a term, its definition, "holds", "fails" or "does not apply", and the reason.
+    text = Tr("%1: %2.\n\nIt %3: %4.", Tr(property.What->Name), Tr(property.What->Definition),
+              Tr(WordFor(property.Found.Says)), property.Found.Why);
   } else if (report_ && chosen && chosen->parent() && !chosen->isHidden()) {
-    text = chosen->text(0) + ": " + chosen->text(1);
+    text = Tr("%1: %2", chosen->text(0), chosen->text(1));
     text.replace(" / ", "\n");
   }
   if (report_) explained_->setText(text);

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 
 #include "app/play/board_state.h"
+#include "toolkit/tr.h"
 #include "toolkit/twips.h"
 
 namespace numorra {
@@ -34,10 +35,8 @@ void StateLine::Show(const Board& board) {
   QString cell;
   if (board.Shown()) {
     const Grid& grid = board.grid;
-    cell = QString("\nrow %1, column %2: %3")
-               .arg(grid.CurrentRow())
-               .arg(grid.CurrentColumn())
-               .arg(QString::fromStdString(grid.Text(grid.CurrentRow(), grid.CurrentColumn())));
+    const Place place{grid.CurrentRow(), grid.CurrentColumn()};
+    cell = "\n" + Tr("%1: %2", NameOf(place), grid.Text(place.Row, place.Column));
   }
   ShowText(StateOf(board), cell);
 }

@@ -6,6 +6,7 @@
 
 #include "toolkit/named.h"
 #include "toolkit/on_signal.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 namespace {
@@ -17,13 +18,13 @@ constexpr int kSlowest = 2000;  // milliseconds per step
 QString Sentence(const std::string& text) {
   QString sentence = QString::fromStdString(text);
   if (!sentence.isEmpty()) sentence[0] = sentence[0].toUpper();
-  return sentence + ".";
+  return Tr("%1.", sentence);
 }
 
 }  // namespace
 
 StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
-    : LazyPanel("Step by Step", parent), view_(view), runner_(runner) {
+    : LazyPanel(Tr("Step by Step"), parent), view_(view), runner_(runner) {
   setObjectName("StepPanel");
   setFeatures(DockWidgetClosable);
   setAllowedAreas(Qt::BottomDockWidgetArea);
@@ -31,22 +32,22 @@ StepPanel::StepPanel(WalkView* view, CommandRunner& runner, QWidget* parent)
 
 void StepPanel::Furnish() {
   choice_ = Named("WalkChoice", new QComboBox);
-  back_ = Named("StepBackx", new QPushButton("Back"));
-  next_ = Named("StepNextx", new QPushButton("Next"));
-  play_ = Named("PlayStepsx", new QPushButton("Play"));
+  back_ = Named("StepBackx", new QPushButton(Tr("Back")));
+  next_ = Named("StepNextx", new QPushButton(Tr("Next")));
+  play_ = Named("PlayStepsx", new QPushButton(Tr("Play")));
   speed_ = Named("StepSpeed", new QSlider(Qt::Horizontal));
   steps_ = Named("StepSlider", new QSlider(Qt::Horizontal));
   where_ = new QLabel;
-  ask_ = Named("AskMex", new QCheckBox("Ask me"));
+  ask_ = Named("AskMex", new QCheckBox(Tr("Ask me")));
   sentence_ = Named("StepSentence", new QLabel);
-  choice_->setAccessibleName("Square to walk through");
+  choice_->setAccessibleName(Tr("Square to walk through"));
   choice_->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // full screen enlarges the letters
-  speed_->setAccessibleName("Speed");
-  speed_->setToolTip("speed");
+  speed_->setAccessibleName(Tr("Speed"));
+  speed_->setToolTip(Tr("speed"));
   speed_->setRange(1, kSpeeds);
   speed_->setValue(kSpeeds / 2);
   speed_->setMaximumWidth(choice_->sizeHint().width());
-  steps_->setAccessibleName("Step");
+  steps_->setAccessibleName(Tr("Step"));
   play_->setCheckable(true);
   sentence_->setWordWrap(true);
   sentence_->setTextFormat(Qt::PlainText);
@@ -112,7 +113,7 @@ void StepPanel::Begin(const Square<double>& square) {
   square_ = square;
   choice_->clear();
   if (!WalkOf(square).empty()) {
-    choice_->addItem("the square on the board", kOnBoard);
+    choice_->addItem(Tr("the square on the board"), kOnBoard);
   }
   examples_ = WalkExamples();
   for (std::size_t i = 0; i < examples_.size(); ++i)
@@ -153,14 +154,14 @@ bool StepPanel::Asking() const {
 void StepPanel::ShowStep() {
   const Walk& walk = view_->TheWalk();
   QString text = walk.Done() ? Sentence(walk.Done()->Sentence)
-                             : "An empty board. Press Next for the first step.";
+                             : Tr("An empty board. Press Next for the first step.");
   if (Asking()) {
-    text += QString("\nClick where %1 goes, or move there with the arrow keys and press Enter.")
-                .arg(walk.Next()->Number);
+    text += "\n" + Tr("Click where %1 goes, or move there with the arrow keys and press Enter.",
+                      walk.Next()->Number);
   }
   sentence_->setText(text);
-  QString where = QString("step %1 of %2").arg(walk.At()).arg(walk.Steps());
-  if (ask_->isChecked()) where += QString(", %1 of %2 right").arg(right_).arg(asked_);
+  QString where = Tr("step %1 of %2", walk.At(), walk.Steps());
+  if (ask_->isChecked()) where = Tr("%1, %2 of %3 right", where, right_, asked_);
   where_->setText(where);
   back_->setEnabled(walk.At() > 0);
   next_->setEnabled(walk.At() < walk.Steps() && !Asking());
@@ -192,8 +193,7 @@ void StepPanel::Answer(Place place) {
     return;
   }
   ShowStep();
-  sentence_->setText("No, not " + QString::fromStdString(NameOf(place)) + ": " +
-                     QString::fromStdString(next.Sentence) + ".");
+  sentence_->setText(Tr("No, not %1: %2.", NameOf(place), next.Sentence));
 }
 
 }  // namespace numorra
