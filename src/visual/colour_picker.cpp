@@ -50,7 +50,7 @@ ColourPicker::ColourPicker(QWidget* parent)
       PicRGB{Named("PicRGB0", new Swatch), Named("PicRGB1", new Swatch),
              Named("PicRGB2", new Swatch)},
       picColorToUse(Named("picColorToUse", new Swatch)),
-      Command3(Named("Command3", new QPushButton(Tr("Sho&w")))) {
+      Command3(Named("Command3", new QPushButton(TrIn("colors", "Sho&w")))) {
   setObjectName("Frame7");
   Command3->setToolTip(Tr("Shade the cells in this color, larger numbers lighter"));
   picColorToUse->setAccessibleName(Tr("the mixed color"));

@@ -14,6 +14,9 @@ struct Texts {
   std::set<std::string> Clipped;  ///< those that their place is too small for
 };
 
+/// The text with every number as `#`, and everything between words as one blank.
+std::string OnOneLine(const std::string& told);
+
 /// What the companion writes: the usage, refusals, remarks, reports and reasons.
 void AddTextsOfCompanion(Texts& texts);
 

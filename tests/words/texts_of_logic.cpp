@@ -9,6 +9,7 @@
 #include "study/report.h"
 #include "study/special.h"
 #include "support/stand_ins.h"
+#include "words/say.h"
 #include "words/texts.h"
 
 namespace numorra {
@@ -166,18 +167,6 @@ constexpr const char* kRuns[] = {
     "count --size 4 --merge x",
     "count --size 4 --kind associative --format json"};
 
-/// Every number as `#`, and everything between words as one blank.
-std::string OnOneLine(const std::string& told) {
-  std::string text;
-  for (const char c : told) {
-    const bool blank = c == ' ' || c == '\n' || c == '\t';
-    const char shown = blank ? ' ' : c >= '0' && c <= '9' ? '#' : c;
-    const bool joins = blank || shown == '#';
-    if (!joins || !text.ends_with(shown)) text += shown;
-  }
-  return text;
-}
-
 /// The values of JSON that are sentences, or the line itself if it is no object.
 void AddLineOfCompanion(Texts& texts, const std::string& line) {
   if (!line.starts_with('{')) return texts.Add(line);
@@ -246,6 +235,17 @@ void AddStudies(Texts& texts) {
 
 }  // namespace
 
+std::string OnOneLine(const std::string& told) {
+  std::string text;
+  for (const char c : told) {
+    const bool blank = c == ' ' || c == '\n' || c == '\t';
+    const char shown = blank ? ' ' : c >= '0' && c <= '9' ? '#' : c;
+    const bool joins = blank || shown == '#';
+    if (!joins || !text.ends_with(shown)) text += shown;
+  }
+  return text;
+}
+
 void Texts::Add(const std::string& text) {
   const bool hasLetter = std::any_of(
       text.begin(), text.end(), [](unsigned char c) { return std::isalpha(c) != 0 || c >= 0x80; });
@@ -255,7 +255,7 @@ void Texts::Add(const std::string& text) {
 void AddTextsOfLogic(Texts& texts) {
   AddStudies(texts);
   for (const Construction* construction : kConstructions) {
-    texts.Add(construction->Source);
+    texts.Add(Say(construction->Source));
     for (int order = kMinOrder; order <= kMostWalked; ++order) {
       const std::string why = construction->WhyNone(order);
       texts.Add(why);

@@ -218,8 +218,9 @@ class WindowReader {
     const int high = wraps ? widget.heightForWidth(widget.width()) : widget.sizeHint().height();
     const bool fits =
         (wraps || widget.sizeHint().width() <= widget.width()) && high <= widget.height();
-    const QString text = widget.property("text").toString();
-    if (!fits && !text.isEmpty()) texts_.Clipped.insert(state_ + ": " + text.toStdString());
+    const std::string text = widget.property("text").toString().toStdString();
+    const std::string window = widget.window()->objectName().toStdString();
+    if (!fits && !text.empty()) texts_.Clipped.insert(window + ": " + OnOneLine(text));
   }
 
   void ReadObject(const QObject& object) {

@@ -41,16 +41,11 @@ EnterCodeForm::EnterCodeForm(Random& random, Dialogs& dialogs, QWidget* parent)
     : CommandForm("EnterCodeForm", Tr("Enter Code"), dialogs, parent),
       random_(random),
       codes_(Named("Codes", new QPlainTextEdit)),
-      told_(Named("CodesTold", new QLabel)),
+      told_(Named("CodesTold", new ToldLabel(5))),
       print_(Named("PrintCodesx", new QPushButton(Tr("Print &Worksheet...")))) {
-  constexpr int kLinesTold = 5;
   auto* label = new QLabel(Tr("&Codes, one or more on a line"));
   label->setBuddy(codes_);
   codes_->setTabChangesFocus(true);
-  told_->setWordWrap(true);
-  told_->setTextFormat(Qt::PlainText);
-  told_->setMinimumHeight(kLinesTold * told_->fontMetrics().lineSpacing());
-  told_->setAlignment(Qt::AlignTop);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   take_ = Named("TakeCodesx", buttons->button(QDialogButtonBox::Ok));
   auto* column = new QVBoxLayout(this);
@@ -78,7 +73,7 @@ EnterCodeForm::EnterCodeForm(Random& random, Dialogs& dialogs, QWidget* parent)
 void EnterCodeForm::Read() {
   runner_.Run("Read", [this] {
     list_ = PuzzlesOfCodes(codes_->toPlainText().toStdString());
-    told_->setText(DescriptionOf(list_));
+    told_->Tell(DescriptionOf(list_));
     print_->setEnabled(!list_.Puzzles.empty());
     take_->setEnabled(!list_.Puzzles.empty());
   });
@@ -90,13 +85,13 @@ void EnterCodeForm::Print() {
     constexpr double kSeconds = 3;
     std::vector<MadePuzzle> solved;
     FormYielding stage(runner_, [&] {
-      told_->setText(Tr("Solving puzzle %1 of %2...", solved.size() + 1, list_.Puzzles.size()));
+      told_->Tell(Tr("Solving puzzle %1 of %2...", solved.size() + 1, list_.Puzzles.size()));
     });
     for (const ListedPuzzle& listed : list_.Puzzles) {
       const auto found = WithOnlySolution(listed.Clues, {.Seconds = kSeconds}, random_, stage);
       if (const auto* cannot = std::get_if<CannotMake>(&found)) {
-        told_->setText(Tr("line %1: %2; the answers of a worksheet need one solution", listed.Line,
-                          cannot->Why));
+        told_->Tell(Tr("line %1: %2; the answers of a worksheet need one solution", listed.Line,
+                       cannot->Why));
         return;
       }
       solved.push_back(std::get<MadePuzzle>(found));

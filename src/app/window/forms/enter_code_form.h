@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "puzzle/code_list.h"
 #include "puzzle/making.h"
 #include "toolkit/command_form.h"
+#include "toolkit/told_label.h"
 
 namespace numorra {
 
@@ -31,7 +31,7 @@ class EnterCodeForm : public CommandForm {
 
   Random& random_;
   QPlainTextEdit* codes_;
-  QLabel* told_;
+  ToldLabel* told_;
   QPushButton* print_;
   QPushButton* take_;
   CodeList list_;

@@ -31,7 +31,7 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
       random_(random),
       wish_(new PuzzleWishBox),
       fromBoard_(Named("FromBoardx", new QRadioButton(Tr("&This square")))),
-      told_(Named("PuzzleTold", new QLabel)),
+      told_(Named("PuzzleTold", new ToldLabel(5))),
       copy_(Named("CopyCodex", new QPushButton(Tr("&Copy Code")))) {
   const QString whyNot = QString::fromStdString(board.WhyNot);
   auto* fromFresh =
@@ -39,10 +39,6 @@ HideNumbersForm::HideNumbersForm(const PuzzleSource& board, SquareWish fresh, Ra
   auto* another = Named("MakeAnotherx", new QPushButton(Tr("&Make Another")));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   take_ = Named("TakePuzzlex", buttons->button(QDialogButtonBox::Ok));
-  told_->setWordWrap(true);
-  told_->setTextFormat(Qt::PlainText);
-  told_->setMinimumHeight(5 * told_->fontMetrics().lineSpacing());
-  told_->setAlignment(Qt::AlignTop);
   fromBoard_->setEnabled(square_.has_value());
   fromBoard_->setToolTip(whyNot);
   (square_ ? fromBoard_ : fromFresh)->setChecked(true);
@@ -85,17 +81,17 @@ void HideNumbersForm::Make() {
     made_.reset();
     take_->setEnabled(false);
     copy_->setEnabled(false);
-    FormYielding stage(runner_, [this] { told_->setText(Tr("Making a puzzle...")); });
+    FormYielding stage(runner_, [this] { told_->Tell(Tr("Making a puzzle...")); });
     random_.Reseed();
     auto made = fromBoard_->isChecked() ? MakePuzzle(*square_, wish_->Wish(), random_, stage)
                                         : MakeFreshPuzzle(fresh_, wish_->Wish(), random_, stage);
     if (const auto* cannot = std::get_if<CannotMake>(&made)) {
-      told_->setText(QString::fromStdString(cannot->Why));
+      told_->Tell(QString::fromStdString(cannot->Why));
       return;
     }
     made_ = std::get<MadePuzzle>(std::move(made));
     const std::string code = CodeOf(made_->Clues);
-    told_->setText(DescriptionOf(*made_) + "\n" + QString::fromStdString(code));
+    told_->Tell(DescriptionOf(*made_) + "\n" + QString::fromStdString(code));
     take_->setEnabled(true);
     copy_->setEnabled(!code.empty());
   });

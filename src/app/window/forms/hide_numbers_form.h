@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLabel>
 #include <QRadioButton>
 
 #include "app/window/forms/puzzle_wish_box.h"
 #include "puzzle/fresh_puzzle.h"
 #include "toolkit/command_form.h"
+#include "toolkit/told_label.h"
 
 namespace numorra {
 
@@ -30,7 +30,7 @@ class HideNumbersForm : public CommandForm {
   Random& random_;
   PuzzleWishBox* wish_;
   QRadioButton* fromBoard_;
-  QLabel* told_;
+  ToldLabel* told_;
   QPushButton* copy_;
   QPushButton* take_;
   std::optional<MadePuzzle> made_;

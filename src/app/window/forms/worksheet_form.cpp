@@ -80,7 +80,7 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Po
       title_(Named("SheetTitle", new QLineEdit(choice.Layout.Title))),
       total_(Named("TotalGivenx", new QCheckBox(Tr("the &total is given")))),
       options_(Named("SheetOptions", new SheetOptionsBox(choice.Layout.Options))),
-      told_(Named("SheetTold", new QLabel)),
+      told_(Named("SheetTold", new ToldLabel(4))),
       print_(Named("PreviewSheetx", new QPushButton(Tr("&Preview and Print...")))),
       page_(Named("SavePagex", new QPushButton(Tr("Save Web Pa&ge...")))),
       stop_(Named("StopMakingx", new QPushButton(Tr("&Stop")))) {
@@ -93,9 +93,6 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Po
   auto* fromFresh = Named("SheetFreshx", new QRadioButton(Tr("&Fresh puzzles")));
   printsAtHand_->setEnabled(!atHand_.empty());
   (atHand_.empty() ? fromFresh : printsAtHand_)->setChecked(true);
-  told_->setWordWrap(true);
-  told_->setAlignment(Qt::AlignTop);
-  told_->setMinimumHeight(4 * told_->fontMetrics().lineSpacing());
   auto* close = Named("CloseSheetx", new QPushButton(Tr("&Close")));
 
   auto* column = new QVBoxLayout(this);
@@ -148,13 +145,13 @@ void WorksheetForm::TakeChoice() {
     button->setEnabled(puzzles > 0 && !making);
   if (making) return;
   if (puzzles == 0) {
-    told_->setText(Tr("Choose how many puzzles of each grade."));
+    told_->Tell(Tr("Choose how many puzzles of each grade."));
     return;
   }
   const QString what = makes ? InWords(choice_.Set) : TrCounted("%1 puzzle", "%1 puzzles", puzzles);
   const QString told = Tr("Prints %1; %2.", what, PagesFor(puzzles, choice_.Layout));
   const bool takesLong = makes && TakesLong(choice_.Set);
-  told_->setText(takesLong ? Tr("%1 Puzzles as large take some seconds each.", told) : told);
+  told_->Tell(takesLong ? Tr("%1 Puzzles as large take some seconds each.", told) : told);
 }
 
 void WorksheetForm::ShowMaking(bool making) {
@@ -174,12 +171,12 @@ std::vector<MadePuzzle> WorksheetForm::MakeSet() {
   QString shortfall;
   const auto done = qScopeGuard([&] {
     ShowMaking(false);
-    if (!shortfall.isEmpty()) told_->setText(shortfall);
+    if (!shortfall.isEmpty()) told_->Tell(shortfall);
   });
   std::vector<MadePuzzle> puzzles;
   const int all = PuzzlesIn(choice_.Set);
   FormYielding stage(
-      runner_, [&] { told_->setText(Tr("Making puzzle %1 of %2...", puzzles.size() + 1, all)); });
+      runner_, [&] { told_->Tell(Tr("Making puzzle %1 of %2...", puzzles.size() + 1, all)); });
   random_.Reseed();
   PuzzleSet set(choice_.Set, random_, stage);
   stage.Yield();
@@ -196,7 +193,7 @@ void WorksheetForm::Print() {
     const SheetChoice choice = choice_;
     const auto fits = [&](const Worksheet& sheet) {
       const std::string why = sheet.WhyTooLarge();
-      if (!why.empty()) told_->setText(QString::fromStdString(why));
+      if (!why.empty()) told_->Tell(QString::fromStdString(why));
       return why.empty();
     };
     const bool makes = !printsAtHand_->isChecked();

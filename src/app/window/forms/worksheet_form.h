@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,6 +10,7 @@
 #include "print/worksheet.h"
 #include "toolkit/command_form.h"
 #include "toolkit/file_chooser.h"
+#include "toolkit/told_label.h"
 
 namespace numorra {
 
@@ -63,7 +63,7 @@ class WorksheetForm : public CommandForm {
   QLineEdit* title_;
   QCheckBox* total_;
   SheetOptionsBox* options_;
-  QLabel* told_;
+  ToldLabel* told_;
   QPushButton* print_;
   QPushButton* page_;
   QPushButton* stop_;
