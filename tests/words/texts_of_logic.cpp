@@ -249,7 +249,8 @@ std::string OnOneLine(const std::string& told) {
 void Texts::Add(const std::string& text) {
   const bool hasLetter = std::any_of(
       text.begin(), text.end(), [](unsigned char c) { return std::isalpha(c) != 0 || c >= 0x80; });
-  if (hasLetter) All.insert(OnOneLine(text));
+  const bool cut = text.ends_with("…");  // to its place; its tool-tip has it whole
+  if (hasLetter && !cut) All.insert(OnOneLine(text));
 }
 
 void AddTextsOfLogic(Texts& texts) {

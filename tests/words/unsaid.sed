@@ -1,7 +1,6 @@
 # Takes away what is the same in every language, and what the toolkit says itself.
 s/\bNP[0-9A-Z#]{6,}//g
 s/\(\*[^)]*\)//g
-s/…$//; s/^⟦.*//; s/^, ⟦.*//
 s/--[a-z#-]+( (FILE\.pdf|TEXT|K|a#\|letter))?//g
 s/numorra-square( (study|complete|puzzle|list|count))?( [A-Z,|.-]+| \[[A-Za-z|-]+\])*//g
 s/^[A-H]{4}( \/ [A-H]{4}){3}$//
