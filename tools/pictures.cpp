@@ -10,6 +10,8 @@
 #include "app/window/main_window.h"
 #include "print/worksheet.h"
 #include "puzzle/fresh_square.h"
+#include "toolkit/reader_language.h"
+#include "toolkit/tr.h"
 
 /// Takes the pictures of the documents: operates the real window, offscreen, with a clock of its
 /// own, and saves what it shows.
@@ -81,7 +83,7 @@ void ShowPanel(MainWindow& window) {
   window.findChild<QAction*>("Melencoliax")->trigger();
   auto* tree = window.findChild<QTreeWidget*>("PropertyTree");
   tree->setCurrentItem(
-      tree->findItems("ultramagic", Qt::MatchExactly | Qt::MatchRecursive).front());
+      tree->findItems(numorra::Tr("ultramagic"), Qt::MatchExactly | Qt::MatchRecursive).front());
 }
 
 /// Why a number follows in a hard puzzle.
@@ -97,7 +99,7 @@ void ShowSteps(MainWindow& window, Album& documents, Album& help) {
   window.findChild<QAction*>("StepByStepx")->trigger();
   auto* choice = window.findChild<QComboBox*>("WalkChoice");
   for (const auto& [size, step] : {std::pair(5, 8), std::pair(8, 12), std::pair(6, 6)}) {
-    choice->setCurrentIndex(choice->findText(QString("an example of size %1").arg(size)));
+    choice->setCurrentIndex(choice->findText(numorra::Tr("an example of size %1", size)));
     Q_EMIT choice->activated(choice->currentIndex());
     window.findChild<QSlider*>("StepSlider")->setValue(step);
     documents.Save(window, QString("step-%1").arg(size));
@@ -136,7 +138,9 @@ void SaveWorksheet(Album& documents, numorra::Clock& clock) {
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  numorra::SpeakLanguageOfDesktop();
   const QApplication application(argc, argv);
+  numorra::FollowLanguage();
   if (argc != 3) {
     std::fputs("usage: numorra-pictures DOCUMENTS HELP\n", stderr);
     return 2;
@@ -157,12 +161,12 @@ int main(int argc, char** argv) {
   ShowNormalSquare(window, 10);
   Click(window, "Command1");
   documents.Save(window, "circles-10");
-  help.Save(drawing, "circles", 300);
+  if (numorra::SpeaksEnglish()) help.Save(drawing, "circles", 300);  // no words in it
   for (const int size : {5, 8, 10}) {
     ShowNormalSquare(window, size);
     Click(window, "Command2");
     documents.Save(window, QString("vectors-%1").arg(size));
-    help.Save(drawing, QString("vectors-%1").arg(size), 300);
+    if (numorra::SpeaksEnglish()) help.Save(drawing, QString("vectors-%1").arg(size), 300);
   }
   Click(window, "Option4");
   ShowVariableSquare(window, 10, 505);

@@ -100,6 +100,10 @@ void PropertiesPanel::Furnish() {
   tree_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   tree_->setItemDelegate(new WrappingDelegate(tree_));
   AddEntries();
+  constexpr int kValueWidth = 20;  // in characters, beside the longest name
+  tree_->resizeColumnToContents(0);
+  tree_->setMinimumWidth(tree_->columnWidth(0) +
+                         kValueWidth * tree_->fontMetrics().averageCharWidth());
   tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   connect(tree_->header(), &QHeaderView::sectionResized, tree_, &QTreeView::doItemsLayout,
           Qt::QueuedConnection);
