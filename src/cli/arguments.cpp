@@ -201,14 +201,14 @@ class Reader {
       shares.erase(0, comma + 1);
       const std::size_t colon = share.find(':');
       const auto grade = GradeNamed(share.substr(0, colon));
-      const auto count =
-          colon == std::string::npos ? std::nullopt : WholeTextAs<int>(share.substr(colon + 1));
-      if (!grade || !count || *count < 1 || *count > kMostCount) {
+      const std::string number = colon == std::string::npos ? "" : share.substr(colon + 1);
+      const int count = WholeTextAs<int>(number).value_or(0);
+      if (!grade || count < 1 || count > kMostCount) {
         Fail(Say("the grades must be grades with counts, such as %1, not '%2'", "easy:10,medium:5",
                  share));
         return;
       }
-      request_.Grades.push_back({*grade, *count});
+      request_.Grades.push_back({*grade, count});
     }
   }
 

@@ -10,14 +10,14 @@ constexpr std::size_t kMostListed = 6;
 /// "5", "5 or 7", "5, 7 or 9", "3 to 9", "8 numbers from 3 to 35".
 std::string TextOf(const Possible& possible) {
   const std::vector<std::int64_t>& numbers = possible.Listed;
-  if (possible.IsOne()) return Filling(possible.Low).Text;
+  if (possible.IsOne()) return Written(possible.Low);
   // Translators: two numbers and all whole numbers between them: "row 1, column 2 can hold 3 to 9".
   if (numbers.empty()) return Say("%1 to %2", possible.Low, possible.High);
   if (numbers.size() > kMostListed) {
     return SayCounted("%1 number from %2 to %3", "%1 numbers from %2 to %3", possible.Count(),
                       possible.Low, possible.High);
   }
-  std::string list = Filling(numbers.front()).Text;
+  std::string list = Written(numbers.front());
   for (std::size_t i = 1; i + 1 < numbers.size(); ++i)
     list = Say("%1, %2", list, numbers[i]);
   // Translators: the end of a list of numbers, such as "5, 7 or 9".

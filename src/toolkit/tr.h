@@ -7,11 +7,11 @@
 /// The phrases of words/say.h as texts of the toolkit.
 namespace numorra {
 
-inline Filling FillingOf(const QString& text) {
+inline std::string FillingOf(const QString& text) {
   return text.toStdString();
 }
 template <typename T>
-Filling FillingOf(const T& value) {
+const T& FillingOf(const T& value) {
   return value;
 }
 

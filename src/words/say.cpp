@@ -51,18 +51,19 @@ std::string Written(std::string_view number) {
 }
 
 std::string Filled(std::string_view phrase, std::initializer_list<Filling> fillings) {
+  std::size_t size = phrase.size();
+  for (const Filling& filling : fillings)
+    size += filling.Text().size();
   std::string text;
-  for (std::size_t i = 0; i < phrase.size(); ++i) {
-    const bool place = phrase[i] == '%' && i + 1 < phrase.size() && IsDigit(phrase[i + 1]);
-    const std::size_t filling = place ? static_cast<std::size_t>(phrase[i + 1] - '1') : 0;
-    if (place && filling < fillings.size()) {
-      text += fillings.begin()[filling].Text;
-      ++i;
-    } else {
-      text += phrase[i];
-    }
+  text.reserve(size);
+  for (std::size_t sign = 0; (sign = phrase.find('%')) < phrase.size() - 1;) {
+    const auto filling = static_cast<std::size_t>(phrase[sign + 1] - '1');
+    const bool place = IsDigit(phrase[sign + 1]) && filling < fillings.size();
+    text += phrase.substr(0, place ? sign : sign + 1);
+    if (place) text += fillings.begin()[filling].Text();
+    phrase.remove_prefix(place ? sign + 2 : sign + 1);
   }
-  return text;
+  return text.append(phrase);
 }
 
 }  // namespace numorra

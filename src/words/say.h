@@ -29,18 +29,26 @@ NumberStyle StyleIn(std::string_view example);
 /// it.
 std::string Written(std::string_view number, const NumberStyle& style);
 std::string Written(std::string_view number);
+std::string Written(std::integral auto number) {
+  return Written(std::string_view(std::to_string(number)));
+}
 
 /// What stands in a place: a text as it is, or a whole number as the reader's language writes it.
+/// Refers to a text, which must live as long.
 class Filling {
  public:
-  Filling(std::string text) : Text(std::move(text)) {}
-  Filling(std::string_view text) : Text(text) {}
-  Filling(const char* text) : Text(text) {}
+  Filling(const std::string& text) : text_(text) {}
+  Filling(std::string_view text) : text_(text) {}
+  Filling(const char* text) : text_(text) {}
   template <std::integral Number>
   requires(!std::same_as<Number, bool> && !std::same_as<Number, char>) Filling(Number number)
-      : Text(Written(std::to_string(number))) {}
+      : number_(Written(number)) {}
 
-  std::string Text;
+  std::string_view Text() const { return number_.empty() ? text_ : std::string_view(number_); }
+
+ private:
+  std::string number_;
+  std::string_view text_;
 };
 
 /// `phrase` with its places filled; a place without a filling stays as it is.

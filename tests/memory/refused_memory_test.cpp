@@ -27,8 +27,8 @@ class RefusedMemory : public PlayTest {
   }
 
   /// Runs a command repeatedly, each time refusing memory a little later, until all requests are
-  /// granted; returns how often memory was refused. After each refusal the board is complete, and
-  /// if `searches` it is unchanged.
+  /// granted; returns how often memory was refused. A sort that is refused memory goes on with
+  /// less. After each refusal the board is complete, and if `searches` it is unchanged.
   template <class Command>
   int Refuse(const char* board, bool searches, Command command) {
     long later = 0;
@@ -40,9 +40,8 @@ class RefusedMemory : public PlayTest {
         command();
         const bool all = granted >= 0;
         granted = -1;
-        EXPECT_TRUE(all);
         dialogs_.Take();
-        return refused;
+        if (all) return refused;
       } catch (const std::bad_alloc&) {
         granted = -1;
       }

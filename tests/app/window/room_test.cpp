@@ -39,7 +39,8 @@ TEST_F(RoomTest, PanelsReturnTheirRoomWhateverTheWindowStateMeanwhile) {
     Find<QDockWidget>("PropertiesPanel").setVisible(state == Qt::WindowFullScreen);
     QTest::qWait(150);
     window_.setWindowState(Qt::WindowNoState);
-    EXPECT_TRUE(IsSettled(state == Qt::WindowMaximized ? own : wider));
+    EXPECT_TRUE(IsSettled(state == Qt::WindowMaximized ? own : wider))
+        << window_.width() << " x " << window_.height();
   }
 }
 

@@ -100,10 +100,10 @@ void PropertiesPanel::Furnish() {
   tree_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   tree_->setItemDelegate(new WrappingDelegate(tree_));
   AddEntries();
-  constexpr int kValueWidth = 20;  // in characters, beside the longest name
+  constexpr int kValueWidth = 20;  // in characters
   tree_->resizeColumnToContents(0);
-  tree_->setMinimumWidth(tree_->columnWidth(0) +
-                         kValueWidth * tree_->fontMetrics().averageCharWidth());
+  const int needed = tree_->columnWidth(0) + kValueWidth * tree_->fontMetrics().averageCharWidth();
+  if (needed > tree_->sizeHint().width()) tree_->setMinimumWidth(needed);  // where names are long
   tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   connect(tree_->header(), &QHeaderView::sectionResized, tree_, &QTreeView::doItemsLayout,
           Qt::QueuedConnection);
