@@ -1,7 +1,6 @@
 #include "publish/page_words.h"
 
 #include <algorithm>
-#include <regex>
 #include <vector>
 
 #include "files/json_line.h"
@@ -29,17 +28,27 @@ std::string FormsOf(const std::string& one, const std::string& many) {
       .Text();
 }
 
+/// The text in the next single quotes; `at` goes behind it.
+std::string TakeQuoted(std::string_view script, std::size_t& at) {
+  const std::size_t begin = script.find('\'', at) + 1;
+  const std::size_t end = script.find('\'', begin);
+  at = end + 1;
+  return std::string(script.substr(begin, end - begin));
+}
+
 }  // namespace
 
 std::string WordsOfScript(std::string_view script) {
   JsonLine words;
-  static const std::regex kCall(R"(\btr(Counted)?\('([^']*)'(?:,\s*'([^']*)')?)");
-  const std::string text(script);
-  for (std::sregex_iterator call(text.begin(), text.end(), kCall), end; call != end; ++call) {
-    const std::string phrase = (*call)[2];
-    const bool counted = (*call)[1].matched;
-    words.Add(phrase.c_str(),
-              counted ? FormsOf(phrase, (*call)[3]) : JsonString(Say(phrase.c_str())));
+  const std::string_view calls[] = {"tr(", "trCounted("};
+  for (std::size_t at = 0; (at = script.find("tr", at)) != std::string_view::npos; ++at) {
+    const bool counted = script.substr(at).starts_with(calls[1]);
+    std::size_t next = at + calls[counted ? 1 : 0].size();
+    if (!script.substr(at).starts_with(calls[counted ? 1 : 0]) || script[next] != '\'') continue;
+    const std::string phrase = TakeQuoted(script, next);
+    const std::string said =
+        counted ? FormsOf(phrase, TakeQuoted(script, next)) : JsonString(Say(phrase.c_str()));
+    words.Add(phrase, said);
   }
   return words.Text();
 }
