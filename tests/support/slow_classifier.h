@@ -44,8 +44,7 @@ class Classifier {
     is["pandiagonal"] = *is["semi-magic"] && Pandiagonal(total);
     is["semi-pandiagonal"] = SemiPandiagonal(total);
     is["ultramagic"] = *is["magic"] && *is["associative"] && *is["pandiagonal"];
-    const bool even = n_ % 2 == 0;
-    if (even) {
+    if (n_ % 2 == 0) {
       bool compact = true;
       Each([&](int i, int j) {
         const long long block = A(i, j) + A(i + 1, j) + A(i, j + 1) + A(i + 1, j + 1);
@@ -285,10 +284,10 @@ class Classifier {
                        [&](long long sign) { return sign % 2 == signs.front() % 2; });
   }
   static bool Prime(long long number) {
-    for (long long divisor = 2; divisor * divisor <= number; ++divisor) {
-      if (number % divisor == 0) return false;
-    }
-    return number > 1;
+    long long divisor = 2;
+    while (divisor * divisor <= number && number % divisor != 0)
+      ++divisor;
+    return number > 1 && divisor * divisor > number;
   }
 
   Ints a_;
