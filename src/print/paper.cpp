@@ -3,6 +3,7 @@
 #include "app/board/runtime_error.h"
 #include "toolkit/pdf_file.h"
 #include "toolkit/whole_file.h"
+#include "words/say.h"
 
 namespace numorra {
 

@@ -5,6 +5,7 @@
 
 #include "app/board/runtime_error.h"
 #include "print/paper.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

@@ -11,6 +11,7 @@
 #include "publish/page_words.h"
 #include "puzzle/puzzle.h"
 #include "puzzle/puzzle_json.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/board/numbers.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

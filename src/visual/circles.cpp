@@ -6,6 +6,7 @@
 #include "visual/drawing_kind.h"
 #include "visual/shading.h"
 #include "visual/value_path.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

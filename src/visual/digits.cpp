@@ -6,6 +6,7 @@
 #include "toolkit/colours.h"
 #include "visual/drawing_kind.h"
 #include "visual/shading.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

@@ -5,6 +5,7 @@
 #include "visual/drawing_kind.h"
 #include "visual/shading.h"
 #include "visual/value_path.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

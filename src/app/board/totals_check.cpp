@@ -2,6 +2,7 @@
 
 #include "app/board/numbers.h"
 #include "app/board/scoped_flag.h"
+#include "words/say.h"
 
 namespace numorra {
 namespace {

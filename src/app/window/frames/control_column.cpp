@@ -5,6 +5,7 @@
 
 #include "app/board/numbers.h"
 #include "generate/corner_choice.h"
+#include "words/say.h"
 
 namespace numorra {
 
