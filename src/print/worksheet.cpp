@@ -44,9 +44,12 @@ void PaintBoard(QPainter& painter, const QRectF& board, double side, const Puzzl
 void PaintNameLine(QPainter& painter, const QRectF& area, double height) {
   constexpr double kAbove = 2;  // the line, above the bottom
   constexpr double kUsualText = 14;
+  constexpr double kLeastGap = 0.5;
   WriteFitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, Tr("Name:"), {height});
   painter.setPen(QPen(Qt::black, 0.2));
-  const double text = height < kLargeText ? kUsualText : LineWidth(Tr("Name:") + " ", {height});
+  const double text = height < kLargeText
+                          ? std::max(kUsualText, LineWidth(Tr("Name:"), {height}) + kLeastGap)
+                          : LineWidth(Tr("Name:") + " ", {height});
   painter.drawLine(area.bottomLeft() + QPointF(text, -kAbove),
                    area.bottomRight() + QPointF(0, -kAbove));
 }

@@ -11,13 +11,14 @@
 #include "print/sheet_options.h"
 #include "print/sheet_plan.h"
 #include "puzzle/making.h"
+#include "toolkit/tr.h"
 
 namespace numorra {
 
 /// The layout of a worksheet.
 struct WorksheetWish {
   int PerPage = 1;  ///< 1, 2, 4 or 6
-  QString Title = "Magic squares";
+  QString Title = Tr("Magic squares");
   bool TotalGiven = true;  ///< otherwise it is left to be found, if it can be
   SheetOptions Options = {};
 };

@@ -40,8 +40,8 @@ struct DrawingArea {
 
 /// One way to draw all values of a board at once.
 struct DrawingKind {
-  const char* Tag;     ///< the drawing's tag while it is shown
-  const char* Button;  ///< null if it is only in a menu
+  const char* Tag;      ///< the drawing's tag while it is shown
+  const char* Button;   ///< null if it is only in a menu
   const char* Caption;  ///< a phrase
   const char* ToolTip;  ///< of the button, a phrase
   const char* Item;     ///< the name of its menu item, with the button's caption

@@ -220,7 +220,7 @@ void Monkey::LosePatience(QWidget* modal) {
   if (!modal && stop->isVisible()) stop->click();
   if (modal && (modal->objectName() == "HideNumbers" || modal->objectName() == "PrintWorksheet")) {
     for (const auto* told : modal->findChildren<QLabel*>()) {
-      if (told->text().startsWith("Making")) return modal->close(), void();
+      if (told->text().endsWith("...")) return modal->close(), void();
     }
   }
 }

@@ -5,8 +5,11 @@
 #include <QDockWidget>
 #include <QMessageBox>
 
+#include "app/play/board_state.h"
+#include "app/play/walk.h"
 #include "monkey/monkey.h"
 #include "support/invariants.h"
+#include "words/language.h"
 
 namespace numorra {
 namespace {
@@ -83,10 +86,13 @@ std::string Monkey::WhyWrong() {
       window_.findChild<QDockWidget*>("StepPanel")->isVisibleTo(&window_)) {
     return "a walk without its panel, or a panel without its walk";
   }
-  if (walk->isVisibleTo(&window_)) {
-    if (!state.contains(": step ")) return "of a walk the state line says " + state.toStdString();
-  } else if (state.toStdString() != StateByHand(board))
+  const bool walks = walk->isVisibleTo(&window_);
+  if (state.toStdString() != (walks ? StateOf(walk->TheWalk()) : StateOf(board))) {
     return "the state line says " + state.toStdString();
+  }
+  const InEnglish scope;
+  if (walks && StateOf(walk->TheWalk()).find(": step ") == std::string::npos) return "no step";
+  if (!walks && StateOf(board) != StateByHand(board)) return "the state is " + StateOf(board);
   return WhyInvalid(board);
 }
 

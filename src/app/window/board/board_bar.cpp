@@ -1,6 +1,7 @@
 #include "app/window/board/board_bar.h"
 
 #include <QAccessible>
+#include <QKeySequence>
 
 #include "toolkit/named.h"
 
@@ -13,7 +14,7 @@ BoardBar::BoardBar(const char* name, const char* buttonName, const QString& butt
   setObjectName(name);
   setFrameShape(QFrame::StyledPanel);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-  Button->setToolTip("Esc");
+  Button->setToolTip(QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText));
   text_->setWordWrap(true);
   text_->setTextFormat(Qt::PlainText);
   row_->addWidget(text_, 1);
@@ -24,7 +25,7 @@ BoardBar::BoardBar(const char* name, const char* buttonName, const QString& butt
 QPushButton* BoardBar::AddButton(const char* name, const QString& text, const char* key) {
   auto* button = Named(name, new QPushButton(text));
   button->setShortcut(QKeySequence(key));
-  button->setToolTip(key);
+  button->setToolTip(button->shortcut().toString(QKeySequence::NativeText));
   row_->insertWidget(row_->count() - 1, button);
   button->hide();
   return button;
