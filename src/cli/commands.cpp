@@ -38,6 +38,7 @@ std::string FormatsTold() {
 
 std::vector<std::string> SpecialTerms() {
   std::vector<std::string> terms;
+  terms.reserve(kSpecialKinds.size());
   for (const SpecialKind& kind : kSpecialKinds)
     terms.emplace_back(kind.Term);
   return terms;
@@ -45,6 +46,7 @@ std::vector<std::string> SpecialTerms() {
 
 std::vector<std::string> TermNames() {
   std::vector<std::string> names;
+  names.reserve(Terms().size());
   for (const Term& term : Terms())
     names.emplace_back(term.Name);
   return names;
@@ -52,6 +54,7 @@ std::vector<std::string> TermNames() {
 
 std::vector<std::string> ConstructionTerms() {
   std::vector<std::string> terms;
+  terms.reserve(kConstructions.size());
   for (const Construction* const construction : kConstructions)
     terms.emplace_back(construction->Term);
   return terms;

@@ -47,19 +47,19 @@ void CheckOrder(std::size_t rows) {
   }
 }
 
-StoredSquare SquareOfFields(std::vector<FieldRow> rows) {
+StoredSquare SquareOfFields(const std::vector<FieldRow>& rows) {
   const std::size_t order = rows.size();
   CheckOrder(order);
   StoredCells cells(static_cast<int>(order));
   auto cell = cells.begin();
-  for (auto& [line, fields] : rows) {
+  for (const auto& [line, fields] : rows) {
     if (fields.size() > order) {
       throw Unreadable{
           Say("line %1 has %2 numbers, but there are %3 lines", line, fields.size(), order), true};
     }
-    fields.resize(order);
-    for (const std::string& field : fields)
-      *cell++ = CellIn(field, line);
+    for (std::size_t i = 0; i < order; ++i, ++cell) {
+      if (i < fields.size()) *cell = CellIn(fields[i], line);
+    }
   }
   return {.Cells = std::move(cells)};
 }

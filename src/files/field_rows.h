@@ -22,7 +22,7 @@ void CheckOrder(std::size_t rows);
 
 /// The square whose order is the number of rows. A gap is a field that is empty or one of - . _;
 /// fields at the end of a row may be missing. Throws Unreadable with the line.
-StoredSquare SquareOfFields(std::vector<FieldRow> rows);
+StoredSquare SquareOfFields(const std::vector<FieldRow>& rows);
 
 /// Replaces `from` everywhere in a text, in one pass.
 void ReplaceAll(std::string& text, const std::string& from, const std::string& to);

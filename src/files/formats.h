@@ -21,6 +21,7 @@ enum class SquareFormat : std::uint8_t { Text, Csv, Tex, Python, Mathematica, Sv
 /// A format for writing and reading squares.
 struct Format {
   SquareFormat Id;
+  bool ForAnswers;      ///< whether the companion also writes its answers in it
   const char* Name;     ///< the name for the companion's --format
   const char* Suffix;   ///< of files, without the dot
   const char* Caption;  ///< in file dialogs; empty if the window does not write the format
@@ -30,26 +31,25 @@ struct Format {
   std::variant<StoredSquare, Unreadable> (*Read)(const std::string& text,
                                                  std::size_t firstLine) = nullptr;
   bool (*LooksLike)(const std::string& text) = nullptr;  ///< null for those without a mark
-  bool ForAnswers = false;  ///< whether the companion also writes its answers in it
 };
 
 /// All formats in the order of SquareFormat: from the plainest, the companion's default, to the one
 /// that keeps everything, which the window's dialogs show first.
 inline constexpr Format kFormats[] = {
-    {SquareFormat::Text, "text", "txt", "", Mark("aligned columns and the total"), TextOf,
-     ReadSquareText, nullptr, true},
-    {SquareFormat::Csv, "csv", "csv", Mark("Numbers alone"),
+    {SquareFormat::Text, true, "text", "txt", "", Mark("aligned columns and the total"), TextOf,
+     ReadSquareText},
+    {SquareFormat::Csv, false, "csv", "csv", Mark("Numbers alone"),
      Mark("rows of comma-separated numbers"), CsvOf, ReadSquareText},
-    {SquareFormat::Tex, "tex", "tex", Mark("LaTeX tables"), Mark("a LaTeX table"), LatexOf,
+    {SquareFormat::Tex, false, "tex", "tex", Mark("LaTeX tables"), Mark("a LaTeX table"), LatexOf,
      ReadLatex, LooksLikeLatex},
-    {SquareFormat::Python, "python", "py", "", Mark("a list of lists"), PythonListOf,
+    {SquareFormat::Python, false, "python", "py", "", Mark("a list of lists"), PythonListOf,
      ReadNestedList, LooksLikeNestedList},
-    {SquareFormat::Mathematica, "mathematica", "wl", "", Mark("the same with braces"),
+    {SquareFormat::Mathematica, false, "mathematica", "wl", "", Mark("the same with braces"),
      MathematicaListOf, ReadNestedList, LooksLikeNestedList},
-    {SquareFormat::Svg, "svg", "svg", "", Mark("a picture of one square"), SvgOf},
-    {SquareFormat::Html, "html", "html", "", Mark("a table for a web page"), HtmlOf},
-    {SquareFormat::Json, "json", "json", Mark("Squares"), Mark("an object on one line"), JsonOf,
-     ReadSquareJson, LooksLikeJson, true}};
+    {SquareFormat::Svg, false, "svg", "svg", "", Mark("a picture of one square"), SvgOf},
+    {SquareFormat::Html, false, "html", "html", "", Mark("a table for a web page"), HtmlOf},
+    {SquareFormat::Json, true, "json", "json", Mark("Squares"), Mark("an object on one line"),
+     JsonOf, ReadSquareJson, LooksLikeJson}};
 
 const Format& Of(SquareFormat format);
 

@@ -119,7 +119,7 @@ StoredSquare Read(const std::string& text, std::size_t firstLine) {
   }
   DropTrailingSeparators(rows);
   TakeDecimalCommas(rows);
-  return SquareOfFields(std::move(rows));
+  return SquareOfFields(rows);
 }
 
 /// One line per row, each cell written by textOf(cell).

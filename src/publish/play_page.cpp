@@ -169,6 +169,7 @@ std::string PlayPage(const std::string& title, const std::vector<std::string>& p
 std::string PlayPage(const std::string& title, const std::vector<MadePuzzle>& puzzles,
                      Yielding& yielding) {
   std::vector<std::string> objects;
+  objects.reserve(puzzles.size());
   for (const MadePuzzle& made : puzzles) {
     objects.push_back(
         JsonOfPuzzle(made.Clues, &made).Add("steps", JsonOfSteps(made, yielding)).Text());

@@ -148,7 +148,7 @@ TEST(HelpPage, SaysInEveryLanguageWhatItSaysInEnglish) {
   const auto parts = [](const QString& html) {
     QStringList found;
     QRegularExpression part(
-        "</?(?:h\\d|p|ul|ol|li|dl|dt|dd|table|tr|td|th)\\b|(?:name|src|href)=\"[^\"]*\"");
+        R"(</?(?:h\d|p|ul|ol|li|dl|dt|dd|table|tr|td|th)\b|(?:name|src|href)="[^"]*")");
     for (const auto& match : part.globalMatch(html))
       found << match.captured();
     return found;

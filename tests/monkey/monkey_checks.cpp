@@ -20,7 +20,8 @@ std::string StateByHand(const Board& board) {
   const Grid& grid = board.grid;
   const int n = board.GridSize;
   std::map<std::string, int> numbers;
-  std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(2 * n + 2));
+  const std::size_t last = static_cast<std::size_t>(n) * 2 + 1;
+  std::vector<std::vector<std::string>> lines(last + 1);
   int gaps = 0;
   ForEachCell(n, [&](int r, int c) {
     const std::string& text = grid.Text(r, c);
@@ -31,8 +32,8 @@ std::string StateByHand(const Board& board) {
     ++numbers[number];
     lines[static_cast<std::size_t>(r - 1)].push_back(number);
     lines[static_cast<std::size_t>(n + c - 1)].push_back(number);
-    if (r == c) lines[static_cast<std::size_t>(2 * n)].push_back(number);
-    if (r + c == n + 1) lines[static_cast<std::size_t>(2 * n + 1)].push_back(number);
+    if (r == c) lines[last - 1].push_back(number);
+    if (r + c == n + 1) lines[last].push_back(number);
   });
   std::ostringstream state;
   state << n << " x " << n << ", sum " << Decimal(board.TargetTotal) << ": ";

@@ -75,30 +75,22 @@ constexpr const char* kRuns[] = {
     "study|[[1, 2, 3] 4 [4, 5, 6], [7, 8, 9]]",
     "study|[[1, 2, 3], [4, 5, 6], [7, 8, 9]] 3",
     "study|[[1, 2, 3], [4, 5, 6}, [7, 8, 9]]",
-    "study|{\"rows\": null}",
-    "study|{\"rows\": [[1]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, 5], [7, 8, 9]]}",
-    "study|{\"order\": 3, \"rows\": [[1, 2, 3], [4, 5, 6]]}",
-    "study|{\"order\": 99, \"rows\": [[1, 2, 3], [4, 5, 6]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, \"x\", 6], [7, 8, 9]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, 123456789012345, 6], [7, 8, 9]]}",
-    "study|{\"format\": \"numorra-square\", \"version\": 9, \"rows\": [[1, 2, 3], [4, 5, 6], [7, "
-    "8, 9]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, null, 6], [7, 8, 9]], \"givens\": [[true, 2, true], [true, "
-    "true, "
-    "true], [true, true, true]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, null, 6], [7, 8, 9]], \"givens\": [[true, true, true], "
-    "[true, "
-    "true, true], [true, true, true]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, null, 6], [7, 8, 9]], \"notes\": [[\"\", \"\", \"\"], [\"\", "
-    "\"77\", \"\"], [\"\", \"\", \"\"]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, null, 6], [7, 8, 9]], \"notes\": [[\"1\", \"\", \"\"], "
-    "[\"\", "
-    "\"\", \"\"], [\"\", \"\", \"\"]]}",
-    "study|{\"rows\": [[1, 2, 3], [4, 5, 6], [7, 8, 9]], \"total\": \"x\"}",
-    "study|{\"rows\": [[1, 2, 3], [4, 5, 6], [7, 8, 9]], \"rules\": \"x\"}",
-    "study|\\begin{tabular}{ccc} 1 & 2 & 3",
-    "study|\\begin{tabular}{ccc} 1 & 2 & 3 \\\\ 4 & x & 6 \\\\ 7 & 8 & 9 \\end{tabular}",
+    R"(study|{"rows": null})",
+    R"(study|{"rows": [[1]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, 5], [7, 8, 9]]})",
+    R"(study|{"order": 3, "rows": [[1, 2, 3], [4, 5, 6]]})",
+    R"(study|{"order": 99, "rows": [[1, 2, 3], [4, 5, 6]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, "x", 6], [7, 8, 9]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, 123456789012345, 6], [7, 8, 9]]})",
+    R"(study|{"format": "numorra-square", "version": 9, "rows": [[1, 2, 3], [4, 5, 6], [7, 8, 9]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, null, 6], [7, 8, 9]], "givens": [[true, 2, true], [true, true, true], [true, true, true]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, null, 6], [7, 8, 9]], "givens": [[true, true, true], [true, true, true], [true, true, true]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, null, 6], [7, 8, 9]], "notes": [["", "", ""], ["", "77", ""], ["", "", ""]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, null, 6], [7, 8, 9]], "notes": [["1", "", ""], ["", "", ""], ["", "", ""]]})",
+    R"(study|{"rows": [[1, 2, 3], [4, 5, 6], [7, 8, 9]], "total": "x"})",
+    R"(study|{"rows": [[1, 2, 3], [4, 5, 6], [7, 8, 9]], "rules": "x"})",
+    R"(study|\begin{tabular}{ccc} 1 & 2 & 3)",
+    R"(study|\begin{tabular}{ccc} 1 & 2 & 3 \\ 4 & x & 6 \\ 7 & 8 & 9 \end{tabular})",
     "complete|. 1 ./. 5 ./. . 2",
     "complete|. . ./. . ./. . .",
     "complete|1 2 ./. . ./. . .",
@@ -118,11 +110,7 @@ constexpr const char* kRuns[] = {
     "complete --sum 2 --rules positive|. . ./. . ./. . .",
     "complete --limit-to-9|. . ./. . ./. . .",
     "complete --seconds 0",
-    "complete --seconds 0.001|. . . . . . . . . ./. . . . . . . . . ./. . 5 . . . . . . ./. . . . "
-    ". . . . . ./"
-    ". . . . . . . . . ./. . . . . . 7 . . ./. . . . . . . . . ./. . . . . . . . . ./. . . . . . . "
-    ". . ./"
-    ". . . . . . . . . 9",
+    R"(complete --seconds 0.001|. . . . . . . . . ./. . . . . . . . . ./. . 5 . . . . . . ./. . . . . . . . . ./. . . . . . . . . ./. . . . . . 7 . . ./. . . . . . . . . ./. . . . . . . . . ./. . . . . . . . . ./. . . . . . . . . 9)",
     "complete --format tex",
     "puzzle",
     "puzzle --size 5 --grade nonsense",
@@ -170,7 +158,7 @@ constexpr const char* kRuns[] = {
 /// The values of JSON that are sentences, or the line itself if it is no object.
 void AddLineOfCompanion(Texts& texts, const std::string& line) {
   if (!line.starts_with('{')) return texts.Add(line);
-  for (const std::string key : {"\"says\": \"", "\"why\": \""}) {
+  for (const std::string key : {R"("says": ")", R"("why": ")"}) {
     for (std::size_t at = line.find(key); at != std::string::npos; at = line.find(key, at)) {
       at += key.size();
       texts.Add(line.substr(at, line.find('"', at) - at));
