@@ -136,7 +136,7 @@ constexpr const char* kRuns[] = {
     "puzzle --size 4 --grades easy:3,medium:3,hard:3,expert:3 --format json --steps --seed 1",
     "puzzle --size 5 --grades medium:3,hard:4,expert:4 --format json --steps --seed 2",
     "puzzle --size 6 --grades hard:3,expert:3,extreme:2 --format json --steps --seed 3",
-    "puzzle --size 4 --sum 40 --grades easy:2,medium:2,expert:2 --format json --steps --seed 4",
+    R"(puzzle --size 4 --sum 40 --grades easy:2,medium:2,hard:2,expert:2 --format json --steps --seed 4)",
     "list --size 9",
     "list",
     "list --size 4 --kind nonsense",
