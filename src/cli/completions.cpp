@@ -87,6 +87,9 @@ std::string Briefly(const OptionEntry& option) {
     for (std::size_t at = 0; (at = told.find(taken, at)) != std::string::npos;)
       told.erase(at, 1);
   }
+  for (const std::string_view blank : {"\xC2\xA0", "\xE2\x80\xAF"}) {  // before a sign in French
+    if (told.ends_with(blank)) told.resize(told.size() - blank.size());
+  }
   return told;
 }
 

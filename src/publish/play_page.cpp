@@ -1,5 +1,6 @@
 #include "publish/play_page.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -90,6 +91,13 @@ std::string Caption(const PagePuzzle& puzzle) {
   return Say("%1; %2", rules, made);
 }
 
+/// The language of the page as HTML names it, such as "pt-BR".
+std::string LanguageTag() {
+  std::string tag = Language();
+  std::replace(tag.begin(), tag.end(), '_', '-');
+  return tag.empty() ? "en" : tag;
+}
+
 /// HTML needs no end tags for cells and rows.
 std::string Sheet(const PagePuzzle& puzzle, std::size_t number) {
   std::string html = "<table><caption><b>" + std::to_string(number) + ".</b> " +
@@ -161,7 +169,7 @@ std::string PlayPage(const std::string& title, const std::vector<std::string>& p
   if (!SpeaksEnglish()) json += ",\n\"words\":" + WordsOfScript(kPageTemplate);
   json += "}";
   return WithSlotsFilled(kPageTemplate, {{"title", Html(title)},
-                                         {"language", Language().empty() ? "en" : Language()},
+                                         {"language", LanguageTag()},
                                          {"sheets", sheets},
                                          {"data", WithoutTags(json)}});
 }
