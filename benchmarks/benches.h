@@ -26,6 +26,9 @@ struct Road {
 };
 std::vector<Road> RegisterRoadBenches();
 
+/// Registers work on sets of puzzles, for each of kSetSizes. Returns the names.
+std::vector<std::string> RegisterSetBenches();
+
 /// Registers the generators.
 void RegisterGeneratorBenches();
 

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <functional>
+#include <span>
 
 #include <QApplication>
 
@@ -27,27 +29,31 @@ void PrintLine(const char* what, Ratio ratio, const char* goal) {
   std::printf("%-52s %8.2f  +-%3.0f %%   %s\n", what, ratio.Value, 100 * ratio.Spread, goal);
 }
 
-void PrintCommands(const Results& results, const std::vector<std::string>& names) {
-  std::printf(
-      "\nFrom the click to the painted board, against %s with that board (goal: at most 1.25)\n",
-      kRepaint);
-  std::printf("%-28s", "order");
-  for (const int order : kOrders)
-    std::printf("%7d", order);
-  std::printf("   spread  growth (goal: at most 2.1)\n");
+/// Work at several sizes: a line for each name with the ratios to the yardstick of each size, and
+/// the exponent by which its time grows.
+void PrintGrowing(const Results& results, const std::vector<std::string>& names,
+                  std::span<const int> sizes, const std::function<std::string(int)>& yardstick) {
   for (const std::string& name : names) {
-    std::printf("%-28s", name.c_str());
+    std::printf("%-36s", name.c_str());
     double spread = 0;
     std::map<int, double> times;
-    for (const int order : kOrders) {
-      const Figure figure = results.Of(At(name, order));
-      const Ratio ratio = Between(figure, results.Of(At(kRepaint, order)));
-      times[order] = figure.Median;
+    for (const int size : sizes) {
+      const Figure figure = results.Of(At(name, size));
+      const Ratio ratio = Between(figure, results.Of(yardstick(size)));
+      times[size] = figure.Median;
       spread = std::max(spread, ratio.Spread);
       std::printf("%7.2f", ratio.Value);
     }
     std::printf("  +-%3.0f %%  n^%.2f\n", 100 * spread, FitExponent(times));
   }
+}
+
+void PrintHead(const char* title, const char* sizeName, std::span<const int> sizes,
+               const char* growthGoal) {
+  std::printf("\n%s\n%-36s", title, sizeName);
+  for (const int size : sizes)
+    std::printf("%7d", size);
+  std::printf("   spread  growth (goal: at most %s)\n", growthGoal);
 }
 
 void PrintRoads(const Results& results, const std::vector<Road>& roads) {
@@ -99,12 +105,20 @@ int main(int argc, char** argv) {
 
   RegisterGeneratorBenches();
   const auto roads = RegisterRoadBenches();
+  const auto sets = RegisterSetBenches();
   const auto names = RegisterWindowBenches();
   Results results;
   benchmark::RunSpecifiedBenchmarks(&results);
 
-  PrintCommands(results, names);
+  PrintHead(
+      "From the click to the painted board, against a full repaint of the window with that board "
+      "(goal: at most 1.25)",
+      "order n", kOrders, "2.1");
+  PrintGrowing(results, names, kOrders, [](int order) { return At(kRepaint, order); });
   PrintRoads(results, roads);
+  PrintHead("Sets of puzzles, against a full repaint of the window of order 50", "n puzzles",
+            kSetSizes, "1.1");
+  PrintGrowing(results, sets, kSetSizes, [](int) { return At(kRepaint, 50); });
   if (argc > 1) return 0;  // a selection: skip the whole processes
   std::printf("\n");
   PrintLine("the toolkit's table view / our board, order 50",

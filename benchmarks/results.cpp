@@ -15,17 +15,17 @@ Figure FigureOf(std::vector<double> values) {
   return {at(0.5), (at(0.75) - at(0.25)) / at(0.5)};
 }
 
-double FitExponent(const std::map<int, double>& timeByOrder) {
+double FitExponent(const std::map<int, double>& times) {
   double sumX = 0, sumY = 0, sumXX = 0, sumXY = 0;
-  for (const auto& [order, time] : timeByOrder) {
-    const double x = std::log(order);
+  for (const auto& [n, time] : times) {
+    const double x = std::log(n);
     const double y = std::log(time);
     sumX += x;
     sumY += y;
     sumXX += x * x;
     sumXY += x * y;
   }
-  const auto count = static_cast<double>(timeByOrder.size());
+  const auto count = static_cast<double>(times.size());
   return (count * sumXY - sumX * sumY) / (count * sumXX - sumX * sumX);
 }
 
@@ -43,8 +43,8 @@ Figure Results::Of(const std::string& name) const {
   return found == seconds_.end() ? Figure{} : FigureOf(found->second);
 }
 
-std::string At(const std::string& name, int order) {
-  return name + "@" + std::to_string(order);
+std::string At(const std::string& name, int n) {
+  return name + "@" + std::to_string(n);
 }
 
 }  // namespace numorra::bench

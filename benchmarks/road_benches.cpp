@@ -2,7 +2,11 @@
 
 #include "app/ports/build_stage.h"
 #include "benches.h"
+#include "count/all_squares.h"
+#include "count/order5_count.h"
+#include "files/square_json.h"
 #include "puzzle/deduction.h"
+#include "puzzle/fitting_numbers.h"
 #include "puzzle/fresh_puzzle.h"
 #include "puzzle/search.h"
 #include "study/report.h"
@@ -59,15 +63,55 @@ void MakePuzzleOfOrder8(benchmark::State& state) {
     benchmark::DoNotOptimize(MakePuzzle(square, {Wanted}, random, stage));
 }
 
-template <Grade Wanted>
-void FindHint(benchmark::State& state) {
+Puzzle PuzzleOfOrder8(Grade wanted) {
   TickingClock time(7);
   ClockSeededRandom random(time);
   SilentStage stage;
-  const auto made = MakeFreshPuzzle({8}, {Wanted}, random, stage);
-  const Puzzle& puzzle = std::get<MadePuzzle>(made).Clues;
+  return std::get<MadePuzzle>(MakeFreshPuzzle({8}, {wanted}, random, stage)).Clues;
+}
+
+template <Grade Wanted>
+void FindHint(benchmark::State& state) {
+  SilentStage stage;
+  const Puzzle puzzle = PuzzleOfOrder8(Wanted);
   for (auto _ : state)
     benchmark::DoNotOptimize(NextDeduction(puzzle, Grade::Expert, stage));
+}
+
+void NoteEveryGap(benchmark::State& state) {
+  const Puzzle puzzle = PuzzleOfOrder8(Grade::Hard);
+  for (auto _ : state) {
+    for (int cell = 0; cell < puzzle.Cells.Size(); ++cell) {
+      if (puzzle.Cells[cell] == 0)
+        benchmark::DoNotOptimize(FittingNumbers(puzzle, cell, puzzle.Most()));
+    }
+  }
+}
+
+void WriteAndReadJson(benchmark::State& state) {
+  TickingClock time(7);
+  ClockSeededRandom random(time);
+  SilentStage stage;
+  const StoredSquare square = StoredSquareOf(*FreshSquare({50}, random, stage), true);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(ReadSquareJson(JsonOf(square)));
+}
+
+void ListSquaresOfOrder4(benchmark::State& state) {
+  SilentStage stage;
+  for (auto _ : state) {
+    int count = 0;
+    ForEachSquare({Square<int>(4)}, stage, [&](const Square<int>&) { return ++count > 0; });
+    if (count != 880) state.SkipWithError("a wrong number of squares");
+  }
+}
+
+/// One of the 145,362 parts of the count of order 5.
+void CountDiagonalSet(benchmark::State& state) {
+  Order5Count order5{Square<int>(5)};
+  std::size_t set = 0;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(order5.CountOf(order5.Sets()[set++ % order5.Sets().size()]));
 }
 
 struct Measured {
@@ -84,6 +128,10 @@ constexpr Measured kRoads[] = {
     {{"a fresh square of order 10", 1}, DrawFreshSquare},
     {{"a hint for a hard puzzle of order 8", 1}, FindHint<Grade::Hard>},
     {{"a hint for an expert puzzle of order 8", 10}, FindHint<Grade::Expert>},
+    {{"the notes of all gaps of a hard puzzle of order 8", 1}, NoteEveryGap},
+    {{"a square of order 50 to JSON and back", 1}, WriteAndReadJson},
+    {{"listing the 880 squares of order 4", 25}, ListSquaresOfOrder4},
+    {{"one diagonal set of the count of order 5", 0.2}, CountDiagonalSet},
 };
 
 }  // namespace
