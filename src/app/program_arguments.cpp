@@ -24,7 +24,11 @@ constexpr OptionHelp kWindowHelp[] = {
     {"--version", Mark("the program's version")}};
 
 constexpr OptionHelp kSheetsHelp[] = {
-    {"--answers FILE.pdf", Mark("the answers in a file of their own")},
+    {"--size N", Mark("the number of cells on a side of every puzzle")},
+    {"--count M", Mark("the number of puzzles")},
+    // Translators: these words are typed and stay.
+    {"--grade GRADE", Mark("easy, medium, hard, expert or extreme")},
+    {"--answers FILE.pdf", Mark("the answers in a file of their own, not on the last pages")},
     {"--title TEXT", Mark("the title of the pages")},
     {"--per-page K", Mark("1, 2, 4 or 6 puzzles on a page; 6 by default")},
     {"--paper a4|letter", Mark("the paper; a4 by default")},
@@ -35,7 +39,7 @@ constexpr OptionHelp kSheetsHelp[] = {
     // Translators: the numbers of the pages stand below every page.
     {"--page-numbers", Mark("below every page")},
     {"--names", Mark("a line for a name at every puzzle")},
-    {"--page-a-pupil", Mark("every puzzle alone on its page")},
+    {"--page-a-pupil", Mark("every puzzle alone on its page, so that each pupil has another")},
     {"--booklet", Mark("wider margins where pages are bound")}};
 
 /// A line for each option; what is said stands in a column.
@@ -102,12 +106,13 @@ puzzle of a code.
 )") + InColumns(kWindowHelp) +
          // Translators: the options follow in lines of their own.
          Say(R"(
---sheets writes worksheets as a PDF file and opens no window. It takes the options of
-numorra-square puzzle, but for those of its output, and:
+--sheets writes worksheets as a PDF file and opens no window:
 
 )") + InColumns(kSheetsHelp) +
          Say(R"(
-numorra-square does the same work without a window; see numorra-square --help.
+It also takes the other options of numorra-square puzzle, except those of its output;
+see numorra-square --help. That program builds, studies and lists squares without a
+window.
 )");
 }
 

@@ -17,7 +17,7 @@ void WritePages(const std::string& file, const SheetsRequest& request, const Wor
                 int first, int end) {
   constexpr int kDotsPerInch = 1200;
   const auto orientation = request.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
-  const QString title = QString::fromStdString(request.Title);
+  const QString title = sheet.TitleOf(first > 0);
   const QByteArray pdf = PdfOf([&](QPdfWriter& writer) {
     writer.setPageSize(QPageSize(request.Letter ? QPageSize::Letter : QPageSize::A4));
     writer.setPageOrientation(orientation);

@@ -190,6 +190,7 @@ QString Worksheet::TitleOf(bool answers) const {
 void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf& leaf) const {
   constexpr double kTitleLine = kTitle * 1.4;
   constexpr double kRules = 13;  // below the top
+  constexpr double kRulesText = 3.7;
   const bool answers = leaf.Answers;
   const bool named = !answers && !wish_.Options.NameLines;
   const QRectF area = plan.Area(leaf.Number);
@@ -202,8 +203,8 @@ void Worksheet::PaintHeader(QPainter& painter, const SheetPlan& plan, const Leaf
                     plan.Text);
     }
     if (answers) return;
-    WriteFitted(painter, {area.left(), area.top() + kRules, width, plan.Text * 1.5}, Qt::AlignLeft,
-                RulesText(puzzles_), {plan.Text});
+    WriteWrapped(painter, {area.left(), area.top() + kRules, width, 0}, Qt::AlignLeft,
+                 RulesText(puzzles_), {kRulesText});
     return;
   }
   WriteWrapped(painter, area, Qt::AlignLeft, TitleOf(answers), {kTitle, true});

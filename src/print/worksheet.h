@@ -38,6 +38,9 @@ class Worksheet {
   int PuzzlePages() const { return PagesFor(false); }
   int Pages() const { return PagesFor(false) + PagesFor(true); }
 
+  /// The title of the pages of puzzles, or of those of answers.
+  QString TitleOf(bool answers) const;
+
   /// Why a puzzle does not fit on a page in large print, in one sentence; empty if all do.
   std::string WhyTooLarge() const;
 
@@ -67,7 +70,6 @@ class Worksheet {
   static void PaintFooter(QPainter& painter, const SheetPlan& plan, const Leaf& leaf);
   void PaintPuzzle(QPainter& painter, const SheetPlan& plan, const Slot& slot, bool answer) const;
 
-  QString TitleOf(bool answers) const;
   QString CaptionOf(int number, bool answer) const;
   const MadePuzzle& Made(int number) const { return puzzles_[static_cast<std::size_t>(number)]; }
 

@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 
-#include "support/window_fixture.h"
+#include "support/files_fixture.h"
 
 namespace numorra {
 namespace {
@@ -30,12 +30,13 @@ struct KeepingPages : PagePrinter {
 
 class MakingWindowTest : public WindowTest {
  protected:
-  MakingWindowTest() : WindowTest({.Pages = &pages_}) {}
+  MakingWindowTest() : WindowTest({.Pages = &pages_, .Files = &files_}) {}
   template <class Done>
   static void Await(Done done) {
     EXPECT_TRUE(QTest::qWaitFor(done, 20'000));
   }
   KeepingPages pages_;
+  ScriptedFiles files_;
 };
 
 TEST_F(MakingWindowTest, APuzzleIsMadeSolvedWithHintsAndByKeys) {
@@ -172,6 +173,32 @@ TEST_F(MakingWindowTest, AClassSetIsPrintedOrStopped) {
       "Prints 1 puzzle of size 3, total 12, with numbers up to 9: 1 expert; on 1 page, with 1 "
       "page of answers.")
       << "what was chosen is kept";
+}
+
+TEST_F(MakingWindowTest, ASetIsForTheSheetsAndThePage) {
+  struct Makings : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      Changes += event->type() == QEvent::EnabledChange;
+      return false;
+    }
+    int Changes = 0;  // two for each making: the stop button is enabled and disabled
+  } makings;
+  QTemporaryDir folder;
+  files_.Name = folder.filePath("page.html");
+  Type("Text1", "3");
+  Find<QAction>("PrintWorksheetx").trigger();
+  Find<QPushButton>("StopMakingx").installEventFilter(&makings);
+  const auto press = [&](const char* button) {
+    Find<QPushButton>(button).click();
+    return makings.Changes / 2;
+  };
+  EXPECT_EQ(press("PreviewSheetx"), 1);
+  EXPECT_EQ(press("SavePagex"), 1) << "the same set";
+  EXPECT_EQ(Find<QLabel>("SheetTold").text(), "The page is in " + files_.Name + ".");
+  EXPECT_EQ(press("SavePagex"), 2);
+  EXPECT_EQ(press("SavePagex"), 3);
+  Find<QSpinBox>("Sheet_easy").setValue(2);
+  EXPECT_EQ(press("PreviewSheetx"), 4) << "another choice";
 }
 
 TEST_F(MakingWindowTest, ASheetThatHasNoRoomForLargePrintIsRefusedBeforeItIsMade) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QDir>
 #include <QFormLayout>
 #include <QScopeGuard>
 #include <QVBoxLayout>
@@ -119,7 +120,10 @@ WorksheetForm::WorksheetForm(PuzzlesAtHand atHand, SheetChoice& choice, const Po
   TakeChoice();
   const auto take = [this] { TakeChoice(); };
   OnSignal(runner_, printsAtHand_, &QRadioButton::toggled, this, take);
-  OnSignal(runner_, set_, &FreshSetBox::Changed, this, take);
+  OnSignal(runner_, set_, &FreshSetBox::Changed, this, [this] {
+    madeFor_ = nullptr;
+    TakeChoice();
+  });
   OnSignal(runner_, perPage_, &QComboBox::currentIndexChanged, this, take);
   OnSignal(runner_, orientation_, &QComboBox::currentIndexChanged, this, take);
   OnSignal(runner_, title_, &QLineEdit::textChanged, this, take);
@@ -161,17 +165,28 @@ void WorksheetForm::ShowMaking(bool making) {
   if (!making) TakeChoice();
 }
 
-/// Those at hand or a new set; says what could not be made.
-std::vector<MadePuzzle> WorksheetForm::Puzzles() {
-  return printsAtHand_->isChecked() ? atHand_ : MakeSet();
+/// Those at hand, the set that the other button took, or a new one; says what could not be made.
+std::vector<MadePuzzle> WorksheetForm::PuzzlesFor(const QPushButton* button) {
+  if (printsAtHand_->isChecked()) {
+    shortfall_.clear();
+    return atHand_;
+  }
+  if (madeFor_ && madeFor_ != button) {
+    madeFor_ = nullptr;
+    return made_;
+  }
+  madeFor_ = nullptr;
+  made_ = MakeSet();
+  if (!made_.empty()) madeFor_ = button;
+  return made_;
 }
 
 std::vector<MadePuzzle> WorksheetForm::MakeSet() {
   ShowMaking(true);
-  QString shortfall;
+  shortfall_.clear();
   const auto done = qScopeGuard([&] {
     ShowMaking(false);
-    if (!shortfall.isEmpty()) told_->Tell(shortfall);
+    if (!shortfall_.isEmpty()) told_->Tell(shortfall_);
   });
   std::vector<MadePuzzle> puzzles;
   const int all = PuzzlesIn(choice_.Set);
@@ -184,7 +199,7 @@ std::vector<MadePuzzle> WorksheetForm::MakeSet() {
     puzzles.push_back(*std::move(made));
     stage.Yield();
   }
-  shortfall = QString::fromStdString(set.Shortfall());
+  shortfall_ = QString::fromStdString(set.Shortfall());
   return puzzles;
 }
 
@@ -198,7 +213,7 @@ void WorksheetForm::Print() {
     };
     const bool makes = !printsAtHand_->isChecked();
     if (makes && !fits({{LargestOf(choice.Set)}, choice.Layout, choice.Landscape})) return;
-    const auto puzzles = Puzzles();
+    const auto puzzles = PuzzlesFor(print_);
     if (puzzles.empty()) return;
     const Worksheet sheet(puzzles, choice.Layout, choice.Landscape);
     if (!fits(sheet)) return;
@@ -213,13 +228,16 @@ void WorksheetForm::Print() {
 void WorksheetForm::SavePage() {
   runner_.Run("Web Page", [this] {
     const QString title = choice_.Layout.Title;
-    const auto puzzles = Puzzles();
+    const auto puzzles = PuzzlesFor(page_);
     if (puzzles.empty()) return;
     FormYielding stage(runner_, [] {});
     const std::string page = PlayPage(title.toStdString(), puzzles, stage);
     const QString name =
         ports_.Files.ToSave(this, Tr("Save Web Page"), KindOfFiles(Tr("Web pages"), "*.html"));
-    if (!name.isEmpty()) WriteWholeFile(name, QByteArray::fromStdString(page));
+    if (name.isEmpty()) return;
+    WriteWholeFile(name, QByteArray::fromStdString(page));
+    const QString saved = Tr("The page is in %1.", QDir::toNativeSeparators(name));
+    told_->Tell(shortfall_.isEmpty() ? saved : shortfall_ + "\n" + saved);
   });
 }
 

@@ -29,7 +29,8 @@ struct SheetChoice {
 
 /// The dialog (`PrintWorksheet`) that prints puzzles, or saves them as a page to play on: those at
 /// hand, or a set of fresh ones. It says what it will print, and afterwards what could not be made;
-/// the player can stop the making of a set.
+/// the player can stop the making of a set. A set that was printed can be saved as a page, too, and
+/// the other way round: only after that, or for another choice, new puzzles are made.
 class WorksheetForm : public CommandForm {
   Q_OBJECT
 
@@ -48,11 +49,14 @@ class WorksheetForm : public CommandForm {
   void TakeChoice();
   void Print();
   void SavePage();
-  std::vector<MadePuzzle> Puzzles();
+  std::vector<MadePuzzle> PuzzlesFor(const QPushButton* button);
   std::vector<MadePuzzle> MakeSet();
   void ShowMaking(bool making);
 
   std::vector<MadePuzzle> atHand_;
+  std::vector<MadePuzzle> made_;          ///< the last set
+  QString shortfall_;                     ///< what it did not reach
+  const QPushButton* madeFor_ = nullptr;  ///< the button that took it; null if both did
   SheetChoice& choice_;
   Ports ports_;
   Random& random_;
