@@ -222,6 +222,9 @@ TEST_F(WorksheetTest, InLargePrintHasNoTextBelow18Points) {
   }
   MadePuzzle large;
   large.Clues.Cells = large.Solution.Cells = Square<std::int64_t>(20, 400);
+  MadePuzzle wide;
+  wide.Clues.Cells = wide.Solution.Cells = Square<std::int64_t>(12, 144);
+  EXPECT_EQ(Worksheet({wide, wide}, {2, "", true, {.LargePrint = true}}).PuzzlePages(), 2);
   EXPECT_EQ(Worksheet({made_[0], large}, {.Options = {.LargePrint = true}}).WhyTooLarge(),
             "a puzzle of size 20 has no room for large print on this page");
 }

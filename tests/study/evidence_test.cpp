@@ -87,6 +87,8 @@ TEST(Study, ShowsEvidence) {
        Answer::Fails, "row 1 and row 2 have different products: a number of 46 digits and 1", 3},
       {"8 1 6 / 3 5 7 / 4 9 2", "Franklin", Answer::DoesNotApply,
        "the term is defined only for orders from 8 on that are multiples of 4", 0},
+      {"1 2 3 4 5 / 6 7 8 9 10 / 11 12 13 14 15 / 16 17 18 19 20 / 21 22 23 24 25", "bordered",
+       Answer::Fails, "in the 3 x 3 square in the middle, row 2 adds up to 39, row 1 to 24", 3},
       {"8 1 6 / 3 5 7 / 4 9 2", "knight's tour", Answer::Fails,
        "from 3 in row 2, column 1 to 4 in row 3, column 1 is not a knight's move", 2},
       {"8 1 6 / 3 5 7 / 4 9 8", "knight's tour", Answer::Fails, "not consecutive: 8 occurs twice",

@@ -128,6 +128,7 @@ inline void ExpectTrueWalk(const std::string& construction, const Square<double>
     EXPECT_TRUE(!step.Arrow || step.Marked.empty() ||
                 std::count(step.Marked.begin(), step.Marked.end(), step.Arrow->second) == 1)
         << step.Sentence;
+    EXPECT_TRUE(!step.Arrow || step.Arrow->first != step.Arrow->second) << step.Sentence;
     const bool quarter = step.Sentence.starts_with("in the upper left quarter");
     const bool whole = construction != "composite" && construction != "lux";
     if (whole) ExpectSaidMove(step, board, quarter ? n / 2 : n);

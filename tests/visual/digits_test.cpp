@@ -47,6 +47,8 @@ TEST_F(DigitsTest, AreTwoBoardsOfColours) {
   Find<QAction>("Digitsx").trigger();
   EXPECT_TRUE(drawing.isVisible());
   EXPECT_EQ(shades(), 1U) << "no digits, but a sentence in the middle";
+  EXPECT_EQ(kDigits.WhyNone(window_.TheBoard()),
+            "Only a board of the numbers 1 to 64, each once, has digits to draw.");
 }
 
 }  // namespace

@@ -180,6 +180,7 @@ TEST_F(CellEntryTest, AStepAnnouncesAWinOnceAndNeverMakesTheUntouchedBoard) {
 
 TEST_F(CellEntryTest, KeysDoNothingBeforeTheFirstCheck) {
   ShowRows(board_, "1 2 3 / 4 5 6 / 7 8 9");
+  board_.SolveMode = ModeVariable;
   board_.ReturnTo(1, 1);
   Type("12<");
   entry_.KeypadPlus();

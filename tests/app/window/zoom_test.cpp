@@ -49,6 +49,10 @@ TEST_F(ZoomTest, CellsAndNumbersGrowAndTheMouseStillFindsThem) {
   for (int turn = 0; turn < 3; ++turn)
     QCoreApplication::sendEvent(window_.View().viewport(), &wheel);
   EXPECT_NEAR(Side(), 19, 1);
+  QWheelEvent alone({50, 50}, {50, 50}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(window_.View().viewport(), &alone);
+  EXPECT_NEAR(Side(), 19, 1) << "only scrolls";
   Trigger("NormalSizex");
   EXPECT_EQ(Side(), 26);
 }
