@@ -57,7 +57,7 @@ def main():
         return runs("ninja", "-C", build)
 
     def pass_all(*choice):
-        return runs("ctest", "--test-dir", build, *choice, "-j2", "--timeout", "60", "--stop-on-failure")
+        return runs("ctest", "--test-dir", build, *choice, "-j2", "--timeout", "120", "--stop-on-failure")
 
     def passes(file):
         """Runs the tests of the file's own room first, because they kill most mutants."""

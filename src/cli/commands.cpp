@@ -83,7 +83,7 @@ const std::vector<CommandEntry>& Commands() {
             "file or from the standard input, with an empty line between squares, and every form "
             "that this program writes, except pictures and tables for web pages. It answers each "
             "square as soon as it is read, in an input of any length; it stops at a square of more "
-            "than a megabyte. In JSON, the answers are one object per line."),
+            "than a megabyte. In JSON, the answers are one object per line. Its terms are: %1."),
        true},
       {kComplete, "complete", "[FILE|-] [options]",
        Mark("complete reads squares in the same way and fills their gaps (nothing, or one of - . _ "
@@ -239,6 +239,10 @@ std::string Listed(const std::vector<std::string>& words) {
   for (const std::string& word : words)
     list = list.empty() ? word : Say("%1, %2", list, word);
   return list;
+}
+
+std::string Told(const CommandEntry& command) {
+  return Say(command.Says, Listed(TermNames()));
 }
 
 std::string Told(const OptionEntry& option) {

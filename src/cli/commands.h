@@ -15,7 +15,7 @@ struct CommandEntry {
   SquareCommand Id;
   const char* Name;      ///< empty for Build
   const char* Synopsis;  ///< what follows the name, one line for each form
-  const char* Says;      ///< a phrase
+  const char* Says;      ///< a phrase; to be told by Told
   bool ReadsFile;        ///< a word that is no option names a file
 };
 
@@ -37,7 +37,8 @@ const std::vector<OptionEntry>& Options();
 /// The option of a command; null if it has none of this name.
 const OptionEntry* OptionNamed(std::string_view name, SquareCommand command);
 
-/// What the option does, in a sentence.
+/// What the command or option does, in sentences.
+std::string Told(const CommandEntry& command);
 std::string Told(const OptionEntry& option);
 
 /// The words with commas between: "easy, medium, hard".

@@ -76,7 +76,7 @@ std::string Usage() {
     }
   }
   for (const CommandEntry& command : Commands()) {
-    usage += "\n" + Wrapped(Say(command.Says), 0) + "\n";
+    usage += "\n" + Wrapped(Told(command), 0) + "\n";
     for (const OptionEntry& option : Options()) {
       const bool of = std::find(option.Of.begin(), option.Of.end(), command.Id) != option.Of.end();
       const bool told =

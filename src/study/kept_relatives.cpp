@@ -35,17 +35,11 @@ std::optional<Square<double>> WithNumbersMultiplied(const Square<double>& square
   return Scaled(NumberSquare(square), random.Between(2, kMostFactor), 0);
 }
 
-/// The groups of terms that are about which numbers a square has, or about more than their sums.
-constexpr const char* kNotOfAKind[] = {"Numbers", "Digits and moves", "Products", "Other squares"};
-
-/// The terms that hold for the square and that a relative must keep: those that relate numbers to
-/// each other, but not those about which numbers they are.
+/// The terms that hold for the square and that a relative must keep.
 std::vector<const Term*> KindOf(const Facts& facts) {
   std::vector<const Term*> kind;
   for (const Term& term : Terms()) {
-    const bool counts = std::find(std::begin(kNotOfAKind), std::end(kNotOfAKind),
-                                  std::string(term.Group)) == std::end(kNotOfAKind);
-    if (counts && term.Judge(facts)) kind.push_back(&term);
+    if (term.Group->Relates && term.Judge(facts)) kind.push_back(&term);
   }
   return kind;
 }

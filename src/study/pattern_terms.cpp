@@ -186,13 +186,11 @@ Judgement JudgeBordered(const Facts& facts) {
   const auto ringOf = [n](Place place) {
     return std::min({place.Row, place.Column, n + 1 - place.Row, n + 1 - place.Column}) - 1;
   };
-  std::vector<int> rings;
-  for (int cell = 0; cell < units.Size(); ++cell)
-    rings.push_back(ringOf(facts.Square.PlaceOf(cell)));
+  const auto rings = SquareOf(n, [&](int cell) { return ringOf(facts.Square.PlaceOf(cell)); });
   for (int ring = (n - kSmallestMiddle) / 2; ring > 0; --ring) {
     const int* before = nullptr;
     for (const int& cell : facts.Ascending) {
-      if (rings[static_cast<std::size_t>(cell)] < ring) continue;
+      if (rings[cell] < ring) continue;
       const int* const last = std::exchange(before, &cell);
       if (!last || units[cell] - units[*last] == facts.Square.One()) continue;
       const int side = n - 2 * ring;

@@ -6,17 +6,23 @@
 
 namespace numorra {
 
+/// What terms are about, a phrase.
+struct TermGroup {
+  const char* Name;
+  bool Relates = true;  ///< numbers to each other; relatives of a square keep such terms
+};
+
 /// A term for squares, as this program defines it. Authors differ on some; the definition says what
-/// is judged. Name, group and definition are phrases, to be said where they are shown; programs
-/// read the name as it is.
+/// is judged. Name and definition are phrases, to be said where they are shown; programs read the
+/// name as it is.
 struct Term {
   const char* Name;
-  const char* Group;
+  const TermGroup* Group;
   const char* Definition;
   Judgement (*Judge)(const Facts& facts);
 };
 
-/// All terms, group by group.
+/// All terms, in the order of reports.
 const std::vector<Term>& Terms();
 
 // Terms of the lines' sums.

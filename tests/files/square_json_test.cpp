@@ -82,7 +82,7 @@ TEST(SquareJson, ThatIsInvalidIsRefusedWithItsPlace) {
       {Replaced(kPuzzle, "[[true, false", "[[true, true"),
        "row 1, column 2: a gap cannot be given"},
       {Replaced(kPuzzle, "[[true", "[[1"), "row 1, column 1: \"givens\" must be true or false"}};
-  const std::string before = kPuzzle.substr(0, kPuzzle.find("\"givens")) + "\"notes\": [[\"\", ";
+  const std::string before = kPuzzle.substr(0, kPuzzle.find("\"givens")) + R"("notes": [["", )";
   for (const char* const notes : {"1", "null", "\"10\"", "\"0\"", "\"1-\"", "\"3-2\"", "\"1,2\"",
                                   "\"1-2-3\"", "\"99999999999999999999\"", "\"-1\""}) {
     const auto read = ReadSquareJson(before + notes + R"(, ""], ["", "", ""], ["", "", ""]]})");
@@ -130,9 +130,10 @@ TEST(Formats, AreReadAsOthersWriteThem) {
        {"[[8, null, 6], [3, 5, 7], [4, 9, 2]]", " [ [8,None,6],\n  [3,5,7],\n  [4,9,2], ]\n",
         "{{8, Null, 6}, {3, 5, 7}, {4, 9, 2}}", "((8,,6),(3,5,7),(4,9,2))",
         "$\\begin{pmatrix}8 & & 6\\\\ 3 & 5 & 7\\\\[2pt]\n4 & 9 & 2\\end{pmatrix}$",
-        "% by hand\n\\begin{tabular}[t]{|c|c|c|}\\hline\n\\textbf{8} & & $6$ \\\\ \\cline{1-3} % 9 "
-        "& 9\n"
-        "3 & 5 & 7 \\\\\n4 & 9 & \\boxed{2} \\\\ \\hline\n\\end{tabular}"}) {
+        ("% by hand\n\\begin{tabular}[t]{|c|c|c|}\\hline\n\\textbf{8} & & $6$ \\\\ \\cline{1-3} % "
+         "9 "
+         "& 9\n"
+         "3 & 5 & 7 \\\\\n4 & 9 & \\boxed{2} \\\\ \\hline\n\\end{tabular}")}) {
     const auto read = ReadSquare(text);
     ASSERT_TRUE(std::holds_alternative<StoredSquare>(read))
         << text << ": " << std::get<Unreadable>(read).Why;

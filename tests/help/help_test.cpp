@@ -16,6 +16,7 @@
 #include "help/about_window.h"
 #include "help/help_page.h"
 #include "help/help_window.h"
+#include "study/terms.h"
 #include "toolkit/tr.h"
 
 namespace numorra {
@@ -117,6 +118,8 @@ TEST(HelpPage, IsComplete) {
   }
   EXPECT_GT(links, 10);
   const QString text = QTextDocumentFragment::fromHtml(page).toPlainText();
+  for (const Term& term : Terms())
+    EXPECT_TRUE(text.contains('\n' + Tr(term.Name) + '\n')) << term.Name;
   for (const Construction* const construction : kConstructions) {
     const QString row = Tr(construction->Caption).remove('&') + '\n';
     const qsizetype at = text.indexOf('\n' + row);

@@ -113,8 +113,9 @@ class WorksheetTest : public testing::Test {
     for (std::size_t cell = 0; cell < numbers.size(); ++cell) {
       EXPECT_EQ(numbers[cell].Text.toInt(), solution.Cells[static_cast<int>(cell)]);
       const QPointF at = numbers[cell].Box.center() - start;
-      EXPECT_NEAR(at.x(), static_cast<double>(cell % kOrder) * step.x(), 0.3);
-      EXPECT_NEAR(at.y(), static_cast<double>(cell / kOrder) * step.y(), 0.3);
+      const auto [row, column] = std::div(static_cast<int>(cell), kOrder);
+      EXPECT_NEAR(at.x(), column * step.x(), 0.3);
+      EXPECT_NEAR(at.y(), row * step.y(), 0.3);
       EXPECT_GT(numbers[cell].Box.height(), step.y() / 3);
     }
     return {start - step / 2, QSizeF(step.x(), step.y()) * kOrder};

@@ -85,6 +85,7 @@ test('is solved by touch alone on a narrow screen, and kept only as long as the 
     else for (const digit of String(number)) await browser.tap(button('pad', digit));
   }
   assert.match(await browser.text('#message'), /^Well done/);
+  assert.notStrictEqual(await browser.value('localStorage.length'), 0, 'nothing was kept');
   await browser.load();
   assert.deepStrictEqual(await browser.value(numbers), puzzles[0].solution.flat());
   assert.strictEqual(await browser.text('#choice option'), '1 (solved)');

@@ -35,7 +35,7 @@ class Classifier {
     const auto sums = LineSums(a_);
     const long long total = Common(sums);
     const long long cells = static_cast<long long>(n_) * n_;
-    is["semi-magic"] = std::count(sums.begin(), sums.end() - 2, total) == 2 * n_;
+    is["semi-magic"] = std::count(sums.begin(), sums.end() - 2, total) == n_ + n_;
     is["magic"] = IsMagic(a_);
     is["normal"] = all.front() == 1 && all.back() == cells && Distinct(all);
     is["distinct"] = Distinct(all);

@@ -72,7 +72,7 @@ inline void ExpectSaidMove(const WalkStep& step, const Texts& before, int n) {
 /// Holds a line that a sentence names against the cells that are written.
 inline void ExpectSaidLine(const WalkStep& step) {
   static const std::regex kLine(
-      "to (row|column) (\\d+), (?:column|row)(s?) (\\d+)(?: to (\\d+))?$");
+      R"(to (row|column) (\d+), (?:column|row)(s?) (\d+)(?: to (\d+))?$)");
   std::smatch words;
   if (!std::regex_search(step.Sentence, words, kLine)) return;
   const int line = std::stoi(words[2]);
@@ -90,7 +90,7 @@ inline std::vector<int> ChangedRow(std::vector<int> row, const std::string& said
   static const std::regex kMove(
       "(all|each group of (\\d+)) ?(?:numbers)? moved (\\d+) to the (l|r)");
   for (std::sregex_iterator it(said.begin(), said.end(), kExchange), end; it != end; ++it) {
-    const int size = (*it)[1].matched ? std::stoi((*it)[1]) : 1;
+    const std::ptrdiff_t size = (*it)[1].matched ? std::stoi((*it)[1]) : 1;
     for (auto at = row.begin(); at != row.end(); at += 2 * size)
       std::rotate(at, at + size, at + 2 * size);
   }

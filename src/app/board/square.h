@@ -43,6 +43,7 @@ class Square {
   auto begin() const { return cells_.begin(); }
   auto end() const { return cells_.end(); }
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm about a defaulted comparison
   auto operator<=>(const Square&) const = default;
 
  private:

@@ -79,10 +79,10 @@ TEST_F(FillGapsTest, NamesTheEntryThatCannotStay) {
             (Messages{"nothing can fill these gaps: 4 in row 2, column 2 cannot stay",
                       "nothing can fill these gaps",
                       "nothing can fill these gaps: column 2 adds up to 10, not 15",
-                      "nothing can fill these gaps: 8 in row 1, column 2 is also in row 1, column "
-                      "1",
-                      "nothing can fill these gaps: 8 in row 1, column 1, or 2 in row 1, column 3 "
-                      "cannot stay"}));
+                      ("nothing can fill these gaps: 8 in row 1, column 2 is also in row 1, column "
+                       "1"),
+                      ("nothing can fill these gaps: 8 in row 1, column 1, or 2 in row 1, column 3 "
+                       "cannot stay")}));
   EXPECT_EQ(At(2, 1), "");
 }
 

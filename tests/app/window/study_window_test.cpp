@@ -84,7 +84,7 @@ TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {
   EXPECT_TRUE(Entry("census number")->isHidden());
   EXPECT_EQ(Entry("sum")->text(1), "15 in 8 of 8 lines");
   for (const Term& term : Terms())
-    EXPECT_EQ(Entry(term.Name)->parent()->text(0), term.Group);
+    EXPECT_EQ(Entry(term.Name)->parent()->text(0), term.Group->Name);
   EXPECT_EQ(Entry("sum")->parent()->text(0), "The square");
   EXPECT_EQ(Entry("Lines")->text(1), "semi-magic, magic");
   EXPECT_EQ(Entry("Powers")->text(1), "none");

@@ -24,10 +24,8 @@ class ZoomTest : public WindowTest {
 
 TEST(ZoomSteps, AreEqualFactorsWithOneAndTwoAmongThem) {
   double zoom = 0.4;
-  std::vector<int> percents;
-  for (int step = 0; step < 10; ++step)
-    percents.push_back(static_cast<int>(100 * (zoom = NextZoom(zoom, 1)) + 0.5));
-  EXPECT_EQ(percents, (std::vector<int>{50, 71, 100, 141, 200, 283, 400, 566, 800, 800}));
+  for (const int percent : {50, 71, 100, 141, 200, 283, 400, 566, 800, 800})
+    EXPECT_EQ(std::lround(100 * (zoom = NextZoom(zoom, 1))), percent);
   EXPECT_EQ(NextZoom(1.2, 1), ZoomAtStep(1));
   EXPECT_EQ(NextZoom(1.2, -1), 1);
   EXPECT_EQ(NextZoom(0.3, -1), 0.3) << "not larger";
@@ -158,7 +156,7 @@ TEST_F(ZoomTest, BoardDrawingAndWalkStandInOnePlace) {
   GridView& view = window_.View();
   const QRect block = blockIn(view);
   const int lines = view.CellRect(0, 0).united(view.CellRect(6, 6)).width();
-  EXPECT_NEAR(view.viewport()->pos().x(), (view.width() - lines) / 2, 1);
+  EXPECT_NEAR(view.viewport()->pos().x(), (view.width() - lines) / 2.0, 1);
   EXPECT_EQ(view.FittedBlock(view.size()), block);
   Trigger("BoardCriclesx");
   const QImage drawn = Find<QWidget>("Picture1").grab().toImage();

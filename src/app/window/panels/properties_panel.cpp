@@ -134,7 +134,7 @@ void PropertiesPanel::AddEntries() {
   for (const char* name : kDetails)
     details_.push_back(add(kSquareGroup, name));
   for (const Term& term : Terms())
-    terms_.push_back(add(term.Group, term.Name));
+    terms_.push_back(add(term.Group->Name, term.Name));
   tree_->addTopLevelItems(groups);
   groups_.assign(groups.begin(), groups.end());
   for (const auto& entries : {groups_, details_, terms_}) {
