@@ -115,7 +115,7 @@ class GridView : public QAbstractScrollArea {
   void PaintCurrentCell(QPainter& painter);
   void PaintOutlined(QPainter& painter);
   void PaintRepeated(QPainter& painter);
-  bool Navigate(int key, bool toTheVeryEnd);
+  std::optional<Place> Destination(int key, bool toTheVeryEnd) const;
   void TellCurrentCell();
 
   struct ShownCell {

@@ -52,8 +52,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     Q_EMIT KeypadPressed(event->key() == Qt::Key_Up ? 1 : -1);
     return;
   }
-  if (board && Navigate(event->key(), modifiers.testFlag(Qt::ControlModifier))) return;
-  if (board && event->key() == Qt::Key_Space) {
+  const auto wanted = Destination(event->key(), modifiers.testFlag(Qt::ControlModifier));
+  if (board && wanted) {
+    Q_EMIT CellWanted(wanted->Row, wanted->Column);
+  } else if (board && event->key() == Qt::Key_Space) {
     Q_EMIT MarkWanted(LineMarkedWith(modifiers));
   } else if (board && menu) {
     Q_EMIT MenuWanted();
@@ -66,40 +68,30 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// Whether the key moves the current cell.
-bool GridView::Navigate(int key, bool toTheVeryEnd) {
-  const int row = grid_.CurrentRow();
-  const int column = grid_.CurrentColumn();
+/// The cell that the key makes the current one, if it is one of those that do.
+std::optional<Place> GridView::Destination(int key, bool toTheVeryEnd) const {
+  const auto [row, column] = Place{grid_.CurrentRow(), grid_.CurrentColumn()};
   const int lastRow = grid_.Rows() - 2;
-  const int lastColumn = grid_.Columns() - 2;
   const int page = std::max(1, viewport()->height() / painter_.Edge(1) - Grid::kFixedLines - 1);
   switch (key) {
     case Qt::Key_Up:
-      Q_EMIT CellWanted(row - 1, column);
-      return true;
+      return Place{row - 1, column};
     case Qt::Key_Down:
-      Q_EMIT CellWanted(row + 1, column);
-      return true;
+      return Place{row + 1, column};
     case Qt::Key_Left:
-      Q_EMIT CellWanted(row, column - 1);
-      return true;
+      return Place{row, column - 1};
     case Qt::Key_Right:
-      Q_EMIT CellWanted(row, column + 1);
-      return true;
+      return Place{row, column + 1};
     case Qt::Key_Home:
-      Q_EMIT CellWanted(toTheVeryEnd ? 1 : row, 1);
-      return true;
+      return Place{toTheVeryEnd ? 1 : row, 1};
     case Qt::Key_End:
-      Q_EMIT CellWanted(toTheVeryEnd ? lastRow : row, lastColumn);
-      return true;
+      return Place{toTheVeryEnd ? lastRow : row, grid_.Columns() - 2};
     case Qt::Key_PageUp:
-      Q_EMIT CellWanted(std::max(1, row - page), column);
-      return true;
+      return Place{std::max(1, row - page), column};
     case Qt::Key_PageDown:
-      Q_EMIT CellWanted(std::min(lastRow, row + page), column);
-      return true;
+      return Place{std::min(lastRow, row + page), column};
     default:
-      return false;
+      return std::nullopt;
   }
 }
 
