@@ -60,6 +60,24 @@ TEST(SheetsArguments, AreRefusedWithASentence) {
   }
 }
 
+TEST(SheetsArguments, SayHowSheetsAre) {
+  const auto plain =
+      std::get<SheetsRequest>(ParseSheetsArguments(WordsIn("--sheets a.pdf --size 4")));
+  EXPECT_EQ(plain.PerPage, 6);
+  EXPECT_TRUE(plain.TotalGiven);
+  EXPECT_FALSE(plain.Landscape || plain.Letter || plain.Answers);
+  EXPECT_EQ(plain.Options, SheetOptions());
+  const auto other = std::get<SheetsRequest>(ParseSheetsArguments(
+      WordsIn("--sheets=a.pdf --answers b.pdf --title T --per-page 4 --paper letter --landscape "
+              "--hide-totals --large-print --page-numbers --names --page-a-pupil --booklet "
+              "--size 4")));
+  EXPECT_EQ(other.File + *other.Answers + other.Title, "a.pdfb.pdfT");
+  EXPECT_EQ(other.PerPage, 4);
+  EXPECT_FALSE(other.TotalGiven);
+  EXPECT_TRUE(other.Landscape && other.Letter);
+  EXPECT_EQ(other.Options, (SheetOptions{true, true, true, true, true, true}));
+}
+
 TEST(Sheets, AreTheSameFromTheSameSeedAndHaveTheirAnswersApart) {
   const QTemporaryDir folder;
   const auto written = [&](const std::string& seed) {

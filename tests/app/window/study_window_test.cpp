@@ -148,6 +148,19 @@ TEST_F(StudyWindowTest, FullScreenHidesThePanelAndBringsItBack) {
   EXPECT_TRUE(Find<QAction>("Propertiesx").isChecked());
 }
 
+TEST_F(StudyWindowTest, SquaresAreLaidOutToPlayOn) {
+  const std::pair<const char*, int> menus[] = {{"Famousx", 0}, {"Constructx", 2}, {"Specialx", 2}};
+  for (const auto& [menu, which] : menus) {
+    Make("SolveAuto", "4");
+    EXPECT_FALSE(Find<QAction>("redox").isEnabled());
+    Find<QLineEdit>("Text1").setFocus();
+    Find<QMenu>(menu).actions().at(which)->trigger();
+    EXPECT_TRUE(Find<QRadioButton>("Option4").isChecked()) << menu;
+    EXPECT_TRUE(Find<QAction>("redox").isEnabled()) << menu;
+    EXPECT_EQ(window_.focusWidget(), &window_.View()) << menu;
+  }
+}
+
 TEST_F(StudyWindowTest, RelativesAreCommandsLikeOthers) {
   Type("Text1", "8");
   Trigger("MostPerfectx");
