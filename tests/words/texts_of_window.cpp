@@ -107,12 +107,16 @@ class WindowReader {
       item->trigger();
       QCoreApplication::processEvents();
       ReadWindows();
+      const bool pictured = state_ == "full" || state_ == "notes";
+      if (pictured) Picture(window_, "-" + item->objectName());
       for (QWidget* top : QApplication::topLevelWidgets()) {
         if (qobject_cast<QDialog*>(top) && top->isVisible()) TurnEverything(*top);
       }
       CloseDialogs();
       window_.show();
+      const bool grew = window_.windowState() != Qt::WindowNoState;
       window_.setWindowState(Qt::WindowNoState);
+      if (pictured && grew) QTest::qWait(200);  // until panels have their room again
     }
     QGuiApplication::clipboard()->setText(position);
     Trigger("Pastex");
@@ -216,11 +220,15 @@ class WindowReader {
       ReadAccessible(seen->child(i));
   }
 
-  void Picture(QWidget& widget) {
-    const QString name = widget.objectName();
-    if (pictures_.empty() || name.isEmpty()) return;
+  void Picture(QWidget& widget, const QString& after = {}) {
+    const QString name = widget.objectName() + after;
+    const bool growing = name == "HelpForm";  // its page is laid out bit by bit
+    if (pictures_.empty() || widget.objectName().isEmpty() || growing) return;
     const std::string path = pictures_ + "/" + state_ + "-" + name.toStdString() + ".png";
-    if (!std::filesystem::exists(path)) widget.grab().save(QString::fromStdString(path));
+    if (std::filesystem::exists(path)) return;
+    for (int i = 0; i < 5; ++i)  // until layouts have settled
+      QCoreApplication::processEvents();
+    widget.grab().save(QString::fromStdString(path));
   }
 
   Texts& texts_;
