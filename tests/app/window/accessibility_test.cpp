@@ -104,17 +104,23 @@ TEST_F(AccessibilityTest, TheCurrentCellIsReadAloudWhereverTheKeysGo) {
 /// Everything that can have the keyboard has a name; no two mnemonics are the same, including those
 /// of menus.
 TEST_F(AccessibilityTest, EveryControlHasANameAndAMnemonicOfItsOwn) {
-  std::set<QString> mnemonics;
+  using Keys = std::map<QString, QString>;
+  const auto take = [](Keys& keys, const QString& key, const QString& text) {
+    const auto [taken, isNew] = keys.try_emplace(key, text);
+    EXPECT_TRUE(isNew) << taken->second.toStdString() << " and " << text.toStdString()
+                       << " have the same letter";
+  };
+  Keys mnemonics;
   const auto note = [&](const QString& key, const QString& text) {
     EXPECT_NE(key, "") << text.toStdString();
-    EXPECT_TRUE(mnemonics.insert(key).second) << key.toStdString() << " twice";
+    take(mnemonics, key, text);
   };
   for (const QAction* menu : window_.menuBar()->actions()) {
     note(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
-    std::set<QString> letters;
+    Keys letters;
     for (const QAction* item : menu->menu()->actions()) {
       const QString letter = QKeySequence::mnemonic(item->text()).toString();
-      EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << letter.toStdString();
+      if (!letter.isEmpty()) take(letters, letter, item->text());
     }
   }
   for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
