@@ -231,6 +231,18 @@ TEST_F(WorksheetTest, InLargePrintHasNoTextBelow18Points) {
             "a puzzle of size 20 has no room for large print on this page");
 }
 
+TEST(SheetPlan, HasMorePuzzlesAlongTheLongSide) {
+  for (const int perPage : {2, 6}) {
+    const SheetPlan tall{.Paper = {210, 297}, .Options = {}, .PerPage = perPage};
+    const SheetPlan wide{.Paper = {297, 210}, .Options = {}, .PerPage = perPage};
+    const int last = perPage - 1;
+    EXPECT_EQ(tall.SlotArea(0, perPage / 2 - 1).top() < tall.SlotArea(0, last).top(), true);
+    EXPECT_EQ(tall.SlotArea(0, 0).left() == tall.SlotArea(0, last).left(), perPage == 2);
+    EXPECT_EQ(wide.SlotArea(0, 0).top() == wide.SlotArea(0, last).top(), perPage == 2);
+    EXPECT_EQ(wide.SlotArea(0, perPage / 2 - 1).top() == wide.SlotArea(0, 0).top(), true);
+  }
+}
+
 TEST(SheetWords, NameTheRulesOnTopOrAtEachPuzzle) {
   MadePuzzle normal, positive;
   positive.Clues.Asked = Rules::Positive;
