@@ -17,11 +17,8 @@ using Answers = std::map<std::string, std::optional<bool>>;
 
 inline Ints IntsOf(const Rows& rows) {
   Ints square;
-  for (const auto& row : rows) {
-    square.emplace_back();
-    for (const double number : row)
-      square.back().push_back(static_cast<long long>(number));
-  }
+  for (const auto& row : rows)
+    square.emplace_back(row.begin(), row.end());
   return square;
 }
 
