@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
   numorra::AddTextsOfCompanion(texts);
   numorra::AddTextsOfLogic(texts);
   numorra::AddTextsOfWindow(texts, argc > 1 ? argv[1] : "");
+  if (argc > 1) numorra::TakePictures(argv[1]);
   for (const std::string& text : texts.All)
     std::puts(text.c_str());
   for (const std::string& text : texts.Clipped)

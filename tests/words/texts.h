@@ -27,4 +27,8 @@ void AddTextsOfLogic(Texts& texts);
 /// tools, messages. `pictures`: a folder for a picture of every window; none if empty.
 void AddTextsOfWindow(Texts& texts, const std::string& pictures);
 
+/// Takes further pictures into a folder: boards and drawings of several sizes, walks, sheets, and
+/// widgets of the toolkit alone.
+void TakePictures(const std::string& folder);
+
 }  // namespace numorra

@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
@@ -242,16 +241,6 @@ class WindowReader {
   MainWindow window_{session_, {&dialogs_, &paper_, &paper_, &files_}};
 };
 
-/// Widgets of the toolkit alone, to see whether it looks here as it does elsewhere.
-void PictureToolkit(const std::string& folder) {
-  QGroupBox box("Toolkit 0123456789");
-  auto* column = new QVBoxLayout(&box);
-  for (QWidget* widget : std::initializer_list<QWidget*>{
-           new QPushButton("magic"), new QComboBox, new QLineEdit("magic"), new QCheckBox("magic")})
-    column->addWidget(widget);
-  box.grab().save(QString::fromStdString(folder + "/toolkit.png"));
-}
-
 }  // namespace
 
 void AddTextsOfWindow(Texts& texts, const std::string& pictures) {
@@ -271,7 +260,6 @@ void AddTextsOfWindow(Texts& texts, const std::string& pictures) {
     const auto parsed = ParseSheetsArguments(all);
     if (const auto* why = std::get_if<std::string>(&parsed)) texts.Add(*why);
   }
-  if (!pictures.empty()) PictureToolkit(pictures);
   WindowReader(texts, pictures).Read();
 }
 
