@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   numorra::FollowLanguage();
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // pictures must not depend on the moment
   numorra::InstallGridAccessibility();
   numorra::Texts texts;
   numorra::AddTextsOfCompanion(texts);
