@@ -63,7 +63,9 @@ TEST_F(StudyWindowTest, EvidenceIsOutlinedOnBoardAndDrawing) {
   }
   Click("Command1");
   auto& drawing = Find<Drawing>("Picture1");
-  EXPECT_GT(lines(drawing.grab().toImage(), drawing.rect()), 100);
+  const QImage drawn = drawing.grab().toImage();
+  EXPECT_GT(lines(drawn, drawing.rect()), 100);
+  EXPECT_EQ(lines(drawn, QRect(0, 0, drawing.width(), drawing.height() / 2)), 0) << "row 3";
 }
 
 TEST_F(StudyWindowTest, ThePanelFollowsTheBoardAndPointsAtEvidence) {

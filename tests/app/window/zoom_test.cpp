@@ -55,6 +55,30 @@ TEST_F(ZoomTest, CellsAndNumbersGrowAndTheMouseStillFindsThem) {
   EXPECT_EQ(Side(), 26);
 }
 
+TEST_F(ZoomTest, TheWheelKeepsTheCellUnderTheMouse) {
+  Make("SolveAuto", "50");
+  GridView& view = window_.View();
+  for (const QPoint mouse : {QPoint(300, 200), QPoint(120, 330)}) {
+    const auto cellUnderMouse = [&] {
+      for (int row = 1; row <= 50; ++row) {
+        for (int column = 1; column <= 50; ++column) {
+          if (view.CellRect(row, column).contains(mouse)) return std::pair(row, column);
+        }
+      }
+      return std::pair(0, 0);
+    };
+    const auto [row, column] = cellUnderMouse();
+    for (const int turned : {120, 120, -120}) {
+      QWheelEvent wheel(mouse, mouse, {}, {0, turned}, Qt::NoButton, Qt::ControlModifier,
+                        Qt::NoScrollPhase, false);
+      QCoreApplication::sendEvent(view.viewport(), &wheel);
+      const auto [rowNow, columnNow] = cellUnderMouse();
+      EXPECT_NEAR(rowNow, row, 1);
+      EXPECT_NEAR(columnNow, column, 1);
+    }
+  }
+}
+
 TEST_F(ZoomTest, FittingShowsTheWholeBoardAtEverySize) {
   for (const char* order : {"3", "11", "50"}) {
     Make("SolveAuto", order);
